@@ -1,0 +1,42 @@
+# The one place for the language level, the warnings and the sanitizers. Every target of the project links
+# tarnwick_options, directly or through tarnwick_library().
+
+add_library(tarnwick_options INTERFACE)
+target_compile_features(tarnwick_options INTERFACE cxx_std_20)
+target_compile_options(tarnwick_options INTERFACE
+  -Wall -Wextra -Wpedantic -Werror
+  -Wshadow -Wconversion -Wno-sign-conversion -Wold-style-cast -Wcast-align -Wcast-qual -Wnon-virtual-dtor
+  -Woverloaded-virtual -Wformat=2 -Wimplicit-fallthrough -Wdouble-promotion -Wextra-semi)
+target_compile_definitions(tarnwick_options INTERFACE
+  QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
+  QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+if(TARNWICK_SANITIZE)
+  target_compile_options(tarnwick_options INTERFACE
+    -fsanitize=${TARNWICK_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tarnwick_options INTERFACE -fsanitize=${TARNWICK_SANITIZE})
+endif()
+if(TARNWICK_FUZZ)
+  # Coverage for every library; the fuzz targets themselves add the driver.
+  target_compile_options(tarnwick_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+find_program(TARNWICK_CCACHE ccache)
+if(TARNWICK_CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${TARNWICK_CCACHE})
+endif()
+
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+# tarnwick_library(NAME source... [WINDOWS] LINKS library...) makes one folder's library. What stands in LINKS is all that
+# the folder may include from: a wrong include does not link. WINDOWS: it has widgets of its own.
+function(tarnwick_library name)
+  cmake_parse_arguments(ARG "WINDOWS" "" "LINKS" ${ARGN})
+  add_library(${name} STATIC ${ARG_UNPARSED_ARGUMENTS})
+  if(ARG_WINDOWS)
+    set_target_properties(${name} PROPERTIES AUTOMOC ON AUTORCC ON)
+  endif()
+  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+  target_link_libraries(${name} PUBLIC tarnwick_options ${ARG_LINKS})
+endfunction()

@@ -1,0 +1,6 @@
+#include "base/Clock.h"
+
+QDate SystemClock::today() const
+{
+    return QDate::currentDate();
+}

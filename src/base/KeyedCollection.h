@@ -1,0 +1,108 @@
+// The list of nearly everything in the model: ordered, found by 1-based position or by an optional text key. Keys are
+// compared without regard to case, as QString's case-insensitive comparison does. Finding by key is O(1) on average,
+// adding O(1) amortised, removing O(n).
+#pragma once
+
+#include "base/KeyIndex.h"
+#include "base/RuntimeError.h"
+
+#include <QString>
+
+#include <memory>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+template <class T>
+class KeyedCollection
+{
+    static_assert(!std::is_same_v<T, bool>, "a vector of bool has no items to refer to");
+
+public:
+    KeyedCollection() = default;
+    KeyedCollection(const KeyedCollection& other)
+        : m_items(other.m_items), m_keys(other.m_keys ? std::make_unique<KeyIndex>(*other.m_keys) : nullptr)
+    {
+    }
+    KeyedCollection(KeyedCollection&&) noexcept = default;
+    KeyedCollection& operator=(const KeyedCollection& other)
+    {
+        KeyedCollection copy(other);
+        return *this = std::move(copy);
+    }
+    KeyedCollection& operator=(KeyedCollection&&) noexcept = default;
+    ~KeyedCollection() = default;
+
+    // Appends an item without a key.
+    void Add(T item) { m_items.push_back(std::move(item)); }
+    // Appends an item under a key. Error 457 when the key is there already; the collection is then unchanged.
+    void Add(T item, const QString& key)
+    {
+        if (!m_keys) {
+            m_keys = std::make_unique<KeyIndex>();
+            m_keys->reserve(static_cast<int>(m_items.capacity()));
+        }
+        if (!m_keys->insert(key, Count())) {
+            throw RuntimeError(ErrorNumber::DuplicateKey);
+        }
+        m_items.push_back(std::move(item));
+    }
+
+    int Count() const { return static_cast<int>(m_items.size()); }
+    bool isEmpty() const { return m_items.empty(); }
+    // Makes room for that many items, and for their keys when there are none yet.
+    void reserve(int count) { m_items.reserve(static_cast<std::size_t>(count)); }
+
+    // The item at a position, 1-based. Error 9 when there is none.
+    T& Item(int index) { return m_items[checkedPosition(index)]; }
+    const T& Item(int index) const { return m_items[checkedPosition(index)]; }
+    // The item under a key. Error 5 when there is none.
+    T& Item(const QString& key) { return m_items[checkedPosition(key)]; }
+    const T& Item(const QString& key) const { return m_items[checkedPosition(key)]; }
+
+    bool HasKey(const QString& key) const noexcept { return IndexOf(key) != 0; }
+    // The 1-based position of a key, 0 when there is none.
+    int IndexOf(const QString& key) const noexcept { return m_keys ? m_keys->find(key) + 1 : 0; }
+
+    // Removes one item; those behind it move up. Errors as for Item.
+    void Remove(int index) { removePosition(checkedPosition(index)); }
+    void Remove(const QString& key) { removePosition(checkedPosition(key)); }
+    void Clear()
+    {
+        m_items.clear();
+        m_keys.reset();
+    }
+
+    // Items in order, for range-based loops.
+    auto begin() { return m_items.begin(); }
+    auto end() { return m_items.end(); }
+    auto begin() const { return m_items.begin(); }
+    auto end() const { return m_items.end(); }
+
+private:
+    std::size_t checkedPosition(int index) const
+    {
+        if (index < 1 || index > Count()) {
+            throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+        }
+        return static_cast<std::size_t>(index - 1);
+    }
+    std::size_t checkedPosition(const QString& key) const
+    {
+        const int index = IndexOf(key);
+        if (index == 0) {
+            throw RuntimeError(ErrorNumber::InvalidArgument);
+        }
+        return static_cast<std::size_t>(index - 1);
+    }
+    void removePosition(std::size_t position)
+    {
+        if (m_keys) {
+            m_keys->removePosition(static_cast<int>(position));
+        }
+        m_items.erase(m_items.begin() + static_cast<std::ptrdiff_t>(position));
+    }
+
+    std::vector<T> m_items;
+    std::unique_ptr<KeyIndex> m_keys; // made with the first key
+};

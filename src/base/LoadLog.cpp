@@ -1,0 +1,17 @@
+#include "base/LoadLog.h"
+
+#include "base/TextFile.h"
+
+#include <QFile>
+
+LoadLog::LoadLog(const ApplicationFolder& folder) : m_fileName(folder.loadLogFile()) {}
+
+void LoadLog::reset()
+{
+    QFile::remove(m_fileName);
+}
+
+void LoadLog::WriteLoadLog(const QString& message)
+{
+    AppendFileBytes(m_fileName, '"' + message.toUtf8() + "\"\r\n");
+}

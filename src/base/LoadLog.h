@@ -1,0 +1,21 @@
+// load.log: what the program did since it was started, one quoted line an event. The file is opened and closed for
+// every line, so that a crash loses none.
+#pragma once
+
+#include "base/ApplicationFolder.h"
+
+#include <QString>
+
+class LoadLog
+{
+public:
+    explicit LoadLog(const ApplicationFolder& folder);
+
+    // Deletes the file of the last session; a failure is ignored.
+    void reset();
+    // Appends the message between double quotes, ended by CR LF. Error 75 (or 70, 61, 57) when that cannot be done.
+    void WriteLoadLog(const QString& message);
+
+private:
+    QString m_fileName;
+};

@@ -1,0 +1,8 @@
+#include "base/ProgramVersion.h"
+
+using namespace Qt::StringLiterals;
+
+QString ProgramVersion()
+{
+    return u"%1.%2.%3"_s.arg(TARNWICK_VERSION_MAJOR).arg(TARNWICK_VERSION_MINOR).arg(TARNWICK_VERSION_REVISION);
+}

@@ -1,0 +1,239 @@
+#include "base/XmlReading.h"
+
+#include "base/XMLUtils.h"
+#include "base/XmlText.h"
+
+#include <algorithm>
+#include <bit>
+#include <charconv>
+#include <cstring>
+#include <string_view>
+#include <type_traits>
+
+namespace {
+
+// The library's objects are plain pointers. Comparing them here saves a call into the library for every node.
+const void* pointerOf(const pugi::xml_node& node)
+{
+    static_assert(sizeof(pugi::xml_node) == sizeof(void*) && std::is_trivially_copyable_v<pugi::xml_node>);
+    return std::bit_cast<const void*>(node);
+}
+
+bool isEmpty(const pugi::xml_node& node)
+{
+    return pointerOf(node) == nullptr;
+}
+
+// As NextNode, for the long walks.
+pugi::xml_node nodeBehind(const pugi::xml_node& node, const pugi::xml_node& top)
+{
+    const pugi::xml_node child = node.first_child();
+    if (!isEmpty(child)) {
+        return child;
+    }
+    for (pugi::xml_node at = node; pointerOf(at) != pointerOf(top); at = at.parent()) {
+        const pugi::xml_node sibling = at.next_sibling();
+        if (!isEmpty(sibling)) {
+            return sibling;
+        }
+    }
+    return {};
+}
+
+// The place of a name, tried first behind the place of the last hit, where a file in the usual order has it.
+std::size_t placeOf(const char* name, std::span<const char* const> names, std::size_t likely)
+{
+    if (likely < names.size() && names[likely][0] == name[0] && std::strcmp(name, names[likely]) == 0) {
+        return likely;
+    }
+    for (std::size_t place = 0; place < names.size(); ++place) {
+        if (names[place][0] == name[0] && std::strcmp(name, names[place]) == 0) {
+            return place;
+        }
+    }
+    return names.size();
+}
+
+// The number behind the prefix, written without zeros ahead; -1 when the name is of another form.
+int numberBehind(std::string_view name, std::string_view prefix)
+{
+    if (!name.starts_with(prefix)) {
+        return -1;
+    }
+    name.remove_prefix(prefix.size());
+    if (name.empty() || name.front() == '-' || (name.front() == '0' && name.size() > 1)) {
+        return -1;
+    }
+    int number = 0;
+    const auto result = std::from_chars(name.data(), name.data() + name.size(), number);
+    return result.ec == std::errc() && result.ptr == name.data() + name.size() ? number : -1;
+}
+
+// Whether the first child node is a text that the parser put into the element.
+bool hasTextInside(const pugi::xml_node& node)
+{
+    return node.type() == pugi::node_element && *node.value() != '\0';
+}
+
+} // namespace
+
+void FindFirstDescendants(const pugi::xml_node& element, std::span<const char* const> names,
+                          std::span<pugi::xml_node> hits)
+{
+    std::size_t missing = names.size();
+    std::size_t likely = 0;
+    for (pugi::xml_node at = nodeBehind(element, element); !isEmpty(at) && missing > 0; at = nodeBehind(at, element)) {
+        const std::size_t place = placeOf(at.name(), names, likely);
+        if (place < names.size() && !hits[place]) {
+            hits[place] = at;
+            likely = place + 1;
+            --missing;
+        }
+    }
+}
+
+void FlatElements::gather(const pugi::xml_node& element)
+{
+    m_rows.clear();
+    m_open.clear();
+    m_rows.push_back({element, 0, none});
+    m_open.push_back(0);
+    std::size_t likely = 0;
+    pugi::xml_node at = element.first_child();
+    while (!m_open.empty()) {
+        if (isEmpty(at)) {
+            // The end of a row of siblings: go on behind their parent.
+            const Place parent = m_open.back();
+            m_open.pop_back();
+            m_rows[parent].end = m_rows.size();
+            at = m_open.empty() ? pugi::xml_node() : m_rows[parent].node.next_sibling();
+            continue;
+        }
+        const std::size_t name = nameOf(at.name(), likely);
+        if (name != none) {
+            likely = name + 1;
+        }
+        m_rows.push_back({at, m_rows.size() + 1, name});
+        const pugi::xml_node child = at.first_child();
+        if (isEmpty(child)) {
+            at = at.next_sibling();
+        } else {
+            m_open.push_back(m_rows.size() - 1);
+            at = child;
+        }
+    }
+}
+
+std::size_t FlatElements::nameOf(const char* name, std::size_t likely) const
+{
+    const std::size_t place = placeOf(name, m_names, likely);
+    return place < m_names.size() ? place : none;
+}
+
+void FlatElements::findFirst(Place below, std::span<Place> hits) const
+{
+    std::fill(hits.begin(), hits.end(), none);
+    for (Place place = below + 1; place < m_rows[below].end; ++place) {
+        const std::size_t name = m_rows[place].name;
+        if (name != none && hits[name] == none) {
+            hits[name] = place;
+        }
+    }
+}
+
+FlatElements::Place FlatElements::next(std::size_t name, Place behind, Place below) const
+{
+    for (Place place = behind + 1; place < m_rows[below].end; ++place) {
+        if (m_rows[place].name == name) {
+            return place;
+        }
+    }
+    return none;
+}
+
+void FlatElements::findNumbered(const char* prefix, int firstNumber, Place below, std::span<Place> hits) const
+{
+    std::fill(hits.begin(), hits.end(), none);
+    for (Place place = below + 1; place < m_rows[below].end; ++place) {
+        if (m_rows[place].name != none) {
+            continue;
+        }
+        const int number = numberBehind(m_rows[place].node.name(), prefix) - firstNumber;
+        if (number >= 0 && number < static_cast<int>(hits.size()) && hits[static_cast<std::size_t>(number)] == none) {
+            hits[static_cast<std::size_t>(number)] = place;
+        }
+    }
+}
+
+QString FlatElements::text(Place place, const QString& defaultText) const
+{
+    if (place == none) {
+        return defaultText;
+    }
+    const char* raw = rawText(place);
+    return raw != nullptr ? TextFromUtf8(raw) : NodeText(m_rows[place].node);
+}
+
+const char* FlatElements::rawText(Place place) const
+{
+    return m_rows[place].end == place + 1 ? m_rows[place].node.value() : nullptr;
+}
+
+std::vector<pugi::xml_node> FindNumberedDescendants(const pugi::xml_node& element, const char* prefix, int firstNumber,
+                                                    int count)
+{
+    std::vector<pugi::xml_node> hits(static_cast<std::size_t>(count));
+    for (pugi::xml_node at = NextNode(element, element); at; at = NextNode(at, element)) {
+        const int place = numberBehind(at.name(), prefix) - firstNumber;
+        if (place >= 0 && place < count && !hits[static_cast<std::size_t>(place)]) {
+            hits[static_cast<std::size_t>(place)] = at;
+        }
+    }
+    return hits;
+}
+
+std::vector<pugi::xml_node> AllDescendants(const pugi::xml_node& element, const char* name)
+{
+    std::vector<pugi::xml_node> hits;
+    for (pugi::xml_node at = NextNode(element, element); at; at = NextNode(at, element)) {
+        if (std::strcmp(at.name(), name) == 0) {
+            hits.push_back(at);
+        }
+    }
+    return hits;
+}
+
+QString TextOr(const pugi::xml_node& found, const QString& defaultText)
+{
+    return found ? NodeText(found) : defaultText;
+}
+
+std::vector<QString> ChildTexts(const pugi::xml_node& element)
+{
+    std::vector<QString> texts;
+    if (hasTextInside(element)) {
+        texts.push_back(TextFromUtf8(element.value()));
+    }
+    for (const pugi::xml_node& child : element.children()) {
+        texts.push_back(NodeText(child));
+    }
+    return texts;
+}
+
+std::vector<std::optional<QString>> FirstGrandchildTexts(const pugi::xml_node& element)
+{
+    std::vector<std::optional<QString>> texts;
+    if (hasTextInside(element)) {
+        texts.emplace_back(); // a text has no child
+    }
+    for (const pugi::xml_node& child : element.children()) {
+        if (hasTextInside(child)) {
+            texts.emplace_back(TextFromUtf8(child.value()));
+        } else if (const pugi::xml_node grandchild = child.first_child()) {
+            texts.emplace_back(NodeText(grandchild));
+        } else {
+            texts.emplace_back();
+        }
+    }
+    return texts;
+}

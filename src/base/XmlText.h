@@ -1,0 +1,11 @@
+// Texts on their way into and out of an XML document, which holds them as UTF-8 ended by a zero byte.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+// A document's text. A byte order mark in it is a letter like any other.
+QString TextFromUtf8(QByteArrayView utf8);
+
+// A text as a document can hold it: without the characters that XML has no form for.
+QByteArray XmlUtf8FromText(const QString& text);

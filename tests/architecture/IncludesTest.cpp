@@ -1,0 +1,134 @@
+// Reads the includes of all sources and holds them against the picture in docs/architecture.md: an include goes down,
+// never up and never sideways, and what needs a window stands in the upper folders only.
+#include "support/TestSupport.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QMap>
+#include <QRegularExpression>
+#include <QSet>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Include
+{
+    QString file; // relative to the root of the sources
+    QString header;
+    bool own; // "header", not <header>
+};
+
+// What each folder may include from, itself apart. A folder that is not listed is an error.
+const QMap<QString, QStringList>& allowedFolders()
+{
+    static const QMap<QString, QStringList> table = {
+        {u"base"_s, {}},
+        {u"template_engine"_s, {u"base"_s}},
+        {u"design"_s, {u"base"_s}},
+        {u"model"_s, {u"design"_s, u"base"_s}},
+        {u"backup"_s, {u"base"_s}},
+        {u"publish"_s, {u"base"_s}},
+        {u"pages"_s, {u"model"_s, u"design"_s, u"template_engine"_s, u"base"_s}},
+        {u"publish/dialog"_s, {u"publish"_s, u"base"_s}},
+        {u"editors"_s,
+         {u"pages"_s, u"publish"_s, u"backup"_s, u"model"_s, u"design"_s, u"template_engine"_s, u"base"_s}},
+        {u"shell/browser"_s, {u"pages"_s, u"base"_s}},
+        {u"shell"_s,
+         {u"shell/browser"_s, u"editors"_s, u"publish/dialog"_s, u"pages"_s, u"publish"_s, u"backup"_s, u"model"_s,
+          u"design"_s, u"template_engine"_s, u"base"_s}},
+    };
+    return table;
+}
+
+// The folder of the table that a path such as "editors/catalogue/CustomGrid.h" belongs to.
+QString folderOf(const QString& path)
+{
+    QString folder = path.section(u'/', 0, -2);
+    while (!folder.isEmpty() && !allowedFolders().contains(folder)) {
+        folder = folder.section(u'/', 0, -2);
+    }
+    return folder;
+}
+
+QList<Include> allIncludes()
+{
+    static const QRegularExpression line(uR"re(^\s*#\s*include\s*([<"])([^>"]+)[>"])re"_s,
+                                         QRegularExpression::MultilineOption);
+    const QDir root(QStringLiteral(TARNWICK_SOURCE_DIR "/src"));
+    QList<Include> includes;
+    QDirIterator files(root.path(), {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        const QString text = QString::fromUtf8(FileBytes(path));
+        auto matches = line.globalMatch(text);
+        while (matches.hasNext()) {
+            const QRegularExpressionMatch match = matches.next();
+            includes.append({root.relativeFilePath(path), match.captured(2), match.captured(1) == u"\""_s});
+        }
+    }
+    return includes;
+}
+
+TEST(Architecture, EverySourceFileStandsInAFolderOfThePicture)
+{
+    for (const Include& include : allIncludes()) {
+        EXPECT_FALSE(folderOf(include.file).isEmpty()) << include.file.toStdString();
+    }
+}
+
+TEST(Architecture, NoIncludeRunsUpOrSideways)
+{
+    const QList<Include> includes = allIncludes();
+    ASSERT_GT(includes.size(), 100);
+    for (const Include& include : includes) {
+        // A header without a folder is one that the build makes (a moc or ui file).
+        if (!include.own || !include.header.contains(u'/')) {
+            continue;
+        }
+        const QString from = folderOf(include.file);
+        const QString to = folderOf(include.header);
+        EXPECT_TRUE(from == to || allowedFolders().value(from).contains(to))
+            << include.file.toStdString() << " includes " << include.header.toStdString();
+    }
+}
+
+TEST(Architecture, OnlyTheFoldersWithWindowsUseWidgets)
+{
+    const QDir widgetHeaders(QStringLiteral(TARNWICK_QT_HEADERS "/QtWidgets"));
+    const QStringList names = widgetHeaders.entryList(QDir::Files);
+    ASSERT_GT(names.size(), 100);
+    const QSet<QString> widgets(names.begin(), names.end());
+    const QStringList withWindows = {u"editors"_s, u"publish/dialog"_s, u"shell"_s, u"shell/browser"_s};
+    for (const Include& include : allIncludes()) {
+        const QString header = include.header.section(u'/', -1);
+        const bool windowHeader = !include.own && (widgets.contains(header) || include.header.startsWith(u"QtWidgets"));
+        if (windowHeader && !withWindows.contains(folderOf(include.file))) {
+            ADD_FAILURE() << include.file.toStdString() << " includes <" << include.header.toStdString() << '>';
+        }
+    }
+}
+
+TEST(Architecture, OnlyTheBrowsersFolderUsesTheEngine)
+{
+    for (const Include& include : allIncludes()) {
+        if (include.header.startsWith(u"QWebEngine")) {
+            EXPECT_EQ(folderOf(include.file), u"shell/browser"_s) << include.file.toStdString();
+        }
+    }
+}
+
+TEST(Architecture, OnlyTheDialogPromptsOpenMessageInputFileAndColourBoxes)
+{
+    const QStringList boxes = {u"QMessageBox"_s, u"QInputDialog"_s, u"QFileDialog"_s, u"QColorDialog"_s};
+    for (const Include& include : allIncludes()) {
+        if (boxes.contains(include.header)) {
+            EXPECT_TRUE(include.file.startsWith(u"shell/DialogPrompts")) << include.file.toStdString();
+        }
+    }
+}
+
+} // namespace

@@ -1,0 +1,87 @@
+#include "base/Dates.h"
+
+#include "base/Clock.h"
+#include "support/TestSupport.h"
+
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+bool isGerman()
+{
+    return QLocale().language() == QLocale::German;
+}
+
+} // namespace
+
+TEST(Dates, LocalTextIsTheShortFormWithAYearOfFourDigits)
+{
+    EXPECT_EQ(LocalDateText(QDate(2004, 2, 3)), isGerman() ? u"03.02.2004"_s : u"2/3/2004"_s);
+    EXPECT_EQ(LocalDateText(QDate(1900, 12, 31)), isGerman() ? u"31.12.1900"_s : u"12/31/1900"_s);
+    EXPECT_EQ(LocalDateText(QDate(5100, 1, 1)), isGerman() ? u"01.01.5100"_s : u"1/1/5100"_s);
+}
+
+TEST(Dates, LocalTextReadsBackAsTheSameDateInEveryLocale)
+{
+    const QLocale before;
+    const QDate dates[] = {QDate(1900, 1, 1),   QDate(5100, 1, 1), QDate(2004, 2, 29),
+                           QDate(1999, 12, 31), QDate(100, 1, 1),  QDate(9999, 12, 31)};
+    const QList<QLocale> locales =
+        QLocale::matchingLocales(QLocale::AnyLanguage, QLocale::AnyScript, QLocale::AnyCountry);
+    ASSERT_GT(locales.size(), 100);
+    for (const QLocale& locale : locales) {
+        QLocale::setDefault(locale);
+        for (const QDate& date : dates) {
+            const QString text = LocalDateText(date);
+            QDate back;
+            EXPECT_EQ(ErrorOf([&] { back = DateFromLocalText(text); }), 0) << locale.name().toStdString();
+            EXPECT_EQ(back, date) << locale.name().toStdString() << ' ' << text.toStdString();
+        }
+    }
+    QLocale::setDefault(before);
+}
+
+TEST(Dates, TheLocaleWithoutACountryWritesItsDatesInNumbers)
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale::c());
+    EXPECT_EQ(LocalDateText(QDate(2004, 2, 3)), u"2004-02-03"_s);
+    QLocale::setDefault(before);
+}
+
+TEST(Dates, WhatIsNoDateOfTheLocalFormIsATypeMismatch)
+{
+    const QStringList english = {u""_s,          u"abc"_s,        u"2/3"_s,       u"2/3/04"_s,    u"2/30/2004"_s,
+                                 u"13/1/2004"_s, u"2/3/2004 "_s,  u" 2/3/2004"_s, u"2/3/20045"_s, u"3.2.2004"_s,
+                                 u"2/3/0099"_s,  u"2/0/2004"_s,   u"-2/3/2004"_s, u"2/3/-2004"_s, u"2/29/2003"_s,
+                                 u"2//2004"_s,   u"2/003/2004"_s, u"2/3/2004x"_s, u"2004/2/3"_s};
+    const QStringList german = {u""_s,           u"abc"_s,         u"03.02."_s,      u"03.02.04"_s,   u"30.02.2004"_s,
+                                u"01.13.2004"_s, u"03.02.2004 "_s, u" 03.02.2004"_s, u"3.2.2004"_s,   u"03/02/2004"_s,
+                                u"03.02.0099"_s, u"00.02.2004"_s,  u"03.02.20045"_s, u"29.02.2003"_s, u"03..2004"_s,
+                                u"-3.02.2004"_s, u"03.02.-004"_s,  u"2004.02.03"_s,  u"03.02.2004x"_s};
+    for (const QString& text : isGerman() ? german : english) {
+        EXPECT_EQ(ErrorOf([&] { DateFromLocalText(text); }), 13) << text.toStdString();
+    }
+}
+
+TEST(Dates, ALeapDayIsADate)
+{
+    EXPECT_EQ(DateFromLocalText(isGerman() ? u"29.02.2004"_s : u"2/29/2004"_s), QDate(2004, 2, 29));
+}
+
+TEST(Dates, TheShopFileHasDayMonthAndYearBetweenPoints)
+{
+    EXPECT_EQ(ShopFileDateText(QDate(2004, 2, 3)), u"03.02.2004"_s);
+    EXPECT_EQ(ShopFileDateText(QDate(100, 11, 30)), u"30.11.0100"_s);
+    EXPECT_EQ(ShopFileDateText(QDate(5100, 1, 1)), u"01.01.5100"_s);
+}
+
+TEST(Clock, TheSystemsClockTellsTheCurrentDay)
+{
+    const QDate before = QDate::currentDate();
+    const QDate today = SystemClock().today();
+    EXPECT_LE(before, today);
+    EXPECT_LE(today, QDate::currentDate());
+}

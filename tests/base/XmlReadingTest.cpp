@@ -1,0 +1,159 @@
+#include "base/XmlReading.h"
+
+#include "base/XMLUtils.h"
+#include "base/XmlFile.h"
+#include "support/TestSupport.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class XmlReading : public testing::Test
+{
+protected:
+    pugi::xml_node parse(const QByteArray& xml)
+    {
+        file.parse(xml);
+        return file.document().first_child();
+    }
+
+    XmlFile file;
+};
+
+constexpr std::array<const char*, 3> names = {"A", "B", "C"};
+
+// Documents whose look-ups are compared with a search for each name.
+const QList<QByteArray>& documents()
+{
+    static const QList<QByteArray> list = {
+        "<R/>",
+        "<R>text</R>",
+        "<R><A>1</A><B>2</B><C>3</C></R>",
+        "<R><C>1</C><B>2</B><A>3</A></R>",
+        "<R><A>1</A><A>2</A><B><A>3</A><C>4</C></B><C>5</C></R>",
+        "<R><X><Y><B>1</B></Y></X><B>2</B><A><A>3</A></A></R>",
+        "<R><A>1<X>2</X>3</A><X/><Y/><a>4</a></R>",
+        "<R><X><A/></X>text<B> </B></R>",
+    };
+    return list;
+}
+
+TEST_F(XmlReading, OneWalkFindsWhatASearchForEachNameFinds)
+{
+    for (const QByteArray& xml : documents()) {
+        const pugi::xml_node root = parse(xml);
+        std::array<pugi::xml_node, names.size()> hits;
+        FindFirstDescendants(root, names, hits);
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            EXPECT_TRUE(hits[i] == FirstDescendant(root, names[i])) << xml.toStdString() << " " << names[i];
+        }
+    }
+}
+
+TEST_F(XmlReading, AWalkStaysBelowItsElement)
+{
+    const pugi::xml_node root = parse("<R><X><A>1</A></X><B>2</B></R>");
+    std::array<pugi::xml_node, names.size()> hits;
+    FindFirstDescendants(root.first_child(), names, hits);
+    EXPECT_TRUE(hits[0]);
+    EXPECT_FALSE(hits[1]);
+}
+
+TEST_F(XmlReading, AGatheredElementAnswersLikeASearchInIt)
+{
+    FlatElements flat(names);
+    for (const QByteArray& xml : documents()) {
+        const pugi::xml_node root = parse(xml);
+        flat.gather(root); // the same object for all
+        std::array<FlatElements::Place, names.size()> hits{};
+        flat.findFirst(0, hits);
+        for (std::size_t i = 0; i < names.size(); ++i) {
+            const pugi::xml_node found = FirstDescendant(root, names[i]);
+            ASSERT_EQ(hits[i] == FlatElements::none, !found) << xml.toStdString() << " " << names[i];
+            EXPECT_EQ(flat.text(hits[i], u"default"_s), TextOr(found, u"default"_s));
+            if (found) {
+                EXPECT_TRUE(flat.node(hits[i]) == found);
+                std::array<FlatElements::Place, names.size()> below{};
+                flat.findFirst(hits[i], below);
+                for (std::size_t j = 0; j < names.size(); ++j) {
+                    EXPECT_EQ(flat.text(below[j]), TextOr(FirstDescendant(found, names[j]), QString()));
+                }
+            }
+        }
+    }
+}
+
+TEST_F(XmlReading, AllElementsOfANameAreFoundInOrder)
+{
+    const pugi::xml_node root = parse("<R><A>1</A><X><A>2<A>3</A></A></X><B/><A>4</A></R>");
+    QStringList texts;
+    for (const pugi::xml_node& found : AllDescendants(root, "A")) {
+        texts.append(NodeText(found));
+    }
+    EXPECT_EQ(texts, (QStringList{u"1"_s, u"23"_s, u"3"_s, u"4"_s}));
+
+    FlatElements flat(names);
+    flat.gather(root);
+    std::array<FlatElements::Place, names.size()> hits{};
+    flat.findFirst(0, hits);
+    texts.clear();
+    for (auto place = hits[0]; place != FlatElements::none; place = flat.next(0, place, 0)) {
+        texts.append(flat.text(place));
+    }
+    EXPECT_EQ(texts, (QStringList{u"1"_s, u"23"_s, u"3"_s, u"4"_s}));
+}
+
+TEST_F(XmlReading, NumberedNamesAreFoundByTheirExactNumber)
+{
+    const pugi::xml_node root = parse("<R><Cost2>two</Cost2><Cost02>no</Cost02><Cost>no</Cost><Cost4>beyond</Cost4>"
+                                      "<X><Cost1>one</Cost1></X><Cost2>second</Cost2><Cost-1/><Cost99999999999/></R>");
+    const std::vector<pugi::xml_node> found = FindNumberedDescendants(root, "Cost", 1, 3);
+    ASSERT_EQ(found.size(), 3U);
+    EXPECT_EQ(TextOr(found[0], u"none"_s), u"one"_s);
+    EXPECT_EQ(TextOr(found[1], u"none"_s), u"two"_s);
+    EXPECT_EQ(TextOr(found[2], u"none"_s), u"none"_s);
+
+    FlatElements flat(names);
+    flat.gather(root);
+    std::array<FlatElements::Place, 3> places{};
+    flat.findNumbered("Cost", 1, 0, places);
+    EXPECT_EQ(flat.text(places[0], u"none"_s), u"one"_s);
+    EXPECT_EQ(flat.text(places[1], u"none"_s), u"two"_s);
+    EXPECT_EQ(flat.text(places[2], u"none"_s), u"none"_s);
+}
+
+TEST_F(XmlReading, ATextIsAChildNodeWhereverTheParserPutIt)
+{
+    EXPECT_EQ(ChildTexts(parse("<R/>")).size(), 0U);
+    EXPECT_EQ(ChildTexts(parse("<R>one</R>")), (std::vector<QString>{u"one"_s}));
+    EXPECT_EQ(ChildTexts(parse("<R>one<A>t<B>wo</B></A>three<C/></R>")),
+              (std::vector<QString>{u"one"_s, u"two"_s, u"three"_s, QString()}));
+}
+
+TEST_F(XmlReading, TheFirstChildOfEachChild)
+{
+    using Texts = std::vector<std::optional<QString>>;
+    EXPECT_EQ(FirstGrandchildTexts(parse("<R/>")), Texts());
+    EXPECT_EQ(FirstGrandchildTexts(parse("<R>text</R>")), (Texts{std::nullopt}));
+    EXPECT_EQ(FirstGrandchildTexts(parse("<R><A><B>one</B><C>no</C></A><A/><A>two<B>no</B></A>text</R>")),
+              (Texts{u"one"_s, std::nullopt, u"two"_s, std::nullopt}));
+}
+
+TEST_F(XmlReading, DeepNestingNeedsNoStack)
+{
+    constexpr int depth = 200'000;
+    const pugi::xml_node root =
+        parse(QByteArray("<X>").repeated(depth) + "<C>deep</C>" + QByteArray("</X>").repeated(depth));
+    std::array<pugi::xml_node, names.size()> hits;
+    FindFirstDescendants(root, names, hits);
+    EXPECT_EQ(TextOr(hits[2], QString()), u"deep"_s);
+    FlatElements flat(names);
+    flat.gather(root);
+    std::array<FlatElements::Place, names.size()> places{};
+    flat.findFirst(0, places);
+    EXPECT_EQ(flat.text(places[2]), u"deep"_s);
+}
+
+} // namespace
