@@ -1,0 +1,169 @@
+#include "template_engine/TemplateParser.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView OpeningMark = u"<!--:";
+constexpr QStringView ClosingMark = u":-->";
+
+// Where the last character of a tag or block may stand, counted from 1 at the start of the text that is parsed, which
+// is the body for what stands in a block. Literal text may go on beyond. The limit is part of the format.
+constexpr qsizetype LastPosition = 32767;
+
+struct KindWord
+{
+    QStringView word;
+    qint16 type;
+};
+
+// Exact case: "IF" is no kind word.
+constexpr std::array KindWords{
+    KindWord{u"default", ElementType::Default}, KindWord{u"static", ElementType::Static},
+    KindWord{u"text", ElementType::Text},       KindWord{u"html", ElementType::Html},
+    KindWord{u"js", ElementType::Js},           KindWord{u"dhtml", ElementType::DHtml},
+    KindWord{u"if", ElementType::If},           KindWord{u"ifnot", ElementType::IfNot},
+    KindWord{u"cycle", ElementType::Cycle},     KindWord{u"xcycle", ElementType::XCycle},
+};
+
+qint16 KindOf(QStringView word)
+{
+    const auto* known =
+        std::find_if(KindWords.begin(), KindWords.end(), [word](const KindWord& kind) { return kind.word == word; });
+    return known == KindWords.end() ? ElementType::Default : known->type;
+}
+
+TemplateError TooFar(qsizetype position)
+{
+    return {ErrorNumber::Overflow, u"A tag or block ends past character 32767 of its text."_s, position};
+}
+
+struct Tag
+{
+    qsizetype start = 0;
+    qsizetype end = 0; // just behind the closing mark
+    bool empty = false;
+    qint16 type = ElementType::Text;
+    QStringView name;
+    QStringView value;
+};
+
+Tag ReadTag(QStringView text, qsizetype mark, qsizetype position)
+{
+    if (mark >= LastPosition) {
+        throw TooFar(position + mark);
+    }
+    const qsizetype closing = text.indexOf(ClosingMark, mark);
+    // The closing mark may share its colon with the opening one: "<!--:-->" is a tag that was never finished.
+    if (closing < mark + OpeningMark.size()) {
+        throw TemplateError(ErrorNumber::InvalidArgument, u"A tag has no closing mark."_s, position + mark);
+    }
+
+    Tag tag;
+    tag.start = mark;
+    tag.end = closing + ClosingMark.size();
+    if (tag.end > LastPosition) {
+        throw TooFar(position + mark);
+    }
+    tag.name = text.sliced(mark + OpeningMark.size(), closing - mark - OpeningMark.size());
+    tag.empty = tag.name.isEmpty();
+
+    // The colon comes first, so a fallback with a colon in a tag without a kind word is split at that colon.
+    const qsizetype colon = tag.name.indexOf(u':');
+    if (colon >= 0) {
+        tag.type = KindOf(tag.name.first(colon));
+        tag.name = tag.name.sliced(colon + 1);
+    }
+    const qsizetype equals = tag.name.indexOf(u'=');
+    if (equals >= 0) {
+        tag.value = tag.name.sliced(equals + 1);
+        tag.name = tag.name.first(equals);
+    }
+    if (tag.type == ElementType::Default) {
+        tag.type = ElementType::Text;
+    }
+    return tag;
+}
+
+std::shared_ptr<Template_Element> MakeElement(qint16 type, QStringView value, QStringView defaultText = {})
+{
+    auto element = std::make_shared<Template_Element>();
+    element->Value = value.toString();
+    element->TType = type;
+    element->Default = defaultText.toString();
+    return element;
+}
+
+struct ClosingTag
+{
+    qsizetype start;
+    qsizetype end;
+};
+
+// The first closing tag of the block from a place on, whatever lies between; the name in any case.
+ClosingTag FindClosingTag(QStringView text, const Tag& block, qsizetype position)
+{
+    const QString closing = u"<!--:end:%1:-->"_s.arg(block.name);
+    qsizetype start = text.indexOf(OpeningMark, block.end);
+    while (start >= 0 && !text.sliced(start).startsWith(closing, Qt::CaseInsensitive)) {
+        start = text.indexOf(OpeningMark, start + 1);
+    }
+    if (start < 0) {
+        throw TemplateError(ErrorNumber::InvalidArgument, u"The block \"%1\" is never closed."_s.arg(block.name),
+                            position + block.start);
+    }
+    if (start + closing.size() > LastPosition) {
+        throw TooFar(position + block.start);
+    }
+    return {start, start + closing.size()};
+}
+
+// Appends what a tag makes and returns where the text goes on behind it.
+qsizetype AppendTag(ElementArray& parts, QStringView text, const Tag& tag, qsizetype position)
+{
+    if (tag.type == ElementType::Static) {
+        return tag.end;
+    }
+    const auto element = MakeElement(tag.type, tag.name, tag.value);
+    parts.push_back(element);
+    if (tag.type < ElementType::If) {
+        return tag.end;
+    }
+    const ClosingTag closing = FindClosingTag(text, tag, position);
+    const ElementArray body = parse_text(text.sliced(tag.end, closing.start - tag.end), position + tag.end);
+    element->ReDimSubElements(UpperBound(body));
+    element->addParts(body);
+    return closing.end;
+}
+
+} // namespace
+
+ElementArray parse_text(QStringView text, qsizetype position)
+{
+    ElementArray parts;
+    qsizetype pending = 0; // where the text begins that no element holds yet
+    qsizetype next = 0;    // where the next tag is looked for
+    bool afterEmptyTag = false;
+    while (next < text.size() || afterEmptyTag) {
+        const qsizetype mark = text.indexOf(OpeningMark, next);
+        if (mark < 0) {
+            parts.push_back(MakeElement(ElementType::Static, text.sliced(pending)));
+            break;
+        }
+        if (mark > pending) {
+            parts.push_back(MakeElement(ElementType::Static, text.sliced(pending, mark - pending)));
+        }
+        const Tag tag = ReadTag(text, mark, position);
+        next = tag.end;
+        // An empty tag is no tag: its characters and, meant so, the text ahead of it once more begin the next text.
+        afterEmptyTag = tag.empty;
+        if (!tag.empty) {
+            pending = next = AppendTag(parts, text, tag, position);
+        }
+    }
+    parts.push_back(nullptr);
+    return parts;
+}

@@ -1,0 +1,86 @@
+#include "template_engine/Templates_Set.h"
+
+#include "base/RuntimeError.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView LayoutName = u"layout";
+
+// The pages in the order of reading: a page that fails keeps those behind it from being read.
+constexpr std::array<QStringView, 10> PageNames{u"main",   u"footer", u"menu",   u"category",   u"product",
+                                                u"search", u"cart",   u"header", u"custompage", u"checkout"};
+
+} // namespace
+
+QString LinesEndedByCr(const QString& text)
+{
+    QString lines = text;
+    lines.replace(u"\r\n"_s, u"\r"_s);
+    // An end of line at the very end starts no further line.
+    if (!lines.isEmpty() && !lines.endsWith(u'\r')) {
+        lines.append(u'\r');
+    }
+    return lines;
+}
+
+Templates_Set::Templates_Set(const ApplicationFolder& folder, LoadLog& log) : Path(folder.templatesFolder()), m_log(log)
+{
+}
+
+void Templates_Set::parseTemplates()
+{
+    try {
+        loadAll();
+    } catch (const RuntimeError&) {
+        // Meant to be silent: there is no message and no line in the log. The pages that are absent fail when shown.
+    }
+}
+
+void Templates_Set::loadAll()
+{
+    m_log.WriteLoadLog(u"Start parseTemplates"_s);
+    const QString layoutText = readTemplate(LayoutName.toString());
+    layout_template = std::make_shared<Template>(names);
+    layout_template->template_text = layoutText;
+    layout_template->Parse();
+    templates.Clear();
+    for (const QStringView page : PageNames) {
+        load_template(page.toString(), page.toString());
+    }
+    m_log.WriteLoadLog(u"End parseTemplates"_s);
+}
+
+void Templates_Set::ReLoad(const QString& file, const QString& key)
+{
+    if (templates.HasKey(key)) {
+        templates.Remove(key);
+    }
+    load_template(file, key);
+}
+
+void Templates_Set::load_template(const QString& file, const QString& key)
+{
+    auto page = std::make_shared<Template>(names);
+    page->template_text = readTemplate(file);
+    page->Parse();
+    templates.Add(page, key);
+}
+
+QString Templates_Set::readTemplate(const QString& file)
+{
+    const DecodedText decoded = ReadTextFile(Path + file + u".html"_s);
+    if (m_encodings.HasKey(file)) {
+        m_encodings.Remove(file);
+    }
+    m_encodings.Add(decoded.encoding, file);
+    return LinesEndedByCr(decoded.text);
+}
+
+TextEncoding Templates_Set::encodingOf(const QString& file) const
+{
+    return m_encodings.HasKey(file) ? m_encodings.Item(file) : TextEncoding::Utf8;
+}

@@ -1,0 +1,58 @@
+// The parsed templates of the shop: the frame of all pages and the ten pages, read from the templates folder at start
+// and one at a time after an edit. MainForm owns the one set; page code takes templates out of it by page name and
+// makes its Variables on the set's table of names.
+#pragma once
+
+#include "base/ApplicationFolder.h"
+#include "base/KeyedCollection.h"
+#include "base/LoadLog.h"
+#include "base/TextFile.h"
+#include "template_engine/NameTable.h"
+#include "template_engine/Template.h"
+
+#include <QString>
+
+#include <memory>
+
+class Templates_Set
+{
+public:
+    // Path becomes the templates folder of the shop.
+    Templates_Set(const ApplicationFolder& folder, LoadLog& log);
+    Templates_Set(const Templates_Set&) = delete;
+    Templates_Set& operator=(const Templates_Set&) = delete;
+
+    // Of all templates here and of all Variables for them. Ahead of the templates, which refer to it.
+    NameTable names;
+
+    // The folder of the templates, with its trailing separator.
+    QString Path;
+    // By page name: "main", "category" and so on. A page whose file is missing or no template is absent.
+    KeyedCollection<std::shared_ptr<Template>> templates;
+    // The frame; nullptr until its file has been read.
+    std::shared_ptr<Template> layout_template;
+
+    // Reads the frame and all pages. A failure ends it there and then, silently: what was read so far stays, the others
+    // are absent.
+    void parseTemplates();
+
+    // Reads one page again: the base name of its file, and its key in templates. A key that is not there yet is added.
+    // Errors of the file (53, 70, 75, 57) and of the parser (5, 6) pass through, and the page is absent then.
+    void ReLoad(const QString& file, const QString& key);
+
+    // The encoding that the file of that base name had when it was last read, so that an editor can write it back
+    // alike; UTF-8 when it was never read.
+    TextEncoding encodingOf(const QString& file) const;
+
+private:
+    void loadAll();
+    void load_template(const QString& file, const QString& key);
+    QString readTemplate(const QString& file);
+
+    LoadLog& m_log;
+    KeyedCollection<TextEncoding> m_encodings; // by base name
+};
+
+// The text of a template file as the templates hold it: a line ends at CR LF or at a lone CR, a lone LF ends none, and
+// every line, the last one too, is followed by one CR.
+QString LinesEndedByCr(const QString& text);
