@@ -1,0 +1,49 @@
+#include "backup/BackUpCommands.h"
+
+#include "backup/clsPacker.h"
+#include "base/RuntimeError.h"
+
+#include <QDir>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+void BackUpFromMenu(const BackUpServices& services)
+{
+    clsPacker packer(services.folder, services.prompts);
+    packer.WriteError = [&services] {
+        services.prompts.showMessage(services.plainTitle, u"Backuping: file saving error ocured"_s, PromptIcon::None);
+    };
+    const std::optional<QString> answer = services.prompts.askText(u"Backing up"_s, u"Enter file name"_s);
+    if (!answer || answer->isEmpty()) {
+        return;
+    }
+    // Made before anything is looked at, so that it is there even when the backup fails.
+    const QString folder = services.folder.backupsFolder();
+    if (!QDir().mkpath(folder)) {
+        throw RuntimeError(ErrorNumber::PathFileAccess,
+                           RuntimeError(ErrorNumber::PathFileAccess).description() + ": "_L1 + folder);
+    }
+    QString name = *answer;
+    if (!packer.BackUp(name)) {
+        services.prompts.showMessage(u"Error"_s, u"Creating backup is failed"_s, PromptIcon::Critical);
+    }
+}
+
+bool RestoreFromMenu(const BackUpServices& services)
+{
+    const QString path =
+        services.prompts.chooseFile(services.folder.backupsFolder(), u"Packed shops (*.kvb *.KVB);;All files (*)"_s);
+    if (path.isEmpty()) {
+        return false;
+    }
+    clsPacker packer(services.folder, services.prompts);
+    if (!packer.Restore(path)) {
+        services.prompts.showMessage(u"Error"_s, u"Restore backup is failed"_s, PromptIcon::Critical);
+        return false;
+    }
+    services.prompts.showMessage(u"Restoring"_s, u"Restore is completed.\r\nThe program will be restarted now."_s,
+                                 PromptIcon::Information);
+    return true;
+}

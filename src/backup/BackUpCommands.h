@@ -1,0 +1,24 @@
+// What the menu's two entries for backups do, as far as it needs no window: the questions, the boxes and the calls of
+// clsPacker. The window calls them and does the rest.
+#pragma once
+
+#include "base/ApplicationFolder.h"
+#include "base/UserPrompts.h"
+
+#include <QString>
+
+struct BackUpServices
+{
+    const ApplicationFolder& folder;
+    UserPrompts& prompts;
+    QString plainTitle; // of a box that has no title of its own
+};
+
+// Asks for a name and packs the saved shop into that file under backups/, which is made when it is not there. Edits
+// that are not saved are not in it. Error 75 when the folder cannot be made.
+void BackUpFromMenu(const BackUpServices& services);
+
+// Asks for a packed file and restores it. True when the files on disk are those of the backup: the window then forgets
+// its unsaved changes, starts the program anew and closes. False after Cancel, or after a failure that was told. Errors
+// as those of clsPacker::Restore.
+[[nodiscard]] bool RestoreFromMenu(const BackUpServices& services);

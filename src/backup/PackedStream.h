@@ -1,0 +1,61 @@
+// The bytes of a packed file: fixed records, field after field with no gaps, integers little-endian, texts with a
+// 16-bit length ahead. A record is put together by PackedRecord and written in one go; PackedStream is the open file.
+// Whatever reads checks every length against the bytes that the file still has before it takes memory for them.
+#pragma once
+
+#include <QByteArray>
+#include <QFile>
+#include <QString>
+
+class PackedRecord
+{
+public:
+    void addInt32(qint32 number);
+    // 16 bits: -1 for true, 0 for false.
+    void addFlag(bool flag);
+    // The text in UTF-8, its length in bytes ahead. Error 6 when it is longer than 65,535 bytes.
+    void addText(const QString& text);
+
+    const QByteArray& bytes() const { return m_bytes; }
+
+private:
+    void addUInt16(quint16 number);
+
+    QByteArray m_bytes;
+};
+
+class PackedStream
+{
+public:
+    enum class Mode { Read, Write };
+
+    // Opens the file at its start. For writing it is made when it is not there, and never emptied: what an older,
+    // longer file has behind the last byte written stays, and this is meant. Error 53 when there is no file to read, 75
+    // when something else than a file is in the way, 70, 61 or 75 when it cannot be opened.
+    PackedStream(const QString& path, Mode mode);
+
+    // Error 57 when the file ends before the field does, or cannot be read.
+    qint32 readInt32();
+    quint16 readUInt16();
+    // Any number but 0 is true.
+    bool readFlag();
+    // As many bytes as told, fewer than 0 being an error too.
+    QByteArray readBytes(qint64 count);
+
+    // Error 61 when the disk is full, 57 on any other failure.
+    void write(const QByteArray& bytes);
+    // Closes the file before its time, to learn of a failure. Error 57.
+    void close();
+
+private:
+    [[noreturn]] void fail() const;
+
+    QFile m_file;
+    qint64 m_left = 0; // bytes that are still to be read
+};
+
+// The text of a field: UTF-8 when its bytes are that, else Windows-1252.
+QString PackedText(const QByteArray& bytes);
+
+// Whether a file of this path exists; a folder, a pipe or a device is none.
+bool IsFile(const QString& path);

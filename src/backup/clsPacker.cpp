@@ -1,0 +1,215 @@
+#include "backup/clsPacker.h"
+
+#include "backup/PackedStream.h"
+#include "base/RuntimeError.h"
+
+#include <algorithm>
+#include <new>
+
+namespace {
+
+struct Header
+{
+    qint32 count = 0;
+    QString version; // empty in the legacy form
+    bool compressed = false;
+};
+
+// Reads the header, either form, and leaves the file at the first entry. The legacy form is known by its version length
+// of 0; it is always 14 bytes long, and its flag stands where the current form would have it.
+Header readHeader(PackedStream& file)
+{
+    Header header;
+    file.readInt32(); // always written as 0, never looked at
+    header.count = file.readInt32();
+    const quint16 versionLength = file.readUInt16();
+    header.version = PackedText(file.readBytes(versionLength));
+    header.compressed = file.readFlag();
+    if (versionLength == 0) {
+        file.readUInt16();
+    }
+    return header;
+}
+
+} // namespace
+
+clsPacker::clsPacker(const ApplicationFolder& folder, UserPrompts& prompts, const QString& version)
+    : m_folder(folder), m_prompts(prompts), m_version(version)
+{
+}
+
+clsFileData& clsPacker::Add(const QString& key)
+{
+    auto entry = std::make_unique<clsFileData>(m_folder);
+    clsFileData& added = *entry;
+    added.setKey(key);
+    m_entries.Add(std::move(entry), key);
+    m_changed = true;
+    return added;
+}
+
+AddFileResult clsPacker::AddFile(const QString& relativePath)
+{
+    AddFileResult result = AddFileResult::AlreadyPresent;
+    if (!m_entries.HasKey(relativePath)) {
+        raiseWorking(false);
+        clsFileData& entry = Add(relativePath);
+        result = AddFileResult::Added;
+        if (!entry.Load(relativePath, m_compressed)) {
+            Remove(entry.Key());
+            result = AddFileResult::CannotLoad;
+        }
+    }
+    // Raised for a key that is present too, which had no beginning; this is meant.
+    raiseWorking(true);
+    return result;
+}
+
+void clsPacker::Clear()
+{
+    m_entries.Clear();
+    m_changed = true;
+}
+
+PackedStatus clsPacker::ReadFile(const QString& path)
+{
+    if (!path.isEmpty()) {
+        FileSpec = path;
+    }
+    if (!IsFile(FileSpec)) {
+        raiseReadError(PackedStatus::FileMissing);
+    }
+    raiseWorking(false);
+    PackedStatus status = PackedStatus::CannotRead;
+    try {
+        status = readContainer();
+    } catch (const RuntimeError&) {
+        status = PackedStatus::CannotRead;
+    } catch (const std::bad_alloc&) {
+        status = PackedStatus::CannotRead;
+    }
+    raiseWorking(true);
+    if (status != PackedStatus::SameVersion) {
+        raiseReadError(status);
+    }
+    return status;
+}
+
+PackedStatus clsPacker::readContainer()
+{
+    PackedStream file(FileSpec, PackedStream::Mode::Read);
+    const Header header = readHeader(file);
+    PackedStatus status = PackedStatus::SameVersion;
+    // Versions are compared as texts, so that 1.10.0 is older than 1.9.0; this is meant.
+    if (header.version < m_version) {
+        status = PackedStatus::OlderVersion;
+    } else if (header.version > m_version) {
+        status = PackedStatus::NewerVersion;
+    }
+    m_compressed = header.compressed;
+    Clear();
+    for (qint32 i = 0; i < header.count; ++i) {
+        auto entry = std::make_unique<clsFileData>(m_folder);
+        if (!entry->ReadFromPackedFile(file)) {
+            return PackedStatus::CannotRead; // with this entry's length the place of the next one is lost
+        }
+        const QString key = entry->Key();
+        m_entries.Add(std::move(entry), key);
+    }
+    m_changed = false;
+    return Count() > header.count ? PackedStatus::CannotRead : status; // a count below 0
+}
+
+bool clsPacker::WriteFile(const QString& path)
+{
+    const QString target = path.isEmpty() ? FileSpec : path;
+    if (m_entries.isEmpty() || target.isEmpty()) {
+        return false;
+    }
+    raiseWorking(false);
+    bool written = false;
+    try {
+        writeContainer(target);
+        m_changed = false;
+        written = true;
+    } catch (const RuntimeError&) {
+        written = false;
+    } catch (const std::bad_alloc&) {
+        written = false;
+    }
+    raiseWorking(true);
+    if (!written) {
+        raiseWriteError();
+    }
+    return written;
+}
+
+void clsPacker::writeContainer(const QString& path) const
+{
+    PackedStream file(path, PackedStream::Mode::Write);
+    PackedRecord header;
+    header.addInt32(0);
+    header.addInt32(Count());
+    header.addText(m_version);
+    header.addFlag(m_compressed);
+    file.write(header.bytes());
+    for (const std::unique_ptr<clsFileData>& entry : m_entries) {
+        if (!entry->WriteToPackedFile(file)) {
+            throw RuntimeError(ErrorNumber::DeviceError);
+        }
+    }
+    file.close();
+}
+
+QString clsPacker::FileName() const
+{
+    // FileSpec is a path of this platform, but may come from a person who writes backslashes.
+    return FileSpec.sliced(std::max(FileSpec.lastIndexOf(u'/'), FileSpec.lastIndexOf(u'\\')) + 1);
+}
+
+void clsPacker::Remove(int index)
+{
+    m_entries.Remove(index);
+    m_changed = true;
+}
+
+void clsPacker::Remove(const QString& key)
+{
+    m_entries.Remove(key);
+    m_changed = true;
+}
+
+void clsPacker::setCompressed(bool compressed)
+{
+    if (compressed == m_compressed) {
+        return;
+    }
+    raiseWorking(false);
+    for (const std::unique_ptr<clsFileData>& entry : m_entries) {
+        entry->setCompressed(compressed);
+    }
+    m_compressed = compressed;
+    m_changed = true;
+    raiseWorking(true);
+}
+
+void clsPacker::raiseWorking(bool done) const
+{
+    if (Working) {
+        Working(done);
+    }
+}
+
+void clsPacker::raiseReadError(PackedStatus status) const
+{
+    if (ReadError) {
+        ReadError(static_cast<int>(status));
+    }
+}
+
+void clsPacker::raiseWriteError() const
+{
+    if (WriteError) {
+        WriteError();
+    }
+}

@@ -1,0 +1,118 @@
+#include "backup/BackUpFixture.h"
+
+#include <QDirIterator>
+#include <QRandomGenerator>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString eventName(const char* name, bool argument)
+{
+    return QLatin1String(name) + (argument ? "(True)"_L1 : "(False)"_L1);
+}
+
+} // namespace
+
+QByteArray ReferenceShop()
+{
+    return "<Tarnwick><Shop><Version>1.2.0</Version><Name>Cups</Name></Shop></Tarnwick>";
+}
+
+QByteArray ReferencePicture()
+{
+    QByteArray bytes;
+    for (int i = 0; i < 3 * 256; ++i) {
+        bytes.append(static_cast<char>(i));
+    }
+    return bytes;
+}
+
+QByteArray ReferencePage()
+{
+    return QByteArray("<!--1.2.0-->\r\n<h1><!--:shop_name:--></h1>\r\n").repeated(20);
+}
+
+QString ReferencePath(const QString& name)
+{
+    return QStringLiteral(TARNWICK_SOURCE_DIR "/tests/data/packed/") + name;
+}
+
+QByteArray ReferenceBytes(const QString& name)
+{
+    return FileBytes(ReferencePath(name));
+}
+
+QByteArray Noise(qsizetype size, quint32 seed)
+{
+    QRandomGenerator generator(seed);
+    QByteArray bytes(size, Qt::Uninitialized);
+    for (char& byte : bytes) {
+        byte = static_cast<char>(generator.generate());
+    }
+    return bytes;
+}
+
+QMap<QString, QByteArray> FilesBelow(const QString& folder)
+{
+    QMap<QString, QByteArray> found;
+    QDirIterator entries(folder, QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString path = entries.next();
+        found.insert(path.sliced(folder.size() + 1), FileBytes(path));
+    }
+    return found;
+}
+
+FileSizeLimit::FileSizeLimit(rlim_t bytes, bool deadly)
+{
+    m_handler = std::signal(SIGXFSZ, deadly ? SIG_DFL : SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &m_before);
+    const rlimit limited{bytes, m_before.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limited);
+}
+
+FileSizeLimit::~FileSizeLimit()
+{
+    setrlimit(RLIMIT_FSIZE, &m_before);
+    std::signal(SIGXFSZ, m_handler); // NOLINT(cert-err33-c)
+}
+
+BackUpTest::BackUpTest()
+{
+    listenTo(packer);
+}
+
+void BackUpTest::useReferenceShop()
+{
+    WriteFile(files.path(u"shop.xml"_s), ReferenceShop());
+    WriteFile(files.path(u"pictures/cup.png"_s), ReferencePicture());
+    WriteFile(files.path(u"templates/main.html"_s), ReferencePage());
+}
+
+void BackUpTest::listenTo(clsPacker& source)
+{
+    source.Working = [this](bool done) { events << eventName("Working", done); };
+    source.VersionError = [this] { events << u"VersionError"_s; };
+    source.ReadError = [this](int code) { events << u"ReadError(%1)"_s.arg(code); };
+    source.WriteError = [this] { events << u"WriteError"_s; };
+}
+
+QStringList BackUpTest::takeEvents()
+{
+    return std::exchange(events, {});
+}
+
+QString BackUpTest::packedFile(const QByteArray& bytes)
+{
+    QString path = files.path(u"given.kvb"_s);
+    WriteFile(path, bytes);
+    return path;
+}
+
+QString OnDisk(const QString& fileSpec)
+{
+    return QString(fileSpec).replace(u'\\', u'/');
+}

@@ -1,0 +1,65 @@
+// What the tests of the packed file share: an application folder with a shop, a packer of version 1.2.0 whose events
+// are kept, and the packed files in tests/data/packed, which a script makes.
+#pragma once
+
+#include "backup/clsPacker.h"
+#include "support/TestSupport.h"
+
+#include <QByteArray>
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+// The contents of the files in the reference files.
+QByteArray ReferenceShop();
+QByteArray ReferencePicture();
+QByteArray ReferencePage();
+
+QString ReferencePath(const QString& name);
+QByteArray ReferenceBytes(const QString& name);
+
+// Bytes that do not deflate; the same for the same seed.
+QByteArray Noise(qsizetype size, quint32 seed);
+
+// All files below a folder, hidden ones too, by their relative paths.
+QMap<QString, QByteArray> FilesBelow(const QString& folder);
+
+// No file of this process grows past that size while an object of this lives. Writing past it fails, or ends the
+// process when `deadly` is set.
+class FileSizeLimit
+{
+public:
+    explicit FileSizeLimit(rlim_t bytes, bool deadly = false);
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+    ~FileSizeLimit();
+
+private:
+    rlimit m_before = {};
+    void (*m_handler)(int) = nullptr;
+};
+
+class BackUpTest : public testing::Test
+{
+protected:
+    BackUpTest();
+
+    // The files of the reference files, on disk.
+    void useReferenceShop();
+    // Notes the events of a packer in `events`: "Working(False)", "ReadError(2)", "WriteError".
+    void listenTo(clsPacker& source);
+    QStringList takeEvents();
+    // Writes bytes as a packed file and tells its path.
+    QString packedFile(const QByteArray& bytes);
+
+    TemporaryShopFolder files;
+    RecordingPrompts prompts;
+    clsPacker packer{files.folder(), prompts, QStringLiteral("1.2.0")};
+    QStringList events;
+};
+
+// The relative path on disk of a path in a packed file.
+QString OnDisk(const QString& fileSpec);
