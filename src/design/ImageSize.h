@@ -1,0 +1,20 @@
+// Width and height of a picture in pixels, read from the file's header without decoding the picture.
+#pragma once
+
+#include "base/ApplicationFolder.h"
+
+#include <QString>
+#include <QtGlobal>
+
+struct ImageSize
+{
+    qint16 width = 0;
+    qint16 height = 0;
+};
+
+// The size as the 16-bit numbers that the shop file has. Error 6 when one is larger than 32767.
+ImageSize NarrowedImageSize(int width, int height);
+
+// The size of the picture of that name under pictures/. Error 53 when there is no such file there, 5 when it is no
+// picture, 6 when it is larger than 32767 pixels.
+ImageSize ReadImageSize(const ApplicationFolder& folder, const QString& fileName);

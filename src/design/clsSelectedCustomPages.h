@@ -1,0 +1,35 @@
+// The names of the pages that one menu shows, in order. ShopDesignClass owns five of them. "Home page" and "Shopping
+// cart page" have a fixed meaning; every other name is the name of a custom page, which need not exist.
+#pragma once
+
+#include "base/KeyedCollection.h"
+#include "design/DesignServices.h"
+
+#include <QString>
+
+#include <pugixml.hpp>
+
+class clsSelectedCustomPages
+{
+public:
+    explicit clsSelectedCustomPages(const DesignServices& services, const QString& tag = QString());
+
+    QString Tag;     // the name of the element in the shop file
+    QString Clicked; // a place for a name; the file does not have it
+
+    // Names in order; each is its own key.
+    const KeyedCollection<QString>& selectedPages() const { return m_selectedPages; }
+
+    // Appends a name. Error 457 when it is there already.
+    void Add(const QString& name);
+    void Clear();
+
+    // The node is the ShopDesign element. An empty Tag shows a box and changes nothing. Error 91 when a row of the
+    // selection has no child, 457 when a name stands twice.
+    void FromXML(const pugi::xml_node& node);
+    void ToXML(pugi::xml_node node) const;
+
+private:
+    const DesignServices* m_services;
+    KeyedCollection<QString> m_selectedPages;
+};

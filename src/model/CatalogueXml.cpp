@@ -1,0 +1,125 @@
+#include "model/CatalogueXml.h"
+
+#include "base/Numbers.h"
+#include "base/XMLUtils.h"
+#include "base/XmlReading.h"
+#include "model/CategoryClass.h"
+#include "model/DiscountXml.h"
+#include "model/NodeImageXml.h"
+#include "model/ObjectsCollection.h"
+#include "model/ProductClass.h"
+#include "model/ProductReading.h"
+#include "model/ShopClass.h"
+
+#include <array>
+#include <cstdio>
+#include <cstring>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// What is looked up in a category, in the order of the file.
+namespace inCategory {
+enum Element : std::size_t { Id, Name, Description, Picture, Width, Height, Discount, Count };
+constexpr std::array<const char*, Count> names = {"Id",    "Name",   "Description", "Picture",
+                                                  "Width", "Height", "Discount"};
+} // namespace inCategory
+
+bool isNamed(const pugi::xml_node& node, const char* name)
+{
+    return std::strcmp(node.name(), name) == 0;
+}
+
+} // namespace
+
+bool BooleanFromWord(const QString& word)
+{
+    if (word == "True"_L1) {
+        return true;
+    }
+    return word != "False"_L1 && NumberFromText(word) != 0;
+}
+
+QString BooleanToWord(bool value)
+{
+    return value ? u"True"_s : u"False"_s;
+}
+
+QString StripDirectory(const QString& fileName)
+{
+    const qsizetype separator = fileName.lastIndexOf(u'\\');
+    return separator < 0 ? fileName : fileName.sliced(separator + 1);
+}
+
+pugi::xml_node AddNumberedElement(pugi::xml_node parent, const char* prefix, int number, const QString& text)
+{
+    std::array<char, 40> name{};
+    std::snprintf(name.data(), name.size(), "%s%d", prefix, number);
+    return AddChildElement(parent, name.data(), text);
+}
+
+void CategoryClass::FromXML(const pugi::xml_node& element, ShopClass& owner,
+                            const std::shared_ptr<CategoryClass>& parent)
+{
+    CheckCategoryLevel(parent.get());
+    shop = &owner;
+    parentCategory = parent;
+    std::array<pugi::xml_node, inCategory::Count> found;
+    FindFirstDescendants(element, inCategory::names, found);
+    id = TextOr(found[inCategory::Id], QString());
+    if (id.isEmpty()) {
+        id = owner.getNextProductId();
+    }
+    // A category without a name gets the name of a product without one: this is meant.
+    name = TextOr(found[inCategory::Name], u"UNDEFINED_PRODUCT_NAME"_s);
+    Description = TextOr(found[inCategory::Description], QString());
+    ReadNodeImage(*this, TextOr(found[inCategory::Picture], QString()), TextOr(found[inCategory::Width], u"0"_s),
+                  TextOr(found[inCategory::Height], u"0"_s));
+    if (found[inCategory::Discount]) {
+        ReadLevelDiscount(found[inCategory::Discount], *Discount(), u"No"_s);
+    }
+    readChildren(element, owner);
+}
+
+// Sub-categories are read before products, whatever the order of the file.
+void CategoryClass::readChildren(const pugi::xml_node& element, ShopClass& owner)
+{
+    std::vector<pugi::xml_node> productElements;
+    for (const pugi::xml_node& child : element.children()) {
+        if (isNamed(child, "Category")) {
+            auto category = std::make_shared<CategoryClass>(*m_services);
+            category->FromXML(child, owner, shared_from_this());
+            Discount()->AddChildDiscount(category->Discount(), category->id);
+            categories.Add(category, NodeKey(category->id));
+        } else if (isNamed(child, "Product")) {
+            productElements.push_back(child);
+        } else if (isNamed(child, "ShopDesign") || FirstDescendant(child, "ShopDesign")) {
+            m_services->reading.designSeenInCategory = true;
+        }
+    }
+    products.Clear();
+    products.reserve(static_cast<int>(productElements.size()));
+    for (const pugi::xml_node& child : productElements) {
+        auto product = std::make_shared<ProductClass>(*m_services);
+        product->FromXML(child, owner, shared_from_this());
+        Discount()->AddChildDiscount(product->Price()->Discount(), product->id);
+        products.Add(product, NodeKey(product->id));
+    }
+}
+
+void CategoryClass::ToXML(pugi::xml_node element)
+{
+    AddChildElement(element, "Id", id);
+    AddChildElement(element, "Name", name);
+    AddChildElement(element, "Description", Description);
+    WriteNodeImage(element, *this);
+    WriteLevelDiscount(AddChildElement(element, "Discount", u"HUERAGA"_s), *Discount());
+    for (const std::shared_ptr<CategoryClass>& category : categories) {
+        category->ToXML(AddChildElement(element, "Category", u"HUERAGA"_s));
+    }
+    for (const std::shared_ptr<ProductClass>& product : products) {
+        product->ToXML(AddChildElement(element, "Product", u"HUERAGA"_s));
+    }
+}

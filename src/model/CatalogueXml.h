@@ -1,0 +1,17 @@
+// What the reading and writing of shops, categories and products share. The element tables of the two kinds of node
+// stand in CatalogueXml.cpp, that of the shop in ShopXml.cpp.
+#pragma once
+
+#include <QString>
+
+#include <pugixml.hpp>
+
+// "True" and "False", exact case, else a number that counts as true when it is not zero. Error 13 for any other text.
+bool BooleanFromWord(const QString& word);
+QString BooleanToWord(bool value);
+
+// A file name without everything up to and including the last backslash.
+QString StripDirectory(const QString& fileName);
+
+// Appends an element whose name is the prefix and a number behind it, such as "Cost1".
+pugi::xml_node AddNumberedElement(pugi::xml_node parent, const char* prefix, int number, const QString& text);

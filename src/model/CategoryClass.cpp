@@ -1,0 +1,66 @@
+#include "model/CategoryClass.h"
+
+#include "base/RuntimeError.h"
+#include "model/ObjectsCollection.h"
+
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+CategoryClass::CategoryClass(const ModelServices& services) : id(u"1"_s), m_services(&services) {}
+
+const std::shared_ptr<clsSelectedImage>& CategoryClass::selectedImage()
+{
+    if (!m_selectedImage) {
+        m_selectedImage = std::make_shared<clsSelectedImage>(m_services->design);
+    }
+    return m_selectedImage;
+}
+
+const std::shared_ptr<clsDiscount>& CategoryClass::Discount()
+{
+    if (!m_discount) {
+        m_discount = std::make_shared<clsDiscount>(m_services->clock);
+        m_discount->Status = DiscountStatus::No;
+    }
+    return m_discount;
+}
+
+int CategoryClass::Level() const
+{
+    int level = 1;
+    for (auto above = parentCategory.lock(); above; above = above->parentCategory.lock()) {
+        ++level;
+    }
+    return level;
+}
+
+qint16 CategoryClass::GetProductCount() const
+{
+    qint64 count = products.Count();
+    for (const std::shared_ptr<CategoryClass>& category : categories) {
+        count += category->GetProductCount();
+    }
+    if (count > std::numeric_limits<qint16>::max()) {
+        throw RuntimeError(ErrorNumber::Overflow);
+    }
+    return static_cast<qint16>(count);
+}
+
+void CategoryClass::RemoveChilds()
+{
+    for (const std::shared_ptr<CategoryClass>& category : categories) {
+        category->RemoveChilds();
+        m_services->objects.Remove(NodeKey(category->id));
+    }
+    for (const std::shared_ptr<ProductClass>& product : products) {
+        m_services->objects.Remove(NodeKey(product->id));
+    }
+}
+
+void CheckCategoryLevel(const CategoryClass* parent)
+{
+    if (parent != nullptr && parent->Level() >= MaximumCategoryLevel) {
+        throw RuntimeError(ErrorNumber::OutOfStackSpace);
+    }
+}

@@ -1,0 +1,73 @@
+// A category of the catalogue: sub-categories, products and a discount. Its parent, or the shop, owns it.
+#pragma once
+
+#include "base/KeyedCollection.h"
+#include "design/clsSelectedImage.h"
+#include "model/ModelServices.h"
+#include "model/ProductClass.h"
+#include "model/clsDiscount.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <pugixml.hpp>
+
+// Categories nested deeper than this do not load, and cannot be made.
+inline constexpr int MaximumCategoryLevel = 500;
+
+class CategoryClass : public std::enable_shared_from_this<CategoryClass>
+{
+public:
+    explicit CategoryClass(const ModelServices& services);
+
+    ShopClass* shop = nullptr;                   // the owning shop; none for a category that was imported
+    std::weak_ptr<CategoryClass> parentCategory; // none for a root category
+    QString id;                                  // "1" until it is set
+    QString name;
+    QString Description;
+    KeyedCollection<std::shared_ptr<CategoryClass>> categories; // under "ID" and the id
+    KeyedCollection<std::shared_ptr<ProductClass>> products;    // under "ID" and the id
+    std::weak_ptr<clsDiscount> ParentDiscount; // the discount above: set on root categories at load and by the tree
+
+    // Made on first use.
+    const std::shared_ptr<clsSelectedImage>& selectedImage();
+    bool hasSelectedImage() const { return m_selectedImage != nullptr; }
+    // Made on first use, with status 1.
+    const std::shared_ptr<clsDiscount>& Discount();
+    void setDiscount(std::shared_ptr<clsDiscount> discount) { m_discount = std::move(discount); }
+
+    // How many categories there are from the root down to this one, itself included.
+    int Level() const;
+    // Products in this category and in all below. Error 6 above 32767.
+    qint16 GetProductCount() const;
+    // Takes everything below this category out of ObjectsCollection; the collections stay as they are. Error 5 when an
+    // entry is missing there.
+    void RemoveChilds();
+
+    // The element is a "Category" element; ToXML is given an empty one. An empty id takes the next one of the shop. The
+    // caller adds the category to its parent afterwards, under the id that was read. Error 28 when it lies too deep,
+    // 457 when an id stands twice in one parent.
+    void FromXML(const pugi::xml_node& element, ShopClass& owner, const std::shared_ptr<CategoryClass>& parent);
+    void ToXML(pugi::xml_node element);
+
+    // Finds or makes the categories of the path in fields[2], which is consumed, and adds a product named fields[0]
+    // with the description fields[1] to the last. Error 9 with fewer than three fields, 28 when the path is too deep.
+    void ImportCategory(QStringList& fields);
+
+    const ModelServices& services() const { return *m_services; }
+
+private:
+    friend class ShopClass;
+
+    void readChildren(const pugi::xml_node& element, ShopClass& owner);
+    // Makes a product of the first two fields in this category.
+    void AddImportedProduct(const QStringList& fields);
+
+    const ModelServices* m_services;
+    std::shared_ptr<clsSelectedImage> m_selectedImage;
+    std::shared_ptr<clsDiscount> m_discount;
+};
+
+// A category that is to stand below that parent (none: a root category) must not lie too deep. Error 28 when it would.
+void CheckCategoryLevel(const CategoryClass* parent);

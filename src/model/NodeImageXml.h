@@ -1,0 +1,35 @@
+// The image of a category or a product in the shop file: a name and a size, beside the node's other values.
+#pragma once
+
+#include "base/WholeNumbers.h"
+#include "base/XMLUtils.h"
+#include "model/CatalogueXml.h"
+
+#include <QString>
+
+#include <pugixml.hpp>
+
+// A slot is made only for what is there. Errors as for Int16FromText.
+template <class Node>
+void ReadNodeImage(Node& node, const QString& picture, const QString& width, const QString& height)
+{
+    const QString fileName = StripDirectory(picture);
+    const qint16 widthBmp = Int16FromText(width);
+    const qint16 heightBmp = Int16FromText(height);
+    if (!fileName.isEmpty() || widthBmp != 0 || heightBmp != 0) {
+        clsSelectedImage& image = *node.selectedImage();
+        image.imageFileName = fileName;
+        image.setWidthBmp(widthBmp);
+        image.setHeightBmp(heightBmp);
+    }
+}
+
+// Errors as for clsSelectedImage::WidthBmp.
+template <class Node>
+void WriteNodeImage(pugi::xml_node element, Node& node)
+{
+    clsSelectedImage* image = node.hasSelectedImage() ? node.selectedImage().get() : nullptr;
+    AddChildElement(element, "Picture", image != nullptr ? image->imageFileName : QString());
+    AddChildElement(element, "Width", QString::number(image != nullptr ? image->WidthBmp() : 0));
+    AddChildElement(element, "Height", QString::number(image != nullptr ? image->HeightBmp() : 0));
+}

@@ -1,0 +1,52 @@
+// Every node of the catalogue tree under its node key ("ID_SHOP", or "ID" followed by the id), in the order of adding.
+// It is the only link from a tree node to the model. The session owns the one collection; it is made when the tree is
+// built, and asking it before that, which a shop file without a shop leads to, is error 91.
+#pragma once
+
+#include "base/KeyedCollection.h"
+
+#include <QString>
+
+#include <memory>
+#include <optional>
+#include <variant>
+
+class CategoryClass;
+class ProductClass;
+class ShopClass;
+
+// One node's object. The empty state stands for "no object".
+using CatalogueObject = std::variant<std::monostate, std::shared_ptr<ShopClass>, std::shared_ptr<CategoryClass>,
+                                     std::shared_ptr<ProductClass>>;
+
+// "ID" followed by the id.
+QString NodeKey(const QString& id);
+// The key of the root node, the shop: "ID_SHOP".
+QString ShopNodeKey();
+
+class ObjectsCollection
+{
+public:
+    // Makes the collection, or makes it new: empty, with room for as many nodes as are expected.
+    void create(int expected = 0) { m_items.emplace().reserve(expected); }
+    bool isCreated() const { return m_items.has_value(); }
+
+    // Error 457 when the key is there already.
+    void Add(const CatalogueObject& object, const QString& key) { ownItems().Add(object, key); }
+    // Error 5 when the key is missing.
+    void Remove(const QString& key) { ownItems().Remove(key); }
+    const CatalogueObject& Item(const QString& key) const { return items().Item(key); }
+    bool HasKey(const QString& key) const { return items().HasKey(key); }
+
+    // The category or product with that id. Error 5 when there is no node of that id, 13 when it is of another kind.
+    const std::shared_ptr<CategoryClass>& Category(const QString& id) const;
+    const std::shared_ptr<ProductClass>& Product(const QString& id) const;
+
+    // All nodes in order, for range-based loops.
+    const KeyedCollection<CatalogueObject>& items() const;
+
+private:
+    KeyedCollection<CatalogueObject>& ownItems();
+
+    std::optional<KeyedCollection<CatalogueObject>> m_items;
+};

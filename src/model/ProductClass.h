@@ -1,0 +1,76 @@
+// A product of the catalogue. Its category owns it; ObjectsCollection, the cart and the pages share it. There can be
+// very many, so the parts that a product may lack are made on first use.
+#pragma once
+
+#include "base/KeyedCollection.h"
+#include "design/clsSelectedImage.h"
+#include "model/ModelServices.h"
+#include "model/clsPrice.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <pugixml.hpp>
+
+using TextCollection = KeyedCollection<QString>;
+
+class ProductClass
+{
+public:
+    explicit ProductClass(const ModelServices& services);
+
+    ShopClass* shop = nullptr;             // the owning shop; none for a product that was imported
+    std::weak_ptr<CategoryClass> category; // the category that holds the product
+    QString id;
+    QString name;
+    QString Description;
+    QString Code;
+    QString Unit;
+    QString LINK;
+    // "No", "Weight" or "Individual". A new product has "Weight", one read from a file without the word "No": both are
+    // meant.
+    QString ShippingStatus;
+    QString Weight;
+    // Ids of related products; the last entry is always a spare empty one.
+    QStringList related;
+    QString Picture; // a picture's name as the product panel wrote it; the shop file does not have it
+    qint16 QuantityInCart = 0;
+    bool ForSale = true;
+
+    // Made on first use; the discount then has status 1.
+    const std::shared_ptr<clsPrice>& Price();
+    void setPrice(std::shared_ptr<clsPrice> price) { m_price = std::move(price); }
+    // Made on first use.
+    const std::shared_ptr<clsSelectedImage>& selectedImage();
+    bool hasSelectedImage() const { return m_selectedImage != nullptr; }
+    void setSelectedImage(std::shared_ptr<clsSelectedImage> image) { m_selectedImage = std::move(image); }
+    // The product's own cost per shipping type, under the type's name. Made on first use; a clone has the same object.
+    const std::shared_ptr<TextCollection>& ShippingCosts();
+    void setShippingCosts(std::shared_ptr<TextCollection> costs) { m_shippingCosts = std::move(costs); }
+    // "Y" or "N" for each tax of the shop, by position. Made on first use; a clone has the same object.
+    const std::shared_ptr<TextCollection>& Taxes();
+    void setTaxes(std::shared_ptr<TextCollection> taxes) { m_taxes = std::move(taxes); }
+
+    // How many ids of related products there are: the spare entry does not count.
+    int relatedCount() const { return static_cast<int>(related.size()) - 1; }
+    // Puts these ids, and the spare entry behind them, in the place of the related ones.
+    void setRelatedIds(const QStringList& ids);
+
+    // A product like this one, without id. ShippingCosts and Taxes are the same objects: this is meant.
+    std::shared_ptr<ProductClass> CreateClone();
+
+    // The element is a "Product" element; ToXML is given an empty one. An empty id takes the next one of the shop. The
+    // caller adds the product to its category afterwards, under the id that was read.
+    void FromXML(const pugi::xml_node& element, ShopClass& owner, const std::shared_ptr<CategoryClass>& parent);
+    void ToXML(pugi::xml_node element);
+
+    const ModelServices& services() const { return *m_services; }
+
+private:
+    const ModelServices* m_services;
+    std::shared_ptr<clsPrice> m_price;
+    std::shared_ptr<clsSelectedImage> m_selectedImage;
+    std::shared_ptr<TextCollection> m_shippingCosts;
+    std::shared_ptr<TextCollection> m_taxes;
+};

@@ -1,0 +1,57 @@
+// What the reading of one product after another keeps between them: the walk over a product's elements and the texts
+// that many products share. The session owns one.
+#pragma once
+
+#include "base/XmlReading.h"
+#include "model/TextPool.h"
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+// Every element that is looked up in a product, in the order of the file.
+namespace inProduct {
+enum Element : std::size_t {
+    Id,
+    Name,
+    Description,
+    Code,
+    Price,
+    ForSale,
+    Unit,
+    Link,
+    Picture,
+    Width,
+    Height,
+    Discount,
+    Status,
+    DateFrom,
+    DateTo,
+    Specific,
+    Shipping,
+    ShippingStatus,
+    Weight,
+    MultiplePrice,
+    PriceDescription,
+    MPrice,
+    Related,
+    ProductTaxes,
+    ShopDesign, // no part of a product: see ProductReading
+    Count
+};
+inline constexpr std::array<const char*, Count> names = {
+    "Id",     "Name",     "Description",  "Code",           "Price",    "ForSale",       "Unit",
+    "Link",   "Picture",  "Width",        "Height",         "Discount", "Status",        "DateFrom",
+    "DateTo", "Specific", "Shipping",     "ShippingStatus", "Weight",   "MultiplePrice", "PriceDescription",
+    "MPrice", "Related",  "ProductTaxes", "ShopDesign"};
+} // namespace inProduct
+
+struct ProductReading
+{
+    FlatElements elements{inProduct::names};
+    std::vector<FlatElements::Place> numbered;
+    TextPool pool;
+    // Whether an element of the shop's design stands somewhere below a category. A file that is written here has it
+    // behind all categories; the shop need not search them for it when nothing was seen.
+    bool designSeenInCategory = false;
+};

@@ -1,0 +1,89 @@
+// The root of one shop: it owns the catalogue, the shop's discount, shipping tables, taxes, charges, countries, styles,
+// custom pages and design options. The session has one for as long as it lives. All numbers are held as text.
+#pragma once
+
+#include "base/KeyedCollection.h"
+#include "design/CSSClass.h"
+#include "design/CustomPageClass.h"
+#include "design/ShopDesignClass.h"
+#include "model/CategoryClass.h"
+#include "model/ModelServices.h"
+#include "model/ProductClass.h"
+#include "model/clsCharge.h"
+#include "model/clsDiscount.h"
+#include "model/clsTax.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <pugixml.hpp>
+#include <vector>
+
+class ShopClass
+{
+public:
+    explicit ShopClass(const ModelServices& services);
+
+    QString name;
+    QString Description;
+    QString shop_currency;
+    QString Version;      // of the running program; set by a load
+    QString MaxProductId; // the highest id handed out, a whole number as text
+    bool ShippingChargesAreSelected = false;
+    bool TaxesAreSelected = false;
+
+    // These six are absent (null) until a shop file, or a panel, brings them.
+    std::shared_ptr<TextCollection> SelectedCountries;       // each country is its own key
+    std::shared_ptr<TextCollection> ShippingTypeName;        // keys "ship_name0", "ship_name1", ...
+    std::shared_ptr<TextCollection> ShippingTypeDescription; // keys "ship_desc0", ...
+    std::shared_ptr<TextCollection> ShippingCostFrameFrom;   // weights in kilograms, keys "from0", ...
+    std::shared_ptr<TextCollection> ShippingCostFrameTo;     // keys "to0", ...
+    // One row a frame, without keys; in it one cost a shipping type, keys "cost0", ...
+    std::shared_ptr<KeyedCollection<TextCollection>> ShippingCosts;
+
+    KeyedCollection<clsTax> Taxes;                                 // without keys
+    KeyedCollection<clsCharge> Charges;                            // without keys
+    KeyedCollection<std::shared_ptr<CategoryClass>> categories;    // root categories, under "ID" and the id
+    KeyedCollection<std::shared_ptr<CSSClass>> CSSs;               // under "ID" and the name
+    KeyedCollection<std::shared_ptr<CustomPageClass>> CustomPages; // under the name
+    std::shared_ptr<ShopDesignClass> ShopDesign;
+
+    // The root of the discount tree; status 1 until it is set.
+    const std::shared_ptr<clsDiscount>& Discount() const { return m_discount; }
+    void setDiscount(std::shared_ptr<clsDiscount> discount) { m_discount = std::move(discount); }
+
+    // Raises MaxProductId by one and returns it. Error 13 when it is no whole number, 6 when it is the largest one; it
+    // then stays as it is.
+    QString getNextProductId();
+    // Products of the whole catalogue. Error 6 when a category has more than 32767.
+    qint32 GetProductCount() const;
+
+    // The element is the "Shop" element; ToXML is given an empty one. Reading a file of another version asks for a save
+    // at its end. The first error ends the reading and nothing read so far is undone.
+    void FromXML(const pugi::xml_node& element);
+    void ToXML(pugi::xml_node element);
+    // The bytes of the whole shop file, as ToXML fills the element. Each root category is turned into bytes by itself,
+    // so that a large shop needs no document of its whole size. Error 91 when no shop was read.
+    QByteArray fileBytes();
+
+    // As CategoryClass::ImportCategory, from the root.
+    void ImportCategory(QStringList& fields);
+
+    // Keeps a category that was removed from the catalogue, so that a product that was removed from it before, and can
+    // still be shown, finds its category.
+    void keepRemoved(std::shared_ptr<CategoryClass> category) { m_removed.push_back(std::move(category)); }
+
+    const ModelServices& services() const { return *m_services; }
+
+private:
+    void readCategories(const pugi::xml_node& element);
+    void readStylesAndPages(const pugi::xml_node& element);
+    void writeHead(const pugi::xml_node& element) const;
+    void writeTail(const pugi::xml_node& element) const;
+
+    const ModelServices* m_services;
+    std::shared_ptr<clsDiscount> m_discount;
+    std::vector<std::shared_ptr<CategoryClass>> m_removed;
+};

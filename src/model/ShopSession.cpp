@@ -1,0 +1,93 @@
+#include "model/ShopSession.h"
+
+#include "base/DelimitedFields.h"
+#include "base/TextFile.h"
+#include "base/XMLUtils.h"
+#include "base/XmlFile.h"
+
+using namespace Qt::StringLiterals;
+
+ShopSession::ShopSession(const ApplicationFolder& applicationFolder, UserPrompts& userPrompts, const Clock& today)
+    : folder(applicationFolder),
+      log(folder),
+      prompts(userPrompts),
+      clock(today),
+      designServices{log, prompts, folder},
+      services{designServices, clock, objects, callbacks, shop, LoadedShopVersion, reading}
+{
+    callbacks.SaveShop = [this] { writeShopFile(); };
+    callbacks.AddCategoryToTheTree = [this](const std::shared_ptr<CategoryClass>&,
+                                            const std::shared_ptr<CategoryClass>& category) {
+        registerCategory(category);
+    };
+    callbacks.AddProductToTheTree = [this](const std::shared_ptr<CategoryClass>&,
+                                           const std::shared_ptr<ProductClass>& product) { registerProduct(product); };
+}
+
+bool ShopSession::LoadCountries()
+{
+    log.WriteLoadLog(u"Start Function LoadCountries"_s);
+    for (const QString& country : DelimitedFields(ReadTextFile(folder.countriesFile()).text)) {
+        CountriesCollection.Add(country, country);
+    }
+    return true;
+}
+
+bool ShopSession::loadShop()
+{
+    log.WriteLoadLog(u"Start shop creating"_s);
+    XmlFile file;
+    file.load(folder.shopFile());
+    shop = std::make_shared<ShopClass>(services);
+    const pugi::xml_node element = FirstDescendant(file.document(), "Shop");
+    if (!element) {
+        prompts.showMessage(ApplicationTitle(), u"Error in the configuration XML file. No 'Shop' node."_s,
+                            PromptIcon::None);
+        return false;
+    }
+    shop->FromXML(element);
+    return true;
+}
+
+void ShopSession::writeShopFile()
+{
+    WriteFileBytes(folder.shopFile(), CurrentShop(services).fileBytes());
+}
+
+namespace {
+
+int nodeCount(const KeyedCollection<std::shared_ptr<CategoryClass>>& categories)
+{
+    int count = categories.Count();
+    for (const std::shared_ptr<CategoryClass>& category : categories) {
+        count += category->products.Count() + nodeCount(category->categories);
+    }
+    return count;
+}
+
+} // namespace
+
+void ShopSession::registerShop()
+{
+    objects.create(nodeCount(CurrentShop(services).categories) + 1);
+    objects.Add(shop, ShopNodeKey());
+    for (const std::shared_ptr<CategoryClass>& category : CurrentShop(services).categories) {
+        registerCategory(category);
+    }
+}
+
+void ShopSession::registerCategory(const std::shared_ptr<CategoryClass>& category)
+{
+    objects.Add(category, NodeKey(category->id));
+    for (const std::shared_ptr<CategoryClass>& child : category->categories) {
+        registerCategory(child);
+    }
+    for (const std::shared_ptr<ProductClass>& product : category->products) {
+        registerProduct(product);
+    }
+}
+
+void ShopSession::registerProduct(const std::shared_ptr<ProductClass>& product)
+{
+    objects.Add(product, NodeKey(product->id));
+}

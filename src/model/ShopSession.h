@@ -1,0 +1,66 @@
+// What lives once in a running program: the open shop, the collection of its nodes, the preview's cart, the countries,
+// the version of the file that was read, and the services that the model works with. The main window owns the one
+// session; tests make as many as they like.
+#pragma once
+
+#include "base/ApplicationFolder.h"
+#include "base/Clock.h"
+#include "base/KeyedCollection.h"
+#include "base/LoadLog.h"
+#include "base/UserPrompts.h"
+#include "design/ApplicationTitle.h"
+#include "design/DesignServices.h"
+#include "model/ModelServices.h"
+#include "model/ObjectsCollection.h"
+#include "model/ProductReading.h"
+#include "model/ShopClass.h"
+#include "model/clsCart.h"
+
+#include <QString>
+
+#include <memory>
+
+class ShopSession
+{
+public:
+    // The prompts and the clock must outlive the session.
+    ShopSession(const ApplicationFolder& applicationFolder, UserPrompts& userPrompts, const Clock& today);
+    ShopSession(const ShopSession&) = delete;
+    ShopSession& operator=(const ShopSession&) = delete;
+
+    const ApplicationFolder folder;
+    LoadLog log;
+    UserPrompts& prompts;
+    const Clock& clock;
+
+    KeyedCollection<QString> CountriesCollection; // in file order; each country is its own key
+    QString LoadedShopVersion;
+    ObjectsCollection objects;
+    SessionCallbacks callbacks;
+    ProductReading reading;
+
+    // What every class of the model is handed; made of the members above and below.
+    const DesignServices designServices;
+    const ModelServices services;
+
+    std::shared_ptr<ShopClass> shop; // none until loadShop
+    std::unique_ptr<clsCart> Cart;   // may be none
+
+    // Reads countries.txt. Error 53 when it is missing, 457 when a country stands twice.
+    bool LoadCountries();
+
+    // Makes the shop and fills it from the shop file. A file that is missing, malformed or without a "Shop" element
+    // shows a box and gives false; the shop is then empty and ObjectsCollection is not made. The first half of
+    // CreateShop.
+    bool loadShop();
+
+    // Writes the whole shop file. The text is complete in memory before the old file is touched: any error while it is
+    // made leaves the file as it was. Error 91 when no shop was loaded, others as for ToXML and WriteFileBytes.
+    void writeShopFile();
+
+    // Makes ObjectsCollection new and enters the shop and all nodes, each category before its contents, sub-categories
+    // before products: the order of the tree. Error 457 when an id stands twice.
+    void registerShop();
+    void registerCategory(const std::shared_ptr<CategoryClass>& category);
+    void registerProduct(const std::shared_ptr<ProductClass>& product);
+};

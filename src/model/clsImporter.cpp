@@ -1,0 +1,78 @@
+#include "model/clsImporter.h"
+
+#include "base/TextFile.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr int linesBetweenReports = 500;
+
+qsizetype lineEnd(const QString& text, qsizetype from)
+{
+    const auto end =
+        std::find_if(text.begin() + from, text.end(), [](QChar letter) { return letter == u'\r' || letter == u'\n'; });
+    return end - text.begin();
+}
+
+} // namespace
+
+QStringList clsImporter::PSplit(QStringView line)
+{
+    enum class Place { BeforeField, InField, InQuotes };
+    Place place = Place::BeforeField;
+    qsizetype start = 0;    // of the field
+    qsizetype trailing = 0; // characters at its end that do not belong to it
+    QStringList fields;
+    const auto append = [&](qsizetype end) {
+        fields.append(line.sliced(start, end - start - trailing).toString());
+        trailing = 0;
+        start = end + 1;
+        place = Place::BeforeField;
+    };
+
+    for (qsizetype at = 0; at < line.size(); ++at) {
+        const QChar letter = line[at];
+        if (letter == u' ') {
+            trailing += place == Place::InField ? 1 : 0;
+        } else if (letter == u'"') {
+            if (place == Place::BeforeField) {
+                place = Place::InQuotes;
+                start = at + 1;
+            } else if (place == Place::InQuotes) {
+                place = Place::InField;
+                trailing = 1;
+            }
+        } else if (letter == u',') {
+            if (place == Place::InField) {
+                append(at);
+            } else if (place == Place::BeforeField) {
+                start = at; // only blanks stand here, and they make an empty field
+                append(at);
+            }
+        } else {
+            trailing = 0;
+            if (place == Place::BeforeField) {
+                place = Place::InField;
+            }
+        }
+    }
+    append(line.size());
+    return fields;
+}
+
+void clsImporter::Import(const QString& fileName)
+{
+    const QString text = ReadTextFile(fileName).text;
+    ShopClass& shop = CurrentShop(m_session.services);
+    int lines = 0;
+    for (qsizetype at = 0; at < text.size();) {
+        const qsizetype end = lineEnd(text, at);
+        QStringList fields = PSplit(QStringView(text).sliced(at, end - at));
+        shop.ImportCategory(fields);
+        at = end + (QStringView(text).mid(end, 2) == u"\r\n" ? 2 : 1);
+        if (m_progress && ++lines % linesBetweenReports == 0) {
+            m_progress(at, text.size());
+        }
+    }
+}

@@ -1,0 +1,120 @@
+#include "model/clsPrice.h"
+
+#include "base/RuntimeError.h"
+#include "model/CommonFunctions.h"
+
+#include <limits>
+
+QString clsMultiPrice::NewValue() const
+{
+    if (!Discount) {
+        throw RuntimeError(ErrorNumber::ObjectNotSet);
+    }
+    return CalculateNewPrice(Value, Discount->Value(Value));
+}
+
+std::shared_ptr<clsMultiPrice> clsMultiPrice::CreateClone() const
+{
+    auto clone = std::make_shared<clsMultiPrice>();
+    clone->Description = Description;
+    clone->Value = Value;
+    return clone;
+}
+
+clsPrice::clsPrice(const Clock& clock) : m_clock(&clock) {}
+
+const std::shared_ptr<clsDiscount>& clsPrice::Discount()
+{
+    if (!m_discount) {
+        m_discount = std::make_shared<clsDiscount>(*m_clock);
+    }
+    return m_discount;
+}
+
+QString clsPrice::NewPrice(const QString& price)
+{
+    return CalculateNewPrice(price, Discount()->Value(price));
+}
+
+QString clsPrice::SelectedNew()
+{
+    return NewPrice(Selected);
+}
+
+QString clsPrice::OldPrice() const
+{
+    if (!MultiPriceCollection().isEmpty()) {
+        throw RuntimeError(ErrorNumber::OutOfStackSpace);
+    }
+    return Value;
+}
+
+const KeyedCollection<std::shared_ptr<clsMultiPrice>>& clsPrice::MultiPriceCollection() const
+{
+    static const MultiPrices none;
+    return m_multiPrices ? *m_multiPrices : none;
+}
+
+std::shared_ptr<clsMultiPrice> clsPrice::AddMultiPrice()
+{
+    auto multiPrice = std::make_shared<clsMultiPrice>();
+    AddExistingMultiPrice(multiPrice);
+    return multiPrice;
+}
+
+void clsPrice::AddExistingMultiPrice(const std::shared_ptr<clsMultiPrice>& multiPrice)
+{
+    multiPrice->Discount = Discount();
+    if (!m_multiPrices) {
+        m_multiPrices = std::make_unique<MultiPrices>();
+    }
+    m_multiPrices->Add(multiPrice);
+}
+
+void clsPrice::RemoveMultiPrice(int index)
+{
+    if (!m_multiPrices) {
+        throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+    }
+    m_multiPrices->Remove(index);
+}
+
+const std::shared_ptr<clsMultiPrice>& clsPrice::GetMultiPrice(int index) const
+{
+    return MultiPriceCollection().Item(index);
+}
+
+qint16 clsPrice::MultiPriceCount() const
+{
+    const int count = MultiPriceCollection().Count();
+    if (count > std::numeric_limits<qint16>::max()) {
+        throw RuntimeError(ErrorNumber::Overflow);
+    }
+    return static_cast<qint16>(count);
+}
+
+void clsPrice::FindMultiPrice(const QString& price, QString& value, QString& description) const
+{
+    for (const std::shared_ptr<clsMultiPrice>& multiPrice : MultiPriceCollection()) {
+        if (multiPrice->NewValue() == price) {
+            value = multiPrice->Value;
+            description = multiPrice->Description;
+            return;
+        }
+    }
+    value = Value;
+    description.clear();
+}
+
+std::shared_ptr<clsPrice> clsPrice::CreateClone()
+{
+    auto clone = std::make_shared<clsPrice>(*m_clock);
+    clone->setDiscount(Discount()->CreateClone());
+    for (const std::shared_ptr<clsMultiPrice>& multiPrice : MultiPriceCollection()) {
+        clone->AddExistingMultiPrice(multiPrice->CreateClone());
+    }
+    clone->PriceType = PriceType;
+    clone->Selected = Selected;
+    clone->Value = Value;
+    return clone;
+}

@@ -1,0 +1,19 @@
+#include "model/clsTax.h"
+
+#include "model/CommonFunctions.h"
+#include "model/clsCharge.h"
+
+QString clsTax::Percent() const
+{
+    return NormalizeDecimal(m_percent);
+}
+
+QString clsTax::IsCheckedString() const
+{
+    return FlagText(IsChecked);
+}
+
+void clsTax::setIsCheckedString(const QString& text)
+{
+    SetFlag(IsChecked, text);
+}

@@ -1,0 +1,406 @@
+#include "RandomShop.h"
+
+#include "base/Dates.h"
+#include "model/ObjectsCollection.h"
+#include "support/TestSupport.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList& oddTexts()
+{
+    static const QStringList texts = {
+        QString(),
+        u" "_s,
+        u"  \t "_s,
+        u"\r\n"_s,
+        u"\r"_s,
+        u"plain"_s,
+        u" blanks around "_s,
+        u"one\r\ntwo\nthree\rfour"_s,
+        u"<b>bold</b> &amp; &lt;"_s,
+        u"&#13;&#0;"_s,
+        u"]]>"_s,
+        u"<![CDATA[x]]>"_s,
+        u"<!-- no comment -->"_s,
+        u"\"quoted\" 'too'"_s,
+        u"\u00E4\u00F6\u00FC\u00DF \u0416 \u4E2D"_s,
+        u"\U0001F375\U0010FFFD"_s,
+        u"\uFEFFmark"_s,
+        u"\u0085\u2028\uFFFD\u007F"_s,
+        u"Yes"_s,
+        u"No"_s,
+        u"12,50"_s,
+        u"12.50"_s,
+        u"hueraga"_s,
+        u"HUERAGA "_s,
+        u"C:\\x/../y"_s,
+        u"%1 %20 %"_s,
+    };
+    return texts;
+}
+
+} // namespace
+
+QString RandomShop::text()
+{
+    QString result;
+    for (int i = number(0, 2); i >= 0; --i) {
+        result += oddTexts()[number(0, static_cast<int>(oddTexts().size()) - 1)];
+    }
+    return result == u"HUERAGA"_s ? QString() : result;
+}
+
+QString RandomShop::uniqueText()
+{
+    return text() + u"#%1"_s.arg(++m_unique);
+}
+
+QString RandomShop::decimal()
+{
+    return Localised(u"%1.%2"_s.arg(number(0, 999)).arg(number(1, 99), 2, 10, QChar(u'0')));
+}
+
+// A 29 February does not come back, so there is none.
+QString RandomShop::date()
+{
+    return chance(40) ? QString() : LocalDateText(QDate(number(1900, 5100), number(1, 12), number(1, 28)));
+}
+
+void RandomShop::fillDiscount(clsDiscount& discount, bool hasBands)
+{
+    discount.Status = number(1, 5);
+    discount.DateFrom = date();
+    discount.DateTo = date();
+    if (!hasBands) {
+        discount.setSpecific(decimal());
+        return;
+    }
+    discount.setApplyToWhole(decimal());
+    for (int i = number(0, 3); i > 0; --i) {
+        discount.DependedDiscounts()->Add(decimal(), decimal(), decimal());
+    }
+}
+
+void RandomShop::fillImage(clsSelectedImage& image)
+{
+    image.imageFileName = chance(50) ? QString() : u"picture %1.png"_s.arg(number(1, 99));
+    if (!image.imageFileName.isEmpty() || chance(20)) {
+        image.setWidthBmp(static_cast<qint16>(number(1, 32767)));
+        image.setHeightBmp(static_cast<qint16>(number(1, 32767)));
+    }
+}
+
+void RandomShop::fillProduct(ShopSession& session, ProductClass& product)
+{
+    product.shop = session.shop.get();
+    product.name = text();
+    product.Description = text();
+    product.Code = text();
+    product.Price()->Value = chance(70) ? decimal() : QString();
+    product.ForSale = chance(50);
+    product.Unit = text();
+    product.LINK = text();
+    fillImage(*product.selectedImage());
+    fillDiscount(*product.Price()->Discount(), false);
+    product.ShippingStatus = text();
+    product.Weight = decimal();
+    if (const auto types = session.shop->ShippingTypeName) {
+        for (const QString& type : *types) {
+            product.ShippingCosts()->Add(chance(80) ? decimal() : QString(), type);
+        }
+    }
+    for (int i = number(0, 2); i > 0; --i) {
+        const auto variant = product.Price()->AddMultiPrice();
+        variant->Description = text();
+        variant->Value = QString::number(number(0, 99)); // only what the plain scan gives back
+    }
+    QStringList ids;
+    for (int i = number(0, 3); i > 0; --i) {
+        ids.append(chance(80) ? QString::number(number(1, 99)) : text());
+    }
+    product.setRelatedIds(ids);
+}
+
+void RandomShop::fillCategory(ShopSession& session, const std::shared_ptr<CategoryClass>& category, int level)
+{
+    category->id = chance(90) ? QString::number(++m_id) : uniqueText();
+    category->name = text();
+    category->Description = text();
+    fillImage(*category->selectedImage());
+    fillDiscount(*category->Discount(), true);
+    for (int i = level < 3 ? number(0, 2) : 0; i > 0; --i) {
+        const auto child = std::make_shared<CategoryClass>(session.services);
+        child->parentCategory = category;
+        fillCategory(session, child, level + 1);
+        category->Discount()->AddChildDiscount(child->Discount(), child->id);
+        category->categories.Add(child, NodeKey(child->id));
+    }
+    for (int i = number(0, 3); i > 0; --i) {
+        const auto product = std::make_shared<ProductClass>(session.services);
+        product->id = chance(90) ? QString::number(++m_id) : uniqueText();
+        product->category = category;
+        fillProduct(session, *product);
+        category->Discount()->AddChildDiscount(product->Price()->Discount(), product->id);
+        category->products.Add(product, NodeKey(product->id));
+    }
+}
+
+void RandomShop::fillTables(ShopClass& shop)
+{
+    const auto texts = [] { return std::make_shared<TextCollection>(); };
+    shop.SelectedCountries = texts();
+    for (int i = number(0, 4); i > 0; --i) {
+        const QString country = uniqueText();
+        shop.SelectedCountries->Add(country, country);
+    }
+    // A reader finds an empty list of types where the writer had none, so that there is always one.
+    shop.ShippingTypeName = texts();
+    shop.ShippingTypeDescription = texts();
+    const int types = number(0, 3);
+    for (int i = 0; i < types; ++i) {
+        shop.ShippingTypeName->Add(uniqueText(), u"ship_name%1"_s.arg(i));
+        shop.ShippingTypeDescription->Add(text(), u"ship_desc%1"_s.arg(i));
+    }
+    if (const int frames = number(0, 3); frames > 0) {
+        shop.ShippingCostFrameFrom = texts();
+        shop.ShippingCostFrameTo = texts();
+        shop.ShippingCosts = std::make_shared<KeyedCollection<TextCollection>>();
+        for (int frame = 0; frame < frames; ++frame) {
+            shop.ShippingCostFrameFrom->Add(decimal(), u"from%1"_s.arg(frame));
+            shop.ShippingCostFrameTo->Add(decimal(), u"to%1"_s.arg(frame));
+            TextCollection costs;
+            for (int i = 0; i < types; ++i) {
+                costs.Add(decimal(), u"cost%1"_s.arg(i));
+            }
+            shop.ShippingCosts->Add(std::move(costs));
+        }
+    }
+    for (int i = number(0, 3); i > 0; --i) {
+        clsTax tax;
+        tax.TaxName = text();
+        tax.setPercent(decimal());
+        tax.IsChecked = chance(50);
+        shop.Taxes.Add(std::move(tax));
+        clsCharge charge;
+        charge.Destination = text();
+        charge.Cost = decimal();
+        charge.IsChecked = chance(50);
+        shop.Charges.Add(std::move(charge));
+    }
+}
+
+void RandomShop::fillDesign(ShopDesignClass& design)
+{
+    for (const DesignOptionRow& row : DesignOptionTable()) {
+        design.setOption(row.option, text());
+    }
+    for (std::size_t i = 0; i < ImageSlotCount; ++i) {
+        clsSelectedImage& image = *design.Image(static_cast<ImageSlot>(i));
+        image.SelectionType = static_cast<ImageSelection>(number(0, 2));
+        image.TextValue = text();
+        if (image.SelectionType == ImageSelection::Image) {
+            fillImage(image); // the size of any other slot is not read back
+        }
+    }
+    for (std::size_t i = 0; i < PageSelectionCount; ++i) {
+        for (int names = number(0, 3); names > 0; --names) {
+            design.Pages(static_cast<PageSelection>(i))->Add(uniqueText());
+        }
+    }
+}
+
+void RandomShop::fill(ShopSession& session)
+{
+    ShopClass& shop = *session.shop;
+    shop.Version = u"1.2.0"_s;
+    shop.ShippingChargesAreSelected = chance(50);
+    shop.TaxesAreSelected = chance(50);
+    shop.shop_currency = text();
+    shop.MaxProductId = QString::number(number(1000, 2000));
+    shop.name = text();
+    shop.Description = text();
+    fillDiscount(*shop.Discount(), true);
+    fillTables(shop);
+    for (int i = number(0, 3); i > 0; --i) {
+        const auto category = std::make_shared<CategoryClass>(session.services);
+        fillCategory(session, category, 1);
+        shop.categories.Add(category, NodeKey(category->id));
+        shop.Discount()->AddChildDiscount(category->Discount(), category->id);
+    }
+    for (int i = number(0, 3); i > 0; --i) {
+        const auto style = std::make_shared<CSSClass>();
+        style->CSSName = uniqueText();
+        for (QString* member : {&style->FontName, &style->FontSize, &style->IsBold, &style->IsCursive,
+                                &style->IsUndcelined, &style->IsLineThrugh}) {
+            *member = text();
+        }
+        shop.CSSs.Add(style, NodeKey(style->CSSName));
+        const auto page = std::make_shared<CustomPageClass>();
+        page->pageName = uniqueText();
+        page->ImageName = text();
+        page->ImageAligment = text();
+        page->ContentText = text();
+        shop.CustomPages.Add(page, page->pageName);
+    }
+    fillDesign(*shop.ShopDesign);
+    shop.Discount()->SendDiscountToChilds(shop.Discount()->DateFrom, shop.Discount()->DateTo);
+}
+
+// ---- Description ----
+
+namespace {
+
+class Describer
+{
+public:
+    QStringList lines;
+
+    void add(const QString& name, const QString& value) { lines.append(m_place + u'/' + name + u'=' + value); }
+    void add(const QString& name, int value) { add(name, QString::number(value)); }
+
+    // Describes a part of the whole under a place of its own.
+    template <class Work>
+    void inside(const QString& place, Work&& work)
+    {
+        const QString before = m_place;
+        m_place += u'/' + place;
+        work();
+        m_place = before;
+    }
+
+    void texts(const QString& name, const std::shared_ptr<TextCollection>& collection)
+    {
+        add(name, collection ? collection->Count() : -1);
+        if (collection) {
+            for (const QString& text : *collection) {
+                add(name, text);
+            }
+        }
+    }
+
+    void discount(clsDiscount& discount)
+    {
+        add(u"Status"_s, discount.Status);
+        add(u"DateFrom"_s, discount.DateFrom);
+        add(u"DateTo"_s, discount.DateTo);
+        add(u"Specific"_s, discount.Specific());
+        add(u"ApplyToWhole"_s, discount.ApplyToWhole());
+        add(u"Inherit"_s, discount.Inherit);
+        add(u"Childs"_s, discount.Childs().Count());
+        for (const clsDependedDiscount& band : *discount.DependedDiscounts()) {
+            add(u"band"_s, band.PriceFrom() + u'|' + band.PriceTo() + u'|' + band.Value());
+        }
+        add(u"bands from above"_s, discount.ParentDependDiscounts ? discount.ParentDependDiscounts->Count() : -1);
+    }
+
+    void image(const clsSelectedImage& image)
+    {
+        add(u"image"_s, image.imageFileName);
+        add(u"type"_s, static_cast<int>(image.SelectionType));
+        add(u"text"_s, image.TextValue);
+        add(u"width"_s, image.cachedSize().width);
+        add(u"height"_s, image.cachedSize().height);
+    }
+
+    void product(ProductClass& product)
+    {
+        for (const QString& text : {product.id, product.name, product.Description, product.Code, product.Price()->Value,
+                                    product.Unit, product.LINK, product.ShippingStatus, product.Weight}) {
+            add(u"text"_s, text);
+        }
+        add(u"ForSale"_s, product.ForSale ? 1 : 0);
+        add(u"related"_s, product.related.join(u'|'));
+        image(*product.selectedImage());
+        discount(*product.Price()->Discount());
+        texts(u"costs"_s, product.ShippingCosts());
+        for (const auto& variant : product.Price()->MultiPriceCollection()) {
+            add(variant->Description, variant->Value);
+        }
+    }
+
+    void category(CategoryClass& category)
+    {
+        for (const QString& text : {category.id, category.name, category.Description}) {
+            add(u"text"_s, text);
+        }
+        image(*category.selectedImage());
+        discount(*category.Discount());
+        for (const auto& child : category.categories) {
+            inside(u"category "_s + child->id, [&] { this->category(*child); });
+        }
+        for (const auto& child : category.products) {
+            inside(u"product "_s + child->id, [&] { product(*child); });
+        }
+    }
+
+    void design(const ShopDesignClass& design)
+    {
+        for (const DesignOptionRow& row : DesignOptionTable()) {
+            add(row.name, design.Option(row.option));
+        }
+        for (std::size_t i = 0; i < ImageSlotCount; ++i) {
+            image(*design.Image(static_cast<ImageSlot>(i)));
+        }
+        for (std::size_t i = 0; i < PageSelectionCount; ++i) {
+            for (const QString& name : design.Pages(static_cast<PageSelection>(i))->selectedPages()) {
+                add(u"page %1"_s.arg(i), name);
+            }
+        }
+    }
+
+    void tables(const ShopClass& shop)
+    {
+        texts(u"countries"_s, shop.SelectedCountries);
+        texts(u"types"_s, shop.ShippingTypeName);
+        texts(u"type descriptions"_s, shop.ShippingTypeDescription);
+        texts(u"from"_s, shop.ShippingCostFrameFrom);
+        texts(u"to"_s, shop.ShippingCostFrameTo);
+        if (shop.ShippingCosts) {
+            for (const TextCollection& row : *shop.ShippingCosts) {
+                texts(u"costs"_s, std::make_shared<TextCollection>(row));
+            }
+        }
+        for (const clsTax& tax : shop.Taxes) {
+            add(tax.TaxName, tax.Percent() + tax.IsCheckedString());
+        }
+        for (const clsCharge& charge : shop.Charges) {
+            add(charge.Destination, charge.Cost + charge.IsCheckedString());
+        }
+    }
+
+private:
+    QString m_place;
+};
+
+} // namespace
+
+QStringList Described(ShopClass& shop)
+{
+    Describer describer;
+    for (const QString& text : {shop.name, shop.Description, shop.shop_currency, shop.Version, shop.MaxProductId}) {
+        describer.add(u"text"_s, text);
+    }
+    describer.add(u"charges"_s, shop.ShippingChargesAreSelected ? 1 : 0);
+    describer.add(u"taxes"_s, shop.TaxesAreSelected ? 1 : 0);
+    describer.discount(*shop.Discount());
+    describer.tables(shop);
+    for (const auto& category : shop.categories) {
+        describer.inside(u"category "_s + category->id, [&] { describer.category(*category); });
+    }
+    for (const auto& style : shop.CSSs) {
+        for (const QString& text :
+             {style->CSSName, style->ForeGroundColor, style->BackGroundColor, style->FontName, style->FontSize,
+              style->IsBold, style->IsCursive, style->IsUndcelined, style->IsLineThrugh}) {
+            describer.add(u"style"_s, text);
+        }
+    }
+    for (const auto& page : shop.CustomPages) {
+        for (const QString& text : {page->pageName, page->ImageName, page->ImageAligment, page->ContentText}) {
+            describer.add(u"page"_s, text);
+        }
+    }
+    describer.design(*shop.ShopDesign);
+    return describer.lines;
+}

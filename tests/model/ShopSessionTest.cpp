@@ -1,0 +1,58 @@
+#include "model/ShopSession.h"
+
+#include "ShopFixture.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Sessions = ShopFixture;
+
+TEST_F(Sessions, ANewOneHasNothingYet)
+{
+    EXPECT_EQ(session.shop, nullptr);
+    EXPECT_EQ(session.Cart, nullptr);
+    EXPECT_FALSE(session.objects.isCreated());
+    EXPECT_TRUE(session.CountriesCollection.isEmpty());
+    EXPECT_EQ(session.LoadedShopVersion, QString());
+    EXPECT_EQ(ErrorOf([this] { CurrentShop(session.services); }), 91);
+}
+
+TEST_F(Sessions, TheServicesAreThoseOfTheSession)
+{
+    ASSERT_EQ(load(shopFile("")), 0);
+    EXPECT_EQ(&CurrentShop(session.services), session.shop.get());
+    EXPECT_EQ(&session.services.objects, &session.objects);
+    EXPECT_EQ(&session.services.design.log, &session.log);
+    EXPECT_EQ(&session.services.clock, &clock);
+}
+
+TEST_F(Sessions, ItsOwnSaveWritesTheFile)
+{
+    ASSERT_EQ(load(shopFile("")), 0);
+    session.shop->name = u"changed"_s;
+    session.callbacks.SaveShop();
+    EXPECT_TRUE(FileBytes(session.folder.shopFile()).contains("<Name>changed</Name>"));
+}
+
+TEST_F(Sessions, NodesOfTheSessionAreEnteredWithAllTheirContents)
+{
+    ASSERT_EQ(load(shopFile(category("2", category("3", product("4", "")) + product("5", "")))), 0);
+    session.objects.create();
+    session.registerCategory(rootCategory());
+    EXPECT_EQ(session.objects.items().Count(), 4);
+    EXPECT_EQ(ErrorOf([this] { session.registerProduct(firstProduct()); }), 457);
+}
+
+TEST_F(Sessions, TwoSessionsDoNotKnowOfEachOther)
+{
+    TemporaryShopFolder otherFolder;
+    ShopSession other(otherFolder.folder(), prompts, clock);
+    WriteFile(other.folder.shopFile(), shopFile("", "1.2.0"));
+    ASSERT_EQ(load(shopFile(category("2", ""))), 0);
+    other.loadShop();
+    EXPECT_EQ(other.shop->categories.Count(), 0);
+    EXPECT_EQ(session.shop->categories.Count(), 1);
+}
+
+} // namespace
