@@ -1,0 +1,84 @@
+#include "pages/CheckoutPage.h"
+
+#include "pages/TemplateUtils.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using enum DesignOption;
+
+namespace {
+
+constexpr DesignOption Options[] = {
+    BuyingForm_PageHeaderText,
+    BuyingForm_IncludeBreadCrumb,
+    BuyingForm_IncludePageHeader,
+};
+
+VariableRows TaxRows(const PageContext& context)
+{
+    VariableRows rows;
+    for (const clsTax& tax : context.shop().Taxes) {
+        if (!tax.IsChecked)
+            continue;
+        Variables row = context.newVariables();
+        row.Add(u"tax_name", tax.TaxName);
+        row.Add(u"tax_percent", tax.Percent());
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+VariableRows ChargeRows(const PageContext& context)
+{
+    VariableRows rows;
+    for (const clsCharge& charge : context.shop().Charges) {
+        if (!charge.IsChecked)
+            continue;
+        Variables row = context.newVariables();
+        row.Add(u"destination", charge.Destination);
+        row.Add(u"cost", charge.Cost);
+        row.Add(u"shop_currency", context.shop().shop_currency);
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+VariableRows CountryRows(const PageContext& context)
+{
+    VariableRows rows;
+    if (context.shop().SelectedCountries == nullptr)
+        return rows;
+    for (const QString& country : *context.shop().SelectedCountries) {
+        Variables row = context.newVariables();
+        row.Add(u"country", country);
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+// The lists of this page are missing when they would have no rows.
+void AddRows(Variables& vars, QStringView key, VariableRows rows)
+{
+    if (!rows.empty())
+        vars.Add(key, std::move(rows));
+}
+
+} // namespace
+
+void AddCheckoutPage(Variables& vars, const PageContext& context)
+{
+    const ShopClass& shop = context.shop();
+    AddSlotVariables(vars, context, ImageSlot::BuyingFormMakeOrderButton);
+    AddOptions(vars, context.design(), Options);
+    // Only the hosted shop knows of errors in the form.
+    vars.Add(u"error", u"No"_s);
+    vars.Add(u"shop_name", shop.name);
+    vars.Add(u"price", context.cart().TotalCost());
+    AddSlotVariables(vars, context, ImageSlot::CartRecalculateButton);
+    AddRows(vars, u"taxes", TaxRows(context));
+    vars.Add(u"ShippingChargesAreSelected", shop.ShippingChargesAreSelected);
+    vars.Add(u"TaxesAreSelected", shop.TaxesAreSelected);
+    AddRows(vars, u"charges", ChargeRows(context));
+    AddRows(vars, u"SelectedCountries", CountryRows(context));
+}

@@ -1,0 +1,13 @@
+#include "pages/FooterPage.h"
+
+#include "pages/TemplateUtils.h"
+
+using enum DesignOption;
+
+void AddFooterPage(Variables& vars, const PageContext& context)
+{
+    const ShopDesignClass& design = context.design();
+    vars.Add(u"COPYRIGHT_TEXT", design.Option(Footer_CopyrightText));
+    vars.Add(u"Footer_ShowMenu", design.Option(Footer_ShowMenu));
+    AddCustomPageList(vars, context, *design.Pages(PageSelection::FooterCustomPageSelected));
+}

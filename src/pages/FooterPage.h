@@ -1,0 +1,7 @@
+// The footer, a piece of every shown page: the copyright line and a menu of custom pages.
+#pragma once
+
+#include "pages/PageContext.h"
+
+// Adds the piece's variables behind those of all pages.
+void AddFooterPage(Variables& vars, const PageContext& context);

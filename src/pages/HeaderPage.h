@@ -1,0 +1,7 @@
+// The header, a piece of every shown page: logo, search box, cart button and a menu of custom pages.
+#pragma once
+
+#include "pages/PageContext.h"
+
+// Adds the piece's variables behind those of all pages. Errors as for AddImageVariables.
+void AddHeaderPage(Variables& vars, const PageContext& context);

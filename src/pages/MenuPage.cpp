@@ -1,0 +1,65 @@
+#include "pages/MenuPage.h"
+
+#include "pages/TemplateUtils.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using enum DesignOption;
+
+namespace {
+
+constexpr DesignOption OptionsAheadOfTheCart[] = {
+    Menu_TopCategories, Menu_SearchButton, Menu_SearchTextfield, Menu_ShowMenu, Menu_ProductNames,
+};
+
+constexpr DesignOption OptionsBehindTheCart[] = {
+    Menu_CartButton,
+    Menu_IncludeHeaderTopCategory,
+    Menu_HeaderTopCategoryText,
+};
+
+VariableRows CategoryRows(const PageContext& context)
+{
+    VariableRows rows;
+    for (const auto& category : context.shop().categories) {
+        Variables row = context.newVariables();
+        row.Add(u"category_id", category->id);
+        row.Add(u"category_name", category->name);
+        row.Add(u"server", ServerAddress());
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+VariableRows CartRows(const PageContext& context)
+{
+    VariableRows rows;
+    for (const auto& line : context.cart()) {
+        Variables row = context.newVariables();
+        row.Add(u"name", line->ProductName());
+        row.Add(u"id", line->id);
+        row.Add(u"quantity", line->Quantity);
+        row.Add(u"server", ServerAddress());
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+} // namespace
+
+void AddMenuPage(Variables& vars, const PageContext& context)
+{
+    const ShopDesignClass& design = context.design();
+    vars.Add(u"categories", CategoryRows(context));
+    vars.Add(u"shop_name", context.shop().name);
+    AddSlotVariables(vars, context, ImageSlot::CartPage_Checkout_Button);
+    AddSlotVariables(vars, context, ImageSlot::MenuSearchButton);
+    AddSlotVariables(vars, context, ImageSlot::MenuShoppingCartButton);
+    AddCustomPageList(vars, context, *design.Pages(PageSelection::MenuCustomPageSelected));
+    AddOptions(vars, design, OptionsAheadOfTheCart);
+    // Here the guard exists in any case, unlike the one of the cart page.
+    vars.Add(u"HAS_ITEMS", context.cart().Count() != 0 ? u"Yes"_s : QString());
+    vars.Add(u"products", CartRows(context));
+    AddOptions(vars, design, OptionsBehindTheCart);
+}

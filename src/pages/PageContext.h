@@ -1,0 +1,30 @@
+// What every page is made from: the session with its shop, its cart and its catalogue, and the templates with their
+// table of names. It refers to both and is cheap to copy; the preview makes one.
+#pragma once
+
+#include "base/ApplicationFolder.h"
+#include "model/ShopSession.h"
+#include "template_engine/Templates_Set.h"
+
+class PageContext
+{
+public:
+    // Both must outlive the context.
+    PageContext(ShopSession& session, Templates_Set& templates) : m_session(&session), m_templates(&templates) {}
+
+    // Each raises error 91 when there is none.
+    const std::shared_ptr<ShopClass>& sharedShop() const;
+    ShopClass& shop() const { return *sharedShop(); }
+    ShopDesignClass& design() const;
+    clsCart& cart() const;
+
+    const ObjectsCollection& objects() const { return m_session->objects; }
+    const ApplicationFolder& folder() const { return m_session->folder; }
+    const Templates_Set& templates() const { return *m_templates; }
+    // An empty set of variables for these templates.
+    Variables newVariables() const { return Variables(m_templates->names); }
+
+private:
+    ShopSession* m_session;
+    Templates_Set* m_templates;
+};

@@ -1,0 +1,241 @@
+#include "pages/PreviewNavigation.h"
+
+#include "base/Numbers.h"
+#include "model/CommonFunctions.h"
+#include "pages/PreviewUrl.h"
+#include "pages/ProductSearch.h"
+#include "pages/TemplateUtils.h"
+
+#include <cmath>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto HomePage = "Home page"_L1;
+constexpr auto CartPage = "Shopping cart page"_L1;
+
+enum class Request {
+    Foreign, // not for the shop's server
+    MainPage,
+    Category,
+    Product,
+    AddToCart,
+    ShoppingCart,
+    Search,
+    CustomPage,
+    Checkout,
+    Unknown, // for the shop's server, which does not know it
+    Recalculation,
+};
+
+// What stands behind the server's address. As many characters are cut off as that has, wherever it stands.
+QString QueryOf(const QString& url)
+{
+    return url.sliced(ServerAddress().size());
+}
+
+// The first rule that fits counts. Some rules look at the query only, some at the whole address: this is meant.
+Request RequestOf(const QString& url, const QString& query)
+{
+    if (!url.contains(ServerAddress()))
+        return Request::Foreign;
+    if (query == "MAINPAGE"_L1)
+        return Request::MainPage;
+    if (query.startsWith("ACTION=category.php"_L1))
+        return Request::Category;
+    if (query.startsWith("ACTION=product.php"_L1))
+        return Request::Product;
+    // Only the key without a value adds to the cart.
+    if (GetUrlParam(url, u"addtoshopcart"_s, u"nothing"_s).isEmpty())
+        return Request::AddToCart;
+    const QString action = GetUrlParam(url, u"ACTION"_s, u"qqq"_s);
+    if (action == "shopcart.php"_L1)
+        return Request::ShoppingCart;
+    if (action == "search.php"_L1)
+        return Request::Search;
+    if (query.startsWith("ACTION=custompage.php&name="_L1))
+        return Request::CustomPage;
+    if (query.startsWith("?ACTION=checkout.php"_L1))
+        return Request::Checkout;
+    if (!query.endsWith("ACTION=checkout.php"_L1))
+        return Request::Unknown;
+    return query.contains("recalculate"_L1) ? Request::Recalculation : Request::Unknown;
+}
+
+// The cart is shown at the end for every address with this word in it, of whatever host.
+bool ShowsCartAtTheEnd(const QString& url)
+{
+    return url.contains("addtoshopcart"_L1);
+}
+
+// A price as the cart keeps it: the number that the text begins with.
+QString CartPrice(const QString& text)
+{
+    return NumberToText(Val(DecodeUrlText(text)));
+}
+
+// A field of the checkout form. Its comma is one of the user's locale, so it must not become a point.
+float SingleOfField(const QString& url, const QString& key)
+{
+    QString text = GetUrlParam(url, key, u"0"_s);
+    text.replace("%2C"_L1, ","_L1);
+    const double number = text.isEmpty() ? 0.0 : NumberFromText(text);
+    if (std::abs(number) > static_cast<double>(std::numeric_limits<float>::max()))
+        throw RuntimeError(ErrorNumber::Overflow);
+    return static_cast<float>(number);
+}
+
+} // namespace
+
+NavigationDecision PreviewNavigation::judge(const QString& url)
+{
+    if (!url.contains(ServerAddress()))
+        return {false, ShowsCartAtTheEnd(url)};
+    const QString query = QueryOf(url);
+    const bool isUnknown = !query.isEmpty() && RequestOf(url, query) == Request::Unknown;
+    return {true, !isUnknown || ShowsCartAtTheEnd(url)};
+}
+
+void PreviewNavigation::act(const QString& url)
+{
+    QString query;
+    if (url.contains(ServerAddress())) {
+        query = QueryOf(url);
+        if (query.isEmpty())
+            query = homeQuery();
+    }
+    switch (RequestOf(url, query)) {
+    case Request::MainPage:
+        showMain();
+        break;
+    case Request::Category:
+        showCategory(url);
+        break;
+    case Request::Product:
+        showProduct(url);
+        break;
+    case Request::AddToCart:
+        addToCart(url);
+        break;
+    case Request::ShoppingCart:
+        recalculateLine(url);
+        showCart();
+        break;
+    case Request::Search:
+        showFoundProducts(url);
+        break;
+    case Request::CustomPage:
+        showNamedPage(DecodeUrlText(GetUrlParam(query, u"name"_s, HomePage)));
+        break;
+    case Request::Checkout:
+        showCheckout();
+        break;
+    case Request::Recalculation:
+        setTaxAndCharge(url);
+        showCheckout();
+        break;
+    case Request::Foreign:
+    case Request::Unknown:
+        break;
+    }
+    if (ShowsCartAtTheEnd(url)) {
+        const PageObject last = m_page.lastPageObject();
+        m_page.ShowPreviewPage(u"cart"_s, last);
+    }
+}
+
+void PreviewNavigation::openPreview()
+{
+    const auto& pages = m_page.context().design().Pages(PageSelection::CustomPageAsMainPage)->selectedPages();
+    if (pages.isEmpty()) {
+        showMain();
+    } else {
+        showNamedPage(pages.Item(1));
+    }
+}
+
+// With no page chosen this asks for a custom page "Home Page", with a capital P, which is not the shop's own "Home
+// page": this is meant.
+QString PreviewNavigation::homeQuery() const
+{
+    const auto& pages = m_page.context().design().Pages(PageSelection::CustomPageAsMainPage)->selectedPages();
+    return u"ACTION=custompage.php&name="_s + (pages.isEmpty() ? u"Home Page"_s : pages.Item(1));
+}
+
+void PreviewNavigation::showCategory(const QString& url)
+{
+    m_page.ShowPreviewPage(u"category"_s, m_session.objects.Category(GetUrlParam(url, u"id"_s, {})));
+}
+
+void PreviewNavigation::showProduct(const QString& url)
+{
+    m_page.ShowPreviewPage(u"product"_s, m_session.objects.Product(GetUrlParam(url, u"id"_s, {})));
+}
+
+void PreviewNavigation::addToCart(const QString& url)
+{
+    const QString id = GetUrlParam(url, u"product_id"_s, u"0"_s);
+    const QString quantity = GetUrlParam(url, u"quantity"_s, u"1"_s);
+    const QString price = CartPrice(GetUrlParam(url, u"price"_s, u"0"_s));
+    const std::shared_ptr<ProductClass> product = m_session.objects.Product(id);
+    const std::shared_ptr<ProductClass> copy = CopyProductForPreview(*product);
+    copy->Price()->Selected = price;
+    m_page.context().cart().AddNewProduct(id, product->name, copy, price, quantity);
+}
+
+void PreviewNavigation::recalculateLine(const QString& url)
+{
+    const QString price = CartPrice(GetUrlParam(url, u"product_price"_s, u"0"_s));
+    const QString quantity = GetUrlParam(url, u"quantity"_s, u"0"_s);
+    const QString id = GetUrlParam(url, u"product_id"_s, u"-1"_s);
+    if (id != "-1"_L1)
+        m_page.context().cart().Recalculate(id, price, quantity);
+}
+
+void PreviewNavigation::showFoundProducts(const QString& url)
+{
+    const auto results = std::make_shared<SearchResults>();
+    results->word = GetUrlParam(url, u"what"_s, {}); // not decoded: this is meant
+    ProductSearch search(results->word);
+    for (const CatalogueObject& object : m_session.objects.items()) {
+        const auto* product = std::get_if<std::shared_ptr<ProductClass>>(&object);
+        if (product != nullptr && (search.isIn((*product)->name) || search.isIn((*product)->Description)))
+            results->products.push_back(*product);
+    }
+    m_page.ShowPreviewPage(u"search"_s, results);
+}
+
+void PreviewNavigation::showNamedPage(const QString& name)
+{
+    if (name == HomePage) {
+        showMain();
+    } else if (name == CartPage) {
+        showCart();
+    } else {
+        m_page.ShowPreviewPage(u"custompage"_s, shop()->CustomPages.Item(name));
+    }
+}
+
+void PreviewNavigation::setTaxAndCharge(const QString& url)
+{
+    clsCart& cart = m_page.context().cart();
+    cart.tax = SingleOfField(url, u"tax"_s);
+    cart.Charge = SingleOfField(url, u"charge"_s);
+}
+
+void PreviewNavigation::showMain()
+{
+    m_page.ShowPreviewPage(u"main"_s, shop());
+}
+
+void PreviewNavigation::showCart()
+{
+    m_page.ShowPreviewPage(u"cart"_s, {});
+}
+
+void PreviewNavigation::showCheckout()
+{
+    m_page.ShowPreviewPage(u"checkout"_s, shop());
+}

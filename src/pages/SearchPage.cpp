@@ -1,0 +1,64 @@
+#include "pages/SearchPage.h"
+
+#include "pages/ProductRows.h"
+#include "pages/TemplateUtils.h"
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+using enum DesignOption;
+
+namespace {
+
+constexpr DesignOption PageOptions[] = {SearchPage_IncludePageHeader, SearchPage_PageHeader};
+
+constexpr DesignOption ProductOptions[] = {
+    SearchPage_IncludeBreadcrumb,  SearchPage_IncludeImage,    SearchPage_IncludeAddToCart, SearchPage_IncludeName,
+    SearchPage_IncludeDescription, SearchPage_IncludePrice,    SearchPage_IncludeOldPrice,  SearchPage_IncludeNewPrice,
+    SearchPage_IncludeTaxes,       SearchPage_IncludeShipping, SearchPage_IncludeRelated,
+};
+
+constexpr VariantOptions PriceOptions = {
+    SearchPage_IncludeDescription, {SearchPage_IncludeOldPrice, SearchPage_IncludeNewPrice, SearchPage_IncludePrice}};
+
+VariableRows ProductRows(const PageContext& context, const SearchResults& results)
+{
+    const ShopDesignClass& design = context.design();
+    const ImageKeys imageKeys(u"CATEGORYPAGE_IMAGE");
+    SlotForRows cartButton(context, ImageSlot::SearchPageShoppingCartButton);
+    DescriptionCutter descriptions(design, SearchPage_Limit_Desc);
+    VariableRows rows;
+    rows.reserve(results.products.size());
+    for (const auto& product : results.products) {
+        const std::shared_ptr<clsPrice>& price = product->Price();
+        Variables row = context.newVariables();
+        row.Add(u"id", product->id);
+        row.Add(u"name", product->name);
+        row.Add(u"ForSale", product->ForSale);
+        row.Add(u"cut_count", design.Option(SearchPage_Limit_Desc));
+        row.Add(u"Product_PriceType", PriceTypeOf(*price));
+        if (HasVariants(*price)) {
+            row.Add(u"MultiplePrice", VariantRows(context, *price, PriceOptions));
+        } else {
+            AddSinglePrice(row, price);
+        }
+        AddImageVariables(row, context, *product->selectedImage(), imageKeys);
+        row.Add(u"description", descriptions.cut(product->Description));
+        cartButton.addTo(row);
+        AddOptions(row, design, ProductOptions);
+        row.Add(u"server", ServerAddress());
+        AddRelated(row, context, *product);
+        rows.push_back(std::move(row));
+    }
+    return rows;
+}
+
+} // namespace
+
+void AddSearchPage(Variables& vars, const PageContext& context, const SearchResults& results)
+{
+    vars.Add(u"products", ProductRows(context, results));
+    vars.Add(u"SEARCH_WORD", results.word);
+    vars.Add(u"HAS_ITEMS", results.products.empty() ? u"No"_s : u"Yes"_s);
+    AddOptions(vars, context.design(), PageOptions);
+}
