@@ -1,0 +1,131 @@
+#include "publish/UploadProtocol.h"
+
+#include "base/TextFile.h"
+#include "base/UserPrompts.h"
+#include "publish/VendorAddresses.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr const char* boundary = "AaB03x";
+
+// An answer may be a page of any size, a box cannot show it.
+constexpr qsizetype longestShownAnswer = 4000;
+
+QByteArray openingBoundary()
+{
+    return QByteArray("--") + boundary + "\r\n";
+}
+
+QByteArray field(const char* name, const QString& value)
+{
+    return openingBoundary() + "Content-Disposition: form-data; name=\"" + name + "\"\r\n\r\n" + RequestText(value) +
+           "\r\n";
+}
+
+struct StatusBox
+{
+    int status;
+    QLatin1StringView text;
+};
+
+constexpr std::array statusBoxes{
+    StatusBox{401, "Login or password isn't correct"_L1},
+    StatusBox{404, "Document not found"_L1},
+    StatusBox{500, "Server internal error"_L1},
+};
+
+QString textOfStatus(int status, const QString& responseText)
+{
+    const auto* known = std::find_if(statusBoxes.begin(), statusBoxes.end(),
+                                     [status](const StatusBox& box) { return box.status == status; });
+    if (known != statusBoxes.end()) {
+        return known->text;
+    }
+    return "Uploading is failed.\r\n"_L1 + responseText.left(longestShownAnswer) +
+           u"Error #%1\r\n"_s.arg(status); // no line end ahead of it: meant
+}
+
+void showRefusal(UserPrompts& prompts, int number, const QString& text)
+{
+    prompts.showMessage(u"Error %1"_s.arg(number), text, PromptIcon::Warning);
+}
+
+} // namespace
+
+QByteArray RequestContentType()
+{
+    return QByteArray("multipart/form-data, boundary=") + boundary;
+}
+
+QString NormalizedBaseUrl(const QString& typed)
+{
+    QString url = typed;
+    if (!url.startsWith("http://"_L1)) {
+        url.prepend("http://"_L1);
+    }
+    if (!url.endsWith(u'/')) {
+        url.append(u'/');
+    }
+    return url;
+}
+
+QByteArray RequestText(const QString& text)
+{
+    return EncodeText(text, TextEncoding::Windows1252);
+}
+
+QByteArray RequestHead(const QString& login, const QString& password, const QString& version)
+{
+    return field("username", login) + field("password", password) + field("version", version) + openingBoundary();
+}
+
+QByteArray UploadBody(const QByteArray& head, const QString& fileName, const QByteArray& contentType,
+                      const QByteArray& file)
+{
+    const QByteArray partHead = "Content-Disposition: form-data; name=\"file[]\"; filename=\"" + RequestText(fileName) +
+                                "\"\r\nContent-Type: " + contentType + "\r\n\r\n";
+    const QByteArray tail = QByteArray("\r\n--") + boundary + "--\r\n";
+    QByteArray body;
+    body.reserve(head.size() + partHead.size() + file.size() + tail.size());
+    body.append(head).append(partHead).append(file).append(tail);
+    return body;
+}
+
+QString AnswerText(const QByteArray& body)
+{
+    QString text;
+    for (qsizetype at = 0; at < body.size();) {
+        const qsizetype lineEnd = body.indexOf('\n', at);
+        const qsizetype end = lineEnd < 0 ? body.size() : lineEnd + 1;
+        text += DecodeText(QByteArray::fromRawData(body.constData() + at, end - at)).text;
+        at = end;
+    }
+    return text;
+}
+
+QString ReadAnswer(const HttpAnswer& answer, UserPrompts& prompts)
+{
+    QString responseText = AnswerText(answer.body);
+    if (answer.status != 200) {
+        showRefusal(prompts, answer.status, textOfStatus(answer.status, responseText));
+        return responseText;
+    }
+    // Three letters count, whatever stands behind them.
+    const QStringView inBandStatus = QStringView(responseText).left(3);
+    if (inBandStatus == "401"_L1) {
+        showRefusal(prompts, 0,
+                    "Incorrect login or password! In case you forgot your password please visit:\r\n"_L1 +
+                        VendorAddresses::PasswordRecovery());
+        return ErrorResult;
+    }
+    if (inBandStatus == "500"_L1) {
+        showRefusal(prompts, 0, u"Server internal error"_s);
+        return ErrorResult;
+    }
+    return responseText;
+}

@@ -1,0 +1,222 @@
+#include "publish/UploadRun.h"
+
+#include "base/ProgramVersion.h"
+#include "base/RuntimeError.h"
+#include "base/TextFile.h"
+#include "base/UserPrompts.h"
+#include "publish/FileListReader.h"
+#include "publish/UploadLog.h"
+#include "publish/UploadProtocol.h"
+
+#include <algorithm>
+#include <new>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString submitLogText(const QString& what)
+{
+    return what + "\r\nPlease, submit to vendor 'upload.log' file that located in app folder"_L1;
+}
+
+QString noListText()
+{
+    return submitLogText(u"Server error.\r\nServer didn't send image list."_s);
+}
+
+QString unknownErrorText()
+{
+    return submitLogText(u"Unknown error."_s);
+}
+
+TransferFailure failureOf(const RuntimeError& error)
+{
+    return {error.description(), static_cast<int>(error.number())};
+}
+
+// What goes wrong while files are sent is trapped; nothing when the work succeeds.
+template <class Work>
+std::optional<TransferFailure> trapped(Work work)
+{
+    try {
+        work();
+        return std::nullopt;
+    } catch (const RuntimeError& error) {
+        return failureOf(error);
+    } catch (const std::bad_alloc&) {
+        return failureOf(RuntimeError(ErrorNumber::OutOfMemory));
+    }
+}
+
+} // namespace
+
+UploadRun::UploadRun(const ApplicationFolder& folder, HttpClient& client, UserPrompts& prompts, UploadScreen& screen)
+    : m_folder(folder), m_client(client), m_prompts(prompts), m_screen(screen)
+{
+}
+
+UploadRun::~UploadRun()
+{
+    m_client.cancel();
+}
+
+void UploadRun::open()
+{
+    m_transferring = false;
+    m_failure.reset();
+}
+
+void UploadRun::start()
+{
+    if (m_transferring) {
+        return;
+    }
+    m_screen.setHourglass(true);
+    m_progress = 0;
+    m_screen.showProgress(m_progress);
+    m_transferring = true;
+
+    // A change of the fields during the transfer is for the next one.
+    const UploadFields fields = m_screen.fields();
+    m_baseUrl = NormalizedBaseUrl(fields.address);
+    m_screen.setAddress(m_baseUrl);
+    m_head = RequestHead(fields.login, fields.password, ProgramVersion());
+    post(ListURL, m_head, &UploadRun::listAnswered);
+}
+
+void UploadRun::abandon()
+{
+    m_client.cancel();
+    m_transferring = false;
+}
+
+void UploadRun::writeLog() const
+{
+    const UploadFields fields = m_screen.fields();
+    WriteUploadLog(m_folder, fields.login, fields.address, m_failure);
+}
+
+void UploadRun::post(QLatin1StringView page, const QByteArray& body, void (UploadRun::*answered)(const HttpAnswer&))
+{
+    m_client.post(m_baseUrl + page, RequestContentType(), body,
+                  [this, answered](const HttpAnswer& answer) { (this->*answered)(answer); });
+}
+
+void UploadRun::listAnswered(const HttpAnswer& answer)
+{
+    if (answer.failure) {
+        fail(*answer.failure, noListText());
+        m_screen.closeScreen();
+        return;
+    }
+    const QString result = ReadAnswer(answer, m_prompts);
+    if (!m_transferring) {
+        return; // the program ended while a box was shown
+    }
+    if (result == ErrorResult) {
+        stop();
+        return;
+    }
+    if (!ReadFileList(result, ProgramVersion(), m_serverFiles, m_prompts)) {
+        stop();
+        m_screen.closeScreen();
+        return;
+    }
+    startSending();
+}
+
+void UploadRun::startSending()
+{
+    UploadPlan plan(m_folder, m_serverFiles);
+    switch (plan.walkShopFile()) { // without a trap: its errors end the program, which is meant
+    case UploadPlan::Found::NoShop:
+        stopWithoutNode("Shop");
+        return;
+    case UploadPlan::Found::NoShopDesign:
+        stopWithoutNode("ShopDesign");
+        return;
+    case UploadPlan::Found::All:
+        break;
+    }
+    m_items = plan.items();
+    m_next = 0;
+    m_progressStep = plan.ProgressStep();
+    advance(2);
+    sendNext();
+}
+
+void UploadRun::sendNext()
+{
+    if (m_next == m_items.size()) {
+        complete();
+        return;
+    }
+    if (const auto failure = trapped([this] { sendItem(m_items[m_next]); })) {
+        fail(*failure, unknownErrorText());
+    }
+}
+
+void UploadRun::sendItem(const UploadItem& item)
+{
+    const UploadPart part = PartOf(item, m_folder);
+    post(UploadURL, UploadBody(m_head, part.fileName, part.contentType, ReadFileBytes(part.localFile)),
+         &UploadRun::itemAnswered);
+}
+
+void UploadRun::itemAnswered(const HttpAnswer& answer)
+{
+    if (answer.failure) {
+        fail(*answer.failure, unknownErrorText());
+        return;
+    }
+    const QString result = ReadAnswer(answer, m_prompts);
+    if (!m_transferring) {
+        return; // the program ended while a box was shown
+    }
+    if (result == ErrorResult) {
+        stop(); // what has been sent stays on the server
+        return;
+    }
+    advance(m_items[m_next].steps);
+    ++m_next;
+    sendNext();
+}
+
+void UploadRun::advance(int steps)
+{
+    m_progress = std::min(100, m_progress + steps * m_progressStep);
+    m_screen.showProgress(m_progress);
+}
+
+void UploadRun::complete()
+{
+    stop();
+    m_prompts.showMessage(u"Uploading data"_s, u"Complete"_s, PromptIcon::None);
+    m_screen.closeScreen();
+}
+
+void UploadRun::stop()
+{
+    m_screen.setHourglass(false);
+    m_transferring = false;
+    m_head.clear(); // holds the password
+}
+
+// The hourglass stays until the screen closes; this is meant.
+void UploadRun::stopWithoutNode(const char* tag)
+{
+    m_prompts.showMessage(u"Ambrel eCommerce Software"_s,
+                          u"Error in the configuration XML file. No '%1' node."_s.arg(QLatin1StringView(tag)),
+                          PromptIcon::None);
+    m_transferring = false;
+    m_head.clear();
+}
+
+void UploadRun::fail(const TransferFailure& failure, const QString& text)
+{
+    stop();
+    m_failure = failure;
+    writeLog();
+    m_prompts.showMessage(u"Uploading data"_s, text, PromptIcon::Critical);
+}

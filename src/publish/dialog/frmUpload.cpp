@@ -1,0 +1,257 @@
+#include "publish/dialog/frmUpload.h"
+
+#include "publish/UploadLog.h"
+#include "publish/VendorAddresses.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+frmUpload::frmUpload(const ApplicationFolder& folder, UserPrompts& prompts, FatalErrorHandler& errors,
+                     const OpenUrl& openUrl, QWidget* parent)
+    : QDialog(parent),
+      m_folder(folder),
+      m_errors(errors),
+      m_openUrl(openUrl),
+      m_client(errors),
+      m_run(folder, m_client, prompts, *this)
+{
+    setObjectName(u"frmUpload"_s);
+    setWindowTitle(tr("Uploading"));
+    makeControls();
+    layOutControls();
+
+    connect(OkBtn, &QPushButton::clicked, this, [this] { guarded(m_errors, [this] { m_run.start(); }); });
+    connect(CancelBtn, &QPushButton::clicked, this, &frmUpload::reject);
+    connect(lblSignUp, &QLabel::linkActivated, this, &frmUpload::openSignUpPage);
+    lblSignUp->installEventFilter(this);
+}
+
+frmUpload::~frmUpload() = default;
+
+void frmUpload::makeControls()
+{
+    struct Field
+    {
+        QLineEdit*& control;
+        const char* name;
+        QString accessibleName;
+    };
+    const std::array fields{
+        Field{txtURL, "txtURL", tr("Address of the shop")},
+        Field{txtLogin, "txtLogin", tr("Login")},
+        Field{txtPassword, "txtPassword", tr("Password")},
+    };
+    for (const Field& field : fields) {
+        field.control = new QLineEdit(this);
+        field.control->setObjectName(QLatin1StringView(field.name));
+        field.control->setAccessibleName(field.accessibleName);
+    }
+    txtURL->setText(VendorAddresses::DefaultShop());
+    txtURL->setInputMethodHints(Qt::ImhUrlCharactersOnly);
+    txtPassword->setEchoMode(QLineEdit::Password);
+
+    OkBtn = new QPushButton(tr("OK"), this);
+    OkBtn->setObjectName(u"OkBtn"_s);
+    OkBtn->setAccessibleName(tr("Start uploading"));
+    OkBtn->setDefault(true); // Enter
+    CancelBtn = new QPushButton(tr("Cancel"), this);
+    CancelBtn->setObjectName(u"CancelBtn"_s);
+    CancelBtn->setAccessibleName(tr("Close without uploading"));
+    CancelBtn->setAutoDefault(false); // Enter stays with OkBtn
+
+    ProgressBar = new QProgressBar(this);
+    ProgressBar->setObjectName(u"ProgressBar"_s);
+    ProgressBar->setAccessibleName(tr("Progress of the upload"));
+    ProgressBar->setRange(0, 100);
+    ProgressBar->setTextVisible(false);
+
+    lblSignUp = new QLabel(this);
+    lblSignUp->setObjectName(u"lblSignUp"_s);
+    lblSignUp->setTextFormat(Qt::RichText);
+    lblSignUp->setText(uR"(<a href="%1">%2</a>)"_s.arg(
+        VendorAddresses::SignUp(), tr("Don't have login and password. Sign up here").toHtmlEscaped()));
+    lblSignUp->setTextInteractionFlags(Qt::LinksAccessibleByMouse);
+    lblSignUp->setFocusPolicy(Qt::TabFocus);
+    lblSignUp->setAccessibleName(tr("Don't have login and password. Sign up here"));
+}
+
+void frmUpload::layOutControls()
+{
+    auto* fields = new QFormLayout;
+    fields->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
+    fields->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    fields->setHorizontalSpacing(16);
+    fields->setVerticalSpacing(10);
+    fields->addRow(tr("ADDRESS"), txtURL); // makes the label the field's own
+    fields->addRow(tr("LOGIN"), txtLogin);
+    fields->addRow(tr("PASSWORD"), txtPassword);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(OkBtn);
+    buttons->addWidget(CancelBtn);
+
+    // The hidden bar keeps its room, so that nothing moves when it comes.
+    QSizePolicy policy = ProgressBar->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    ProgressBar->setSizePolicy(policy);
+
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(20, 18, 20, 16);
+    all->setSpacing(14);
+    all->addLayout(fields);
+    all->addWidget(lblSignUp, 0, Qt::AlignLeft);
+    all->addWidget(ProgressBar);
+    all->addLayout(buttons);
+    txtURL->setMinimumWidth(320); // room for an address
+
+    const std::array<QWidget*, 6> order{txtURL, txtLogin, txtPassword, OkBtn, CancelBtn, lblSignUp};
+    for (std::size_t i = 1; i < order.size(); ++i) {
+        setTabOrder(order[i - 1], order[i]);
+    }
+}
+
+void frmUpload::showEvent(QShowEvent* event)
+{
+    if (!event->spontaneous()) { // not when a minimised window comes back
+        m_run.open();
+        ProgressBar->hide();
+        ProgressBar->setValue(0);
+        txtPassword->clear();
+        fillFromLog();
+        qApp->installEventFilter(this); // for the end of the program
+    }
+    QDialog::showEvent(event);
+}
+
+void frmUpload::fillFromLog()
+{
+    const RememberedUpload remembered = ReadUploadLog(m_folder);
+    txtLogin->setText(remembered.login.value_or(txtLogin->text()));
+    txtURL->setText(remembered.address.value_or(txtURL->text()));
+    (txtLogin->text().isEmpty() ? txtLogin : txtPassword)->setFocus();
+}
+
+void frmUpload::reject()
+{
+    if (!isTransferring()) {
+        QDialog::reject();
+    }
+}
+
+void frmUpload::done(int result)
+{
+    qApp->removeEventFilter(this);
+    setHourglass(false);
+    guarded(m_errors, [this] { m_run.writeLog(); });
+    QDialog::done(result);
+}
+
+void frmUpload::closeEvent(QCloseEvent* event)
+{
+    // The main window's own frame is out of reach behind this dialog. A server that never answers leaves the user this
+    // one, and what it closes then is the program, with the question that the main window asks.
+    if (isTransferring() && event->spontaneous() && parentWidget()) {
+        event->ignore();
+        QTimer::singleShot(0, parentWidget()->window(), &QWidget::close); // not inside of this event
+        return;
+    }
+    QDialog::closeEvent(event);
+}
+
+bool frmUpload::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == lblSignUp && signUpKeyPressed(event)) {
+        return true;
+    }
+    // The program ends while the dialog waits: it is told to quit, or the main window has gone.
+    const bool quits = watched == qApp && event->type() == QEvent::Quit;
+    const bool windowGoes =
+        parentWidget() && watched == parentWidget()->window() && event->type() == QEvent::Hide && !event->spontaneous();
+    if ((quits || windowGoes) && isTransferring()) {
+        abandonTransfer();
+    }
+    return QDialog::eventFilter(watched, event);
+}
+
+// The link by keyboard: it shows that it has the focus, and Space opens it. Enter belongs to OkBtn.
+bool frmUpload::signUpKeyPressed(QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        lblSignUp->setSelection(0, static_cast<int>(lblSignUp->accessibleName().size()));
+        return false;
+    case QEvent::FocusOut:
+        lblSignUp->setSelection(0, 0);
+        return false;
+    case QEvent::KeyPress:
+        if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {
+            openSignUpPage();
+            return true;
+        }
+        return false;
+    default:
+        return false;
+    }
+}
+
+void frmUpload::openSignUpPage()
+{
+    guarded(m_errors, [this] { m_openUrl(QUrl(VendorAddresses::SignUp())); });
+}
+
+void frmUpload::abandonTransfer()
+{
+    m_run.abandon();
+    done(Rejected);
+}
+
+UploadFields frmUpload::fields() const
+{
+    return {txtURL->text(), txtLogin->text(), txtPassword->text()};
+}
+
+void frmUpload::setAddress(const QString& address)
+{
+    txtURL->setText(address);
+}
+
+void frmUpload::setHourglass(bool on)
+{
+    // Fields and the link have pointers of their own.
+    for (QWidget* field : {txtURL, txtLogin, txtPassword}) {
+        field->setCursor(on ? Qt::WaitCursor : Qt::IBeamCursor);
+    }
+    lblSignUp->setCursor(on ? Qt::WaitCursor : Qt::ArrowCursor);
+    if (on) {
+        setCursor(Qt::WaitCursor);
+    } else {
+        unsetCursor();
+    }
+}
+
+void frmUpload::showProgress(int value)
+{
+    ProgressBar->setValue(value);
+    ProgressBar->show();
+}
+
+void frmUpload::closeScreen()
+{
+    if (isVisible()) {
+        done(Accepted);
+    }
+}
