@@ -1,0 +1,130 @@
+#include "editors/DateField.h"
+
+#include "base/Dates.h"
+#include "base/RuntimeError.h"
+
+#include <QAbstractItemView>
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScreen>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QRgb inUseColour = qRgb(255, 255, 255);
+constexpr QRgb greyedColour = qRgb(192, 192, 192);
+// Both backgrounds are light, whatever the palette.
+constexpr QRgb textColour = qRgb(31, 37, 51);
+
+std::optional<QDate> dateIn(const QString& text)
+{
+    try {
+        return DateFromLocalText(text);
+    } catch (const RuntimeError&) {
+        return {};
+    }
+}
+
+// A key that changes a text, and no key of the calendar's own.
+bool isTyping(const QKeyEvent& event)
+{
+    const QString text = event.text();
+    return event.key() == Qt::Key_Backspace || event.key() == Qt::Key_Delete ||
+           (!text.isEmpty() && text.front().isPrint() &&
+            !(event.modifiers() & (Qt::ControlModifier | Qt::AltModifier)));
+}
+
+} // namespace
+
+DateField::DateField(MonthCalendar& calendar, QWidget* parent) : QLineEdit(parent), m_calendar(calendar)
+{
+    setInUse(true);
+}
+
+void DateField::setInUse(bool inUse)
+{
+    setReadOnly(!inUse);
+    QPalette colours = palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        colours.setColor(group, QPalette::Base, inUse ? inUseColour : greyedColour);
+        colours.setColor(group, QPalette::Text, textColour);
+    }
+    setPalette(colours);
+}
+
+void DateField::mouseReleaseEvent(QMouseEvent* event)
+{
+    QLineEdit::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && !isReadOnly()) {
+        m_calendar.openUnder(*this);
+    }
+}
+
+void DateField::keyPressEvent(QKeyEvent* event)
+{
+    if ((event->key() == Qt::Key_Down || event->key() == Qt::Key_F4) && !isReadOnly()) {
+        m_calendar.openUnder(*this);
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+MonthCalendar::MonthCalendar(const Clock& clock, QWidget* parent) : QCalendarWidget(parent), m_clock(clock)
+{
+    setObjectName(u"DateMV"_s);
+    setAccessibleName(tr("Month calendar"));
+    setWindowFlags(Qt::Popup);
+    setDateEditEnabled(false);
+    setGridVisible(false);
+    setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+    setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
+    findChild<QAbstractItemView*>()->installEventFilter(this);
+
+    const auto pick = [this](const QDate& date) {
+        if (m_field) {
+            m_field->setText(LocalDateText(date));
+        }
+        hide();
+    };
+    connect(this, &QCalendarWidget::clicked, this, pick);   // with the mouse
+    connect(this, &QCalendarWidget::activated, this, pick); // with the Enter key
+}
+
+void MonthCalendar::openUnder(QLineEdit& field)
+{
+    m_field = &field;
+    setSelectedDate(dateIn(field.text()).value_or(m_clock.today()));
+    adjustSize();
+    QPoint place = field.mapToGlobal(QPoint(0, field.height()));
+    if (const QScreen* screen = field.screen()) {
+        // Inside the screen, when there is no room below.
+        const QRect room = screen->availableGeometry();
+        place.setX(qMax(room.left(), qMin(place.x(), room.right() - width())));
+        place.setY(qMax(room.top(), qMin(place.y(), room.bottom() - height())));
+    }
+    move(place);
+    show();
+    findChild<QAbstractItemView*>()->setFocus();
+}
+
+bool MonthCalendar::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::KeyPress && m_field) {
+        auto* key = static_cast<QKeyEvent*>(event);
+        if (key->key() == Qt::Key_Escape) {
+            hide();
+            return true;
+        }
+        if (isTyping(*key)) {
+            hide();
+            m_field->setFocus();
+            QCoreApplication::sendEvent(m_field, key);
+            return true;
+        }
+    }
+    return QCalendarWidget::eventFilter(watched, event);
+}

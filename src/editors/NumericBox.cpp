@@ -1,0 +1,59 @@
+#include "editors/NumericBox.h"
+
+#include "base/Numbers.h"
+#include "base/RuntimeError.h"
+#include "base/WholeNumbers.h"
+#include "model/CommonFunctions.h"
+
+NumericBox::NumericBox(Takes takes, QWidget* parent) : QLineEdit(parent), m_takes(takes)
+{
+    setAlignment(Qt::AlignRight);
+    connect(this, &QLineEdit::textEdited, this, &NumericBox::check);
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this](int /*from*/, int to) {
+        if (text() == m_accepted) {
+            m_cursor = to;
+        }
+    });
+}
+
+void NumericBox::fill(const QString& text)
+{
+    m_accepted = text;
+    setText(text);
+}
+
+bool NumericBox::accepts(const QString& text) const
+{
+    if (text.isEmpty()) {
+        return true; // counts as 0
+    }
+    try {
+        switch (m_takes) {
+        case Takes::Number:
+            NumberFromText(text);
+            break;
+        case Takes::NormalisedNumber:
+            NumberFromText(NormalizeDecimal(text));
+            break;
+        case Takes::WholeNumber:
+            Int16FromText(text);
+            break;
+        }
+        return true;
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
+void NumericBox::check(const QString& text)
+{
+    if (accepts(text)) {
+        m_accepted = text;
+        m_cursor = cursorPosition();
+        Q_EMIT edited(text);
+        return;
+    }
+    const int cursor = m_cursor;
+    setText(m_accepted);
+    setCursorPosition(cursor);
+}

@@ -1,0 +1,27 @@
+// What a panel may ask of the window that it stands in. The main window implements it; a test of one panel can do so
+// too.
+#pragma once
+
+#include "base/Guarded.h"
+
+#include <QString>
+
+class ShopSession;
+class Templates_Set;
+
+class PanelHost
+{
+public:
+    virtual ~PanelHost() = default;
+
+    virtual ShopSession& session() = 0;
+    virtual Templates_Set& CurrentTemplatesSet() = 0;
+    virtual FatalErrorHandler& errorHandler() = 0;
+
+    // What the submit picture of a panel does: the short bar, then SaveActiveObject of the visible panel.
+    virtual void ApplyActivePanel() = 0;
+    // What the reset picture does: SetActiveObject of the visible panel, which drops what was typed.
+    virtual void ResetActivePanel() = 0;
+    // Renames the selected node of the tree, which is how a name shows there while it is typed.
+    virtual void setSelectedNodeText(const QString& text) = 0;
+};

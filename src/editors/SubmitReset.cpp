@@ -1,0 +1,40 @@
+#include "editors/SubmitReset.h"
+
+#include "editors/PanelHost.h"
+
+#include <QHBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+// A static library's resources have to be asked for.
+static void takeIcons()
+{
+    Q_INIT_RESOURCE(editors);
+}
+
+SubmitReset::SubmitReset(PanelHost& host, QWidget* parent)
+    : QWidget(parent),
+      imgButtonSubmit(new QPushButton(tr("Submit"), this)),
+      imgButtonReset(new QPushButton(tr("Reset"), this))
+{
+    takeIcons();
+    imgButtonSubmit->setObjectName(u"imgButtonSubmit"_s);
+    imgButtonSubmit->setIcon(QIcon(u":/editors/submit.svg"_s));
+    imgButtonSubmit->setToolTip(tr("Takes over what stands in this panel"));
+    imgButtonReset->setObjectName(u"imgButtonReset"_s);
+    imgButtonReset->setIcon(QIcon(u":/editors/reset.svg"_s));
+    imgButtonReset->setToolTip(tr("Brings back what was there before"));
+    for (QPushButton* button : {imgButtonSubmit, imgButtonReset}) {
+        button->setAccessibleName(button->text());
+    }
+    connect(imgButtonSubmit, &QPushButton::clicked, this,
+            [&host] { guarded(host.errorHandler(), [&] { host.ApplyActivePanel(); }); });
+    connect(imgButtonReset, &QPushButton::clicked, this,
+            [&host] { guarded(host.errorHandler(), [&] { host.ResetActivePanel(); }); });
+
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addStretch(1);
+    row->addWidget(imgButtonSubmit);
+    row->addWidget(imgButtonReset);
+}

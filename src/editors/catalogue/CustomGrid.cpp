@@ -1,0 +1,443 @@
+#include "editors/catalogue/CustomGrid.h"
+
+#include "editors/LinkLabel.h"
+#include "editors/PanelFrame.h"
+#include "editors/PanelHost.h"
+#include "model/CommonFunctions.h"
+#include "model/ShopSession.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPixmapCache>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString taxTag = u"Tax"_s;
+const QString chargeTag = u"Charge"_s;
+
+constexpr int useColumn = 2;
+// Widths are given in units; ten of them make a pixel here, as for the window's own measures.
+constexpr int pixels(int units)
+{
+    return units / 10;
+}
+constexpr int linkWidth = pixels(1130);
+constexpr int besideColumns = pixels(1200); // what the columns of text leave of the grid's width
+constexpr int besideTaxColumns = pixels(100);
+constexpr std::array chargeWidths = {pixels(2500), pixels(1500), pixels(400), linkWidth};
+constexpr int narrowestColumn = 60; // pixels: with very many columns the grid scrolls
+constexpr int pictureSize = 18;     // pixels
+
+// What stands in a cell of the "Use" column beside its picture.
+enum UseRole { CheckedRole = Qt::UserRole, ModelIndexRole };
+
+// The checked and the unchecked box. The application's cache of pixmaps holds them for all grids.
+QPixmap usePicture(bool isChecked, const QWidget& grid)
+{
+    const QString file = isChecked ? u":/icons/check_on.svg"_s : u":/icons/check_off.svg"_s;
+    const QString key = u"CustomGrid%1@%2"_s.arg(file).arg(grid.devicePixelRatioF());
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = QIcon(file).pixmap(QSize(pictureSize, pictureSize), grid.devicePixelRatioF());
+        QPixmapCache::insert(key, picture);
+    }
+    return picture;
+}
+
+// Puts a picture into the middle of its cell.
+class CentredPicture : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (option->features.testFlag(QStyleOptionViewItem::HasDecoration)) {
+            option->decorationSize = option->rect.size();
+            option->decorationAlignment = Qt::AlignCenter;
+        }
+    }
+};
+
+} // namespace
+
+CustomGrid::CustomGrid(PanelHost& host, QWidget* parent)
+    : QWidget(parent),
+      BaseGrd(named(new QTableWidget(this), "BaseGrd", tr("Table"))),
+      ForGridTxt(named(new QLineEdit(BaseGrd->viewport()), "ForGridTxt", tr("Text of the cell"))),
+      AddItemButtonLbl(new LinkLabel("AddItemButtonLbl", tr("Add item"), this)),
+      m_host(host)
+{
+    BaseGrd->setSelectionMode(QAbstractItemView::SingleSelection);
+    BaseGrd->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    BaseGrd->setTabKeyNavigation(false);
+    BaseGrd->setAlternatingRowColors(true);
+    BaseGrd->setItemDelegate(new CentredPicture(BaseGrd));
+    BaseGrd->verticalHeader()->hide();
+    BaseGrd->verticalHeader()->setDefaultSectionSize(BaseGrd->fontMetrics().height() + 12);
+    BaseGrd->horizontalHeader()->setSectionsClickable(false);
+    BaseGrd->horizontalHeader()->setHighlightSections(false);
+    BaseGrd->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    BaseGrd->horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | Qt::Alignment(Qt::TextWordWrap));
+    BaseGrd->setMinimumHeight(150);
+    BaseGrd->installEventFilter(this);
+    ForGridTxt->setMaxLength(std::numeric_limits<int>::max());
+    ForGridTxt->installEventFilter(this);
+    ForGridTxt->hide();
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(2);
+    column->addWidget(BaseGrd, 1);
+    column->addWidget(AddItemButtonLbl);
+
+    connect(BaseGrd, &QTableWidget::cellClicked, this, &CustomGrid::cellActivated);
+    connect(AddItemButtonLbl, &LinkLabel::clicked, this,
+            [this] { guarded(m_host.errorHandler(), [this] { addItem(); }); });
+    connect(ForGridTxt, &QLineEdit::textEdited, this, [this](const QString& text) {
+        if (QTableWidgetItem* cell = BaseGrd->currentItem()) {
+            cell->setText(text);
+        }
+    });
+    connect(BaseGrd->verticalScrollBar(), &QScrollBar::rangeChanged, this, &CustomGrid::arrangeColumns);
+    for (const QScrollBar* bar : {BaseGrd->horizontalScrollBar(), BaseGrd->verticalScrollBar()}) {
+        connect(bar, &QScrollBar::valueChanged, this, &CustomGrid::placeEditor);
+    }
+}
+
+// Filling and reading ------------------------------------------------------------------------------------------------
+
+void CustomGrid::prepare(const QString& tag, const QStringList& titles, int rows)
+{
+    ForGridTxt->hide();
+    m_tag = tag;
+    BaseGrd->clear();
+    BaseGrd->setColumnCount(static_cast<int>(titles.size()) + 1);
+    BaseGrd->setHorizontalHeaderLabels(titles + QStringList{QString()});
+    BaseGrd->setRowCount(rows);
+    arrangeColumns();
+}
+
+void CustomGrid::Init(const QStringList& titles, const Columns& columns, bool isTaxGrid)
+{
+    const int rows = !columns.empty() && columns[0] ? columns[0]->Count() : 0;
+    prepare(isTaxGrid ? taxTag : QString(), titles, rows);
+    for (int row = 0; row < rows; ++row) {
+        for (int column = 0; column < linkColumn(); ++column) {
+            if (isUseColumn(column)) {
+                setUse(row, m_host.session().shop->Taxes.Item(row + 1).IsChecked, row + 1);
+                continue;
+            }
+            const auto place = static_cast<std::size_t>(column);
+            const TextCollection* texts = place < columns.size() ? columns[place].get() : nullptr;
+            const bool isThere = texts && row < texts->Count();
+            BaseGrd->setItem(row, column, new QTableWidgetItem(isThere ? texts->Item(row + 1) : QString()));
+        }
+        setLink(row);
+    }
+}
+
+void CustomGrid::InitForCharges()
+{
+    const KeyedCollection<clsCharge>& charges = m_host.session().shop->Charges;
+    prepare(chargeTag, {u"Description"_s, u"Cost"_s, u"Use"_s}, charges.Count());
+    for (int row = 0; row < charges.Count(); ++row) {
+        const clsCharge& charge = charges.Item(row + 1);
+        BaseGrd->setItem(row, 0, new QTableWidgetItem(charge.Destination));
+        BaseGrd->setItem(row, 1, new QTableWidgetItem(charge.Cost));
+        setUse(row, charge.IsChecked, row + 1);
+        setLink(row);
+    }
+}
+
+CustomGrid::Columns CustomGrid::GetData() const
+{
+    if (!hasRows()) {
+        return {nullptr};
+    }
+    Columns columns;
+    for (int column = 0; column < linkColumn(); ++column) {
+        auto texts = std::make_shared<TextCollection>();
+        for (int row = 0; row < BaseGrd->rowCount(); ++row) {
+            texts->Add(cellText(row, column), u"row%1"_s.arg(row + 1));
+        }
+        columns.push_back(texts);
+    }
+    return columns;
+}
+
+void CustomGrid::GetDataForCharges()
+{
+    KeyedCollection<clsCharge> charges;
+    for (int row = 0; row < BaseGrd->rowCount(); ++row) {
+        clsCharge charge;
+        charge.Destination = cellText(row, 0);
+        charge.Cost = cellText(row, 1);
+        charge.IsChecked = isUsed(row);
+        charges.Add(charge);
+        setUse(row, charge.IsChecked, row + 1);
+    }
+    m_host.session().shop->Charges = std::move(charges);
+}
+
+void CustomGrid::GetDataForTaxes()
+{
+    KeyedCollection<clsTax> taxes;
+    for (int row = 0; row < BaseGrd->rowCount(); ++row) {
+        clsTax tax;
+        tax.TaxName = cellText(row, 0);
+        tax.setPercent(NormalizeDecimal(cellText(row, 1)));
+        tax.IsChecked = isUsed(row);
+        taxes.Add(tax);
+        setUse(row, tax.IsChecked, row + 1);
+    }
+    m_host.session().shop->Taxes = std::move(taxes);
+}
+
+// Cells --------------------------------------------------------------------------------------------------------------
+
+bool CustomGrid::isUseColumn(int column) const
+{
+    return !m_tag.isEmpty() && column == useColumn;
+}
+
+QString CustomGrid::cellText(int row, int column) const
+{
+    const QTableWidgetItem* cell = BaseGrd->item(row, column);
+    return cell ? cell->text() : QString();
+}
+
+void CustomGrid::setLink(int row)
+{
+    auto* link = new QTableWidgetItem(u"Remove"_s);
+    link->setTextAlignment(Qt::AlignCenter);
+    link->setForeground(palette().link());
+    QFont font = BaseGrd->font();
+    font.setBold(true);
+    font.setUnderline(true);
+    link->setFont(font);
+    BaseGrd->setItem(row, linkColumn(), link);
+}
+
+// The row keeps its place in the shop's list (1-based), which it does not lose when a row above it is removed.
+void CustomGrid::setUse(int row, bool isChecked, int modelIndex)
+{
+    auto* cell = new QTableWidgetItem;
+    cell->setData(Qt::DecorationRole, usePicture(isChecked, *this));
+    cell->setData(Qt::AccessibleTextRole, isChecked ? tr("In use") : tr("Not in use"));
+    cell->setData(CheckedRole, isChecked);
+    cell->setData(ModelIndexRole, modelIndex);
+    BaseGrd->setItem(row, useColumn, cell);
+}
+
+bool CustomGrid::isUsed(int row) const
+{
+    const QTableWidgetItem* cell = BaseGrd->item(row, useColumn);
+    return cell && cell->data(CheckedRole).toBool();
+}
+
+void CustomGrid::arrangeColumns()
+{
+    const int last = linkColumn();
+    if (last < 1) {
+        return;
+    }
+    if (m_tag == chargeTag) {
+        for (int column = 0; column <= last; ++column) {
+            BaseGrd->setColumnWidth(column, chargeWidths[static_cast<std::size_t>(column)]);
+        }
+        return;
+    }
+    const QScrollBar* bar = BaseGrd->verticalScrollBar();
+    const int beside = besideColumns + (m_tag == taxTag ? besideTaxColumns : 0) +
+                       (bar->maximum() > bar->minimum() ? bar->sizeHint().width() : 0);
+    const int width = (this->width() - beside) / last;
+    for (int column = 0; column < last; ++column) {
+        BaseGrd->setColumnWidth(column, std::max(width, narrowestColumn));
+    }
+    BaseGrd->setColumnWidth(last, linkWidth);
+}
+
+// What a click does --------------------------------------------------------------------------------------------------
+
+void CustomGrid::cellActivated(int row, int column)
+{
+    guarded(m_host.errorHandler(), [&] {
+        if (isUseColumn(column)) {
+            toggleUse(row);
+        } else if (column == linkColumn()) {
+            removeRow(row);
+        } else {
+            openEditor(row, column);
+        }
+    });
+}
+
+void CustomGrid::toggleUse(int row)
+{
+    const bool isChecked = !isUsed(row);
+    const int place = BaseGrd->item(row, useColumn)->data(ModelIndexRole).toInt();
+    if (m_tag == taxTag) {
+        m_host.session().shop->Taxes.Item(place).IsChecked = isChecked;
+    } else {
+        m_host.session().shop->Charges.Item(place).IsChecked = isChecked;
+    }
+    setUse(row, isChecked, place);
+}
+
+void CustomGrid::removeRow(int row)
+{
+    ForGridTxt->hide();
+    BaseGrd->removeRow(row);
+}
+
+void CustomGrid::addItem()
+{
+    const int row = BaseGrd->rowCount();
+    BaseGrd->insertRow(row);
+    for (int column = 0; column < linkColumn(); ++column) {
+        if (!isUseColumn(column)) {
+            BaseGrd->setItem(row, column, new QTableWidgetItem);
+        }
+    }
+    setLink(row);
+    ShopClass& shop = *m_host.session().shop;
+    if (m_tag == taxTag) {
+        shop.Taxes.Add(clsTax());
+        setUse(row, false, shop.Taxes.Count());
+    } else if (m_tag == chargeTag) {
+        shop.Charges.Add(clsCharge());
+        setUse(row, false, shop.Charges.Count());
+    }
+    openEditor(row, 0);
+}
+
+// The editor over a cell ---------------------------------------------------------------------------------------------
+
+void CustomGrid::openEditor(int row, int column)
+{
+    BaseGrd->setCurrentCell(row, column);
+    BaseGrd->scrollToItem(BaseGrd->item(row, column));
+    ForGridTxt->setText(cellText(row, column));
+    ForGridTxt->setAccessibleDescription(BaseGrd->horizontalHeaderItem(column)->text());
+    ForGridTxt->show();
+    placeEditor();
+    ForGridTxt->setFocus();
+}
+
+void CustomGrid::placeEditor()
+{
+    if (!ForGridTxt->isHidden() && BaseGrd->currentItem()) {
+        ForGridTxt->setGeometry(BaseGrd->visualItemRect(BaseGrd->currentItem()));
+    }
+}
+
+// To the next or the former cell of text; at either end the editor closes.
+void CustomGrid::moveEditor(int step)
+{
+    int row = BaseGrd->currentRow();
+    int column = BaseGrd->currentColumn();
+    do {
+        column += step;
+        if (column < 0 || column >= linkColumn()) {
+            column = column < 0 ? linkColumn() - 1 : 0;
+            row += step;
+        }
+    } while (isUseColumn(column));
+    if (row < 0 || row >= BaseGrd->rowCount()) {
+        BaseGrd->setFocus();
+        ForGridTxt->hide();
+        return;
+    }
+    openEditor(row, column);
+}
+
+bool CustomGrid::gridKey(const QKeyEvent& key)
+{
+    const int row = BaseGrd->currentRow();
+    const int column = BaseGrd->currentColumn();
+    if (row < 0 || column < 0) {
+        return false;
+    }
+    switch (key.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+    case Qt::Key_F2:
+        cellActivated(row, column);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool CustomGrid::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == BaseGrd && event->type() == QEvent::KeyPress) {
+        return gridKey(*static_cast<QKeyEvent*>(event));
+    }
+    if (watched == ForGridTxt && event->type() == QEvent::KeyPress) {
+        switch (static_cast<QKeyEvent*>(event)->key()) {
+        case Qt::Key_Tab:
+            moveEditor(1);
+            return true;
+        case Qt::Key_Backtab:
+            moveEditor(-1);
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            BaseGrd->setFocus();
+            return true;
+        default:
+            break;
+        }
+    }
+    // Its own context menu does not take the focus away for good.
+    if (watched == ForGridTxt && event->type() == QEvent::FocusOut &&
+        static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
+        ForGridTxt->hide();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void CustomGrid::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    arrangeColumns();
+    placeEditor();
+}
+
+void CustomGrid::Hide()
+{
+    ForGridTxt->hide();
+    BaseGrd->hide();
+    AddItemButtonLbl->hide();
+}
+
+void CustomGrid::Show()
+{
+    BaseGrd->show();
+    AddItemButtonLbl->show();
+}
+
+QString CustomGrid::AddItemButtonTitle() const
+{
+    return AddItemButtonLbl->text();
+}
+
+void CustomGrid::setAddItemButtonTitle(const QString& title)
+{
+    AddItemButtonLbl->setText(title);
+    AddItemButtonLbl->updateGeometry();
+}

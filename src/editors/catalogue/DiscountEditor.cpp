@@ -1,0 +1,247 @@
+#include "editors/catalogue/DiscountEditor.h"
+
+#include "base/Numbers.h"
+#include "base/RuntimeError.h"
+#include "editors/DateField.h"
+#include "editors/NumericBox.h"
+#include "editors/PanelFrame.h"
+#include "editors/PanelHost.h"
+#include "editors/catalogue/CustomGrid.h"
+#include "model/ShopSession.h"
+#include "model/clsDiscount.h"
+
+#include <QButtonGroup>
+#include <QFormLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList bandTitles = {u"From Price"_s, u"To Price"_s, u"Discount Percent"_s};
+
+CustomGrid::Columns bandColumns(clsDiscount& discount)
+{
+    CustomGrid::Columns columns(3);
+    std::generate(columns.begin(), columns.end(), [] { return std::make_shared<TextCollection>(); });
+    for (const clsDependedDiscount& band : *discount.DependedDiscounts()) {
+        columns[0]->Add(band.PriceFrom());
+        columns[1]->Add(band.PriceTo());
+        columns[2]->Add(band.Value());
+    }
+    return columns;
+}
+
+} // namespace
+
+DiscountEditor::DiscountEditor(PanelHost& host, std::span<const DiscountOption> options, Percent percent,
+                               PanelFrame* frame)
+    : QObject(frame), m_host(host), m_options(options), m_percent(percent), m_buttons(new QButtonGroup(this))
+{
+    makeOptions(frame);
+    makeDates(frame);
+    if (std::any_of(options.begin(), options.end(), [](const DiscountOption& option) { return option.usesBands; })) {
+        makeBands(frame);
+    }
+    connect(m_buttons, &QButtonGroup::idToggled, this, &DiscountEditor::applyOption);
+    applyOption();
+}
+
+void DiscountEditor::makeOptions(PanelFrame* frame)
+{
+    QVBoxLayout* column = frame->addColumn(tr("Discount"));
+    for (std::size_t i = 0; i < m_options.size(); ++i) {
+        const DiscountOption& option = m_options[i];
+        const QString caption = tr(option.caption);
+        auto* button = named(new QRadioButton(caption, frame), option.name, caption);
+        m_buttons->addButton(button, static_cast<int>(i));
+        auto* row = new QHBoxLayout;
+        row->addWidget(button);
+        column->addLayout(row);
+        if (option.usesPercent) {
+            const bool isSpecific = m_percent == Percent::Specific;
+            m_percentBox = named(new NumericBox(NumericBox::Takes::NormalisedNumber, frame),
+                                 isSpecific ? "SpecificTxt" : "ApplyTxt", tr("Percent"));
+            m_percentBox->setFixedWidth(90);
+            row->addWidget(m_percentBox);
+        }
+        row->addStretch(1);
+        if (option.usesInherit) {
+            lblInherit = named(new QLabel(frame), "lblInherit", tr("What is inherited"));
+            lblInherit->setWordWrap(true);
+            lblInherit->setTextFormat(Qt::PlainText);
+            lblInherit->setIndent(24); // under the caption of its option
+            column->addWidget(lblInherit);
+        }
+    }
+}
+
+void DiscountEditor::makeDates(PanelFrame* frame)
+{
+    DateMV = new MonthCalendar(m_host.session().clock, frame);
+    QFormLayout* form = frame->addForm(tr("Valid from and to, both days included"));
+    DateFromTxt = new DateField(*DateMV, frame);
+    DateToTxt = new DateField(*DateMV, frame);
+    addField(form, tr("First day"), DateFromTxt, "DateFromTxt");
+    addField(form, tr("Last day"), DateToTxt, "DateToTxt");
+    for (DateField* field : {DateFromTxt, DateToTxt}) {
+        field->setFixedWidth(140);
+        field->setPlaceholderText(tr("open"));
+    }
+}
+
+void DiscountEditor::makeBands(PanelFrame* frame)
+{
+    DiscountGrd = named(new CustomGrid(m_host, frame), "DiscountGrd", tr("Discount by product price"));
+    QVBoxLayout* column = frame->addColumn(tr("Discount by product price"), true);
+    column->addWidget(DiscountGrd, 1);
+    m_bandsGroup = column->parentWidget();
+}
+
+void DiscountEditor::fill(clsDiscount& discount, const QString& inherited)
+{
+    DateFromTxt->setText(discount.DateFrom);
+    DateToTxt->setText(discount.DateTo);
+    m_percentBox->fill(m_percent == Percent::Specific ? discount.Specific() : discount.ApplyToWhole());
+    if (lblInherit) {
+        lblInherit->setText(inherited);
+    }
+    if (DiscountGrd) {
+        DiscountGrd->Init(bandTitles, bandColumns(discount));
+    }
+    chooseStatus(discount.Status);
+}
+
+void DiscountEditor::clear()
+{
+    for (QLineEdit* field : {static_cast<QLineEdit*>(DateFromTxt), static_cast<QLineEdit*>(DateToTxt)}) {
+        field->clear();
+    }
+    m_percentBox->fill(QString());
+    if (lblInherit) {
+        lblInherit->clear();
+    }
+    if (DiscountGrd) {
+        DiscountGrd->Init(bandTitles, {});
+    }
+    chooseStatus(0);
+}
+
+void DiscountEditor::setEditable(bool isEditable)
+{
+    m_isEditable = isEditable;
+    for (QAbstractButton* button : m_buttons->buttons()) {
+        button->setEnabled(isEditable);
+    }
+    applyOption();
+}
+
+void DiscountEditor::write(clsDiscount& discount) const
+{
+    discount.DateFrom = DateFromTxt->text();
+    discount.DateTo = DateToTxt->text();
+    if (m_percent == Percent::Specific) {
+        discount.setSpecific(m_percentBox->text());
+    } else {
+        discount.setApplyToWhole(m_percentBox->text());
+    }
+    if (!DiscountGrd) {
+        return;
+    }
+    const CustomGrid::Columns columns = DiscountGrd->GetData();
+    if (!columns[0]) {
+        return;
+    }
+    clsDependedDiscounts& bands = *discount.DependedDiscounts();
+    bands.Clear();
+    for (int row = 1; row <= columns[0]->Count(); ++row) {
+        bands.Add(columns[0]->Item(row), columns[1]->Item(row), columns[2]->Item(row));
+    }
+}
+
+void DiscountEditor::writeStatus(clsDiscount& discount) const
+{
+    if (const DiscountOption* option = chosenOption()) {
+        discount.Status = option->status;
+    }
+}
+
+const DiscountOption* DiscountEditor::chosenOption() const
+{
+    const int id = m_buttons->checkedId();
+    return id < 0 ? nullptr : &m_options[static_cast<std::size_t>(id)];
+}
+
+// A status without an option here chooses none.
+void DiscountEditor::chooseStatus(int status)
+{
+    m_buttons->setExclusive(false);
+    for (std::size_t i = 0; i < m_options.size(); ++i) {
+        m_buttons->button(static_cast<int>(i))->setChecked(m_options[i].status == status);
+    }
+    m_buttons->setExclusive(true);
+    applyOption();
+}
+
+void DiscountEditor::applyOption()
+{
+    const DiscountOption* option = chosenOption();
+    m_percentBox->setEnabled(m_isEditable && option && option->usesPercent);
+    for (DateField* field : {DateFromTxt, DateToTxt}) {
+        field->setInUse(option && option->usesDates);
+        field->setEnabled(m_isEditable);
+    }
+    if (lblInherit) {
+        lblInherit->setVisible(option && option->usesInherit);
+    }
+    if (DiscountGrd) {
+        const bool isUsed = option && option->usesBands;
+        if (isUsed) {
+            DiscountGrd->Show();
+        } else {
+            DiscountGrd->Hide();
+        }
+        m_bandsGroup->setVisible(isUsed);
+        DiscountGrd->setEnabled(m_isEditable);
+    }
+}
+
+namespace {
+
+QString percentText(const QString& percent)
+{
+    return percent.isEmpty() ? QObject::tr("Nothing is inherited at present.")
+                             : QObject::tr("Inherited discount: %1 %").arg(percent);
+}
+
+} // namespace
+
+QString InheritedText(const clsDiscount& discount)
+{
+    if (discount.Status != DiscountStatus::Inherit) {
+        return {};
+    }
+    if (discount.ParentDependDiscounts) {
+        return QObject::tr("Inherited discount: it depends on the product's price.");
+    }
+    return percentText(discount.Inherit);
+}
+
+QString InheritedText(const clsDiscount& discount, const QString& price)
+{
+    if (discount.Status != DiscountStatus::Inherit) {
+        return {};
+    }
+    if (!discount.ParentDependDiscounts) {
+        return percentText(discount.Inherit);
+    }
+    try {
+        return percentText(discount.Value(price.isEmpty() ? u"0"_s : price));
+    } catch (const RuntimeError&) {
+        // The words of a label are no reason to end the program.
+        return QObject::tr("The inherited discount depends on the price, which cannot be read as a number.");
+    }
+}

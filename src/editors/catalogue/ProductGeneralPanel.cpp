@@ -1,0 +1,97 @@
+#include "editors/catalogue/ProductGeneralPanel.h"
+
+#include "editors/NumericBox.h"
+#include "editors/PanelFrame.h"
+#include "editors/PanelHost.h"
+#include "editors/TextArea.h"
+#include "editors/catalogue/ObjectOf.h"
+#include "editors/design/BrowseImageControl.h"
+#include "model/ProductClass.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+ProductGeneralPanel::ProductGeneralPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
+{
+    auto* frame = new PanelFrame(tr("Product general properties"), this);
+    IdLbl = named(new QLabel(frame), "IdLbl", QString());
+    ProductNameTxt = textField(frame);
+    ProductDescriptionTxt = new TextArea(frame);
+    ProductCodeTxt = textField(frame);
+    ProductPriceTxt = new NumericBox(NumericBox::Takes::Number, frame);
+    ProductUnitTxt = textField(frame);
+    ProductLinkTxt = textField(frame);
+    BrowseImageControl1 = named(new BrowseImageControl(host, frame), "BrowseImageControl1", tr("Picture"));
+    chkForSale = named(new QCheckBox(tr("For sale"), frame), "chkForSale", tr("For sale"));
+
+    QFormLayout* form = frame->addForm(tr("The product"));
+    form->addRow(IdLbl);
+    addField(form, tr("Name"), ProductNameTxt, "ProductNameTxt");
+    addField(form, tr("Description"), ProductDescriptionTxt, "ProductDescriptionTxt");
+    addField(form, tr("Code"), ProductCodeTxt, "ProductCodeTxt");
+    addField(form, tr("Price"), ProductPriceTxt, "ProductPriceTxt");
+    addField(form, tr("Unit"), ProductUnitTxt, "ProductUnitTxt");
+    addField(form, tr("Link"), ProductLinkTxt, "ProductLinkTxt");
+    ProductPriceTxt->setFixedWidth(140);
+    frame->addColumn(tr("Picture"))->addWidget(BrowseImageControl1);
+    frame->addColumn(tr("Sale"))->addWidget(chkForSale);
+    frame->addButtons(host);
+
+    connect(ProductNameTxt, &QLineEdit::textEdited, this,
+            [this](const QString& text) { guarded(m_host.errorHandler(), [&] { m_host.setSelectedNodeText(text); }); });
+}
+
+void ProductGeneralPanel::SetActiveObject(const CatalogueObject& object)
+{
+    m_product = ObjectOf<ProductClass>(object);
+    if (!m_product) {
+        return;
+    }
+    IdLbl->setText(tr("ID = %1").arg(m_product->id));
+    ProductNameTxt->setText(m_product->name);
+    ProductDescriptionTxt->fill(m_product->Description);
+    ProductCodeTxt->setText(m_product->Code);
+    ProductPriceTxt->fill(m_product->Price()->Value);
+    ProductUnitTxt->setText(m_product->Unit);
+    ProductLinkTxt->setText(m_product->LINK);
+    BrowseImageControl1->setSelectedImage(m_product->selectedImage());
+    chkForSale->setChecked(m_product->ForSale);
+}
+
+void ProductGeneralPanel::SaveActiveObject()
+{
+    if (!m_product) {
+        return;
+    }
+    m_product->name = ProductNameTxt->text();
+    m_product->Description = ProductDescriptionTxt->text();
+    m_product->Code = ProductCodeTxt->text();
+    m_product->Price()->Value = ProductPriceTxt->text();
+    m_product->Unit = ProductUnitTxt->text();
+    completeLink();
+    m_product->LINK = ProductLinkTxt->text();
+    // The text only: the image itself is the selection, which has changed already.
+    m_product->Picture = BrowseImageControl1->imageFileName();
+    m_product->ForSale = chkForSale->isChecked();
+}
+
+// A link that begins with "https://" or with capitals gets the prefix too: this is meant.
+void ProductGeneralPanel::completeLink()
+{
+    const QString prefix = u"http://"_s;
+    const QString link = ProductLinkTxt->text();
+    if (!link.isEmpty() && !link.startsWith(prefix)) {
+        ProductLinkTxt->setText(prefix + link);
+    }
+}
+
+void ProductGeneralPanel::ClearActiveObject()
+{
+    m_product.reset();
+    BrowseImageControl1->setSelectedImage(nullptr);
+}

@@ -1,0 +1,147 @@
+#include "editors/catalogue/ProductShippingCostsPanel.h"
+
+#include "editors/NumericBox.h"
+#include "editors/PanelFrame.h"
+#include "editors/PanelHost.h"
+#include "editors/catalogue/ObjectOf.h"
+#include "model/ShopSession.h"
+
+#include <QButtonGroup>
+#include <QFormLayout>
+#include <QLabel>
+#include <QRadioButton>
+#include <QVBoxLayout>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct ShippingOption
+{
+    const char* name;
+    const char* caption;
+    QLatin1StringView status; // the word of the model
+};
+
+enum Option { NoCharges, ByWeight, Individual };
+
+constexpr std::array shippingOptions = {
+    ShippingOption{"NoChargesOpt", QT_TR_NOOP("No shipping charges"), "No"_L1},
+    ShippingOption{"ByWeightOpt", QT_TR_NOOP("By weight"), "Weight"_L1},
+    ShippingOption{"IndividualOpt", QT_TR_NOOP("Costs of its own"), "Individual"_L1},
+};
+
+} // namespace
+
+ProductShippingCostsPanel::ProductShippingCostsPanel(PanelHost& host, QWidget* parent)
+    : Panel(parent), m_host(host), m_options(new QButtonGroup(this))
+{
+    auto* frame = new PanelFrame(tr("Shipping costs"), this);
+    QVBoxLayout* choice = frame->addColumn(tr("How shipping is charged"));
+    for (const ShippingOption& option : shippingOptions) {
+        const QString caption = tr(option.caption);
+        auto* button = named(new QRadioButton(caption, frame), option.name, caption);
+        m_options->addButton(button, static_cast<int>(m_options->buttons().size()));
+        choice->addWidget(button);
+    }
+    WeightTxt = new NumericBox(NumericBox::Takes::Number, frame);
+    QFormLayout* weight = frame->addForm(tr("Weight"));
+    addField(weight, tr("Weight (kg)"), WeightTxt, "WeightTxt");
+    WeightTxt->setFixedWidth(140);
+    m_costForm = frame->addForm(tr("Costs by shipping type"));
+    addPair();
+
+    connect(m_options, &QButtonGroup::idToggled, this, &ProductShippingCostsPanel::applyOption);
+    applyOption();
+}
+
+void ProductShippingCostsPanel::addPair()
+{
+    QWidget* group = m_costForm->parentWidget();
+    auto* label = named(new QLabel(group), "ShippingTypeNameLbl", QString());
+    auto* box = named(textField(group), "ShippingTypeCostTxt", QString());
+    box->setFixedWidth(140);
+    label->setTextFormat(Qt::PlainText);
+    label->setBuddy(box);
+    m_costForm->addRow(label, box);
+    m_costs.push_back({label, box});
+}
+
+void ProductShippingCostsPanel::fillCosts()
+{
+    const std::shared_ptr<TextCollection>& types = m_host.session().shop->ShippingTypeName;
+    const int count = types ? types->Count() : 0;
+    while (static_cast<int>(m_costs.size()) < count) {
+        addPair();
+    }
+    while (m_costs.size() > 1 && static_cast<int>(m_costs.size()) > count) {
+        m_costForm->removeRow(m_costs.back().ShippingTypeNameLbl);
+        m_costs.pop_back();
+    }
+    m_costForm->parentWidget()->setVisible(count > 0);
+    const TextCollection& costs = *m_product->ShippingCosts();
+    for (int i = 0; i < static_cast<int>(m_costs.size()); ++i) {
+        const TypeCost& pair = m_costs[static_cast<std::size_t>(i)];
+        const QString name = i < count ? types->Item(i + 1) : QString();
+        pair.ShippingTypeNameLbl->setText(name);
+        pair.ShippingTypeCostTxt->setAccessibleName(name);
+        pair.ShippingTypeCostTxt->setText(i < costs.Count() ? costs.Item(i + 1) : QString());
+    }
+}
+
+void ProductShippingCostsPanel::SetActiveObject(const CatalogueObject& object)
+{
+    m_product = ObjectOf<ProductClass>(object);
+    if (!m_product) {
+        return;
+    }
+    fillCosts();
+    m_options->setExclusive(false); // another word than the three chooses none
+    for (std::size_t i = 0; i < shippingOptions.size(); ++i) {
+        m_options->button(static_cast<int>(i))->setChecked(m_product->ShippingStatus == shippingOptions[i].status);
+    }
+    m_options->setExclusive(true);
+    WeightTxt->fill(m_product->Weight);
+    applyOption();
+}
+
+void ProductShippingCostsPanel::SaveActiveObject()
+{
+    if (!m_product) {
+        return;
+    }
+    if (const int option = m_options->checkedId(); option >= 0) {
+        m_product->ShippingStatus = shippingOptions[static_cast<std::size_t>(option)].status;
+    }
+    m_product->Weight = WeightTxt->text();
+    TextCollection costs;
+    for (const TypeCost& pair : m_costs) {
+        const QString type = pair.ShippingTypeNameLbl->text();
+        const QString cost = pair.ShippingTypeCostTxt->text();
+        if (m_costForm->parentWidget()->isHidden()) {
+            break; // the shop has no types
+        }
+        if (costs.HasKey(type)) {
+            costs.Add(cost); // a second type of the same name
+        } else {
+            costs.Add(cost, type);
+        }
+    }
+    *m_product->ShippingCosts() = std::move(costs); // in place: a clone has the same object
+}
+
+void ProductShippingCostsPanel::ClearActiveObject()
+{
+    m_product.reset();
+}
+
+void ProductShippingCostsPanel::applyOption()
+{
+    const int option = m_options->checkedId();
+    WeightTxt->setEnabled(option == ByWeight);
+    for (const TypeCost& pair : m_costs) {
+        pair.ShippingTypeCostTxt->setEnabled(option == Individual);
+    }
+}

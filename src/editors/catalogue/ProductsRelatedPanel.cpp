@@ -1,0 +1,151 @@
+#include "editors/catalogue/ProductsRelatedPanel.h"
+
+#include "editors/CatalogueTreeModel.h"
+#include "editors/LinkLabel.h"
+#include "editors/PanelFrame.h"
+#include "editors/PanelHost.h"
+#include "editors/catalogue/ObjectOf.h"
+#include "editors/catalogue/RelatedProducts.h"
+#include "model/ShopSession.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QListView>
+#include <QTreeView>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString productPrefix = u"PROD"_s;
+
+QLabel* captionOf(QWidget* field, const QString& text)
+{
+    auto* caption = new QLabel(text, field->parentWidget());
+    caption->setBuddy(field);
+    return caption;
+}
+
+} // namespace
+
+ProductsRelatedPanel::ProductsRelatedPanel(PanelHost& host, QWidget* parent)
+    : Panel(parent), m_host(host), m_nodes(new CatalogueTreeModel(this)), m_related(new RelatedProducts(this))
+{
+    auto* frame = new PanelFrame(tr("Related products"), this);
+    AllProductsTree = named(new QTreeView(frame), "AllProductsTree", tr("All products"));
+    AllProductsTree->setHeaderHidden(true);
+    AllProductsTree->setUniformRowHeights(true);
+    AllProductsTree->setMinimumWidth(180);
+    AllProductsTree->setModel(m_nodes);
+    // The pictures of the nodes are drawn for a dark ground.
+    QPalette colours = AllProductsTree->palette();
+    const QColor ground = colours.color(QPalette::Highlight);
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        colours.setColor(group, QPalette::Base, ground);
+        colours.setColor(group, QPalette::Text, colours.color(QPalette::HighlightedText));
+        colours.setColor(group, QPalette::Highlight, ground.darker(190));
+    }
+    AllProductsTree->setPalette(colours);
+    auto* ToRelatedLbl = new LinkLabel("ToRelatedLbl", tr("Add >"), frame);
+    auto* FromRelatedLbl = new LinkLabel("FromRelatedLbl", tr("< Remove"), frame);
+    RelatedProductsLst = named(new QListView(frame), "RelatedProductsLst", tr("Related products"));
+    RelatedProductsLst->setUniformItemSizes(true);
+    RelatedProductsLst->setSpacing(1);
+    RelatedProductsLst->setMinimumWidth(140);
+    RelatedProductsLst->setModel(m_related);
+
+    auto* grid = new QGridLayout;
+    grid->addWidget(captionOf(AllProductsTree, tr("All products")), 0, 0);
+    grid->addWidget(AllProductsTree, 1, 0, 4, 1);
+    grid->addWidget(ToRelatedLbl, 2, 1);
+    grid->addWidget(FromRelatedLbl, 3, 1);
+    grid->addWidget(captionOf(RelatedProductsLst, tr("Related to this product")), 0, 2);
+    grid->addWidget(RelatedProductsLst, 1, 2, 4, 1);
+    grid->setRowStretch(1, 1);
+    grid->setRowStretch(4, 1);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(2, 1);
+    frame->addColumn(tr("What the product's page recommends"), true)->addLayout(grid, 1);
+    frame->addButtons(host);
+
+    connect(ToRelatedLbl, &LinkLabel::clicked, this,
+            [this] { guarded(m_host.errorHandler(), [this] { toRelated(); }); });
+    connect(FromRelatedLbl, &LinkLabel::clicked, this, &ProductsRelatedPanel::fromRelated);
+}
+
+void ProductsRelatedPanel::SetActiveObject(const CatalogueObject& object)
+{
+    m_product = ObjectOf<ProductClass>(object);
+    if (!m_product) {
+        return;
+    }
+    std::vector<RelatedProducts::Row> rows;
+    const ObjectsCollection& objects = m_host.session().objects;
+    for (int i = 0; i < m_product->relatedCount(); ++i) {
+        const QString& id = m_product->related[i];
+        // A product that is gone has no name to show.
+        if (objects.HasKey(NodeKey(id))) {
+            if (const auto related = ObjectOf<ProductClass>(objects.Item(NodeKey(id)))) {
+                rows.push_back({id, related->name});
+            }
+        }
+    }
+    m_related->setRows(std::move(rows));
+    fillTree();
+}
+
+void ProductsRelatedPanel::fillTree()
+{
+    const ShopClass& shop = *m_host.session().shop;
+    m_nodes->beginBuild();
+    TreeNode* root = m_nodes->addNode(nullptr, ShopNodeKey(), shop.name, TreeImage::Closed);
+    for (const std::shared_ptr<CategoryClass>& category : shop.categories) {
+        addCategory(root, *category);
+    }
+    m_nodes->endBuild();
+    AllProductsTree->expand(m_nodes->indexOf(root));
+}
+
+void ProductsRelatedPanel::addCategory(TreeNode* parent, const CategoryClass& category)
+{
+    TreeNode* node = m_nodes->addNode(parent, NodeKey(category.id), category.name, TreeImage::Closed);
+    for (const std::shared_ptr<CategoryClass>& below : category.categories) {
+        addCategory(node, *below);
+    }
+    for (const std::shared_ptr<ProductClass>& product : category.products) {
+        m_nodes->addNode(node, productPrefix + product->id, product->name, TreeImage::Product);
+    }
+}
+
+void ProductsRelatedPanel::toRelated()
+{
+    const TreeNode* node = m_nodes->nodeOf(AllProductsTree->currentIndex());
+    if (!m_product || !node || !node->key.startsWith(productPrefix)) {
+        return;
+    }
+    const QString id = node->key.sliced(productPrefix.size());
+    if (id != m_product->id && !m_related->contains(id)) {
+        m_related->append({id, node->text});
+    }
+}
+
+void ProductsRelatedPanel::fromRelated()
+{
+    m_related->removeAt(RelatedProductsLst->currentIndex().row());
+}
+
+void ProductsRelatedPanel::SaveActiveObject()
+{
+    if (m_product) {
+        m_product->setRelatedIds(m_related->ids());
+    }
+}
+
+void ProductsRelatedPanel::ClearActiveObject()
+{
+    m_product.reset();
+    m_related->setRows({});
+    m_nodes->beginBuild();
+    m_nodes->endBuild();
+}

@@ -1,0 +1,41 @@
+// The products that a product's page recommends, picked from the whole catalogue. The window owns it.
+#pragma once
+
+#include "editors/Panel.h"
+
+#include <memory>
+
+class CatalogueTreeModel;
+class CategoryClass;
+class PanelHost;
+class ProductClass;
+class QListView;
+class QTreeView;
+class RelatedProducts;
+struct TreeNode;
+
+class ProductsRelatedPanel : public Panel
+{
+    Q_OBJECT
+
+public:
+    // The host must outlive it.
+    ProductsRelatedPanel(PanelHost& host, QWidget* parent);
+
+    void SetActiveObject(const CatalogueObject& object) override;
+    void SaveActiveObject() override;
+    void ClearActiveObject() override;
+
+private:
+    void fillTree();
+    void addCategory(TreeNode* parent, const CategoryClass& category);
+    void toRelated();
+    void fromRelated();
+
+    PanelHost& m_host;
+    QTreeView* AllProductsTree;
+    QListView* RelatedProductsLst;
+    CatalogueTreeModel* m_nodes;
+    RelatedProducts* m_related;
+    std::shared_ptr<ProductClass> m_product;
+};

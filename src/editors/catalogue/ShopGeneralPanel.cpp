@@ -1,0 +1,94 @@
+#include "editors/catalogue/ShopGeneralPanel.h"
+
+#include "editors/LinkLabel.h"
+#include "editors/PanelFrame.h"
+#include "editors/PanelHost.h"
+#include "editors/TextArea.h"
+#include "editors/catalogue/ObjectOf.h"
+#include "model/ShopSession.h"
+
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QVBoxLayout>
+
+ShopGeneralPanel::ShopGeneralPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
+{
+    auto* frame = new PanelFrame(tr("Shop general properties"), this);
+    IdLbl = named(new QLabel(frame), "IdLbl", QString());
+    ShopNameTxt = textField(frame);
+    txtCurrency = textField(frame);
+    ShopDescriptionTxt = new TextArea(frame);
+    lstCountries = named(new QListWidget(frame), "lstCountries", tr("Countries that the shop delivers to"));
+    auto* lblCheckAll = new LinkLabel("lblCheckAll", tr("Check all"), frame);
+    auto* lblClearAll = new LinkLabel("lblClearAll", tr("Clear all"), frame);
+
+    QFormLayout* form = frame->addForm(tr("The shop"));
+    form->addRow(IdLbl);
+    addField(form, tr("Name"), ShopNameTxt, "ShopNameTxt");
+    addField(form, tr("Currency"), txtCurrency, "txtCurrency");
+    addField(form, tr("Description"), ShopDescriptionTxt, "ShopDescriptionTxt");
+    QVBoxLayout* countries = frame->addColumn(tr("Countries that the shop delivers to"), true);
+    lstCountries->setMinimumHeight(120);
+    lstCountries->setSpacing(2);
+    countries->addWidget(lstCountries, 1);
+    auto* links = new QHBoxLayout;
+    links->addWidget(lblCheckAll);
+    links->addWidget(lblClearAll);
+    links->addStretch(1);
+    countries->addLayout(links);
+    frame->addButtons(host);
+
+    connect(ShopNameTxt, &QLineEdit::textEdited, this,
+            [this](const QString& text) { guarded(m_host.errorHandler(), [&] { m_host.setSelectedNodeText(text); }); });
+    connect(lblCheckAll, &LinkLabel::clicked, this, [this] { checkAll(Qt::Checked); });
+    connect(lblClearAll, &LinkLabel::clicked, this, [this] { checkAll(Qt::Unchecked); });
+}
+
+void ShopGeneralPanel::checkAll(Qt::CheckState state)
+{
+    for (int row = 0; row < lstCountries->count(); ++row) {
+        lstCountries->item(row)->setCheckState(state);
+    }
+}
+
+void ShopGeneralPanel::SetActiveObject(const CatalogueObject& object)
+{
+    m_shop = ObjectOf<ShopClass>(object);
+    if (!m_shop) {
+        return;
+    }
+    IdLbl->setText(tr("Max ID = %1").arg(m_shop->MaxProductId));
+    ShopNameTxt->setText(m_shop->name);
+    txtCurrency->setText(m_shop->shop_currency);
+    ShopDescriptionTxt->fill(m_shop->Description);
+    lstCountries->clear();
+    for (const QString& country : m_host.session().CountriesCollection) {
+        auto* entry = new QListWidgetItem(country, lstCountries);
+        const bool isSelected = m_shop->SelectedCountries && m_shop->SelectedCountries->HasKey(country);
+        entry->setCheckState(isSelected ? Qt::Checked : Qt::Unchecked);
+    }
+}
+
+void ShopGeneralPanel::SaveActiveObject()
+{
+    if (!m_shop) {
+        return;
+    }
+    m_shop->name = ShopNameTxt->text();
+    m_shop->shop_currency = txtCurrency->text();
+    m_shop->Description = ShopDescriptionTxt->text();
+    m_shop->SelectedCountries = std::make_shared<TextCollection>();
+    for (int row = 0; row < lstCountries->count(); ++row) {
+        const QListWidgetItem& entry = *lstCountries->item(row);
+        if (entry.checkState() == Qt::Checked) {
+            m_shop->SelectedCountries->Add(entry.text(), entry.text());
+        }
+    }
+}
+
+void ShopGeneralPanel::ClearActiveObject()
+{
+    m_shop.reset();
+}

@@ -1,0 +1,84 @@
+#include "editors/catalogue/ShopShippingCostsPanel.h"
+
+#include "editors/PanelFrame.h"
+#include "editors/catalogue/CustomGrid.h"
+#include "editors/catalogue/GridTexts.h"
+#include "editors/catalogue/ObjectOf.h"
+#include "model/ShopClass.h"
+
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int frameColumns = 2; // from and to, ahead of the types
+
+// One column of costs: the cost of that type (1-based) in each frame, empty where a frame has none.
+std::shared_ptr<TextCollection> costColumn(const KeyedCollection<TextCollection>& costs, int type)
+{
+    auto column = std::make_shared<TextCollection>();
+    for (const TextCollection& frame : costs) {
+        column->Add(type <= frame.Count() ? frame.Item(type) : QString());
+    }
+    return column;
+}
+
+// One list of costs a frame, from the columns behind the frames' own.
+std::shared_ptr<KeyedCollection<TextCollection>> costsByFrame(const CustomGrid::Columns& columns)
+{
+    auto costs = std::make_shared<KeyedCollection<TextCollection>>();
+    for (int frame = 1; frame <= columns[0]->Count(); ++frame) {
+        TextCollection row;
+        for (std::size_t column = frameColumns; column < columns.size(); ++column) {
+            row.Add(columns[column]->Item(frame), u"cost%1"_s.arg(row.Count()));
+        }
+        costs->Add(std::move(row));
+    }
+    return costs;
+}
+
+} // namespace
+
+ShopShippingCostsPanel::ShopShippingCostsPanel(PanelHost& host, QWidget* parent) : Panel(parent)
+{
+    auto* frame = new PanelFrame(tr("Shipping costs"), this);
+    ShippingGrd = named(new CustomGrid(host, frame), "ShippingGrd", tr("Shipping costs by weight"));
+    frame->addColumn(tr("Costs by weight and shipping type"), true)->addWidget(ShippingGrd, 1);
+}
+
+void ShopShippingCostsPanel::SetActiveObject(const CatalogueObject& object)
+{
+    m_shop = ObjectOf<ShopClass>(object);
+    if (!m_shop) {
+        return;
+    }
+    QStringList titles = {u"From (kg)"_s, u"To (kg)"_s};
+    CustomGrid::Columns columns = {m_shop->ShippingCostFrameFrom, m_shop->ShippingCostFrameTo};
+    if (m_shop->ShippingTypeName) {
+        for (const QString& type : *m_shop->ShippingTypeName) {
+            titles << type;
+            columns.push_back(m_shop->ShippingCosts
+                                  ? costColumn(*m_shop->ShippingCosts, static_cast<int>(titles.size()) - frameColumns)
+                                  : nullptr);
+        }
+    }
+    ShippingGrd->Init(titles, columns);
+}
+
+void ShopShippingCostsPanel::SaveActiveObject()
+{
+    if (!m_shop) {
+        return;
+    }
+    const CustomGrid::Columns columns = ShippingGrd->GetData();
+    const bool hasRows = columns[0] != nullptr;
+    m_shop->ShippingCostFrameFrom = hasRows ? Rekeyed(*columns[0], "from") : nullptr;
+    m_shop->ShippingCostFrameTo = hasRows ? Rekeyed(*columns[1], "to") : nullptr;
+    m_shop->ShippingCosts = hasRows ? costsByFrame(columns) : nullptr;
+}
+
+void ShopShippingCostsPanel::ClearActiveObject()
+{
+    m_shop.reset();
+}

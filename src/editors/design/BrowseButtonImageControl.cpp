@@ -1,0 +1,56 @@
+#include "editors/design/BrowseButtonImageControl.h"
+
+#include "editors/LinkLabel.h"
+#include "editors/PanelHost.h"
+#include "editors/design/PictureBox.h"
+#include "editors/design/PicturesList.h"
+#include "model/ShopSession.h"
+
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+BrowseButtonImageControl::BrowseButtonImageControl(PanelHost& host, QWidget* parent)
+    : QWidget(parent),
+      m_host(host),
+      ImagePB(new PictureBox(u"Invalid picture"_s, this)),
+      BrowseBtnLbl(new LinkLabel("BrowseBtnLbl", tr("Browse..."), this)),
+      DeleteBtnLbl(new LinkLabel("DeleteBtnLbl", tr("Delete"), this))
+{
+    ImagePB->setObjectName(u"ImagePB"_s);
+    ImagePB->setAccessibleName(tr("Picture"));
+    auto* links = new QVBoxLayout;
+    links->addWidget(BrowseBtnLbl);
+    links->addWidget(DeleteBtnLbl);
+    links->addStretch(1);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(ImagePB, 1);
+    row->addLayout(links);
+
+    connect(BrowseBtnLbl, &LinkLabel::clicked, this, [this] { guarded(m_host.errorHandler(), [this] { browse(); }); });
+    connect(DeleteBtnLbl, &LinkLabel::clicked, this, &BrowseButtonImageControl::Remove);
+}
+
+void BrowseButtonImageControl::Remove()
+{
+    setImageFileName(QString());
+}
+
+void BrowseButtonImageControl::setImageFileName(const QString& name)
+{
+    m_imageFileName = name;
+    if (name.isEmpty()) {
+        ImagePB->clear();
+    } else {
+        ImagePB->showFile(PicturePath(m_host, name));
+    }
+}
+
+void BrowseButtonImageControl::browse()
+{
+    const QString chosen = m_host.session().prompts.chooseFile(QString(), PictureFileFilter());
+    if (!chosen.isEmpty()) {
+        setImageFileName(chosen);
+    }
+}

@@ -1,0 +1,146 @@
+#include "editors/design/BrowseImageControl.h"
+
+#include "base/WholeNumbers.h"
+#include "editors/LinkLabel.h"
+#include "editors/NumericBox.h"
+#include "editors/PanelFrame.h"
+#include "editors/PanelHost.h"
+#include "editors/design/PictureBox.h"
+#include "editors/design/PicturesList.h"
+#include "editors/design/frmSelectImage.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// An empty box counts as 0.
+qint16 pixelsIn(const QString& text)
+{
+    return text.isEmpty() ? qint16{0} : Int16FromText(text);
+}
+
+NumericBox* sizeBox(const char* name, QLabel* label, QWidget* parent)
+{
+    auto* box = named(new NumericBox(NumericBox::Takes::WholeNumber, parent), name, label->text());
+    box->setFixedWidth(80);
+    label->setBuddy(box);
+    return box;
+}
+
+} // namespace
+
+BrowseImageControl::BrowseImageControl(PanelHost& host, QWidget* parent)
+    : QWidget(parent),
+      m_host(host),
+      TitleLbl(named(new QLabel(this), "TitleLbl", QString())),
+      ImagePB(named(new PictureBox(u"Invalid Picture"_s, this), "ImagePB", tr("Picture"))),
+      BrowseBtnLbl(new LinkLabel("BrowseBtnLbl", tr("Browse..."), this)),
+      DeleteBtnLbl(new LinkLabel("DeleteBtnLbl", tr("Delete"), this)),
+      WidthLbl(named(new QLabel(tr("Width (pixels)"), this), "WidthLbl", QString())),
+      txtWidth(sizeBox("txtWidth", WidthLbl, this)),
+      HeightLbl(named(new QLabel(tr("Height (pixels)"), this), "HeightLbl", QString())),
+      txtHeight(sizeBox("txtHeight", HeightLbl, this))
+{
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(14);
+    grid->addWidget(TitleLbl, 0, 0, 1, 3);
+    grid->addWidget(ImagePB, 1, 0, 5, 1);
+    grid->addWidget(BrowseBtnLbl, 1, 1, 1, 2);
+    grid->addWidget(DeleteBtnLbl, 2, 1, 1, 2);
+    grid->addWidget(WidthLbl, 3, 1);
+    grid->addWidget(txtWidth, 3, 2);
+    grid->addWidget(HeightLbl, 4, 1);
+    grid->addWidget(txtHeight, 4, 2);
+    grid->setRowStretch(5, 1);
+    grid->setColumnStretch(3, 1);
+    ImagePB->setFixedSize(ImagePB->sizeHint());
+    setTitleText(QString());
+    setBackground(m_background);
+
+    connect(BrowseBtnLbl, &LinkLabel::clicked, this, [this] { guarded(m_host.errorHandler(), [this] { browse(); }); });
+    connect(DeleteBtnLbl, &LinkLabel::clicked, this, &BrowseImageControl::Remove);
+    connect(txtWidth, &NumericBox::edited, this, [this](const QString& text) {
+        guarded(m_host.errorHandler(), [&] {
+            if (m_selectedImage) {
+                m_selectedImage->setWidthBmp(pixelsIn(text));
+            }
+        });
+    });
+    connect(txtHeight, &NumericBox::edited, this, [this](const QString& text) {
+        guarded(m_host.errorHandler(), [&] {
+            if (m_selectedImage) {
+                m_selectedImage->setHeightBmp(pixelsIn(text));
+            }
+        });
+    });
+}
+
+QString BrowseImageControl::titleText() const
+{
+    return TitleLbl->text();
+}
+
+void BrowseImageControl::setTitleText(const QString& text)
+{
+    TitleLbl->setText(text);
+    TitleLbl->setVisible(!text.isEmpty());
+}
+
+void BrowseImageControl::setBackground(const QColor& colour)
+{
+    m_background = colour;
+    ImagePB->setBackground(colour);
+}
+
+void BrowseImageControl::setImageFileName(const QString& name)
+{
+    m_imageFileName = name;
+    if (name.isEmpty()) {
+        ImagePB->clear();
+    } else {
+        ImagePB->showFile(PicturePath(m_host, name));
+    }
+}
+
+void BrowseImageControl::setSelectedImage(const std::shared_ptr<clsSelectedImage>& selection)
+{
+    m_selectedImage = selection;
+    setImageFileName(selection ? selection->imageFileName : QString());
+    fillSizes(selection ? selection->GetBitmapSize(ImagePB->pictureSize()) : ImageSizeTexts());
+}
+
+void BrowseImageControl::Remove()
+{
+    setImageFileName(QString());
+    if (m_selectedImage) {
+        m_selectedImage->imageFileName.clear();
+        m_selectedImage->setWidthBmp(0);
+        m_selectedImage->setHeightBmp(0);
+    }
+    fillSizes({u"0"_s, u"0"_s});
+}
+
+void BrowseImageControl::browse()
+{
+    if (!m_selectedImage) {
+        return;
+    }
+    // What stands in the dialog may outlive the binding of the panel.
+    const std::shared_ptr<clsSelectedImage> selection = m_selectedImage;
+    frmSelectImage dialog(m_host, selection, window());
+    if (dialog.exec() != QDialog::Accepted) {
+        return;
+    }
+    setImageFileName(selection->imageFileName);
+    fillSizes(selection->GetBitmapSizeOriginal(ImagePB->pictureSize()));
+}
+
+void BrowseImageControl::fillSizes(const ImageSizeTexts& sizes)
+{
+    txtWidth->fill(sizes.width);
+    txtHeight->fill(sizes.height);
+}

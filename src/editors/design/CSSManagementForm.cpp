@@ -1,0 +1,59 @@
+#include "editors/design/CSSManagementForm.h"
+
+#include "design/CSSClass.h"
+#include "editors/PanelHost.h"
+#include "editors/design/DialogButtons.h"
+#include "editors/design/FontAndColorEditorPanel.h"
+#include "model/ShopSession.h"
+
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+CSSManagementForm::CSSManagementForm(PanelHost& host, QWidget* parent)
+    : QDialog(parent), FontAndColorEditorPanel1(new FontAndColorEditorPanel(host, this))
+{
+    setObjectName(u"CSSManagementForm"_s);
+    setAttribute(Qt::WA_DeleteOnClose);
+    FontAndColorEditorPanel1->setObjectName(u"FontAndColorEditorPanel1"_s);
+    const DialogButtons buttons = MakeDialogButtons(this);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 16, 16, 16);
+    column->setSpacing(14);
+    column->addWidget(FontAndColorEditorPanel1);
+    column->addLayout(buttons.row);
+
+    connect(buttons.OkBtn, &QPushButton::clicked, this, [this] {
+        FontAndColorEditorPanel1->SaveActiveObject(*m_style);
+        accept();
+    });
+    connect(buttons.CancelBtn, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void CSSManagementForm::openOn(const std::shared_ptr<CSSClass>& style, const QString& title)
+{
+    m_style = style;
+    FontAndColorEditorPanel1->SetActiveObject(*style);
+    FontAndColorEditorPanel1->setObjectTitle(title);
+    setWindowTitle(title);
+    open();
+}
+
+std::shared_ptr<CSSClass> StyleNamed(ShopClass& shop, const QString& styleName)
+{
+    const QString key = u"ID"_s + styleName;
+    if (!shop.CSSs.HasKey(key)) {
+        auto style = std::make_shared<CSSClass>();
+        style->CSSName = styleName;
+        shop.CSSs.Add(style, key);
+    }
+    return shop.CSSs.Item(key);
+}
+
+CSSManagementForm* OpenStyle(PanelHost& host, QWidget* parent, const QString& title, const QString& styleName)
+{
+    const std::shared_ptr<CSSClass> style = StyleNamed(*host.session().shop, styleName);
+    auto* form = new CSSManagementForm(host, parent->window());
+    form->openOn(style, title);
+    return form;
+}

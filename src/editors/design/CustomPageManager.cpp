@@ -1,0 +1,219 @@
+#include "editors/design/CustomPageManager.h"
+
+#include "design/ApplicationTitle.h"
+#include "design/CustomPageClass.h"
+#include "editors/PanelHost.h"
+#include "editors/design/ManagerTables.h"
+#include "editors/design/PageOptions.h"
+#include "model/ShopSession.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScopedValueRollback>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The first name that no page has: "New Page", "New Page 1", "New Page 2" and so on.
+QString freeName(const ShopClass& shop)
+{
+    QString name = u"New Page"_s;
+    for (int number = 1; shop.CustomPages.HasKey(name); ++number) {
+        name = u"New Page %1"_s.arg(number);
+    }
+    return name;
+}
+
+// The two pages that every shop has, too: a link by such a name never leads to a custom page.
+bool isTaken(const ShopClass& shop, const QString& name, const CustomPageClass& except)
+{
+    if (name.compare(u"Home page"_s, Qt::CaseInsensitive) == 0 ||
+        name.compare(u"Shopping cart page"_s, Qt::CaseInsensitive) == 0) {
+        return true;
+    }
+    return shop.CustomPages.HasKey(name) && shop.CustomPages.Item(name).get() != &except;
+}
+
+} // namespace
+
+CustomPageManager::CustomPageManager(PanelHost& panelHost, QWidget* parent)
+    : PageManager(panelHost, CustomPageTable(), parent),
+      CustomPagesListCtl(new QListWidget(this)),
+      AddPageBtn(new QPushButton(tr("&Add a page"), this)),
+      DeletePageBtn(new QPushButton(tr("&Delete the page"), this)),
+      PageNameTextCtl(new QLineEdit(this)),
+      PageContentTextCtl(new QPlainTextEdit(this))
+{
+    options()->addAheadOfStyles(makeEditor(), 1);
+
+    const auto touched = [this] { m_changed = true; };
+    connect(PageNameTextCtl, &QLineEdit::textEdited, this, touched);
+    connect(PageContentTextCtl, &QPlainTextEdit::textChanged, this, touched);
+    connect(AddPageBtn, &QPushButton::clicked, this, [this] { guarded(host().errorHandler(), [this] { addPage(); }); });
+    connect(DeletePageBtn, &QPushButton::clicked, this,
+            [this] { guarded(host().errorHandler(), [this] { deletePage(); }); });
+    connect(CustomPagesListCtl, &QListWidget::currentRowChanged, this,
+            [this] { guarded(host().errorHandler(), [this] { pageSelected(); }); });
+    openPage(nullptr);
+}
+
+QWidget* CustomPageManager::makeEditor()
+{
+    CustomPagesListCtl->setObjectName(u"CustomPagesListCtl"_s);
+    AddPageBtn->setObjectName(u"AddPageBtn"_s);
+    DeletePageBtn->setObjectName(u"DeletePageBtn"_s);
+    PageNameTextCtl->setObjectName(u"PageNameTextCtl"_s);
+    PageContentTextCtl->setObjectName(u"PageContentTextCtl"_s);
+    PageContentTextCtl->setTabChangesFocus(true);
+    PageContentTextCtl->setMinimumHeight(140);
+
+    auto* group = new QGroupBox(tr("Your pages"), this);
+    const auto caption = [group](const QString& text, QWidget* field) {
+        auto* label = new QLabel(text, group);
+        label->setBuddy(field);
+        return label;
+    };
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(AddPageBtn);
+    buttons->addWidget(DeletePageBtn);
+    auto* grid = new QGridLayout(group);
+    grid->setContentsMargins(14, 10, 14, 14);
+    grid->setHorizontalSpacing(18);
+    grid->setVerticalSpacing(6);
+    grid->setColumnStretch(1, 1);
+    grid->setRowStretch(3, 1);
+    grid->addWidget(caption(tr("&Pages"), CustomPagesListCtl), 0, 0);
+    grid->addWidget(CustomPagesListCtl, 1, 0, 3, 1);
+    grid->addLayout(buttons, 4, 0);
+    grid->addWidget(caption(tr("&Name of the page"), PageNameTextCtl), 0, 1);
+    grid->addWidget(PageNameTextCtl, 1, 1);
+    grid->addWidget(caption(tr("Te&xt of the page, with HTML"), PageContentTextCtl), 2, 1);
+    grid->addWidget(PageContentTextCtl, 3, 1, 2, 1);
+    return group;
+}
+
+void CustomPageManager::loadMore(ShopClass& shop)
+{
+    const std::shared_ptr<CustomPageClass> before = m_openPage;
+    fillList(shop);
+    openPage(nullptr);
+    selectPage(shop, before.get());
+}
+
+void CustomPageManager::saveMore(ShopClass& shop)
+{
+    storeOpenPage(shop);
+}
+
+void CustomPageManager::forget()
+{
+    m_openPage.reset();
+}
+
+void CustomPageManager::fillList(const ShopClass& shop)
+{
+    const QScopedValueRollback filling(m_filling, true);
+    CustomPagesListCtl->clear();
+    for (const std::shared_ptr<CustomPageClass>& page : shop.CustomPages) {
+        CustomPagesListCtl->addItem(page->pageName);
+    }
+    CustomPagesListCtl->setCurrentRow(-1);
+}
+
+void CustomPageManager::selectPage(const ShopClass& shop, const CustomPageClass* page)
+{
+    for (int position = 1; position <= shop.CustomPages.Count(); ++position) {
+        if (shop.CustomPages.Item(position).get() == page) {
+            CustomPagesListCtl->setCurrentRow(position - 1);
+        }
+    }
+}
+
+void CustomPageManager::pageSelected()
+{
+    const int row = CustomPagesListCtl->currentRow();
+    if (m_filling || row < 0) {
+        return;
+    }
+    ShopClass& shop = *host().session().shop;
+    storeOpenPage(shop);
+    openPage(shop.CustomPages.Item(row + 1));
+}
+
+void CustomPageManager::openPage(const std::shared_ptr<CustomPageClass>& page)
+{
+    m_openPage = page;
+    PageNameTextCtl->setText(page ? page->pageName : QString());
+    PageContentTextCtl->setPlainText(page ? page->ContentText : QString());
+    PageNameTextCtl->setEnabled(page != nullptr);
+    PageContentTextCtl->setEnabled(page != nullptr);
+    m_changed = false;
+}
+
+void CustomPageManager::storeOpenPage(ShopClass& shop)
+{
+    if (!m_openPage || !m_changed) {
+        return;
+    }
+    m_changed = false;
+    // The raw text, since the plain one turns non-breaking blanks into blanks.
+    m_openPage->ContentText =
+        PageContentTextCtl->document()->toRawText().replace(QChar::ParagraphSeparator, QChar(u'\n'));
+    const QString name = PageNameTextCtl->text();
+    if (name == m_openPage->pageName) {
+        return;
+    }
+    if (name.isEmpty() || isTaken(shop, name, *m_openPage)) {
+        PageNameTextCtl->setText(m_openPage->pageName);
+        return;
+    }
+    rename(shop, name);
+}
+
+// The page keeps its place in the list and is found under its new name. The menus are not touched: a menu that shows
+// the former name goes on showing it.
+void CustomPageManager::rename(ShopClass& shop, const QString& name)
+{
+    m_openPage->pageName = name;
+    KeyedCollection<std::shared_ptr<CustomPageClass>> pages;
+    for (const std::shared_ptr<CustomPageClass>& page : shop.CustomPages) {
+        pages.Add(page, page->pageName);
+        CustomPagesListCtl->item(pages.Count() - 1)->setText(page->pageName);
+    }
+    shop.CustomPages = std::move(pages);
+}
+
+void CustomPageManager::addPage()
+{
+    ShopClass& shop = *host().session().shop;
+    storeOpenPage(shop);
+    auto page = std::make_shared<CustomPageClass>();
+    page->pageName = freeName(shop);
+    shop.CustomPages.Add(page, page->pageName);
+    fillList(shop);
+    selectPage(shop, page.get());
+    PageNameTextCtl->setFocus();
+    PageNameTextCtl->selectAll();
+}
+
+void CustomPageManager::deletePage()
+{
+    UserPrompts& prompts = host().session().prompts;
+    if (!m_openPage) {
+        prompts.showMessage(ApplicationTitle(), u"Please select Page to delete"_s, PromptIcon::None);
+        return;
+    }
+    if (!prompts.askYesNo(ApplicationTitle(), u"Do you really want to delete the page?"_s)) {
+        return;
+    }
+    ShopClass& shop = *host().session().shop;
+    shop.CustomPages.Remove(m_openPage->pageName);
+    fillList(shop);
+    openPage(nullptr);
+}

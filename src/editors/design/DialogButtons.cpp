@@ -1,0 +1,22 @@
+#include "editors/design/DialogButtons.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+DialogButtons MakeDialogButtons(QWidget* parent)
+{
+    const auto button = [parent](const char* name, const QString& caption) {
+        auto* made = new QPushButton(caption, parent);
+        made->setObjectName(QLatin1String(name));
+        made->setMinimumWidth(96);
+        return made;
+    };
+    DialogButtons buttons{new QHBoxLayout, button("OkBtn", QCoreApplication::translate("DialogButtons", "OK")),
+                          button("CancelBtn", QCoreApplication::translate("DialogButtons", "Cancel"))};
+    buttons.OkBtn->setDefault(true);
+    buttons.row->addStretch(1);
+    buttons.row->addWidget(buttons.OkBtn);
+    buttons.row->addWidget(buttons.CancelBtn);
+    return buttons;
+}

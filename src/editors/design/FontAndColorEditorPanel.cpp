@@ -1,0 +1,288 @@
+#include "editors/design/FontAndColorEditorPanel.h"
+
+#include "base/UserPrompts.h"
+#include "base/XMLUtils.h"
+#include "design/CSSClass.h"
+#include "editors/PanelHost.h"
+#include "editors/design/ColourText.h"
+#include "model/ShopSession.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QStringList& fontNames()
+{
+    static const QStringList names = {u"Arial"_s, u"Helvetica"_s, u"Sans-serif"_s, u"Times New Roman"_s, u"Verdana"_s};
+    return names;
+}
+
+const QStringList& fontSizes()
+{
+    static const QStringList sizes = {u"7pt"_s,  u"8pt"_s,  u"9pt"_s,  u"10pt"_s, u"11pt"_s, u"12pt"_s,
+                                      u"14pt"_s, u"16pt"_s, u"18pt"_s, u"20pt"_s, u"22pt"_s, u"24pt"_s,
+                                      u"26pt"_s, u"28pt"_s, u"30pt"_s, u"36pt"_s, u"42pt"_s, u"48pt"_s};
+    return sizes;
+}
+
+// Selects the entry of that text. One that the list does not hold joins it until the next call.
+void select(QComboBox* list, const QStringList& entries, const QString& text)
+{
+    while (list->count() > entries.size()) {
+        list->removeItem(list->count() - 1);
+    }
+    if (!entries.contains(text)) {
+        list->addItem(text);
+    }
+    list->setCurrentIndex(list->findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+}
+
+QComboBox* namedList(const char* name, const QStringList& entries, const QString& selected, QWidget* parent)
+{
+    auto* list = new QComboBox(parent);
+    list->setObjectName(QLatin1String(name));
+    list->addItems(entries);
+    select(list, entries, selected);
+    return list;
+}
+
+bool isYes(const QString& word)
+{
+    return word == "Yes"_L1;
+}
+
+QString wordOf(bool on)
+{
+    return on ? u"Yes"_s : u"No"_s;
+}
+
+} // namespace
+
+FontAndColorEditorPanel::FontAndColorEditorPanel(PanelHost& host, QWidget* parent)
+    : QWidget(parent), Frame1(new QGroupBox(this))
+{
+    Frame1->setObjectName(u"Frame1"_s);
+    auto* around = new QVBoxLayout(this);
+    around->setContentsMargins(0, 0, 0, 0);
+    around->addWidget(Frame1);
+
+    auto* form = new QFormLayout(Frame1);
+    form->setContentsMargins(16, 12, 16, 14);
+    form->setVerticalSpacing(10);
+    makeFontRow();
+    makeColourRow(host);
+
+    SampleLbl = new QLabel(tr("The quick brown fox"), Frame1);
+    SampleLbl->setObjectName(u"SampleLbl"_s);
+    SampleLbl->setAccessibleName(tr("Sample of the style"));
+    SampleLbl->setAlignment(Qt::AlignCenter);
+    SampleLbl->setAutoFillBackground(true);
+    SampleLbl->setMinimumSize(300, 72);
+    SampleLbl->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    form->addRow(SampleLbl);
+
+    for (QComboBox* list : {FontNameLst, FontSizeLst}) {
+        connect(list, &QComboBox::currentTextChanged, this, &FontAndColorEditorPanel::showSample);
+    }
+    for (QCheckBox* check : {Check1, Check2, Check3, Check4}) {
+        connect(check, &QCheckBox::toggled, this, &FontAndColorEditorPanel::showSample);
+    }
+    showSample();
+}
+
+void FontAndColorEditorPanel::makeFontRow()
+{
+    auto* form = qobject_cast<QFormLayout*>(Frame1->layout());
+    FontNameLst = namedList("FontNameLst", fontNames(), u"Arial"_s, Frame1);
+    FontSizeLst = namedList("FontSizeLst", fontSizes(), u"10pt"_s, Frame1);
+    form->addRow(tr("&Font:"), FontNameLst);
+    form->addRow(tr("&Size:"), FontSizeLst);
+
+    auto* row = new QHBoxLayout;
+    row->setSpacing(14);
+    for (auto [check, name, caption] :
+         {std::tuple(&Check1, "Check1", tr("&Bold")), std::tuple(&Check2, "Check2", tr("&Italic")),
+          std::tuple(&Check3, "Check3", tr("&Underlined")), std::tuple(&Check4, "Check4", tr("Struck &through"))}) {
+        *check = new QCheckBox(caption, Frame1);
+        (*check)->setObjectName(QLatin1String(name));
+        row->addWidget(*check);
+    }
+    row->addStretch(1);
+    form->addRow(row);
+}
+
+void FontAndColorEditorPanel::makeColourRow(PanelHost& host)
+{
+    using Setter = void (FontAndColorEditorPanel::*)(const QString&);
+    const auto colourButton = [&](const char* name, const QString& caption, const QString& accessibleName,
+                                  const QString& colour, Setter set) {
+        auto* button = new QPushButton(Frame1);
+        button->setObjectName(QLatin1String(name));
+        button->setAccessibleName(accessibleName);
+        qobject_cast<QFormLayout*>(Frame1->layout())->addRow(caption, button);
+        connect(button, &QPushButton::clicked, this, [this, &host, &colour, set] {
+            guarded(host.errorHandler(), [&] {
+                std::optional<int> chosen = host.session().prompts.chooseColour(ColourNumberOf(colour));
+                if (chosen) {
+                    (this->*set)(ColorToHex(*chosen));
+                }
+            });
+        });
+        return button;
+    };
+    ForeGroundColorBtn = colourButton("ForeGroundColorBtn", tr("&Text colour:"), tr("Text colour"), m_foreGround,
+                                      &FontAndColorEditorPanel::setObjectForeGroundColor);
+    BackGroundColorBtn = colourButton("BackGroundColorBtn", tr("Back&ground:"), tr("Background colour"), m_backGround,
+                                      &FontAndColorEditorPanel::setObjectBackGroundColor);
+}
+
+void FontAndColorEditorPanel::SetActiveObject(const CSSClass& style)
+{
+    setObjectForeGroundColor(style.ForeGroundColor);
+    setObjectBackGroundColor(style.BackGroundColor);
+    setObjectFontName(style.FontName);
+    setObjectFontSize(style.FontSize);
+    setObjectFontBold(isYes(style.IsBold));
+    setObjectFontCursiv(isYes(style.IsCursive));
+    setObjectFontUnderline(isYes(style.IsUndcelined));
+    setObjectFontLineTrough(isYes(style.IsLineThrugh));
+}
+
+void FontAndColorEditorPanel::SaveActiveObject(CSSClass& style) const
+{
+    style.ForeGroundColor = ObjectForeGroundColor();
+    style.BackGroundColor = ObjectBackGroundColor();
+    style.FontName = ObjectFontName();
+    style.FontSize = ObjectFontSize();
+    style.IsBold = wordOf(ObjectFontBold());
+    style.IsCursive = wordOf(ObjectFontCursiv());
+    style.IsUndcelined = wordOf(ObjectFontUnderline());
+    style.IsLineThrugh = wordOf(ObjectFontLineTrough());
+}
+
+// Properties ----------------------------------------------------------------------------------------------------------
+
+QString FontAndColorEditorPanel::ObjectTitle() const
+{
+    return Frame1->title();
+}
+
+void FontAndColorEditorPanel::setObjectTitle(const QString& title)
+{
+    Frame1->setTitle(title);
+}
+
+void FontAndColorEditorPanel::setObjectForeGroundColor(const QString& colour)
+{
+    m_foreGround = colour;
+    showColour(ForeGroundColorBtn, colour);
+}
+
+void FontAndColorEditorPanel::setObjectBackGroundColor(const QString& colour)
+{
+    m_backGround = colour;
+    showColour(BackGroundColorBtn, colour);
+}
+
+QString FontAndColorEditorPanel::ObjectFontName() const
+{
+    return FontNameLst->currentText();
+}
+
+void FontAndColorEditorPanel::setObjectFontName(const QString& name)
+{
+    select(FontNameLst, fontNames(), name);
+}
+
+QString FontAndColorEditorPanel::ObjectFontSize() const
+{
+    return FontSizeLst->currentText();
+}
+
+void FontAndColorEditorPanel::setObjectFontSize(const QString& size)
+{
+    select(FontSizeLst, fontSizes(), size);
+}
+
+bool FontAndColorEditorPanel::ObjectFontBold() const
+{
+    return Check1->isChecked();
+}
+
+void FontAndColorEditorPanel::setObjectFontBold(bool on)
+{
+    Check1->setChecked(on);
+}
+
+bool FontAndColorEditorPanel::ObjectFontCursiv() const
+{
+    return Check2->isChecked();
+}
+
+void FontAndColorEditorPanel::setObjectFontCursiv(bool on)
+{
+    Check2->setChecked(on);
+}
+
+bool FontAndColorEditorPanel::ObjectFontUnderline() const
+{
+    return Check3->isChecked();
+}
+
+void FontAndColorEditorPanel::setObjectFontUnderline(bool on)
+{
+    Check3->setChecked(on);
+}
+
+bool FontAndColorEditorPanel::ObjectFontLineTrough() const
+{
+    return Check4->isChecked();
+}
+
+void FontAndColorEditorPanel::setObjectFontLineTrough(bool on)
+{
+    Check4->setChecked(on);
+}
+
+// What is shown -------------------------------------------------------------------------------------------------------
+
+void FontAndColorEditorPanel::showColour(QPushButton* button, const QString& colour)
+{
+    button->setText(colour);
+    button->setIcon(ColourSwatch(ColourOf(colour), palette().color(QPalette::WindowText), devicePixelRatioF()));
+    showSample();
+}
+
+void FontAndColorEditorPanel::showSample()
+{
+    if (!SampleLbl) {
+        return;
+    }
+    QPalette colours = palette();
+    const auto use = [&colours](QPalette::ColorRole role, const QString& text) {
+        const QColor colour = ColourOf(text);
+        if (colour.isValid()) {
+            colours.setColor(role, colour);
+        }
+    };
+    use(QPalette::WindowText, m_foreGround);
+    use(QPalette::Window, m_backGround);
+    SampleLbl->setPalette(colours);
+
+    QFont font(ObjectFontName());
+    const double points = ObjectFontSize().chopped(ObjectFontSize().endsWith(u"pt") ? 2 : 0).toDouble();
+    font.setPointSizeF(points > 0 ? points : this->font().pointSizeF());
+    font.setBold(ObjectFontBold());
+    font.setItalic(ObjectFontCursiv());
+    font.setUnderline(ObjectFontUnderline());
+    font.setStrikeOut(ObjectFontLineTrough());
+    SampleLbl->setFont(font);
+}

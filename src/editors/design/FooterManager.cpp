@@ -1,0 +1,34 @@
+#include "editors/design/FooterManager.h"
+
+#include "design/CSSClass.h"
+#include "editors/design/CSSManagementForm.h"
+#include "editors/design/FontAndColorEditorPanel.h"
+#include "editors/design/ManagerTables.h"
+#include "editors/design/PageOptions.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString copyrightStyle = u"copyright"_s;
+
+} // namespace
+
+FooterManager::FooterManager(PanelHost& panelHost, QWidget* parent)
+    : PageManager(panelHost, FooterManagerTable(), parent),
+      CopyrightPropPnl(new FontAndColorEditorPanel(panelHost, options()))
+{
+    CopyrightPropPnl->setObjectName(u"CopyrightPropPnl"_s);
+    CopyrightPropPnl->setObjectTitle(tr("Copyright line"));
+    options()->addAheadOfStyles(CopyrightPropPnl);
+}
+
+void FooterManager::loadMore(ShopClass& shop)
+{
+    CopyrightPropPnl->SetActiveObject(*StyleNamed(shop, copyrightStyle));
+}
+
+void FooterManager::saveMore(ShopClass& shop)
+{
+    CopyrightPropPnl->SaveActiveObject(*StyleNamed(shop, copyrightStyle));
+}

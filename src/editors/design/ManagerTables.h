@@ -1,0 +1,93 @@
+// What the ten page managers show, as data: the options with their captions, the styles, the image slots, the page
+// lists and the template of each page. PageManager makes its controls from one table; whoever adds an option to a page
+// adds a row here. All texts live as long as the program.
+#pragma once
+
+#include "design/DesignOptions.h"
+#include "design/ShopDesignClass.h"
+
+#include <QString>
+
+#include <optional>
+#include <span>
+
+// A check box: on when the option is "Yes".
+struct SwitchRow
+{
+    DesignOption option;
+    const char* control; // the check box's name
+    const char* caption; // what the visitor will see
+};
+
+// A line of text.
+struct TextRow
+{
+    DesignOption option;
+    const char* control;
+    const char* caption;
+};
+
+// Check boxes, and texts below them, that stand together.
+struct OptionGroup
+{
+    const char* caption;
+    std::span<const SwitchRow> switches;
+    std::span<const TextRow> texts;
+};
+
+// A button that opens a style.
+struct StyleRow
+{
+    const char* style; // the name in CSSs
+    const char* title; // of the dialog
+    const char* caption;
+};
+
+// A button that opens the choice between an image and a text.
+struct SlotRow
+{
+    std::optional<ImageSlot> slot; // none: a slot that is never filled
+    const char* control;
+    const char* caption;
+};
+
+// A button that opens the choice of pages.
+struct ListRow
+{
+    PageSelection list;
+    const char* control;
+    const char* caption;
+    bool several;
+};
+
+struct ManagerTable
+{
+    const char* heading;
+    const char* templateName; // the name of the file, and the key in the set of templates
+    DesignOption advanced;
+    const char* advancedControl;
+    const char* switchBackQuestion; // asked when the advanced mode is switched off
+    bool savesTemplate;             // with every save, not only by the button
+    std::span<const OptionGroup> groups;
+    std::span<const SlotRow> imageSlots;
+    std::span<const ListRow> lists;
+    std::span<const StyleRow> styles;
+};
+
+const ManagerTable& MenuManagerTable();
+const ManagerTable& HeaderManagerTable();
+const ManagerTable& FooterManagerTable();
+const ManagerTable& MainPageTable();
+const ManagerTable& CategoryPageTable();
+const ManagerTable& ProductPageTable();
+const ManagerTable& SearchPageTable();
+const ManagerTable& ShoppingCartPageTable();
+const ManagerTable& BuyingFormTable();
+const ManagerTable& CustomPageTable();
+
+// The question of all managers but the header's. Its spelling is meant.
+inline constexpr const char* SwitchBackQuestion = "If you swich back from Advanced Mode all your changes made in the "
+                                                  "template will be changed back to defaults. Do you want to continue?";
+
+// A caption or title of a table in the user's language.
+QString CaptionText(const char* text);

@@ -1,0 +1,95 @@
+#include "editors/design/PageManager.h"
+
+#include "editors/PanelHost.h"
+#include "editors/SubmitReset.h"
+#include "editors/design/ManagerTables.h"
+#include "editors/design/PageOptions.h"
+#include "editors/design/TemplatePart.h"
+#include "model/ShopSession.h"
+
+#include <QLabel>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QLabel* newHeading(const QString& text, QWidget* parent)
+{
+    auto* heading = new QLabel(text, parent);
+    QFont font = heading->font();
+    font.setPointSizeF(font.pointSizeF() * 1.4);
+    font.setBold(true);
+    heading->setFont(font);
+    return heading;
+}
+
+QScrollArea* newScrollArea(QWidget* content, QWidget* parent)
+{
+    auto* scroll = new QScrollArea(parent);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setWidget(content);
+    return scroll;
+}
+
+} // namespace
+
+PageManager::PageManager(PanelHost& host, const ManagerTable& table, QWidget* parent)
+    : Panel(parent),
+      m_host(host),
+      m_table(table),
+      m_options(new PageOptions(host, table, nullptr)),
+      m_template(new TemplatePart(host, table, this))
+{
+    const QString heading = CaptionText(table.heading);
+    setAccessibleName(heading);
+    auto* tabs = new QTabWidget(this);
+    tabs->setObjectName(u"PagesTab"_s);
+    tabs->addTab(newScrollArea(m_options, tabs), tr("Page"));
+    tabs->addTab(m_template, tr("Template"));
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 12, 16, 12);
+    column->setSpacing(10);
+    column->addWidget(newHeading(heading, this));
+    column->addWidget(tabs, 1);
+    column->addWidget(new SubmitReset(host, this));
+}
+
+void PageManager::SetActiveObject(const CatalogueObject& /*object*/)
+{
+    m_shop = m_host.session().shop;
+    m_options->load();
+    loadMore(*m_shop);
+    m_template->load(m_shop->ShopDesign->isOn(m_table.advanced));
+}
+
+void PageManager::SaveActiveObject()
+{
+    if (!m_shop) {
+        return;
+    }
+    ShopDesignClass& design = *m_shop->ShopDesign;
+    m_options->save(design);
+    design.setOption(m_table.advanced, m_template->isAdvanced() ? u"Yes"_s : u"No"_s);
+    saveMore(*m_shop);
+    if (m_table.savesTemplate) {
+        m_template->save();
+    }
+}
+
+void PageManager::ClearActiveObject()
+{
+    m_shop.reset();
+    forget();
+}
+
+void PageManager::loadMore(ShopClass& /*shop*/) {}
+
+void PageManager::saveMore(ShopClass& /*shop*/) {}
+
+void PageManager::forget() {}

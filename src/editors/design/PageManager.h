@@ -1,0 +1,46 @@
+// The base of the ten panels that design the shop's pages: a heading, a tab with the page's options, a tab with its
+// template, and Submit and Reset. A manager is one table (see ManagerTables.h), and where it holds more than options, a
+// small override. The window owns them.
+#pragma once
+
+#include "editors/Panel.h"
+
+#include <memory>
+
+class PageOptions;
+class PanelHost;
+class ShopClass;
+class TemplatePart;
+struct ManagerTable;
+
+class PageManager : public Panel
+{
+    Q_OBJECT
+
+public:
+    // The host and the table must outlive it.
+    PageManager(PanelHost& host, const ManagerTable& table, QWidget* parent);
+
+    // Shows the session's shop, whatever object is active. Error 5 when the set has no template of the page.
+    void SetActiveObject(const CatalogueObject& object) override;
+    // Writes the options, what else the manager holds, and for most managers the template. Errors as for
+    // TemplatePart::save.
+    void SaveActiveObject() override;
+    void ClearActiveObject() override;
+
+protected:
+    // What a manager holds beside its options. The shop is the one that the panel is bound to.
+    virtual void loadMore(ShopClass& shop);
+    virtual void saveMore(ShopClass& shop);
+    virtual void forget();
+
+    PanelHost& host() { return m_host; }
+    PageOptions* options() { return m_options; }
+
+private:
+    PanelHost& m_host;
+    const ManagerTable& m_table;
+    PageOptions* m_options;
+    TemplatePart* m_template;
+    std::shared_ptr<ShopClass> m_shop; // none while the panel is not bound
+};

@@ -1,0 +1,269 @@
+#include "editors/design/PageOptions.h"
+
+#include "base/RuntimeError.h"
+#include "design/CSSClass.h"
+#include "editors/PanelHost.h"
+#include "editors/design/CSSManagementForm.h"
+#include "editors/design/ColourText.h"
+#include "editors/design/ColumnGrid.h"
+#include "editors/design/frmSelectImageOrText.h"
+#include "editors/design/frmSelectedCustomPages.h"
+#include "editors/design/ucSelectCustPage.h"
+#include "model/ShopSession.h"
+
+#include <QCheckBox>
+#include <QFormLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int mostColumns = 3;
+constexpr int longestText = 620; // pixels of a text field
+
+ShopDesignClass& designOf(PanelHost& host)
+{
+    const std::shared_ptr<ShopDesignClass>& design = host.session().shop->ShopDesign;
+    if (!design) {
+        throw RuntimeError(ErrorNumber::ObjectNotSet);
+    }
+    return *design;
+}
+
+QString describe(const clsSelectedImage* image)
+{
+    if (!image) {
+        return PageOptions::tr("The page has no such button of its own");
+    }
+    switch (image->SelectionType) {
+    case ImageSelection::Text:
+        return PageOptions::tr("Text: %1").arg(image->TextValue);
+    case ImageSelection::Image:
+        return PageOptions::tr("Image: %1").arg(image->imageFileName);
+    case ImageSelection::Nothing:
+        break;
+    }
+    return PageOptions::tr("Nothing chosen");
+}
+
+QString describe(const clsSelectedCustomPages& pages)
+{
+    QStringList names;
+    for (const QString& name : pages.selectedPages()) {
+        names << name;
+    }
+    return names.isEmpty() ? PageOptions::tr("Nothing chosen") : names.join(u", "_s);
+}
+
+} // namespace
+
+PageOptions::PageOptions(PanelHost& host, const ManagerTable& table, QWidget* parent)
+    : QWidget(parent), m_host(host), m_table(table), m_column(new QVBoxLayout(this))
+{
+    m_column->setContentsMargins(14, 12, 14, 12);
+    m_column->setSpacing(12);
+    for (const OptionGroup& group : table.groups) {
+        makeGroup(group);
+    }
+    makeImagesAndLists();
+    makeStyles();
+    m_column->addStretch(1);
+}
+
+// The controls --------------------------------------------------------------------------------------------------------
+
+QVBoxLayout* PageOptions::newGroup(const QString& caption)
+{
+    auto* box = new QGroupBox(caption, this);
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(14, 10, 14, 14);
+    column->setSpacing(9);
+    m_column->addWidget(box);
+    return column;
+}
+
+QPushButton* PageOptions::namedButton(const char* name, const QString& caption)
+{
+    auto* button = new QPushButton(caption, this);
+    button->setObjectName(QLatin1String(name));
+    button->setAutoDefault(false);
+    return button;
+}
+
+void PageOptions::makeGroup(const OptionGroup& group)
+{
+    QVBoxLayout* column = newGroup(CaptionText(group.caption));
+    auto* grid = new ColumnGrid(mostColumns, this);
+    for (const SwitchRow& row : group.switches) {
+        auto* box = new QCheckBox(CaptionText(row.caption), grid);
+        box->setObjectName(QLatin1String(row.control));
+        grid->add(box);
+        m_switches.emplace_back(row.option, box);
+    }
+    column->addWidget(grid);
+
+    auto* form = new QFormLayout;
+    form->setHorizontalSpacing(14);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    for (const TextRow& row : group.texts) {
+        auto* field = new QLineEdit(this);
+        field->setObjectName(QLatin1String(row.control));
+        field->setMaximumWidth(longestText);
+        auto* caption = new QLabel(CaptionText(row.caption), this);
+        caption->setBuddy(field);
+        form->addRow(caption, field);
+        m_texts.emplace_back(row.option, field);
+    }
+    column->addLayout(form);
+}
+
+QLabel* PageOptions::addChoice(QGridLayout* grid, QPushButton* button)
+{
+    auto* label = new QLabel(this);
+    label->setObjectName(button->objectName() + u"Value"_s);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    const int row = grid->rowCount();
+    grid->addWidget(button, row, 0);
+    grid->addWidget(label, row, 1);
+    return label;
+}
+
+void PageOptions::makeImagesAndLists()
+{
+    if (m_table.imageSlots.empty() && m_table.lists.empty()) {
+        return;
+    }
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(14);
+    grid->setVerticalSpacing(8);
+    grid->setColumnStretch(1, 1);
+    newGroup(m_table.lists.empty() ? tr("Buttons") : tr("Buttons and links"))->addLayout(grid);
+    for (const SlotRow& row : m_table.imageSlots) {
+        QPushButton* button = namedButton(row.control, CaptionText(row.caption) + u"..."_s);
+        m_slotLabels.push_back(addChoice(grid, button));
+        connect(button, &QPushButton::clicked, this,
+                [this, &row] { guarded(m_host.errorHandler(), [&] { openSlot(row); }); });
+    }
+    for (const ListRow& row : m_table.lists) {
+        QPushButton* button = namedButton(row.control, CaptionText(row.caption) + u"..."_s);
+        m_listLabels.push_back(addChoice(grid, button));
+        connect(button, &QPushButton::clicked, this,
+                [this, &row] { guarded(m_host.errorHandler(), [&] { openList(row); }); });
+    }
+    if (!m_table.lists.empty()) {
+        m_pagesForm = new frmSelectedCustomPages(m_host, this);
+        connect(m_pagesForm, &QDialog::finished, this, &PageOptions::showChoices);
+    }
+}
+
+void PageOptions::makeStyles()
+{
+    QVBoxLayout* column = newGroup(tr("Colours and fonts"));
+    m_styleGroup = qobject_cast<QGroupBox*>(column->parentWidget());
+    auto* grid = new ColumnGrid(mostColumns, m_styleGroup);
+    column->addWidget(grid);
+    for (const StyleRow& row : m_table.styles) {
+        QPushButton* button = namedButton(row.style, CaptionText(row.caption));
+        button->setObjectName(u"btnCSS_"_s + QLatin1String(row.style));
+        grid->add(button);
+        m_styleButtons.push_back(button);
+        connect(button, &QPushButton::clicked, this,
+                [this, &row] { guarded(m_host.errorHandler(), [&] { openStyle(row); }); });
+    }
+}
+
+void PageOptions::addAheadOfStyles(QWidget* widget, int stretch)
+{
+    m_column->insertWidget(m_column->indexOf(m_styleGroup), widget, stretch);
+    // The tab key follows the eye, too.
+    QWidget* before = m_styleButtons.front()->previousInFocusChain();
+    while ((before->focusPolicy() & Qt::TabFocus) == 0) {
+        before = before->previousInFocusChain();
+    }
+    for (QWidget* child : widget->findChildren<QWidget*>()) {
+        if ((child->focusPolicy() & Qt::TabFocus) != 0) {
+            setTabOrder(before, child);
+            before = child;
+        }
+    }
+}
+
+// The data ------------------------------------------------------------------------------------------------------------
+
+void PageOptions::load()
+{
+    const ShopDesignClass& design = designOf(m_host);
+    for (const auto& [option, box] : m_switches) {
+        box->setChecked(design.isOn(option));
+    }
+    for (const auto& [option, field] : m_texts) {
+        field->setText(design.Option(option));
+    }
+    showChoices();
+}
+
+void PageOptions::save(ShopDesignClass& design) const
+{
+    for (const auto& [option, box] : m_switches) {
+        design.setOption(option, box->isChecked() ? u"Yes"_s : u"No"_s);
+    }
+    for (const auto& [option, field] : m_texts) {
+        design.setOption(option, field->text());
+    }
+}
+
+std::shared_ptr<clsSelectedImage> PageOptions::imageOf(const SlotRow& row) const
+{
+    const ShopDesignClass& design = designOf(m_host);
+    return row.slot ? design.Image(*row.slot) : design.BuyingForm_RecalculateButton;
+}
+
+void PageOptions::showChoices()
+{
+    guarded(m_host.errorHandler(), [this] {
+        for (std::size_t i = 0; i < m_slotLabels.size(); ++i) {
+            m_slotLabels[i]->setText(describe(imageOf(m_table.imageSlots[i]).get()));
+        }
+        for (std::size_t i = 0; i < m_listLabels.size(); ++i) {
+            m_listLabels[i]->setText(describe(*designOf(m_host).Pages(m_table.lists[i].list)));
+        }
+        // The colours of each style on its button. A style that is not there yet is not made by looking.
+        const auto& styles = m_host.session().shop->CSSs;
+        for (std::size_t i = 0; i < m_styleButtons.size(); ++i) {
+            const QString key = u"ID"_s + QLatin1String(m_table.styles[i].style);
+            const CSSClass none;
+            const CSSClass& style = styles.HasKey(key) ? *styles.Item(key) : none;
+            m_styleButtons[i]->setIcon(
+                StyleSwatch(ColourOf(style.ForeGroundColor), ColourOf(style.BackGroundColor), devicePixelRatioF()));
+        }
+    });
+}
+
+// The dialogs ---------------------------------------------------------------------------------------------------------
+
+void PageOptions::openSlot(const SlotRow& row)
+{
+    const QDialog* dialog = ShowImageOrTextDialog(m_host, this, CaptionText(row.caption), imageOf(row));
+    connect(dialog, &QDialog::finished, this, &PageOptions::showChoices);
+}
+
+void PageOptions::openList(const ListRow& row)
+{
+    if (!row.several) {
+        m_pagesForm->pagesControl->SetMultiSelect(false);
+    }
+    m_pagesForm->setWindowTitle(CaptionText(row.caption));
+    ShowCustomPagesDialog(*m_pagesForm, designOf(m_host).Pages(row.list), m_host.session().shop->CustomPages);
+}
+
+void PageOptions::openStyle(const StyleRow& row)
+{
+    const QDialog* dialog = OpenStyle(m_host, this, CaptionText(row.title), QLatin1String(row.style));
+    connect(dialog, &QDialog::finished, this, &PageOptions::showChoices);
+}

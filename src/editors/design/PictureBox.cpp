@@ -1,0 +1,97 @@
+#include "editors/design/PictureBox.h"
+
+#include "base/RuntimeError.h"
+
+#include <QImageReader>
+#include <QPainter>
+
+namespace {
+
+constexpr int longestSide = 1200;          // pixels that are kept of a picture
+constexpr qint64 mostPixels = 100'000'000; // a picture with more is not decoded: that would take seconds
+
+} // namespace
+
+PictureBox::PictureBox(const QString& invalidText, QWidget* parent) : QFrame(parent), m_invalidText(invalidText)
+{
+    setFrameShape(QFrame::StyledPanel);
+    setMinimumSize(120, 100);
+    clear();
+}
+
+void PictureBox::showFile(const QString& path)
+{
+    clear();
+    QImageReader reader(path);
+    reader.setDecideFormatFromContent(true); // what a file is tells its content, whatever its name ends in
+    reader.setAutoTransform(false);          // the page's size is that of the file
+    const QSize size = reader.size();
+    if (!size.isValid() || size.isEmpty()) {
+        setMessage(m_invalidText);
+        return;
+    }
+    try {
+        m_size = NarrowedImageSize(size.width(), size.height());
+    } catch (const RuntimeError&) {
+        setMessage(m_invalidText); // no slot can hold its size
+        return;
+    }
+    if (static_cast<qint64>(size.width()) * size.height() > mostPixels) {
+        setMessage(tr("%1 x %2 pixels: too large to show").arg(size.width()).arg(size.height()));
+        return;
+    }
+    if (size.width() > longestSide || size.height() > longestSide) {
+        reader.setScaledSize(size.scaled(longestSide, longestSide, Qt::KeepAspectRatio).expandedTo(QSize(1, 1)));
+    }
+    m_image = reader.read();
+    if (m_image.isNull()) {
+        m_size = {};
+        setMessage(m_invalidText);
+        return;
+    }
+    setMessage(QString());
+}
+
+void PictureBox::clear()
+{
+    m_size = {};
+    m_image = QImage();
+    setMessage(tr("No picture"));
+}
+
+void PictureBox::setMessage(const QString& message)
+{
+    m_message = message;
+    setAccessibleDescription(message);
+    update();
+}
+
+void PictureBox::setBackground(const QColor& colour)
+{
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, colour);
+    colours.setColor(QPalette::Text, colour.lightness() < 128 ? Qt::white : Qt::black);
+    setPalette(colours);
+}
+
+void PictureBox::paintEvent(QPaintEvent* event)
+{
+    QPainter painter(this);
+    painter.fillRect(contentsRect(), palette().base());
+    const QRect place = contentsRect().adjusted(6, 6, -6, -6);
+    if (m_image.isNull()) {
+        painter.setPen(palette().color(QPalette::Text));
+        painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, m_message);
+    } else {
+        QSize shown = QSize(m_size.width, m_size.height);
+        if (shown.width() > place.width() || shown.height() > place.height()) {
+            shown.scale(place.size(), Qt::KeepAspectRatio);
+        }
+        QRect target(QPoint(), shown);
+        target.moveCenter(place.center());
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(target, m_image);
+    }
+    painter.end();
+    QFrame::paintEvent(event);
+}

@@ -1,0 +1,42 @@
+// Shows a picture file, scaled down to the place there is, or says that there is none or that it cannot be shown. The
+// file is read when it is shown; a picture that is too large is not decoded.
+#pragma once
+
+#include "design/ImageSize.h"
+
+#include <QFrame>
+#include <QImage>
+
+class PictureBox : public QFrame
+{
+    Q_OBJECT
+
+public:
+    // What stands in the place of a picture that cannot be read.
+    PictureBox(const QString& invalidText, QWidget* parent = nullptr);
+
+    // A file that cannot be read leaves the box without a picture.
+    void showFile(const QString& path);
+    void clear();
+
+    bool hasPicture() const { return m_size.width != 0; }
+    // The true size of the picture in pixels; 0 by 0 without one.
+    ImageSize pictureSize() const { return m_size; }
+    // What stands in the place of the picture; empty when the picture itself does.
+    QString message() const { return m_message; }
+
+    void setBackground(const QColor& colour);
+
+    QSize sizeHint() const override { return {180, 140}; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void setMessage(const QString& message);
+
+    QString m_invalidText;
+    QString m_message;
+    QImage m_image; // scaled down while it was read
+    ImageSize m_size;
+};

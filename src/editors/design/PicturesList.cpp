@@ -1,0 +1,120 @@
+#include "editors/design/PicturesList.h"
+
+#include "base/TextFile.h"
+#include "editors/PanelFrame.h"
+#include "editors/PanelHost.h"
+#include "editors/design/PictureBox.h"
+#include "editors/design/PicturePathSetting.h"
+#include "model/ShopSession.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+PicturesList::PicturesList(PanelHost& host, QWidget* parent)
+    : QWidget(parent),
+      lstImages(named(new QListWidget(this), "lstImages", tr("Pictures of the shop"))),
+      imgPreview(named(new PictureBox(u"Invalid picture"_s, this), "imgPreview", tr("Preview"))),
+      AddBttn(named(new QPushButton(tr("&Add a picture..."), this), "AddBttn", tr("Add a picture"))),
+      m_host(host)
+{
+    const QStringList fileList = QDir(host.session().folder.picturesFolder())
+                                     .entryList(QDir::Files, QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
+    lstImages->addItems(fileList);
+    lstImages->setUniformItemSizes(true);
+    lstImages->setSpacing(1);
+    imgPreview->setMinimumSize(220, 180);
+
+    auto* caption = new QLabel(tr("&Pictures of the shop"), this);
+    caption->setBuddy(lstImages);
+    auto* list = new QVBoxLayout;
+    list->addWidget(caption);
+    list->addWidget(lstImages, 1);
+    list->addWidget(AddBttn, 0, Qt::AlignLeft);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addLayout(list, 1);
+    row->addWidget(imgPreview, 1);
+
+    connect(lstImages, &QListWidget::itemSelectionChanged, this, [this] {
+        guarded(m_host.errorHandler(), [this] {
+            showSelected();
+            if (lstImages->currentItem() && !lstImages->selectedItems().isEmpty()) {
+                Q_EMIT pictureSelected(selectedPicture());
+            }
+        });
+    });
+    connect(AddBttn, &QPushButton::clicked, this, [this] { guarded(m_host.errorHandler(), [this] { addPicture(); }); });
+}
+
+void PicturesList::selectPicture(const QString& name)
+{
+    for (int row = 0; row < lstImages->count(); ++row) {
+        if (lstImages->item(row)->text() == name) {
+            lstImages->setCurrentRow(row);
+            return;
+        }
+    }
+    lstImages->setCurrentRow(-1);
+    lstImages->clearSelection();
+}
+
+QString PicturesList::selectedPicture() const
+{
+    const QList<QListWidgetItem*> selected = lstImages->selectedItems();
+    return selected.isEmpty() ? QString() : selected.front()->text();
+}
+
+void PicturesList::addPicture()
+{
+    PicturePathSetting setting;
+    const QString chosen = m_host.session().prompts.chooseFile(setting.folder(), PictureFileFilter());
+    if (chosen.isEmpty()) {
+        return;
+    }
+    const QFileInfo source(chosen);
+    setting.setFolder(source.path());
+    const QString name = source.fileName();
+    const QFileInfo target(m_host.session().folder.picturesFolder() + name);
+    if (target.exists() && !m_host.session().prompts.askYesNo(u"Tarnwick"_s, u"Overwrite this file?"_s)) {
+        return;
+    }
+    if (source.canonicalFilePath() != target.canonicalFilePath() || !target.exists()) {
+        WriteFileBytes(target.filePath(), ReadFileBytes(chosen));
+    }
+    if (lstImages->findItems(name, Qt::MatchExactly | Qt::MatchCaseSensitive).isEmpty()) {
+        lstImages->addItem(name);
+    }
+    selectPicture(name);
+    showSelected(); // the file behind a name that was selected already may be another now
+}
+
+void PicturesList::showSelected()
+{
+    const QString name = selectedPicture();
+    if (name.isEmpty()) {
+        imgPreview->clear();
+        return;
+    }
+    imgPreview->showFile(m_host.session().folder.picturesFolder() + name);
+}
+
+QString PictureFileFilter()
+{
+    return u"Pictures (*.bmp;*.png;*jpg;*gif) (*.bmp *.png *jpg *gif)"_s;
+}
+
+QString PicturePath(PanelHost& host, const QString& name)
+{
+    if (name.contains(u':') || QDir::isAbsolutePath(name)) {
+        return name;
+    }
+    try {
+        return host.session().folder.pictureFile(name);
+    } catch (const RuntimeError&) {
+        return {};
+    }
+}

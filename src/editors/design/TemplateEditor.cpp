@@ -1,0 +1,122 @@
+#include "editors/design/TemplateEditor.h"
+
+#include "editors/design/TemplateText.h"
+#include "template_engine/TemplateParser.h"
+#include "template_engine/Templates_Set.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTextBlock>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+TemplateEditor::TemplateEditor(QWidget* parent)
+    : QWidget(parent), TemplateTxt(new TemplateText(this)), TemplateStateLbl(new QLabel(this))
+{
+    TemplateTxt->setObjectName(u"TemplateTxt"_s);
+    TemplateTxt->setAccessibleName(tr("Template"));
+    TemplateTxt->setMinimumHeight(160);
+    TemplateStateLbl->setObjectName(u"TemplateStateLbl"_s);
+    TemplateStateLbl->setTextFormat(Qt::PlainText);
+    TemplateStateLbl->setWordWrap(true);
+
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(6);
+    column->addWidget(TemplateTxt, 1);
+    column->addWidget(TemplateStateLbl);
+    makeFindRow();
+    connect(TemplateTxt, &QPlainTextEdit::textChanged, this, &TemplateEditor::check);
+}
+
+void TemplateEditor::makeFindRow()
+{
+    FindTxt = new QLineEdit(this);
+    FindTxt->setObjectName(u"FindTxt"_s);
+    FindTxt->setClearButtonEnabled(true);
+    FindTxt->setMaximumWidth(260);
+    auto* caption = new QLabel(tr("&Find:"), this);
+    caption->setBuddy(FindTxt);
+    const auto button = [this](const char* name, const QString& text) {
+        auto* made = new QPushButton(text, this);
+        made->setObjectName(QLatin1String(name));
+        return made;
+    };
+    FindNextBtn = button("FindNextBtn", tr("Next"));
+    FindPreviousBtn = button("FindPreviousBtn", tr("Previous"));
+    FindResultLbl = new QLabel(this);
+    FindResultLbl->setObjectName(u"FindResultLbl"_s);
+
+    auto* row = new QHBoxLayout;
+    row->addWidget(caption);
+    row->addWidget(FindTxt, 1);
+    row->addWidget(FindNextBtn);
+    row->addWidget(FindPreviousBtn);
+    row->addWidget(FindResultLbl, 1);
+    qobject_cast<QVBoxLayout*>(layout())->addLayout(row);
+
+    auto* toFind = new QShortcut(QKeySequence::Find, TemplateTxt, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(toFind, &QShortcut::activated, this, [this] {
+        FindTxt->setFocus();
+        FindTxt->selectAll();
+    });
+    connect(FindTxt, &QLineEdit::returnPressed, this, [this] { find({}); });
+    connect(FindTxt, &QLineEdit::textChanged, FindResultLbl, &QLabel::clear);
+    connect(FindNextBtn, &QPushButton::clicked, this, [this] { find({}); });
+    connect(FindPreviousBtn, &QPushButton::clicked, this, [this] { find(QTextDocument::FindBackward); });
+}
+
+void TemplateEditor::showTemplate(const QString& templateText)
+{
+    TemplateTxt->showTemplate(templateText);
+    FindResultLbl->clear();
+    check();
+}
+
+QString TemplateEditor::editedText() const
+{
+    return TemplateTxt->editedText();
+}
+
+void TemplateEditor::setEditable(bool editable)
+{
+    for (QWidget* part : std::initializer_list<QWidget*>{TemplateTxt, FindTxt, FindNextBtn, FindPreviousBtn}) {
+        part->setEnabled(editable);
+    }
+}
+
+void TemplateEditor::find(QTextDocument::FindFlags direction)
+{
+    const QString text = FindTxt->text();
+    FindResultLbl->clear();
+    if (text.isEmpty() || TemplateTxt->find(text, direction)) {
+        return;
+    }
+    // On from the other end.
+    const QTextCursor before = TemplateTxt->textCursor();
+    TemplateTxt->moveCursor(direction.testFlag(QTextDocument::FindBackward) ? QTextCursor::End : QTextCursor::Start);
+    if (!TemplateTxt->find(text, direction)) {
+        TemplateTxt->setTextCursor(before);
+        FindResultLbl->setText(tr("Not found"));
+    }
+}
+
+void TemplateEditor::check()
+{
+    QString state = tr("No mistakes: every tag and every block is closed.");
+    try {
+        parse_text(LinesEndedByCr(editedText()));
+    } catch (const TemplateError& error) {
+        // A line's end is one character here as in the document.
+        const QTextBlock line = TemplateTxt->document()->findBlock(static_cast<int>(error.position()));
+        state = tr("Line %1, column %2: %3")
+                    .arg(line.blockNumber() + 1)
+                    .arg(error.position() - line.position() + 1)
+                    .arg(error.description());
+    }
+    TemplateStateLbl->setText(state);
+}

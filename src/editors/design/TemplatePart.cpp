@@ -1,0 +1,124 @@
+#include "editors/design/TemplatePart.h"
+
+#include "base/TextFile.h"
+#include "design/ApplicationTitle.h"
+#include "editors/PanelHost.h"
+#include "editors/design/ManagerTables.h"
+#include "editors/design/TemplateEditor.h"
+#include "model/ShopSession.h"
+#include "template_engine/Templates_Set.h"
+
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+TemplatePart::TemplatePart(PanelHost& host, const ManagerTable& table, QWidget* parent)
+    : QWidget(parent),
+      m_host(host),
+      m_table(table),
+      AdvancedCh(new QCheckBox(tr("&Advanced mode: edit the page's template by hand"), this)),
+      m_editor(new TemplateEditor(this)),
+      SaveTemplteBtn(new QPushButton(tr("Save template"), this)),
+      RestoreTemplateBtn(new QPushButton(tr("Restore the factory template"), this))
+{
+    AdvancedCh->setObjectName(QLatin1String(table.advancedControl));
+    SaveTemplteBtn->setObjectName(u"SaveTemplteBtn"_s);
+    RestoreTemplateBtn->setObjectName(u"RestoreTemplateBtn"_s);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(SaveTemplteBtn);
+    buttons->addWidget(RestoreTemplateBtn);
+    buttons->addStretch(1);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(14, 12, 14, 12);
+    column->setSpacing(10);
+    column->addWidget(AdvancedCh);
+    column->addWidget(m_editor, 1);
+    column->addLayout(buttons);
+
+    connect(AdvancedCh, &QCheckBox::toggled, this,
+            [this](bool on) { guarded(m_host.errorHandler(), [&] { advancedToggled(on); }); });
+    connect(SaveTemplteBtn, &QPushButton::clicked, this,
+            [this] { guarded(m_host.errorHandler(), [this] { save(); }); });
+    connect(RestoreTemplateBtn, &QPushButton::clicked, this,
+            [this] { guarded(m_host.errorHandler(), [this] { restore(); }); });
+}
+
+void TemplatePart::load(bool advanced)
+{
+    showTemplate();
+    setAdvanced(advanced);
+    enableTemplate(advanced);
+}
+
+bool TemplatePart::isAdvanced() const
+{
+    return AdvancedCh->isChecked();
+}
+
+void TemplatePart::advancedToggled(bool on)
+{
+    if (m_guard) {
+        return;
+    }
+    UserPrompts& prompts = m_host.session().prompts;
+    if (on) {
+        if (prompts.askYesNo(ApplicationTitle(), u"Are you sure you want to switch to advanced mode?"_s)) {
+            enableTemplate(true);
+        } else {
+            setAdvanced(false);
+        }
+        return;
+    }
+    if (prompts.askYesNo(ApplicationTitle(), QLatin1String(m_table.switchBackQuestion))) {
+        enableTemplate(false);
+        restore();
+    } else {
+        setAdvanced(true);
+    }
+}
+
+void TemplatePart::setAdvanced(bool on)
+{
+    const QScopedValueRollback guard(m_guard, true);
+    AdvancedCh->setChecked(on);
+}
+
+void TemplatePart::enableTemplate(bool enable)
+{
+    m_editor->setEditable(enable);
+    SaveTemplteBtn->setEnabled(enable);
+    RestoreTemplateBtn->setEnabled(enable);
+}
+
+void TemplatePart::showTemplate()
+{
+    const QString page = QLatin1String(m_table.templateName);
+    m_editor->showTemplate(m_host.CurrentTemplatesSet().templates.Item(page)->template_text);
+}
+
+void TemplatePart::save()
+{
+    Templates_Set& templates = m_host.CurrentTemplatesSet();
+    const QString page = QLatin1String(m_table.templateName);
+    WriteFileBytes(fileOf(".html"), EncodeText(m_editor->editedText() + u"\r\n"_s, templates.encodingOf(page)));
+    templates.ReLoad(page, page);
+}
+
+void TemplatePart::restore()
+{
+    const QString page = QLatin1String(m_table.templateName);
+    WriteFileBytes(fileOf(".html"), ReadFileBytes(fileOf(".html.def")));
+    m_host.CurrentTemplatesSet().ReLoad(page, page);
+    showTemplate();
+}
+
+QString TemplatePart::fileOf(const char* ending) const
+{
+    return m_host.CurrentTemplatesSet().Path + QLatin1String(m_table.templateName) + QLatin1String(ending);
+}

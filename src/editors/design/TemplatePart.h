@@ -1,0 +1,48 @@
+// The template of one page in its manager: the check box of the advanced mode with its two questions, the text, and the
+// buttons that write the template and that bring the factory copy back. PageManager owns one.
+#pragma once
+
+#include <QWidget>
+
+class PanelHost;
+class QCheckBox;
+class QPushButton;
+class Template;
+class TemplateEditor;
+struct ManagerTable;
+
+class TemplatePart : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // The host and the table must outlive it.
+    TemplatePart(PanelHost& host, const ManagerTable& table, QWidget* parent);
+
+    // Shows the page's template and that state of the advanced mode, without a question. Error 5 when the set has no
+    // template of the page.
+    void load(bool advanced);
+    bool isAdvanced() const;
+
+    // Writes the text and one line break behind it to the page's file and reads the page again. The text is not filled
+    // anew, so that saving twice writes the same bytes. Errors as for WriteFileBytes and Templates_Set::ReLoad.
+    void save();
+    // Copies the factory copy over the page's file, reads the page again and shows it. Errors as for ReadFileBytes,
+    // WriteFileBytes and Templates_Set::ReLoad.
+    void restore();
+
+private:
+    void advancedToggled(bool on);
+    void setAdvanced(bool on);
+    void enableTemplate(bool enable);
+    void showTemplate();
+    QString fileOf(const char* ending) const;
+
+    PanelHost& m_host;
+    const ManagerTable& m_table;
+    QCheckBox* AdvancedCh;
+    TemplateEditor* m_editor;
+    QPushButton* SaveTemplteBtn;
+    QPushButton* RestoreTemplateBtn;
+    bool m_guard = false; // the check box is set by the program: no question
+};

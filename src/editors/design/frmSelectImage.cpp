@@ -1,0 +1,22 @@
+#include "editors/design/frmSelectImage.h"
+
+#include "editors/design/ucSelectImage.h"
+
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+frmSelectImage::frmSelectImage(PanelHost& host, const std::shared_ptr<clsSelectedImage>& selection, QWidget* parent)
+    : QDialog(parent)
+{
+    setObjectName(u"frmSelectImage"_s);
+    setWindowTitle(tr("Choose a picture"));
+    auto* images = new ucSelectImage(host, this);
+    images->setObjectName(u"ucImages"_s);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(images);
+    resize(620, 420);
+    images->SetParent(this);
+    images->SetActiveObject(selection);
+}

@@ -1,0 +1,46 @@
+#include "editors/design/frmSelectedCustomPages.h"
+
+#include "editors/PanelHost.h"
+#include "editors/design/DialogButtons.h"
+#include "editors/design/ucSelectCustPage.h"
+
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+frmSelectedCustomPages::frmSelectedCustomPages(PanelHost& host, QWidget* parent)
+    : QDialog(parent), pagesControl(new ucSelectCustPage(this))
+{
+    setObjectName(u"frmSelectedCustomPages"_s);
+    setWindowTitle(tr("Select pages"));
+    pagesControl->setObjectName(u"ucSelectCustPage"_s);
+    const DialogButtons buttons = MakeDialogButtons(this);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 16, 16, 16);
+    column->setSpacing(14);
+    column->addWidget(pagesControl, 1);
+    column->addLayout(buttons.row);
+    resize(380, 420);
+
+    connect(buttons.OkBtn, &QPushButton::clicked, this, [this, &host] {
+        guarded(host.errorHandler(), [&] {
+            pagesControl->SetMultiSelect(true);
+            pagesControl->SaveActiveObject();
+            accept();
+        });
+    });
+    connect(buttons.CancelBtn, &QPushButton::clicked, this, &QDialog::reject);
+}
+
+void frmSelectedCustomPages::reject()
+{
+    pagesControl->SetMultiSelect(true);
+    QDialog::reject();
+}
+
+void ShowCustomPagesDialog(frmSelectedCustomPages& form, const std::shared_ptr<clsSelectedCustomPages>& selection,
+                           const KeyedCollection<std::shared_ptr<CustomPageClass>>& pages)
+{
+    form.pagesControl->SetActiveObject(selection, pages);
+    form.open();
+}

@@ -1,0 +1,149 @@
+#include "editors/design/ucSelectCustPage.h"
+
+#include "design/CustomPageClass.h"
+#include "design/clsSelectedCustomPages.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QStyledItemDelegate>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Fixed names: they stand in the shop file, so they are not translated.
+constexpr std::array fixedPages = {"Home page", "Shopping cart page"};
+
+// A click anywhere in a row ticks it, not only one on its little box.
+class WholeRowTicks : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
+                     const QModelIndex& index) override
+    {
+        if (event->type() != QEvent::MouseButtonRelease) {
+            return QStyledItemDelegate::editorEvent(event, model, option, index);
+        }
+        if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) {
+            return false;
+        }
+        const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        return model->setData(index, ticked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
+    }
+};
+
+} // namespace
+
+ucSelectCustPage::ucSelectCustPage(QWidget* parent) : QWidget(parent)
+{
+    auto* Frame1 = new QGroupBox(tr("List of custom pages"), this);
+    Frame1->setObjectName(u"Frame1"_s);
+    auto* around = new QVBoxLayout(this);
+    around->setContentsMargins(0, 0, 0, 0);
+    around->addWidget(Frame1);
+
+    auto* column = new QVBoxLayout(Frame1);
+    column->setContentsMargins(14, 12, 14, 14);
+    column->setSpacing(8);
+    for (std::size_t i = 0; i < fixedPages.size(); ++i) {
+        auto* box = new QCheckBox(QLatin1String(fixedPages[i]), Frame1);
+        box->setObjectName(u"chkSelectPage%1"_s.arg(i));
+        chkSelectPage[i] = box;
+        column->addWidget(box);
+        connect(box, &QCheckBox::toggled, this, [this, box](bool on) {
+            if (on) {
+                chosen(box, nullptr);
+            }
+        });
+    }
+    lstSelectedPages = new QListWidget(Frame1);
+    lstSelectedPages->setObjectName(u"lstSelectedPages"_s);
+    lstSelectedPages->setAccessibleName(tr("Custom pages"));
+    lstSelectedPages->setItemDelegate(new WholeRowTicks(lstSelectedPages));
+    column->addWidget(lstSelectedPages, 1);
+    connect(lstSelectedPages, &QListWidget::itemChanged, this, [this](QListWidgetItem* entry) {
+        if (entry->checkState() == Qt::Checked) {
+            chosen(nullptr, entry);
+        }
+    });
+}
+
+void ucSelectCustPage::SetMultiSelect(bool several)
+{
+    m_several = several;
+}
+
+void ucSelectCustPage::SetActiveObject(const std::shared_ptr<clsSelectedCustomPages>& selection,
+                                       const KeyedCollection<std::shared_ptr<CustomPageClass>>& pages)
+{
+    const QScopedValueRollback filling(m_filling, true);
+    m_selection = selection;
+    lstSelectedPages->clear();
+    for (const std::shared_ptr<CustomPageClass>& page : pages) {
+        auto* entry = new QListWidgetItem(page->pageName, lstSelectedPages);
+        entry->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+        entry->setCheckState(Qt::Unchecked);
+    }
+    for (QCheckBox* box : chkSelectPage) {
+        box->setChecked(false);
+    }
+    for (const QString& name : selection->selectedPages()) {
+        mark(name);
+        if (!m_several) {
+            break;
+        }
+    }
+}
+
+void ucSelectCustPage::mark(const QString& name)
+{
+    for (QCheckBox* box : chkSelectPage) {
+        if (box->text() == name) {
+            box->setChecked(true);
+            return;
+        }
+    }
+    for (int row = 0; row < lstSelectedPages->count(); ++row) {
+        if (lstSelectedPages->item(row)->text() == name) {
+            lstSelectedPages->item(row)->setCheckState(Qt::Checked);
+        }
+    }
+}
+
+void ucSelectCustPage::chosen(QCheckBox* box, QListWidgetItem* entry)
+{
+    if (m_several || m_filling) {
+        return;
+    }
+    const QScopedValueRollback filling(m_filling, true);
+    for (QCheckBox* other : chkSelectPage) {
+        if (other != box) {
+            other->setChecked(false);
+        }
+    }
+    for (int row = 0; row < lstSelectedPages->count(); ++row) {
+        if (lstSelectedPages->item(row) != entry) {
+            lstSelectedPages->item(row)->setCheckState(Qt::Unchecked);
+        }
+    }
+}
+
+void ucSelectCustPage::SaveActiveObject()
+{
+    m_selection->Clear();
+    for (const QCheckBox* box : chkSelectPage) {
+        if (box->isChecked()) {
+            m_selection->Add(box->text());
+        }
+    }
+    for (int row = 0; row < lstSelectedPages->count(); ++row) {
+        if (lstSelectedPages->item(row)->checkState() == Qt::Checked) {
+            m_selection->Add(lstSelectedPages->item(row)->text());
+        }
+    }
+}

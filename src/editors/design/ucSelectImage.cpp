@@ -1,0 +1,68 @@
+#include "editors/design/ucSelectImage.h"
+
+#include "editors/PanelFrame.h"
+#include "editors/PanelHost.h"
+#include "editors/design/PicturesList.h"
+#include "model/ShopSession.h"
+
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+ucSelectImage::ucSelectImage(PanelHost& host, QWidget* parent)
+    : QWidget(parent),
+      m_host(host),
+      m_pictures(new PicturesList(host, this)),
+      OkBtn(named(new QPushButton(tr("OK"), this), "OkBtn", tr("OK"))),
+      CancelBtn(named(new QPushButton(tr("Cancel"), this), "CancelBtn", tr("Cancel")))
+{
+    OkBtn->setDefault(true);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(OkBtn);
+    buttons->addWidget(CancelBtn);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(m_pictures, 1);
+    column->addLayout(buttons);
+
+    connect(OkBtn, &QPushButton::clicked, this,
+            [this] { guarded(m_host.errorHandler(), [this] { SaveActiveObject(); }); });
+    connect(m_pictures->lstImages, &QListWidget::itemDoubleClicked, this,
+            [this] { guarded(m_host.errorHandler(), [this] { SaveActiveObject(); }); });
+    connect(CancelBtn, &QPushButton::clicked, this, [this] {
+        if (m_form) {
+            m_form->reject();
+        }
+    });
+}
+
+void ucSelectImage::SetParent(QDialog* form)
+{
+    m_form = form;
+}
+
+void ucSelectImage::SetActiveObject(const std::shared_ptr<clsSelectedImage>& selection)
+{
+    if (!m_form) {
+        m_host.session().prompts.showMessage(
+            ApplicationTitle(), u"You didn't type parent form for user control 'ucImages'"_s, PromptIcon::Critical);
+        return;
+    }
+    m_selectedImage = selection;
+    m_pictures->selectPicture(selection->imageFileName);
+}
+
+void ucSelectImage::SaveActiveObject()
+{
+    if (!m_form) {
+        return;
+    }
+    const QString name = m_pictures->selectedPicture();
+    if (!m_selectedImage || name.isEmpty()) {
+        m_form->reject();
+        return;
+    }
+    m_selectedImage->imageFileName = name;
+    m_selectedImage->GetBitmapSizeVirtual(name);
+    m_form->accept();
+}

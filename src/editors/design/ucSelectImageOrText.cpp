@@ -1,0 +1,110 @@
+#include "editors/design/ucSelectImageOrText.h"
+
+#include "design/ApplicationTitle.h"
+#include "design/clsSelectedImage.h"
+#include "editors/PanelHost.h"
+#include "editors/design/CSSManagementForm.h"
+#include "editors/design/DialogButtons.h"
+#include "editors/design/PicturesList.h"
+#include "model/ShopSession.h"
+
+#include <QCheckBox>
+#include <QDialog>
+#include <QLineEdit>
+#include <QScopedValueRollback>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+ucSelectImageOrText::ucSelectImageOrText(PanelHost& host, QWidget* parent)
+    : QWidget(parent),
+      m_host(host),
+      m_pictures(new PicturesList(host, this)),
+      chkText(new QCheckBox(tr("Show a &text instead of an image"), this)),
+      txtText(new QLineEdit(this)),
+      btnCSS_Text(new QPushButton(tr("Style of the text..."), this))
+{
+    chkText->setObjectName(u"chkText"_s);
+    txtText->setObjectName(u"txtText"_s);
+    txtText->setAccessibleName(tr("Text"));
+    btnCSS_Text->setObjectName(u"btnCSS_Text"_s);
+    btnCSS_Text->setAutoDefault(false);
+    const DialogButtons buttons = MakeDialogButtons(this);
+    OkBtn = buttons.OkBtn;
+    CancelBtn = buttons.CancelBtn;
+
+    auto* text = new QHBoxLayout;
+    text->addWidget(txtText, 1);
+    text->addWidget(btnCSS_Text);
+    auto* column = new QVBoxLayout(this);
+    column->setSpacing(10);
+    column->addWidget(m_pictures, 1);
+    column->addWidget(chkText);
+    column->addLayout(text);
+    column->addLayout(buttons.row);
+    useText(false);
+
+    connect(chkText, &QCheckBox::toggled, this, &ucSelectImageOrText::useText);
+    connect(m_pictures, &PicturesList::pictureSelected, this, [this] {
+        if (!m_filling) {
+            chkText->setChecked(false);
+        }
+    });
+    connect(btnCSS_Text, &QPushButton::clicked, this, [this] {
+        guarded(m_host.errorHandler(), [this] { OpenStyle(m_host, this, u"Header text style"_s, m_selection->Tag); });
+    });
+    connect(OkBtn, &QPushButton::clicked, this,
+            [this] { guarded(m_host.errorHandler(), [this] { SaveActiveObject(); }); });
+    connect(CancelBtn, &QPushButton::clicked, this, [this] {
+        if (m_form) {
+            m_form->reject();
+        }
+    });
+}
+
+void ucSelectImageOrText::SetParent(QDialog* form)
+{
+    m_form = form;
+}
+
+void ucSelectImageOrText::useText(bool text)
+{
+    m_pictures->lstImages->setEnabled(!text);
+    txtText->setEnabled(text);
+}
+
+void ucSelectImageOrText::SetActiveObject(const std::shared_ptr<clsSelectedImage>& selection)
+{
+    if (!m_form) {
+        m_host.session().prompts.showMessage(
+            ApplicationTitle(), u"You didn't type parent form for user control 'ucImages'"_s, PromptIcon::Critical);
+        return;
+    }
+    const QScopedValueRollback filling(m_filling, true);
+    m_selection = selection;
+    btnCSS_Text->setEnabled(selection != nullptr);
+    txtText->setText(selection ? selection->TextValue : QString());
+    chkText->setChecked(selection && selection->SelectionType == ImageSelection::Text);
+    m_pictures->selectPicture(selection ? selection->imageFileName : QString());
+}
+
+void ucSelectImageOrText::SaveActiveObject()
+{
+    if (!m_form) {
+        return;
+    }
+    if (m_selection) {
+        if (chkText->isChecked()) {
+            m_selection->SelectionType = ImageSelection::Text;
+            m_selection->TextValue = txtText->text();
+        } else {
+            m_selection->SelectionType = ImageSelection::Image;
+            const QString name = m_pictures->selectedPicture();
+            if (!name.isEmpty()) {
+                m_selection->imageFileName = name;
+                m_selection->GetBitmapSizeVirtual(name);
+            }
+        }
+    }
+    m_form->accept();
+}

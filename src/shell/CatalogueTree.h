@@ -1,0 +1,44 @@
+// The tree at the left of the window: shop, categories, products. It reports which node was clicked and where the
+// pop-up menu is asked for; what follows from that is the window's business.
+#pragma once
+
+#include "base/Guarded.h"
+#include "editors/CatalogueTreeModel.h"
+
+#include <QTreeView>
+
+class CatalogueTree : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    CatalogueTree(FatalErrorHandler& errors, QWidget* parent);
+
+    CatalogueTreeModel& nodes() { return *m_model; }
+
+    // The node that the view shows as selected; nothing in an empty tree.
+    TreeNode* selectedNode() const;
+    void selectNode(const TreeNode* node);
+    void expandNode(const TreeNode* node);
+
+    // Both paint the node in the tree's own colours. They are the same, and both stay: callers mean two things by them,
+    // and what the eye sees as selected comes from the view.
+    void ColorSelectedNode(TreeNode* node);
+    void ColorDeSelectedNode(TreeNode* node);
+
+Q_SIGNALS:
+    // A node was clicked with the left button or reached with the keyboard; it is then the selected one.
+    void nodeClicked(TreeNode* node);
+    // The right button was released here, in global coordinates. Nothing has been selected by that.
+    void popUpRequested(const QPoint& position);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    FatalErrorHandler& m_errors;
+    CatalogueTreeModel* m_model;
+};

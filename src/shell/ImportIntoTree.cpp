@@ -1,0 +1,63 @@
+#include "shell/ImportIntoTree.h"
+
+#include "shell/CatalogueTree.h"
+#include "shell/MainForm.h"
+#include "shell/ProgressFrames.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+constexpr qint64 quietTime = 1000; // milliseconds without a sign of progress
+
+} // namespace
+
+ImportIntoTree::ImportIntoTree(MainForm& window) : m_window(window), m_formerCallbacks(window.session().callbacks)
+{
+    CatalogueTreeModel& tree = m_window.parts().CategoriesAndProductsTree->nodes();
+    if (tree.rootNode()) {
+        collect(tree.rootNode());
+    }
+    SessionCallbacks& callbacks = m_window.session().callbacks;
+    callbacks.AddCategoryToTheTree = [this](const std::shared_ptr<CategoryClass>& parent,
+                                            const std::shared_ptr<CategoryClass>& category) {
+        const QString key = parent ? NodeKey(parent->id) : ShopNodeKey();
+        m_nodes.insert(NodeKey(category->id), m_window.AddCategoryToTheTree(nodeOf(key), category));
+    };
+    callbacks.AddProductToTheTree = [this](const std::shared_ptr<CategoryClass>& category,
+                                           const std::shared_ptr<ProductClass>& product) {
+        m_window.AddProductToTheTree(nodeOf(NodeKey(category->id)), product);
+    };
+    tree.beginAppending();
+    m_time.start();
+}
+
+ImportIntoTree::~ImportIntoTree()
+{
+    m_window.session().callbacks = m_formerCallbacks;
+    m_window.parts().ImportProgressFrame->hide();
+    m_window.parts().CategoriesAndProductsTree->nodes().endAppending();
+}
+
+void ImportIntoTree::collect(TreeNode* node)
+{
+    if (node->image == TreeImage::Product) {
+        return;
+    }
+    m_nodes.insert(node->key, node);
+    for (const auto& child : node->children) {
+        collect(child.get());
+    }
+}
+
+clsImporter::Progress ImportIntoTree::progress()
+{
+    return [this](qsizetype done, qsizetype total) {
+        if (m_time.elapsed() < quietTime) {
+            return;
+        }
+        m_window.parts().ImportProgressFrame->report(static_cast<int>(100 * done / total));
+        // Nothing may touch the catalogue while it grows, so no input gets through.
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    };
+}

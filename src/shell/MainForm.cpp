@@ -1,0 +1,311 @@
+#include "shell/MainForm.h"
+
+#include "editors/Panel.h"
+#include "model/ShopClass.h"
+#include "shell/CatalogueTree.h"
+#include "shell/PanelSet.h"
+#include "shell/ProgressFrames.h"
+#include "shell/ShortcartButton.h"
+#include "shell/Theme.h"
+#include "shell/TreePane.h"
+#include "shell/Twips.h"
+
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <QScreen>
+
+using namespace Qt::StringLiterals;
+
+MainForm::MainForm(std::unique_ptr<ShopSession> session, const PreviewFactory& makePreview,
+                   std::function<void()> startAgain, FatalErrorHandler& errors)
+    : m_errors(errors),
+      m_startAgain(std::move(startAgain)),
+      m_session(std::move(session)),
+      m_templates(std::make_unique<Templates_Set>(m_session->folder, m_session->log))
+{
+    auto* central = new QWidget(this);
+    m_preview = makePreview(central);
+    m_parts = std::make_unique<MainFormLayout>(central, m_preview.widget, m_session->folder, m_session->log, m_errors);
+    setCentralWidget(central);
+
+    m_previewPage = std::make_unique<PreviewPage>(*m_session, *m_templates, *m_preview.surface);
+    m_navigation = std::make_unique<PreviewNavigation>(*m_session, *m_previewPage);
+    m_preview.setNavigation(m_navigation.get());
+
+    m_session->callbacks.SaveShop = [this] { SaveShop(); };
+    makeMenus();
+    connectParts();
+    load();
+}
+
+// The browser goes first: it calls the navigation.
+MainForm::~MainForm()
+{
+    delete m_preview.widget;
+}
+
+void MainForm::load()
+{
+    m_preview.surface->goBlank();
+    ShopChanged = true;
+    m_session->Cart = std::make_unique<clsCart>(m_session->services);
+    setWindowTitle(ApplicationTitle());
+    setWindowIcon(QIcon(u":/icons/tarnwick.svg"_s));
+    m_parts->ShopToolbar->setVisible(true);
+    m_parts->CategoryToolbar->setVisible(false);
+    m_parts->ProductToolbar->setVisible(false);
+    move(0, 0);
+    InitUserControls();
+    m_session->log.WriteLoadLog(u"User Controls Initialized"_s);
+    resize(QSize(pixels(11900), pixels(8550)).boundedTo(screen()->availableSize()));
+    m_parts->arrangeOverlays(size());
+    CreateShop();
+    m_templates->parseTemplates();
+    SetMode(CatalogueMode);
+}
+
+void MainForm::InitUserControls()
+{
+    m_panels = makePanels(*this, *m_parts);
+    bindButtons(*m_parts, m_panels);
+    CurrentToolbar = nullptr;
+    m_parts->ShopToolbar->hide();
+    ShopDefaultButton = button("ShopGeneralSBtn");
+    CategoryDefaultButton = button("CategoryGeneralSBtn");
+    ProductDefaultButton = button("ProductGeneralSBtn");
+}
+
+void MainForm::connectParts()
+{
+    for (ShortcartButton* shortcart : m_parts->buttons) {
+        connect(shortcart, &ShortcartButton::frameRequested, this, &MainForm::ShowFrame);
+    }
+    // These four act when they receive the focus, ahead of the click, and only if they did not have it.
+    connect(button("SaveShopSBtn"), &ShortcartButton::focusReceived, this, &MainForm::saveShopHandler);
+    connect(button("ProductCatalogSBtn"), &ShortcartButton::focusReceived, this, &MainForm::productCatalogHandler);
+    connect(button("ShopDesignSBtn"), &ShortcartButton::focusReceived, this, &MainForm::shopDesignHandler);
+    connect(button("PreviewBrowserSBtn"), &ShortcartButton::focusReceived, this, &MainForm::previewHandler);
+    connect(button("UploadShopSBtn"), &ShortcartButton::Click, this, &MainForm::uploadShopHandler);
+    connect(m_parts->CategoriesAndProductsTree, &CatalogueTree::nodeClicked, this, &MainForm::treeNodeClicked);
+    connect(m_parts->CategoriesAndProductsTree, &CatalogueTree::popUpRequested, this, &MainForm::showPopUp);
+
+    for (QWidget* surface :
+         {static_cast<QWidget*>(this), centralWidget(), static_cast<QWidget*>(m_parts->ToolbarFrame),
+          static_cast<QWidget*>(m_parts->ShopToolbar), m_parts->CategoriesAndProductsTree->viewport()}) {
+        surface->setMouseTracking(true);
+        surface->installEventFilter(this);
+    }
+}
+
+ShortcartButton* MainForm::button(const char* name) const
+{
+    return m_parts->buttons.value(QLatin1String(name));
+}
+
+Panel* MainForm::panel(const char* name) const
+{
+    return m_panels.value(QLatin1String(name));
+}
+
+// The shop ----------------------------------------------------------------------------------------------------------
+
+void MainForm::CreateShop()
+{
+    if (!m_session->loadShop()) {
+        return;
+    }
+    AddShopToTheTree();
+    QPalette colours = m_parts->CategoriesAndProductsTree->palette();
+    colours.setColor(QPalette::Base, QColor::fromRgb(TreeColour));
+    m_parts->CategoriesAndProductsTree->setPalette(colours);
+    m_session->log.WriteLoadLog(u"End Sub CreateShop"_s);
+}
+
+void MainForm::SaveShop()
+{
+    m_parts->SaveProgressFrame->begin();
+    m_session->writeShopFile();
+    m_parts->SaveProgressFrame->finish();
+}
+
+// Panels ------------------------------------------------------------------------------------------------------------
+
+void MainForm::ShowFrame(Panel* ActiveFrame, qint16 Code)
+{
+    if (VisibleFrame) {
+        if (Code == PanelCode::GatherOnly) {
+            VisibleFrame->SaveActiveObject();
+            return;
+        }
+        if (Code != PanelCode::RemoveProduct && Code != PanelCode::RemoveCategory) {
+            // Written twice, and this is meant: a panel's save must be repeatable.
+            ApplyActivePanel();
+            VisibleFrame->SaveActiveObject();
+            VisibleFrame->ClearActiveObject();
+        }
+        VisibleFrame->hide();
+    }
+    if (!ActiveFrame) {
+        VisibleFrame = nullptr;
+        return;
+    }
+    if (!runCatalogueCommand(ActiveFrame, Code)) {
+        if (VisibleFrame) {
+            VisibleFrame->show();
+        }
+        return;
+    }
+    ActiveFrame->raise();
+    ActiveFrame->show();
+    ActiveFrame->SetActiveObject(ActiveObject);
+    VisibleFrame = ActiveFrame;
+}
+
+void MainForm::ShowToolbar(QFrame* toolbar)
+{
+    if (CurrentToolbar) {
+        CurrentToolbar->hide();
+        ShowFrame(nullptr, PanelCode::Show);
+    }
+    CurrentToolbar = toolbar;
+    CurrentToolbar->show();
+}
+
+void MainForm::ApplyActivePanel()
+{
+    m_parts->PrBar->run();
+    if (VisibleFrame) {
+        VisibleFrame->SaveActiveObject();
+    }
+}
+
+void MainForm::ResetActivePanel()
+{
+    if (VisibleFrame) {
+        VisibleFrame->SetActiveObject(ActiveObject);
+    }
+}
+
+// Modes -------------------------------------------------------------------------------------------------------------
+
+void MainForm::SetMode(qint16 mode)
+{
+    if (mode >= CatalogueMode && mode <= DesignMode) {
+        ShowCataloguePane(mode == CatalogueMode);
+        ShowPreviewPane(mode == PreviewMode);
+        ShowDesignPane(mode == DesignMode);
+        for (int other = CatalogueMode; other <= DesignMode; ++other) {
+            m_modeActions[static_cast<std::size_t>(other - 1)]->setChecked(other == mode);
+        }
+    }
+    WorkMode = mode;
+    m_session->log.WriteLoadLog(u"End Sub SetMode"_s);
+}
+
+void MainForm::ShowCataloguePane(bool flag)
+{
+    m_parts->treePane->showTree(flag);
+    panel("ShopGeneralPnl")->setVisible(flag);
+    m_parts->imgSplitter->setVisible(flag);
+    m_parts->ContextToolbarFrame->setVisible(flag);
+    m_parts->MainFrame->setVisible(flag);
+}
+
+void MainForm::ShowPreviewPane(bool flag)
+{
+    m_parts->PreviewBrowser->setVisible(flag);
+}
+
+void MainForm::ShowDesignPane(bool flag)
+{
+    m_parts->designPane->setVisible(flag);
+    m_parts->ShopDesignFrame->setVisible(flag);
+    m_parts->ShopDesignMenuFrame->setVisible(flag);
+    panel("MainPagePnl")->setVisible(true); // whatever the flag: this is meant
+}
+
+void MainForm::saveShopHandler()
+{
+    button("SaveShopSBtn")->Code = PanelCode::GatherOnly;
+    ShowFrame(VisibleFrame, PanelCode::GatherOnly);
+    SaveShop();
+}
+
+void MainForm::productCatalogHandler()
+{
+    button("SaveShopSBtn")->Code = PanelCode::GatherOnly;
+    SetMode(CatalogueMode);
+    ShowToolbar(m_parts->ShopToolbar);
+    // The tree's selected node stays what it was, so panel and node may disagree until the next click on a node.
+    ActiveObject = m_session->shop;
+    ShopDefaultButton->Activate();
+}
+
+void MainForm::shopDesignHandler()
+{
+    button("PreviewBrowserSBtn")->Code = PanelCode::GatherOnly;
+    ShowFrame(panel("MainPagePnl"), PanelCode::Show);
+    ShowDesignPane(true);
+    SetMode(DesignMode);
+}
+
+void MainForm::previewHandler()
+{
+    button("PreviewBrowserSBtn")->Code = PanelCode::GatherOnly;
+    ShowFrame(nullptr, PanelCode::GatherOnly);
+    SetMode(PreviewMode);
+    m_navigation->openPreview();
+}
+
+// Window ------------------------------------------------------------------------------------------------------------
+
+bool MainForm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseMove) {
+        const QPoint place = static_cast<QMouseEvent*>(event)->position().toPoint();
+        ClearButtonHover(place.x(), place.y());
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainForm::ClearButtonHover(int x, int y)
+{
+    // Only these eight: the others keep the picture of a hover until their own area reports otherwise, and this is
+    // meant.
+    for (const char* name : {"ShopTaxesSBtn", "ShopDiscountSBtn", "ShopGeneralSBtn", "PreviewBrowserSBtn",
+                             "ShopDesignSBtn", "ProductCatalogSBtn", "SaveShopSBtn", "CategoryDiscountSBtn"}) {
+        button(name)->OnMouseMove(x, y);
+    }
+}
+
+void MainForm::keyPressEvent(QKeyEvent* event)
+{
+    // Needless as it looks, this box is meant.
+    if (WorkMode == PreviewMode && event->key() == Qt::Key_Left && event->modifiers() == Qt::AltModifier) {
+        guarded(m_errors, [&] { m_session->prompts.showMessage(ApplicationTitle(), u"SS"_s, PromptIcon::None); });
+        return;
+    }
+    QMainWindow::keyPressEvent(event);
+}
+
+void MainForm::closeEvent(QCloseEvent* event)
+{
+    guarded(m_errors, [&] {
+        PromptAnswer answer = PromptAnswer::No;
+        if (ShopChanged) {
+            answer = m_session->prompts.askYesNoCancel(ApplicationTitle(), u"Do you want save changes?"_s);
+        }
+        if (answer == PromptAnswer::Yes) {
+            saveShopHandler();
+        }
+        event->setAccepted(answer != PromptAnswer::Cancel);
+        // Also after Cancel: the window then goes on without a cart, and the preview's cart pages fail. This is meant.
+        m_session->Cart.reset();
+    });
+}
+
+void MainForm::resizeEvent(QResizeEvent* event)
+{
+    QMainWindow::resizeEvent(event);
+    m_parts->arrangeOverlays(size());
+}

@@ -1,0 +1,187 @@
+#include "shell/MainFormLayout.h"
+
+#include "shell/CatalogueTree.h"
+#include "shell/ProgressFrames.h"
+#include "shell/ShortcartButton.h"
+#include "shell/TreePane.h"
+#include "shell/Twips.h"
+
+#include <QGridLayout>
+#include <QIcon>
+#include <QStackedLayout>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int designMenuColumns = 2;
+
+QFrame* namedFrame(const char* name, QWidget* parent)
+{
+    auto* frame = new QFrame(parent);
+    frame->setObjectName(QLatin1String(name));
+    return frame;
+}
+
+template <class Layout>
+Layout* tightLayout(QWidget* widget, int spacing = 0)
+{
+    auto* layout = new Layout(widget);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(spacing);
+    return layout;
+}
+
+// A holder of panels: all of them in one place, those that are hidden take none.
+QFrame* panelHolder(const char* name, QWidget* parent)
+{
+    QFrame* holder = namedFrame(name, parent);
+    auto* layout = tightLayout<QGridLayout>(holder);
+    layout->setContentsMargins(pixels(100), 0, pixels(150), pixels(100));
+    return holder;
+}
+
+} // namespace
+
+MainFormLayout::MainFormLayout(QWidget* central, QWidget* preview, const ApplicationFolder& folder, LoadLog& log,
+                               FatalErrorHandler& errors)
+    : PreviewBrowser(preview)
+{
+    auto* column = tightLayout<QVBoxLayout>(central);
+    makeToolbarFrame(central);
+    column->addWidget(ToolbarFrame);
+    makeCatalogue(central, errors);
+    column->addWidget(imgSplitter, 1);
+    makeDesign(central);
+    column->addWidget(designPane, 1);
+    PreviewBrowser->setParent(central);
+    PreviewBrowser->setObjectName(u"PreviewBrowser"_s);
+    column->addWidget(PreviewBrowser, 1);
+    makeCopyright(central);
+    column->addWidget(frmCopyright);
+    makeButtons(folder, log, errors);
+
+    PrBar = new ShortProgressBar(central);
+    SaveProgressFrame = new SaveFrame(central);
+    ImportProgressFrame = new ImportFrame(central);
+}
+
+void MainFormLayout::makeToolbarFrame(QWidget* parent)
+{
+    ToolbarFrame = namedFrame("ToolbarFrame", parent);
+    ToolbarFrame->setAutoFillBackground(true);
+    ToolbarFrame->setBackgroundRole(QPalette::Button);
+    auto* row = tightLayout<QHBoxLayout>(ToolbarFrame);
+    row->setContentsMargins(8, 4, pixels(100), 4);
+    LogoPic = new QLabel(ToolbarFrame);
+    LogoPic->setObjectName(u"LogoPic"_s);
+    LogoPic->setAccessibleName(u"Tarnwick"_s);
+    LogoPic->setPixmap(QIcon(u":/icons/logo.svg"_s).pixmap(QSize(160, 48), parent->devicePixelRatioF()));
+    row->addStretch(1);
+    row->addWidget(LogoPic);
+}
+
+void MainFormLayout::makeCatalogue(QWidget* parent, FatalErrorHandler& errors)
+{
+    imgSplitter = new QSplitter(Qt::Horizontal, parent);
+    imgSplitter->setObjectName(u"imgSplitter"_s);
+    imgSplitter->setChildrenCollapsible(false);
+    imgSplitter->setOpaqueResize(false);
+    imgSplitter->setHandleWidth(6);
+
+    CategoriesAndProductsTree = new CatalogueTree(errors, imgSplitter);
+    treePane = new TreePane(CategoriesAndProductsTree, imgSplitter);
+    treePane->setMinimumWidth(pixels(1500));
+    imgSplitter->addWidget(treePane);
+
+    auto* right = new QWidget(imgSplitter);
+    right->setMinimumWidth(pixels(1500));
+    imgSplitter->addWidget(right);
+    imgSplitter->setStretchFactor(1, 1);
+    imgSplitter->setSizes({pixels(2800), pixels(9100)});
+
+    auto* column = tightLayout<QVBoxLayout>(right);
+    ContextToolbarFrame = namedFrame("ContextToolbarFrame", right);
+    ContextToolbarFrame->setFixedHeight(pixels(980));
+    MainFrame = panelHolder("MainFrame", right);
+    column->addWidget(ContextToolbarFrame);
+    column->addWidget(MainFrame, 1);
+
+    auto* toolbars = tightLayout<QGridLayout>(ContextToolbarFrame);
+    for (auto [toolbar, name] : {std::pair(&ShopToolbar, "ShopToolbar"), std::pair(&CategoryToolbar, "CategoryToolbar"),
+                                 std::pair(&ProductToolbar, "ProductToolbar")}) {
+        *toolbar = namedFrame(name, ContextToolbarFrame);
+        auto* row = tightLayout<QHBoxLayout>(*toolbar);
+        row->setContentsMargins(4, 0, 4, 0);
+        row->addStretch(1);
+        toolbars->addWidget(*toolbar, 0, 0);
+    }
+}
+
+void MainFormLayout::makeDesign(QWidget* parent)
+{
+    designPane = new QWidget(parent);
+    auto* row = tightLayout<QHBoxLayout>(designPane, 8);
+    ShopDesignMenuFrame = namedFrame("ShopDesignMenuFrame", designPane);
+    auto* menu = tightLayout<QGridLayout>(ShopDesignMenuFrame, 4);
+    menu->setContentsMargins(8, 12, 8, 8);
+    menu->setRowStretch(static_cast<int>(buttonTable().size()), 1);
+    ShopDesignFrame = panelHolder("ShopDesignFrame", designPane);
+    row->addWidget(ShopDesignMenuFrame);
+    row->addWidget(ShopDesignFrame, 1);
+}
+
+void MainFormLayout::makeCopyright(QWidget* parent)
+{
+    frmCopyright = namedFrame("frmCopyright", parent);
+    auto* row = tightLayout<QHBoxLayout>(frmCopyright);
+    row->setContentsMargins(8, 4, 8, 4);
+    lblCopyright = new QLabel(QObject::tr("Ambrel eCommerce Software. All rights reserved."), frmCopyright);
+    lblCopyright->setObjectName(u"lblCopyright"_s);
+    lblCopyright->setForegroundRole(QPalette::PlaceholderText);
+    row->addWidget(lblCopyright);
+}
+
+QFrame* MainFormLayout::frameOf(ButtonFrame frame) const
+{
+    switch (frame) {
+    case ButtonFrame::ToolbarFrame:
+        return ToolbarFrame;
+    case ButtonFrame::ShopToolbar:
+        return ShopToolbar;
+    case ButtonFrame::CategoryToolbar:
+        return CategoryToolbar;
+    case ButtonFrame::ProductToolbar:
+        return ProductToolbar;
+    case ButtonFrame::ShopDesignMenuFrame:
+        return ShopDesignMenuFrame;
+    }
+    return nullptr;
+}
+
+void MainFormLayout::makeButtons(const ApplicationFolder& folder, LoadLog& log, FatalErrorHandler& errors)
+{
+    QHash<QFrame*, int> count;
+    for (const ButtonRow& row : buttonTable()) {
+        QFrame* frame = frameOf(row.frame);
+        auto* button = new ShortcartButton(row, folder, log, errors, frame);
+        const int place = count[frame]++;
+        if (auto* grid = qobject_cast<QGridLayout*>(frame->layout())) {
+            grid->addWidget(button, place / designMenuColumns, place % designMenuColumns);
+        } else {
+            qobject_cast<QHBoxLayout*>(frame->layout())->insertWidget(place, button);
+        }
+        buttons.insert(button->objectName(), button);
+    }
+}
+
+void MainFormLayout::arrangeOverlays(const QSize& window) const
+{
+    if (window.width() < pixels(6250) || window.height() < pixels(3000)) {
+        return;
+    }
+    PrBar->setGeometry(pixels(50), frmCopyright->y() + 4, pixels(3000), 18);
+    SaveProgressFrame->move(pixels(2160), pixels(2760));
+    ImportProgressFrame->move(pixels(2160), pixels(2760));
+}

@@ -1,0 +1,68 @@
+// The parts of the main window and where they stand. Built once by the window, which owns them all; what the parts do
+// is the window's business.
+#pragma once
+
+#include "base/Guarded.h"
+#include "shell/ButtonTable.h"
+
+#include <QFrame>
+#include <QHash>
+#include <QLabel>
+#include <QPushButton>
+#include <QSplitter>
+
+class ApplicationFolder;
+class CatalogueTree;
+class ImportFrame;
+class LoadLog;
+class SaveFrame;
+class ShortcartButton;
+class ShortProgressBar;
+class TreePane;
+
+struct MainFormLayout
+{
+    // Makes everything inside the given central widget. The browser's widget is taken over as PreviewBrowser. Each
+    // button logs that it was made.
+    MainFormLayout(QWidget* central, QWidget* preview, const ApplicationFolder& folder, LoadLog& log,
+                   FatalErrorHandler& errors);
+
+    QFrame* ToolbarFrame = nullptr;
+    QLabel* LogoPic = nullptr;
+
+    QSplitter* imgSplitter = nullptr; // between the tree and the right side
+    TreePane* treePane = nullptr;
+    CatalogueTree* CategoriesAndProductsTree = nullptr;
+    QFrame* ContextToolbarFrame = nullptr;
+    QFrame* ShopToolbar = nullptr;
+    QFrame* CategoryToolbar = nullptr;
+    QFrame* ProductToolbar = nullptr;
+    QFrame* MainFrame = nullptr;
+
+    QWidget* designPane = nullptr;
+    QFrame* ShopDesignMenuFrame = nullptr;
+    QFrame* ShopDesignFrame = nullptr;
+
+    QWidget* PreviewBrowser = nullptr;
+
+    QFrame* frmCopyright = nullptr;
+    QLabel* lblCopyright = nullptr;
+
+    ShortProgressBar* PrBar = nullptr;
+    SaveFrame* SaveProgressFrame = nullptr;
+    ImportFrame* ImportProgressFrame = nullptr;
+
+    QHash<QString, ShortcartButton*> buttons; // by name
+
+    // Puts the parts that lie over the content in their places; the rest follows by layout. Below the smallest size at
+    // which the window is arranged at all, nothing moves.
+    void arrangeOverlays(const QSize& window) const;
+
+private:
+    QFrame* frameOf(ButtonFrame frame) const;
+    void makeToolbarFrame(QWidget* parent);
+    void makeCatalogue(QWidget* parent, FatalErrorHandler& errors);
+    void makeDesign(QWidget* parent);
+    void makeCopyright(QWidget* parent);
+    void makeButtons(const ApplicationFolder& folder, LoadLog& log, FatalErrorHandler& errors);
+};

@@ -1,0 +1,154 @@
+// The window's menu bar, the tree's pop-up menu, and what the entries do that lead out of the window.
+#include "backup/BackUpCommands.h"
+#include "editors/Panel.h"
+#include "model/clsImporter.h"
+#include "publish/dialog/frmUpload.h"
+#include "shell/ImportIntoTree.h"
+#include "shell/MainForm.h"
+
+#include <QDesktopServices>
+#include <QMenu>
+#include <QMenuBar>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// One entry of the pop-up menu: what it asks for, and for which class of active object it is offered.
+struct PopUpRow
+{
+    const char* name;
+    const char* caption;
+    const char* panel;
+    PanelCode::Value code;
+    bool forShop;
+    bool forCategory;
+    bool forProduct;
+};
+
+constexpr std::array<PopUpRow, 5> popUpRows = {{
+    {"mnuAddCategory", QT_TRANSLATE_NOOP("MainForm", "Add Category"), "CategoryGeneralPnl", PanelCode::NewCategory,
+     true, true, false},
+    {"mnuAddProduct", QT_TRANSLATE_NOOP("MainForm", "Add Product"), "ProductGeneralPnl", PanelCode::NewProduct, false,
+     true, false},
+    {"mnuRemoveCategory", QT_TRANSLATE_NOOP("MainForm", "Remove Category"), "CategoryGeneralPnl",
+     PanelCode::RemoveCategory, false, true, false},
+    {"mnuRemoveProduct", QT_TRANSLATE_NOOP("MainForm", "Remove Product"), "CategoryGeneralPnl",
+     PanelCode::RemoveProduct, false, false, true},
+    {"mnuDuplicateProduct", QT_TRANSLATE_NOOP("MainForm", "Duplicate Product"), "ProductGeneralPnl",
+     PanelCode::DuplicateProduct, false, false, true},
+}};
+
+bool isOffered(const PopUpRow& row, const CatalogueObject& object)
+{
+    return (row.forShop && std::holds_alternative<std::shared_ptr<ShopClass>>(object)) ||
+           (row.forCategory && std::holds_alternative<std::shared_ptr<CategoryClass>>(object)) ||
+           (row.forProduct && std::holds_alternative<std::shared_ptr<ProductClass>>(object));
+}
+
+} // namespace
+
+QAction* MainForm::addEntry(QMenu* menu, const char* name, const QString& caption, void (MainForm::*handler)())
+{
+    QAction* action = menu->addAction(caption);
+    action->setObjectName(QLatin1String(name));
+    connect(action, &QAction::triggered, this, [this, handler] { guarded(m_errors, [&] { (this->*handler)(); }); });
+    return action;
+}
+
+void MainForm::makeMenus()
+{
+    QMenu* shop = menuBar()->addMenu(tr("&Shop"));
+    shop->setObjectName(u"mnuShop"_s);
+    addEntry(shop, "mnuSaveShop", tr("&Save"), &MainForm::saveShopHandler);
+    addEntry(shop, "mnuUpload", tr("&Upload"), &MainForm::showUpload);
+    shop->addSeparator()->setObjectName(u"itmSep"_s);
+    addEntry(shop, "mnuImport", tr("Import"), &MainForm::importHandler);
+    shop->addSeparator()->setObjectName(u"itmSep2"_s);
+    addEntry(shop, "mnuBackUp", tr("BackUp"), &MainForm::backUpHandler);
+    addEntry(shop, "mnuRestore", tr("Restore"), &MainForm::restoreHandler);
+
+    QMenu* tools = menuBar()->addMenu(tr("&Tools"));
+    tools->setObjectName(u"mnuTools"_s);
+    m_modeActions[CatalogueMode - 1] =
+        addEntry(tools, "mnuProductsCatalog", tr("Products Ca&talog"), &MainForm::productCatalogHandler);
+    m_modeActions[DesignMode - 1] = addEntry(tools, "mnuShopDesign", tr("Shop &Design"), &MainForm::shopDesignHandler);
+    m_modeActions[PreviewMode - 1] = addEntry(tools, "mnuShopPreview", tr("Shop &Preview"), &MainForm::previewHandler);
+    for (QAction* action : m_modeActions) {
+        action->setCheckable(true);
+    }
+    makePopUp();
+}
+
+void MainForm::makePopUp()
+{
+    mnuPopUp = new QMenu(tr("PopUp"), this);
+    mnuPopUp->setObjectName(u"mnuPopUp"_s);
+    for (const PopUpRow& row : popUpRows) {
+        QAction* action = mnuPopUp->addAction(tr(row.caption));
+        action->setObjectName(QLatin1String(row.name));
+        connect(action, &QAction::triggered, this,
+                [this, &row] { guarded(m_errors, [&] { ShowFrame(panel(row.panel), row.code); }); });
+    }
+}
+
+void MainForm::showPopUp(const QPoint& position)
+{
+    bool any = false;
+    for (const PopUpRow& row : popUpRows) {
+        const bool offered = isOffered(row, ActiveObject);
+        mnuPopUp->findChild<QAction*>(QLatin1String(row.name))->setVisible(offered);
+        any = any || offered;
+    }
+    if (any) {
+        mnuPopUp->popup(position);
+    }
+}
+
+void MainForm::uploadShopHandler()
+{
+    if (m_session->prompts.askYesNo(ApplicationTitle(), u"Do you want save changes?"_s)) {
+        saveShopHandler();
+    }
+    showUpload();
+}
+
+void MainForm::showUpload()
+{
+    if (!m_upload) {
+        const auto openUrl = [](const QUrl& url) { QDesktopServices::openUrl(url); };
+        m_upload = new frmUpload(m_session->folder, m_session->prompts, m_errors, openUrl, this);
+    }
+    m_upload->exec();
+}
+
+void MainForm::backUpHandler()
+{
+    BackUpFromMenu({m_session->folder, m_session->prompts, ApplicationTitle()});
+}
+
+void MainForm::restoreHandler()
+{
+    if (!RestoreFromMenu({m_session->folder, m_session->prompts, ApplicationTitle()})) {
+        return;
+    }
+    // The restored shop is the one to keep: the window closes without a question, and its successor loads it.
+    ShopChanged = false;
+    m_startAgain();
+    close();
+}
+
+void MainForm::importHandler()
+{
+    const QString fileName = m_session->prompts.chooseFile(
+        m_session->folder.path(), tr("Text files") + u" (*.txt *.csv);;"_s + tr("All files") + u" (*)"_s);
+    if (fileName.isEmpty()) {
+        return;
+    }
+    try {
+        ImportIntoTree import(*this);
+        clsImporter(*m_session, import.progress()).Import(fileName);
+    } catch (const RuntimeError& error) {
+        m_session->prompts.showMessage(ApplicationTitle(), error.description(), PromptIcon::Warning);
+    }
+}

@@ -1,0 +1,86 @@
+#include "shell/ProgressFrames.h"
+
+#include <QCoreApplication>
+#include <QThread>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+ShortProgressBar::ShortProgressBar(QWidget* parent) : QProgressBar(parent)
+{
+    setObjectName(u"PrBar"_s);
+    setAccessibleName(tr("Progress"));
+    setTextVisible(false);
+    setRange(0, 100);
+    hide();
+}
+
+void ShortProgressBar::run()
+{
+    raise();
+    show();
+    for (int value = 0; value <= 100; value += 5) {
+        setValue(value);
+        repaint();
+        QThread::msleep(1);
+    }
+    hide();
+}
+
+CaptionedProgress::CaptionedProgress(const QString& caption, QWidget* parent)
+    : QFrame(parent), Label1(new QLabel(caption, this)), m_bar(new QProgressBar(this))
+{
+    setFrameShape(QFrame::StyledPanel);
+    setAutoFillBackground(true);
+    m_bar->setAccessibleName(caption);
+    m_bar->setRange(0, 100);
+    m_bar->setTextVisible(false);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(24, 20, 24, 24);
+    layout->setSpacing(12);
+    layout->addWidget(Label1);
+    layout->addWidget(m_bar);
+    resize(qMax(420, sizeHint().width()), sizeHint().height());
+    hide();
+}
+
+SaveFrame::SaveFrame(QWidget* parent) : CaptionedProgress(tr("Saving the shop"), parent)
+{
+    setObjectName(u"SaveProgressFrame"_s);
+    Label1->setObjectName(u"Label1"_s);
+    m_bar->setObjectName(u"SaveProgressBar"_s);
+}
+
+void SaveFrame::begin()
+{
+    raise();
+    m_bar->setValue(0);
+    show();
+    QCoreApplication::processEvents();
+}
+
+void SaveFrame::finish()
+{
+    for (int value = 0; value <= 100; ++value) {
+        m_bar->setValue(value);
+        QThread::msleep(3);
+        QCoreApplication::processEvents();
+    }
+    hide();
+}
+
+ImportFrame::ImportFrame(QWidget* parent) : CaptionedProgress(tr("Importing products"), parent)
+{
+    setObjectName(u"ImportProgressFrame"_s);
+    m_bar->setObjectName(u"ImportProgressBar"_s);
+}
+
+void ImportFrame::report(int percent)
+{
+    if (isHidden()) {
+        raise();
+        show();
+    }
+    m_bar->setValue(percent);
+}

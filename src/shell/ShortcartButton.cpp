@@ -1,0 +1,173 @@
+#include "shell/ShortcartButton.h"
+
+#include "base/ApplicationFolder.h"
+#include "base/LoadLog.h"
+#include "shell/Twips.h"
+
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QStyleOptionFocusRect>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int pictureSize = 48; // pixels a side at 100%
+
+QIcon builtInPicture(const char* name)
+{
+    return QIcon(u":/icons/%1.svg"_s.arg(QLatin1String(name)));
+}
+
+// The five main buttons act on the receipt of the focus, so Tab must not reach them; the menus do.
+Qt::FocusPolicy focusPolicyOf(ButtonFrame frame)
+{
+    return frame == ButtonFrame::ToolbarFrame ? Qt::ClickFocus : Qt::StrongFocus;
+}
+
+} // namespace
+
+ShortcartButton::ShortcartButton(const ButtonRow& row, const ApplicationFolder& folder, LoadLog& log,
+                                 FatalErrorHandler& errors, QWidget* parent)
+    : QWidget(parent),
+      Code(row.code),
+      m_errors(errors),
+      m_title(QString::fromLatin1(row.title)),
+      m_pictures(buttonPicturesOf(m_title)),
+      m_picturesFolder(folder.picturesFolder()),
+      IconImg(new QLabel(this)),
+      TitleLbl(new QLabel(m_title, this))
+{
+    setObjectName(QLatin1String(row.name));
+    setAccessibleName(m_title);
+    setFocusPolicy(focusPolicyOf(row.frame));
+    setMinimumWidth(104);
+    setMouseTracking(true);
+
+    IconImg->setObjectName(u"IconImg"_s);
+    IconImg->setToolTip(m_title);
+    IconImg->setAlignment(Qt::AlignCenter);
+    IconImg->setMouseTracking(true);
+    TitleLbl->setObjectName(u"TitleLbl"_s);
+    TitleLbl->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    TitleLbl->setWordWrap(true);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 2);
+    layout->setSpacing(2);
+    layout->addWidget(IconImg);
+    layout->addWidget(TitleLbl, 1);
+    showPicture(builtInPicture(row.icon));
+
+    log.WriteLoadLog(u"UserControl "_s + m_title + u" loaded"_s);
+}
+
+void ShortcartButton::showPicture(const QIcon& icon)
+{
+    m_icon = icon;
+    IconImg->setPixmap(m_icon.pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
+}
+
+void ShortcartButton::Activate()
+{
+    Q_EMIT frameRequested(ShortCartFrameToActivate, Code);
+    Q_EMIT Click();
+}
+
+void ShortcartButton::OnMouseMove(int x, int y)
+{
+    // The result of the test is negated bit by bit, which is never zero: the branch is always taken, and this is meant.
+    if (~static_cast<int>(IconImg->geometry().contains(x, y)) != 0) {
+        hover(-1, -1);
+    }
+}
+
+void ShortcartButton::mouseMoveEvent(QMouseEvent* event)
+{
+    const QPoint place = event->position().toPoint();
+    if (IconImg->geometry().contains(place)) {
+        IconImg->setCursor(Qt::PointingHandCursor);
+        hover(place.x(), place.y());
+    }
+}
+
+void ShortcartButton::hover(int x, int y)
+{
+    if (!m_pictures) {
+        return;
+    }
+    const int farMargin = pixels(130);
+    const bool outside = x < pixels(100) || y < pixels(100) || x > width() - farMargin || y > height() - farMargin;
+    const char* picture = outside ? m_pictures->outside : m_pictures->inside;
+    showPicture(m_pictures->inPicturesFolder ? QIcon(m_picturesFolder + QLatin1String(picture))
+                                             : builtInPicture(picture));
+}
+
+void ShortcartButton::focusInEvent(QFocusEvent* event)
+{
+    // Only a press counts: the focus also comes back with the window's activation and from a box that closes.
+    m_focusByPress = event->reason() == Qt::MouseFocusReason;
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void ShortcartButton::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    m_pressed = true;
+    if (m_focusByPress) {
+        m_focusByPress = false;
+        guarded(m_errors, [this] { Q_EMIT focusReceived(); });
+    }
+}
+
+void ShortcartButton::mouseReleaseEvent(QMouseEvent* event)
+{
+    const bool clicked = m_pressed && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint());
+    m_pressed = false;
+    if (!clicked) {
+        return;
+    }
+    guarded(m_errors, [&] {
+        if (IconImg->geometry().contains(event->position().toPoint())) {
+            Activate();
+        } else {
+            Q_EMIT Click();
+        }
+    });
+}
+
+void ShortcartButton::keyPressEvent(QKeyEvent* event)
+{
+    const int key = event->key();
+    if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter) {
+        guarded(m_errors, [this] { Activate(); });
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void ShortcartButton::paintEvent(QPaintEvent* event)
+{
+    QWidget::paintEvent(event);
+    if (hasFocus()) {
+        QPainter painter(this);
+        QStyleOptionFocusRect option;
+        option.initFrom(this);
+        option.backgroundColor = palette().color(QPalette::Window);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+    }
+}
+
+void ShortcartButton::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::ScreenChangeInternal || event->type() == QEvent::StyleChange) {
+        showPicture(m_icon);
+    }
+    QWidget::changeEvent(event);
+}

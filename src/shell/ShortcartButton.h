@@ -1,0 +1,68 @@
+// The one kind of button of the main window: a picture with a title under it that lights up under the mouse and opens a
+// panel. It knows its panel and its code and asks for the change of panel by a signal; it knows nothing of the
+// catalogue.
+#pragma once
+
+#include "base/Guarded.h"
+#include "shell/ButtonPictures.h"
+#include "shell/ButtonTable.h"
+
+#include <QIcon>
+#include <QLabel>
+#include <QWidget>
+
+class ApplicationFolder;
+class LoadLog;
+class Panel;
+
+class ShortcartButton : public QWidget
+{
+    Q_OBJECT
+
+public:
+    // Reads the button's properties from its row and logs that. The folder is where a few titles have their pictures.
+    ShortcartButton(const ButtonRow& row, const ApplicationFolder& folder, LoadLog& log, FatalErrorHandler& errors,
+                    QWidget* parent);
+
+    // Does what a click on the picture does.
+    void Activate();
+    // The parent's report that the mouse is at this place of the parent, outside of the button. The place plays no
+    // part: the button always goes dark, also when the place lies over its picture, and this is meant.
+    void OnMouseMove(int x, int y);
+
+    QString ShortCartTitle() const { return m_title; }
+
+    Panel* ShortCartFrameToActivate = nullptr;
+    qint16 Code = 0;
+
+Q_SIGNALS:
+    // A press of the mouse has given the button the input focus, which it did not have. Comes ahead of the click.
+    void focusReceived();
+    // The picture was clicked: this panel is asked for, with this code.
+    void frameRequested(Panel* panel, qint16 code);
+    // The button was clicked anywhere. On the picture it comes behind frameRequested.
+    void Click();
+
+protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void hover(int x, int y);
+    void showPicture(const QIcon& icon);
+
+    FatalErrorHandler& m_errors;
+    QString m_title;
+    QIcon m_icon; // what is shown now
+    const ButtonPictureRow* m_pictures;
+    QString m_picturesFolder;
+    QLabel* IconImg;
+    QLabel* TitleLbl;
+    bool m_pressed = false;
+    bool m_focusByPress = false;
+};

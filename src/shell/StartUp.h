@@ -1,0 +1,28 @@
+// The entry routine: what happens from the start of the process to the window on the screen.
+#pragma once
+
+#include "base/ApplicationFolder.h"
+#include "base/Clock.h"
+#include "base/Guarded.h"
+#include "base/UserPrompts.h"
+#include "shell/PreviewParts.h"
+
+#include <functional>
+#include <memory>
+
+class MainForm;
+
+// What lives outside the window and outlives it.
+struct ProgramServices
+{
+    ApplicationFolder folder;
+    UserPrompts& prompts;
+    const Clock& clock;
+    FatalErrorHandler& errors;
+    // Starts a second copy of the program, after a restore; this one ends with its window.
+    std::function<void()> startAgain;
+};
+
+// Log, countries, window, in this order, and the window is shown. Raises the run-time errors that end a start, such as
+// a list of countries that is missing.
+std::unique_ptr<MainForm> startProgram(const ProgramServices& services, const PreviewFactory& makePreview);

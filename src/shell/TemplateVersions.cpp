@@ -1,0 +1,33 @@
+#include "shell/TemplateVersions.h"
+
+#include "base/DelimitedFields.h"
+#include "base/ProgramVersion.h"
+#include "base/TextFile.h"
+#include "design/ApplicationTitle.h"
+
+using namespace Qt::StringLiterals;
+
+bool CheckTemplateVersion(const QString& name, const ApplicationFolder& folder, UserPrompts& prompts,
+                          const std::function<void()>& closeWindow)
+{
+    const QString text = ReadTextFile(folder.templatesFolder() + name + u".html"_s).text;
+    const QString comment = DelimitedFields(text).value(0);
+    const QString version = comment.mid(4, qMax<qsizetype>(0, comment.size() - 7)); // without "<!--" and "-->"
+    if (version == ProgramVersion()) {
+        return true;
+    }
+    prompts.showMessage(ApplicationTitle(),
+                        u"Application version doesn't match version of temlate '"_s + name + u".html'\r\n"_s,
+                        PromptIcon::Critical);
+    closeWindow();
+    return false;
+}
+
+void CheckAllTemplateVersions(const ApplicationFolder& folder, UserPrompts& prompts,
+                              const std::function<void()>& closeWindow)
+{
+    for (const char* name : {"header", "footer", "menu", "main", "product", "category", "cart", "search", "buying",
+                             "checkout", "custompage", "layout"}) {
+        CheckTemplateVersion(QString::fromLatin1(name), folder, prompts, closeWindow);
+    }
+}

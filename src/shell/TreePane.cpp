@@ -1,0 +1,51 @@
+#include "shell/TreePane.h"
+
+#include "shell/Twips.h"
+
+#include <QFrame>
+
+namespace {
+
+QFrame* shadowFrame(const char* name, QRgb colour, QWidget* parent)
+{
+    auto* frame = new QFrame(parent);
+    frame->setObjectName(QLatin1String(name));
+    frame->setAutoFillBackground(true);
+    QPalette palette = frame->palette();
+    palette.setColor(QPalette::Window, QColor::fromRgb(colour));
+    frame->setPalette(palette);
+    return frame;
+}
+
+} // namespace
+
+TreePane::TreePane(QWidget* tree, QWidget* parent)
+    : QWidget(parent),
+      m_tree(tree),
+      frmTreeShadowWhite(shadowFrame("frmTreeShadowWhite", qRgb(255, 255, 255), this)),
+      frmTreeShadowGray(shadowFrame("frmTreeShadowGray", qRgb(198, 204, 216), this)),
+      frmTreeShadowDarkGray(shadowFrame("frmTreeShadowDarkGray", qRgb(178, 186, 202), this))
+{
+    m_tree->setParent(this);
+    m_tree->raise();
+}
+
+void TreePane::showTree(bool flag)
+{
+    for (QWidget* widget : {static_cast<QWidget*>(frmTreeShadowWhite), static_cast<QWidget*>(frmTreeShadowGray),
+                            static_cast<QWidget*>(frmTreeShadowDarkGray), m_tree}) {
+        widget->setVisible(flag);
+    }
+}
+
+void TreePane::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const int treeTop = pixels(200);
+    const int treeWidth = width() - pixels(80);
+    const int treeHeight = height() - treeTop - pixels(40);
+    m_tree->setGeometry(0, treeTop, treeWidth, treeHeight);
+    frmTreeShadowWhite->setGeometry(0, treeTop - pixels(30), treeWidth + pixels(30), treeHeight + pixels(40));
+    frmTreeShadowGray->setGeometry(0, treeTop + pixels(20), treeWidth + pixels(80), treeHeight + pixels(20));
+    frmTreeShadowDarkGray->setGeometry(0, treeTop + pixels(20), treeWidth + pixels(80), pixels(200));
+}

@@ -1,0 +1,26 @@
+// The tree with the three frames behind it that draw its shadow.
+#pragma once
+
+#include <QWidget>
+
+class QFrame;
+
+class TreePane : public QWidget
+{
+    Q_OBJECT
+
+public:
+    TreePane(QWidget* tree, QWidget* parent);
+
+    // Shows or hides the tree and its shadow.
+    void showTree(bool flag);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    QWidget* m_tree;
+    QFrame* frmTreeShadowWhite;
+    QFrame* frmTreeShadowGray;
+    QFrame* frmTreeShadowDarkGray;
+};

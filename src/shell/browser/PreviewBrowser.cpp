@@ -1,0 +1,116 @@
+#include "shell/browser/PreviewBrowser.h"
+
+#include "pages/PreviewNavigation.h"
+#include "shell/browser/DocumentScheme.h"
+#include "shell/browser/PreviewEnginePage.h"
+
+#include <QMetaObject>
+#include <QVBoxLayout>
+#include <QWebEngineHistory>
+#include <QWebEngineProfile>
+#include <QWebEngineUrlRequestInfo>
+#include <QWebEngineUrlRequestInterceptor>
+#include <QWebEngineView>
+
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The pseudo-server does not exist, and what a page embeds from it is not announced as a navigation.
+class NoPseudoServer : public QWebEngineUrlRequestInterceptor
+{
+public:
+    void interceptRequest(QWebEngineUrlRequestInfo& request) override
+    {
+        if (request.requestUrl().host() == "previewmode"_L1)
+            request.block(true);
+    }
+};
+
+} // namespace
+
+void PreviewBrowser::prepareProcess()
+{
+    DocumentScheme::registerScheme();
+    // The engine refuses to start as root with its sandbox, and only then may it go without.
+    if (geteuid() == 0)
+        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+}
+
+PreviewBrowser::PreviewBrowser(const ApplicationFolder& folder, FatalErrorHandler& errors, QWidget* parent)
+    : QWidget(parent),
+      m_errors(errors),
+      m_scheme(std::make_unique<DocumentScheme>(folder.picturesFolder())),
+      m_interceptor(std::make_unique<NoPseudoServer>()),
+      m_profile(std::make_unique<QWebEngineProfile>()),
+      m_page(std::make_unique<PreviewEnginePage>(m_profile.get(),
+                                                 [this](const QString& url) { return beforeNavigate(url); })),
+      m_view(new QWebEngineView(this))
+{
+    setObjectName(u"PreviewBrowser"_s);
+    m_profile->installUrlSchemeHandler(DocumentScheme::name(), m_scheme.get());
+    m_profile->setUrlRequestInterceptor(m_interceptor.get());
+    connect(m_page.get(), &QWebEnginePage::loadFinished, this, &PreviewBrowser::forgetWayBack);
+
+    m_view->setPage(m_page.get());
+    m_view->setContextMenuPolicy(Qt::NoContextMenu);
+    m_view->setAccessibleName(tr("The shop's preview"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_view);
+}
+
+PreviewBrowser::~PreviewBrowser()
+{
+    delete m_view;
+}
+
+bool PreviewBrowser::replaceDocument(const QString& text)
+{
+    m_scheme->setDocument(text);
+    showDocument();
+    return true;
+}
+
+void PreviewBrowser::goBlank()
+{
+    m_page->load(QUrl(u"about:blank"_s));
+}
+
+QWebEnginePage* PreviewBrowser::page() const
+{
+    return m_page.get();
+}
+
+// Called from within the engine, which waits for the answer: the action must not run before that.
+bool PreviewBrowser::beforeNavigate(const QString& url)
+{
+    if (m_navigation == nullptr)
+        return false;
+    const NavigationDecision decision = guarded(m_errors, [&] { return PreviewNavigation::judge(url); });
+    if (decision.hasAction) {
+        const auto act = [this, url] {
+            if (m_navigation != nullptr)
+                guarded(m_errors, [&] { m_navigation->act(url); });
+        };
+        QMetaObject::invokeMethod(this, act, Qt::QueuedConnection);
+    }
+    return decision.cancel;
+}
+
+void PreviewBrowser::showDocument()
+{
+    // A picture that was replaced on the disk would stay the old one.
+    m_profile->clearHttpCache();
+    m_page->load(DocumentScheme::documentUrl());
+}
+
+// From the document Back must not lead to the empty page that was there before it. Where a visitor went from here by a
+// link to another host, Back leads to the document.
+void PreviewBrowser::forgetWayBack()
+{
+    if (DocumentScheme::isDocument(m_page->url()))
+        m_page->history()->clear();
+}

@@ -1,0 +1,59 @@
+// The embedded browser that the shop's preview is shown in. It shows one document, which the program hands it, and asks
+// before every navigation; what the preview then does is put off until the engine has its answer. The window owns it.
+#pragma once
+
+#include "base/ApplicationFolder.h"
+#include "base/Guarded.h"
+#include "pages/PreviewSurface.h"
+
+#include <QString>
+#include <QWidget>
+
+#include <memory>
+
+class DocumentScheme;
+class PreviewEnginePage;
+class PreviewNavigation;
+class QWebEnginePage;
+class QWebEngineProfile;
+class QWebEngineUrlRequestInterceptor;
+class QWebEngineView;
+
+class PreviewBrowser : public QWidget, public PreviewSurface
+{
+    Q_OBJECT
+
+public:
+    // What the process needs ahead of its application object. To be called once.
+    static void prepareProcess();
+
+    // Errors of what a navigation leads to go to the handler, which must outlive the browser.
+    PreviewBrowser(const ApplicationFolder& folder, FatalErrorHandler& errors, QWidget* parent = nullptr);
+    PreviewBrowser(const PreviewBrowser&) = delete;
+    PreviewBrowser& operator=(const PreviewBrowser&) = delete;
+    ~PreviewBrowser() override;
+
+    // Who is asked before each navigation; it must outlive the browser, or be taken back by a null pointer. Without one
+    // every address may be gone to.
+    void setNavigation(PreviewNavigation* navigation) { m_navigation = navigation; }
+
+    bool replaceDocument(const QString& text) override;
+    void goBlank() override;
+
+    QWebEngineView* view() const { return m_view; }
+    QWebEnginePage* page() const;
+
+private:
+    bool beforeNavigate(const QString& url);
+    void showDocument();
+    void forgetWayBack();
+
+    FatalErrorHandler& m_errors;
+    PreviewNavigation* m_navigation = nullptr;
+    // In the order in which they may not be missed: a page goes before its profile, and that before what serves it.
+    std::unique_ptr<DocumentScheme> m_scheme;
+    std::unique_ptr<QWebEngineUrlRequestInterceptor> m_interceptor;
+    std::unique_ptr<QWebEngineProfile> m_profile;
+    std::unique_ptr<PreviewEnginePage> m_page;
+    QWebEngineView* m_view;
+};

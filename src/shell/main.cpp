@@ -1,0 +1,32 @@
+#include "shell/BrowserPreview.h"
+#include "shell/DialogPrompts.h"
+#include "shell/FatalErrorBox.h"
+#include "shell/MainForm.h"
+#include "shell/StartUp.h"
+#include "shell/Theme.h"
+#include "shell/browser/PreviewBrowser.h"
+
+#include <QApplication>
+#include <QProcess>
+
+#include <csignal>
+
+int main(int argc, char** argv)
+{
+    // A file that would grow too large is an error of the write, not the end of the process.
+    std::signal(SIGXFSZ, SIG_IGN);
+    PreviewBrowser::prepareProcess();
+    QApplication application(argc, argv);
+    applyTheme(application);
+
+    DialogPrompts prompts;
+    FatalErrorBox errors(prompts);
+    const SystemClock clock;
+    const ProgramServices services{ApplicationFolder(QApplication::applicationDirPath()), prompts, clock, errors,
+                                   [] { QProcess::startDetached(QApplication::applicationFilePath(), {}); }};
+
+    const std::unique_ptr<MainForm> window =
+        guarded(errors, [&] { return startProgram(services, browserPreview(services.folder, errors)); });
+    prompts.setParentWindow(window.get());
+    return QApplication::exec();
+}

@@ -1,0 +1,127 @@
+#include "DesignTest.h"
+
+#include "base/XMLUtils.h"
+#include "template_engine/Templates_Set.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+void DesignTest::openDesign()
+{
+    useSampleShop();
+    start();
+    click("ShopDesignSBtn");
+}
+
+void DesignTest::openManager(const char* button)
+{
+    click(button);
+    showTab(PageTab);
+    QCoreApplication::processEvents();
+}
+
+void DesignTest::press(QWidget* widget)
+{
+    ASSERT_NE(widget, nullptr);
+    QTest::mouseClick(widget, Qt::LeftButton);
+}
+
+void DesignTest::tick(QCheckBox* box)
+{
+    ASSERT_NE(box, nullptr);
+    QStyleOptionButton option;
+    option.initFrom(box);
+    const QRect indicator = box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box);
+    QTest::mouseClick(box, Qt::LeftButton, {}, indicator.center());
+}
+
+void DesignTest::pressKeys(QWidget* field, const QString& text)
+{
+    for (const QChar letter : text) {
+        if (letter == u'\n') {
+            QTest::keyClick(field, Qt::Key_Return);
+        } else if (letter.unicode() < 0x80) {
+            QTest::keyClick(field, letter.toLatin1());
+        } else {
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(letter));
+            QCoreApplication::sendEvent(field, &press);
+        }
+    }
+}
+
+void DesignTest::type(QLineEdit* field, const QString& text)
+{
+    field->setFocus();
+    field->selectAll();
+    if (text.isEmpty()) {
+        QTest::keyClick(field, Qt::Key_Delete);
+    } else {
+        pressKeys(field, text);
+    }
+}
+
+void DesignTest::type(QPlainTextEdit* field, const QString& text)
+{
+    field->setFocus();
+    field->selectAll();
+    QTest::keyClick(field, Qt::Key_Delete);
+    pressKeys(field, text);
+}
+
+QDialog* DesignTest::dialog(const char* name) const
+{
+    QDialog* shown = nullptr;
+    for (QDialog* dialog : window->findChildren<QDialog*>(QLatin1String(name))) {
+        if (dialog->isVisible()) {
+            EXPECT_EQ(shown, nullptr) << name << " is shown twice";
+            shown = dialog;
+        }
+    }
+    EXPECT_NE(shown, nullptr) << name;
+    return shown;
+}
+
+void DesignTest::saveShop()
+{
+    trigger("mnuSaveShop");
+    file.reset();
+    const QByteArray bytes = FileBytes(files.path(u"shop.xml"_s));
+    ASSERT_TRUE(file.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size()),
+                                 pugi::parse_default | pugi::parse_ws_pcdata_single));
+}
+
+QString DesignTest::saved(const QString& element) const
+{
+    const pugi::xml_node found = FirstDescendant(file.document_element(), element.toUtf8().constData());
+    EXPECT_TRUE(found) << element.toStdString();
+    return QString::fromUtf8(found.text().get());
+}
+
+pugi::xml_node DesignTest::savedStyle(const QString& name) const
+{
+    pugi::xml_node found;
+    for (const pugi::xml_node style : file.document_element().child("Shop").children("CSS")) {
+        if (name == QString::fromUtf8(style.child("CSSName").text().get())) {
+            EXPECT_FALSE(found) << name.toStdString() << " stands twice";
+            found = style;
+        }
+    }
+    EXPECT_TRUE(found) << name.toStdString();
+    return found;
+}
+
+QString DesignTest::templateText(const char* page) const
+{
+    return window->CurrentTemplatesSet().templates.Item(QLatin1String(page))->template_text;
+}
+
+QString DesignTest::pageAt(const QString& query)
+{
+    preview->navigation->act(u"http://previewmode/"_s + query);
+    return preview->documents.last();
+}

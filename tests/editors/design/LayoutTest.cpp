@@ -1,0 +1,86 @@
+// How the managers stand in the window: nothing is cut off at any size, and the tab key goes as one reads.
+#include "DesignTest.h"
+
+#include <QAbstractButton>
+#include <QCoreApplication>
+#include <QLabel>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class DesignLayout : public DesignTest, public testing::WithParamInterface<ManagerCase>
+{
+protected:
+    void SetUp() override
+    {
+        openDesign();
+        openManager(GetParam().button);
+    }
+
+    // The names of the panel's visible controls in the order of the tab key.
+    QStringList tabOrder() const
+    {
+        QStringList names;
+        QWidget* panel = window->VisibleFrame;
+        QWidget* widget = panel;
+        do {
+            widget = widget->nextInFocusChain();
+            if (panel->isAncestorOf(widget) && widget->isVisible() && widget->isEnabled() &&
+                (widget->focusPolicy() & Qt::TabFocus) != 0) {
+                names << widget->objectName();
+            }
+        } while (widget != panel);
+        return names;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Managers, DesignLayout, testing::ValuesIn(managers),
+                         [](const auto& row) { return std::string(row.param.page); });
+
+TEST_P(DesignLayout, CutsNothingOffAtAnySizeOfTheWindow)
+{
+    for (const QSize& size : {QSize(1400, 900), QSize(1190, 855), QSize(800, 600), QSize(640, 480)}) {
+        window->resize(size);
+        for (const Tab tab : {PageTab, TemplateTab}) {
+            showTab(tab);
+            QCoreApplication::processEvents();
+            QCoreApplication::processEvents();
+            for (const QWidget* widget : window->VisibleFrame->findChildren<QWidget*>()) {
+                const auto* label = qobject_cast<const QLabel*>(widget);
+                if (!widget->isVisible() || (!label && !qobject_cast<const QAbstractButton*>(widget) &&
+                                             !qobject_cast<const QLineEdit*>(widget))) {
+                    continue;
+                }
+                const std::string name = widget->objectName().toStdString();
+                const QSize least = widget->minimumSizeHint();
+                EXPECT_GE(widget->width(), least.width()) << name << " at " << size.width();
+                const bool wraps = label && label->wordWrap();
+                EXPECT_GE(widget->height(), wraps ? label->heightForWidth(label->width()) : least.height())
+                    << name << " at " << size.width();
+            }
+        }
+    }
+}
+
+TEST_P(DesignLayout, LeadsTheTabKeyFromTopToBottom)
+{
+    if (qstrcmp(GetParam().page, "custompage") == 0) {
+        const QStringList order = tabOrder();
+        const qsizetype first = order.indexOf(u"CustomPagesListCtl"_s);
+        EXPECT_EQ(order.mid(first, 4), (QStringList{u"CustomPagesListCtl"_s, u"AddPageBtn"_s, u"DeletePageBtn"_s,
+                                                    u"btnCSS_general_custom_pages"_s}));
+        return;
+    }
+    QPoint last(-1, -1);
+    for (const QString& name : tabOrder()) {
+        const QWidget* widget = in(name.toLatin1().constData());
+        const QPoint place = widget->mapTo(window->VisibleFrame, QPoint(0, widget->height() / 2));
+        EXPECT_TRUE(place.y() > last.y() + 8 || (place.y() > last.y() - 8 && place.x() > last.x()))
+            << name.toStdString();
+        last = place;
+    }
+    EXPECT_EQ(tabOrder().last(), u"imgButtonReset"_s);
+}
+
+} // namespace

@@ -1,0 +1,176 @@
+// The tree and the commands that add, remove and copy its nodes, in the real window.
+#include "editors/Panel.h"
+#include "model/CategoryClass.h"
+#include "model/ProductClass.h"
+#include "shell/CatalogueTree.h"
+#include "shell/Theme.h"
+#include "support/WindowTest.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString warning = u"Warning"_s;
+
+class Catalogue : public WindowTest
+{
+protected:
+    void SetUp() override
+    {
+        useShop("<Version>1.2.0</Version><MaxProductId>9</MaxProductId><Name>Fern</Name><SelectedCountries/>"
+                "<Category><Id>2</Id><Name>Tea</Name>"
+                "<Category><Id>3</Id><Name>Green</Name></Category>"
+                "<Product><Id>4</Id><Name>Sencha</Name><Related/></Product></Category>");
+        start();
+    }
+
+    TreeNode* selected() const { return window->parts().CategoriesAndProductsTree->selectedNode(); }
+    QString panelName() const { return window->VisibleFrame ? window->VisibleFrame->objectName() : QString(); }
+    std::shared_ptr<CategoryClass> category(const char* id)
+    {
+        return window->session().objects.Category(QLatin1String(id));
+    }
+};
+
+TEST_F(Catalogue, StandsInTheTreeWithCategoriesAheadOfProducts)
+{
+    const TreeNode* root = window->parts().CategoriesAndProductsTree->nodes().rootNode();
+    ASSERT_EQ(root->children.size(), 1U);
+    const TreeNode* tea = root->children[0].get();
+    ASSERT_EQ(tea->children.size(), 2U);
+    EXPECT_EQ(tea->children[0]->key, u"ID3"_s);
+    EXPECT_EQ(tea->children[0]->image, TreeImage::Closed);
+    EXPECT_EQ(tea->children[1]->key, u"ID4"_s);
+    EXPECT_EQ(tea->children[1]->image, TreeImage::Product);
+    EXPECT_EQ(tea->background, TreeColour);
+    EXPECT_EQ(tea->foreground, TreeTextColour);
+}
+
+TEST_F(Catalogue, ShowsThePictureOfAnOpenCategoryAndAClosedRootAtFirst)
+{
+    CatalogueTree* tree = window->parts().CategoriesAndProductsTree;
+    TreeNode* root = tree->nodes().rootNode();
+    const QModelIndex index = tree->nodes().indexOf(root);
+    EXPECT_TRUE(tree->isExpanded(index));
+    EXPECT_EQ(root->image, TreeImage::Closed);
+    tree->collapse(index);
+    EXPECT_EQ(root->image, TreeImage::Closed);
+    tree->expand(index);
+    EXPECT_EQ(root->image, TreeImage::Opened);
+}
+
+TEST_F(Catalogue, OpensTheGeneralPanelOfAClickedNode)
+{
+    clickNode(u"ID4"_s);
+    EXPECT_EQ(panelName(), u"ProductGeneralPnl"_s);
+    EXPECT_TRUE(isShown("ProductToolbar"));
+    clickNode(u"ID3"_s);
+    EXPECT_EQ(panelName(), u"CategoryGeneralPnl"_s);
+    EXPECT_TRUE(isShown("CategoryToolbar"));
+    clickNode(u"ID_SHOP"_s);
+    EXPECT_EQ(panelName(), u"ShopGeneralPnl"_s);
+    EXPECT_TRUE(isShown("ShopToolbar"));
+}
+
+TEST_F(Catalogue, TakesANodeReachedByTheKeyboardAsClicked)
+{
+    clickNode(u"ID2"_s);
+    QTest::keyClick(window->parts().CategoriesAndProductsTree, Qt::Key_Right);
+    QTest::keyClick(window->parts().CategoriesAndProductsTree, Qt::Key_Down);
+    EXPECT_EQ(window->SelectedNode->key, u"ID3"_s);
+    EXPECT_EQ(panelName(), u"CategoryGeneralPnl"_s);
+}
+
+TEST_F(Catalogue, SelectsNothingOnARightClick)
+{
+    CatalogueTree* tree = window->parts().CategoriesAndProductsTree;
+    const QModelIndex tea = tree->nodes().indexOf(tree->nodes().rootNode()->children[0].get());
+    QTest::mouseClick(tree->viewport(), Qt::RightButton, {}, tree->visualRect(tea).center());
+    EXPECT_EQ(selected()->key, u"ID_SHOP"_s);
+    EXPECT_EQ(panelName(), u"ShopGeneralPnl"_s);
+}
+
+TEST_F(Catalogue, TakesANewRootCategory)
+{
+    click("ShopNewCategorySBtn");
+    EXPECT_EQ(selected()->key, u"ID10"_s);
+    EXPECT_EQ(selected()->text, u"New Category"_s);
+    EXPECT_EQ(selected()->parent->key, u"ID_SHOP"_s);
+    EXPECT_EQ(panelName(), u"CategoryGeneralPnl"_s);
+    EXPECT_TRUE(isShown("CategoryToolbar"));
+    EXPECT_EQ(category("10")->parentCategory.lock(), nullptr);
+    EXPECT_TRUE(window->session().shop->Discount()->Childs().HasKey(u"10"_s));
+}
+
+TEST_F(Catalogue, TakesANewCategoryBelowACategory)
+{
+    clickNode(u"ID2"_s);
+    click("NewCategorySBtn");
+    EXPECT_EQ(selected()->parent->key, u"ID2"_s);
+    EXPECT_EQ(category("10")->parentCategory.lock(), category("2"));
+    EXPECT_EQ(category("10")->ParentDiscount.lock(), category("2")->Discount());
+    EXPECT_TRUE(category("2")->Discount()->Childs().HasKey(u"10"_s));
+}
+
+TEST_F(Catalogue, TakesANewProduct)
+{
+    clickNode(u"ID3"_s);
+    click("NewProductSBtn");
+    EXPECT_EQ(selected()->key, u"ID10"_s);
+    EXPECT_EQ(selected()->text, u"New Product"_s);
+    EXPECT_EQ(panelName(), u"ProductGeneralPnl"_s);
+    EXPECT_TRUE(isShown("ProductToolbar"));
+    EXPECT_TRUE(category("3")->products.HasKey(u"ID10"_s));
+    EXPECT_FALSE(category("3")->Discount()->Childs().HasKey(u"10"_s));
+}
+
+TEST_F(Catalogue, LandsOnTheCategoryWhenAProductIsRemoved)
+{
+    clickNode(u"ID4"_s);
+    prompts.answerYesNo(warning, u"Are you sure you want to remove this product"_s, true);
+    click("RemoveProductSBtn");
+    EXPECT_EQ(selected()->key, u"ID2"_s);
+    EXPECT_EQ(panelName(), u"CategoryGeneralPnl"_s);
+    EXPECT_FALSE(category("2")->products.HasKey(u"ID4"_s));
+    EXPECT_TRUE(window->session().objects.HasKey(u"ID4"_s)); // meant
+}
+
+TEST_F(Catalogue, LandsOnTheShopWhenItsLastCategoryIsRemoved)
+{
+    clickNode(u"ID2"_s);
+    prompts.answerYesNo(warning, u"Are you sure you want to remove this category"_s, true);
+    click("RemoveCategorySBtn");
+    EXPECT_EQ(selected()->key, u"ID_SHOP"_s);
+    EXPECT_EQ(panelName(), u"ShopGeneralPnl"_s);
+    EXPECT_TRUE(isShown("ShopToolbar"));
+    EXPECT_TRUE(window->session().shop->categories.isEmpty());
+    for (const char* key : {"ID2", "ID3", "ID4"}) {
+        EXPECT_FALSE(window->session().objects.HasKey(QLatin1String(key))) << key;
+    }
+}
+
+TEST_F(Catalogue, StaysAsItIsWhenARemovalIsRefused)
+{
+    clickNode(u"ID4"_s);
+    prompts.answerYesNo(warning, u"Are you sure you want to remove this product"_s, false);
+    click("RemoveProductSBtn");
+    EXPECT_EQ(selected()->key, u"ID4"_s);
+    EXPECT_EQ(panelName(), u"ProductGeneralPnl"_s);
+    EXPECT_TRUE(isShown("ProductGeneralPnl"));
+    EXPECT_TRUE(category("2")->products.HasKey(u"ID4"_s));
+}
+
+TEST_F(Catalogue, NamesADuplicateOfAProductACopy)
+{
+    clickNode(u"ID4"_s);
+    window->ShowFrame(find<Panel>("ProductGeneralPnl"), 5);
+    EXPECT_EQ(selected()->text, u"Sencha copy"_s);
+    EXPECT_EQ(selected()->parent->key, u"ID2"_s);
+    window->ShowFrame(find<Panel>("ProductGeneralPnl"), 5);
+    EXPECT_EQ(selected()->text, u"Sencha copy copy"_s);
+    EXPECT_EQ(category("2")->products.Count(), 3);
+}
+
+} // namespace

@@ -1,0 +1,82 @@
+// The fixture of the tests that drive the real window: a temporary application folder, prompts that answer in order, a
+// day that the test sets, and a preview that keeps the text it is given.
+#pragma once
+
+#include "pages/PreviewSurface.h"
+#include "shell/MainForm.h"
+#include "shell/StartUp.h"
+#include "support/TestSupport.h"
+
+#include <QLabel>
+#include <QStringList>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <optional>
+#include <vector>
+
+// A preview without a browser.
+class RecordingPreview : public QWidget, public PreviewSurface
+{
+public:
+    using QWidget::QWidget;
+
+    bool replaceDocument(const QString& text) override;
+    void goBlank() override;
+
+    QStringList documents; // all that were shown
+    int blanks = 0;
+    PreviewNavigation* navigation = nullptr;
+};
+
+// Keeps the errors that would have ended the program.
+class RecordingErrors : public FatalErrorHandler
+{
+public:
+    void fatalError(const RuntimeError& error) noexcept override
+    {
+        numbers.push_back(static_cast<int>(error.number()));
+    }
+
+    std::vector<int> numbers;
+};
+
+class WindowTest : public testing::Test
+{
+protected:
+    // Puts the sample shop, its templates, countries and pictures into the folder.
+    void useSampleShop();
+    // Puts a shop file with this text between <Shop> and </Shop> into the folder, one country and no templates.
+    void useShop(const QByteArray& inside);
+
+    // Starts the program up to the shown window. What a test expects of boxes has to be told before.
+    void start();
+
+    // Widgets by their names.
+    template <class T = QWidget>
+    T* find(const char* name) const
+    {
+        T* widget = window->findChild<T*>(QLatin1String(name));
+        EXPECT_NE(widget, nullptr) << name;
+        return widget;
+    }
+    bool isShown(const char* name) const { return find<QWidget>(name)->isVisible(); }
+
+    // Presses and releases the left button on a button's picture, as a person does.
+    void click(const char* button);
+    void trigger(const char* action);
+    // Clicks the node of that key.
+    void clickNode(const QString& key);
+
+    // The lines of load.log without their quotes.
+    QStringList logLines() const;
+
+    TemporaryShopFolder files;
+    RecordingPrompts prompts;
+    FixedClock clock{QDate(2026, 7, 15)};
+    RecordingErrors errors;
+    int restarts = 0; // of the program, after a restore
+    RecordingPreview* preview = nullptr;
+    std::unique_ptr<MainForm> window;
+};
