@@ -1,0 +1,155 @@
+// How long the panel of related products takes to open over a catalogue of 100,000 products, all of them related,
+// beside the window's own tree over the same catalogue. It may take twice as long.
+#include "Ratios.h"
+#include "base/Clock.h"
+#include "editors/PanelHost.h"
+#include "editors/catalogue/ProductsRelatedPanel.h"
+#include "model/CategoryClass.h"
+#include "model/ProductClass.h"
+#include "model/ShopSession.h"
+#include "shell/CatalogueTree.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+#include <cstdio>
+#include <cstdlib>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int categoryCount = 100;
+constexpr int productsEach = 1000;
+
+class NoPrompts : public UserPrompts
+{
+public:
+    void showMessage(const QString& /*title*/, const QString& /*text*/, PromptIcon /*icon*/) override {}
+    bool askYesNo(const QString& /*title*/, const QString& /*text*/) override { return false; }
+    PromptAnswer askYesNoCancel(const QString& /*title*/, const QString& /*text*/) override { return PromptAnswer::No; }
+    std::optional<QString> askText(const QString& /*title*/, const QString& /*prompt*/) override { return {}; }
+    QString chooseFile(const QString& /*folder*/, const QString& /*filter*/) override { return {}; }
+    std::optional<int> chooseColour(int /*colour*/) override { return {}; }
+};
+
+class Aborting : public FatalErrorHandler
+{
+public:
+    void fatalError(const RuntimeError& error) noexcept override
+    {
+        std::fprintf(stderr, "%s\n", error.what());
+        std::abort();
+    }
+};
+
+class Host : public PanelHost
+{
+public:
+    explicit Host(ShopSession& session) : m_session(session) {}
+    ShopSession& session() override { return m_session; }
+    Templates_Set& CurrentTemplatesSet() override { std::abort(); } // nothing here asks for templates
+    FatalErrorHandler& errorHandler() override { return m_errors; }
+    void ApplyActivePanel() override {}
+    void ResetActivePanel() override {}
+    void setSelectedNodeText(const QString& /*text*/) override {}
+
+private:
+    ShopSession& m_session;
+    Aborting m_errors;
+};
+
+// The catalogue, with the first product's list of related ones filled with all others.
+std::shared_ptr<ProductClass> fillShop(ShopSession& session)
+{
+    session.shop = std::make_shared<ShopClass>(session.services);
+    session.shop->name = u"Fern"_s;
+    QStringList ids;
+    int id = 1;
+    for (int i = 0; i < categoryCount; ++i) {
+        auto category = std::make_shared<CategoryClass>(session.services);
+        category->id = QString::number(++id);
+        category->name = u"Category %1"_s.arg(i);
+        for (int j = 0; j < productsEach; ++j) {
+            auto product = std::make_shared<ProductClass>(session.services);
+            product->id = QString::number(++id);
+            product->name = u"Product number %1"_s.arg(id);
+            ids << product->id;
+            category->products.Add(product, NodeKey(product->id));
+        }
+        session.shop->categories.Add(category, NodeKey(category->id));
+    }
+    const std::shared_ptr<ProductClass> first = session.shop->categories.Item(1)->products.Item(1);
+    first->setRelatedIds(ids.mid(1));
+    return first;
+}
+
+// What the window does to show the catalogue.
+void openMainTree(ShopSession& session, CatalogueTree& tree)
+{
+    session.objects.create();
+    CatalogueTreeModel& nodes = tree.nodes();
+    nodes.beginBuild();
+    TreeNode* root = nodes.addNode(nullptr, ShopNodeKey(), session.shop->name, TreeImage::Closed);
+    session.objects.Add(session.shop, ShopNodeKey());
+    for (const std::shared_ptr<CategoryClass>& category : session.shop->categories) {
+        TreeNode* node = nodes.addNode(root, NodeKey(category->id), category->name, TreeImage::Closed);
+        tree.ColorDeSelectedNode(node);
+        session.objects.Add(category, node->key);
+        for (const std::shared_ptr<ProductClass>& product : category->products) {
+            TreeNode* leaf = nodes.addNode(node, NodeKey(product->id), product->name, TreeImage::Product);
+            tree.ColorDeSelectedNode(leaf);
+            session.objects.Add(product, leaf->key);
+        }
+    }
+    nodes.endBuild();
+    tree.expandNode(root);
+    tree.selectNode(root);
+    QCoreApplication::processEvents();
+}
+
+template <class Work>
+void Register(const char* name, Work work)
+{
+    benchmark::RegisterBenchmark(name, [work](benchmark::State& state) {
+        for (auto _ : state) {
+            work();
+        }
+    })->Unit(benchmark::kMillisecond);
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    Q_INIT_RESOURCE(icons);
+    const QTemporaryDir folder;
+    NoPrompts prompts;
+    const SystemClock clock;
+    ShopSession session(ApplicationFolder(folder.path()), prompts, clock);
+    const std::shared_ptr<ProductClass> product = fillShop(session);
+
+    Host host(session);
+    CatalogueTree tree(host.errorHandler(), nullptr);
+    tree.resize(280, 600);
+    tree.show();
+    openMainTree(session, tree);
+    ProductsRelatedPanel panel(host, nullptr);
+    panel.resize(800, 600);
+    panel.show();
+    panel.SetActiveObject(product);
+    QCoreApplication::processEvents();
+
+    Register("open the panel of related products", [&] {
+        panel.ClearActiveObject();
+        panel.SetActiveObject(product);
+        QCoreApplication::processEvents();
+    });
+    Register("open the window's tree", [&] { openMainTree(session, tree); });
+    return RunAndCompare(argc, argv,
+                         {{"related products, 100,000 (half is enough)", "open the panel of related products",
+                           "open the window's tree", 0.5}});
+}

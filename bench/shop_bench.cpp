@@ -1,0 +1,332 @@
+// Reading and writing of shop files against bare pugixml on the same bytes in the same run, for shops of 1,000, 10,000
+// and 100,000 products.
+//
+// Reading is everything from the file on disk to the whole object tree: all keyed collections, the push of discounts
+// and the collection of all nodes. The peer parses the same bytes, which lie in memory already, by load_buffer as it
+// comes. Writing is everything from the object tree to the file on disk; the peer saves a DOM that is ready. Memory is
+// the peak of a process that does nothing else, less what it had before; the bytes of the file count on both sides.
+// Times are processor times, each of a process of its own that reads and writes once, as the program does.
+//
+// The peer's fastest way, which uses up the bytes and makes one node a leaf, is shown and not judged: it is what the
+// program itself parses with.
+#include "base/Clock.h"
+#include "base/TextFile.h"
+#include "base/UserPrompts.h"
+#include "model/CommonFunctions.h"
+#include "model/ShopSession.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLocale>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <functional>
+#include <utility>
+#include <vector>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// A benchmark asks nobody anything.
+class NoPrompts : public UserPrompts
+{
+public:
+    void showMessage(const QString& /*title*/, const QString& /*text*/, PromptIcon /*icon*/) override {}
+    bool askYesNo(const QString& /*title*/, const QString& /*text*/) override { return false; }
+    PromptAnswer askYesNoCancel(const QString& /*title*/, const QString& /*text*/) override
+    {
+        return PromptAnswer::Cancel;
+    }
+    std::optional<QString> askText(const QString& /*title*/, const QString& /*prompt*/) override { return {}; }
+    QString chooseFile(const QString& /*folder*/, const QString& /*filter*/) override { return {}; }
+    std::optional<int> chooseColour(int /*colour*/) override { return {}; }
+};
+
+// ---- A shop like a real one: categories of 50 products, ten of them in each root category ----
+
+constexpr int productsOfCategory = 50;
+constexpr int categoriesOfRoot = 10;
+
+void addProduct(ShopSession& session, const std::shared_ptr<CategoryClass>& category, int number)
+{
+    const auto product = std::make_shared<ProductClass>(session.services);
+    product->id = session.shop->getNextProductId();
+    product->name = u"Espresso cup number %1, blue rim"_s.arg(number);
+    product->Description =
+        u"<p>Stoneware, fired twice, holds 80 ml and keeps them warm. Goes into the dishwasher. The rim "
+        "is painted by hand, so that no two cups are quite alike; number %1 was made in the small kiln. "
+        "<b>Fits the saucers</b> of the same series &amp; the tray. Please allow two to four days, and "
+        "tell us when you need it for a f\u00EAte.</p>"_s.arg(number);
+    product->Code = u"T-%1-BLUE"_s.arg(number);
+    product->Price()->Value = QString::number(10 + number % 90);
+    product->Unit = u"piece"_s;
+    product->LINK = u"http://shop.example/cups/%1"_s.arg(number);
+    product->selectedImage()->imageFileName = u"cup-%1.png"_s.arg(number % 500);
+    product->selectedImage()->setWidthBmp(240);
+    product->selectedImage()->setHeightBmp(180);
+    product->Weight = u"310"_s;
+    clsDiscount& discount = *product->Price()->Discount();
+    discount.Status = number % 3 == 0 ? DiscountStatus::Specific : DiscountStatus::Inherit;
+    discount.setSpecific(QString::number(number % 3 == 0 ? 5 : 0));
+    if (number % 10 == 0) {
+        discount.DateTo = DateTextToLocal(u"31.12.2099"_s);
+    }
+    if (number % 5 == 0) {
+        for (const QString& size : {u"small"_s, u"large"_s}) {
+            const auto variant = product->Price()->AddMultiPrice();
+            variant->Description = size;
+            variant->Value = QString::number(10 + number % 70);
+        }
+    }
+    if (number % 4 == 0 && number > 2) {
+        product->setRelatedIds({QString::number(number), QString::number(number - 1)});
+    }
+    for (const QString& type : *session.shop->ShippingTypeName) {
+        product->ShippingCosts()->Add(QString::number(number % 7), type);
+    }
+    category->products.Add(product, NodeKey(product->id));
+}
+
+std::shared_ptr<CategoryClass> newCategory(ShopSession& session, int number)
+{
+    auto category = std::make_shared<CategoryClass>(session.services);
+    category->id = session.shop->getNextProductId();
+    category->name = u"Cups, shelf %1"_s.arg(number);
+    category->Description = u"Cups of all kinds, from the small kiln and the large one."_s;
+    category->Discount()->Status = DiscountStatus::Inherit;
+    return category;
+}
+
+void fillShop(ShopSession& session, int products)
+{
+    session.shop = std::make_shared<ShopClass>(session.services);
+    ShopClass& shop = *session.shop;
+    shop.Version = u"1.2.0"_s;
+    shop.name = u"The cup shop"_s;
+    shop.Discount()->Status = DiscountStatus::ToAll;
+    shop.Discount()->setApplyToWhole(u"10"_s);
+    shop.SelectedCountries = std::make_shared<TextCollection>();
+    shop.SelectedCountries->Add(u"Mali"_s, u"Mali"_s);
+    shop.ShippingTypeName = std::make_shared<TextCollection>();
+    shop.ShippingTypeDescription = std::make_shared<TextCollection>();
+    for (const QString& type : {u"Parcel"_s, u"Express"_s}) {
+        shop.ShippingTypeName->Add(type);
+        shop.ShippingTypeDescription->Add(QString());
+    }
+    std::shared_ptr<CategoryClass> root;
+    std::shared_ptr<CategoryClass> shelf;
+    for (int number = 0; number < products; ++number) {
+        if (number % (productsOfCategory * categoriesOfRoot) == 0) {
+            root = newCategory(session, number);
+            shop.categories.Add(root, NodeKey(root->id));
+        }
+        if (number % productsOfCategory == 0) {
+            shelf = newCategory(session, number);
+            root->categories.Add(shelf, NodeKey(shelf->id));
+        }
+        addProduct(session, shelf, number);
+    }
+}
+
+// ---- Measuring: every reading and saving happens once in a process of its own, as when the program starts ----
+
+double processorSeconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+double secondsOf(const std::function<void()>& work)
+{
+    const double start = processorSeconds();
+    work();
+    return processorSeconds() - start;
+}
+
+// The highest that this process's memory ever was.
+double peakKilobytes()
+{
+    const QList<QByteArray> lines = ReadFileBytes(u"/proc/self/status"_s).split('\n');
+    for (const QByteArray& line : lines) {
+        if (line.startsWith("VmHWM:")) {
+            return line.mid(6).simplified().split(' ').first().toDouble();
+        }
+    }
+    return 0;
+}
+
+// What one process has measured.
+struct Sample
+{
+    double read = 0;   // seconds
+    double write = 0;  // seconds
+    double memory = 0; // kilobytes
+};
+
+Sample sampleOurs(ShopSession& session)
+{
+    Sample sample;
+    const double before = peakKilobytes();
+    sample.read = secondsOf([&] {
+        session.loadShop();
+        session.registerShop();
+    });
+    sample.memory = peakKilobytes() - before;
+    sample.write = secondsOf([&] { session.writeShopFile(); });
+    return sample;
+}
+
+// The parser as it comes, and the parser with the options of XmlFile on bytes that it may use up. The second makes one
+// node a leaf in the place of two.
+enum class PeerParse { Plain, InPlace };
+
+Sample samplePeer(const ApplicationFolder& folder, PeerParse parse)
+{
+    constexpr unsigned int inPlaceOptions =
+        pugi::parse_cdata | pugi::parse_escapes | pugi::parse_ws_pcdata_single | pugi::parse_embed_pcdata;
+    Sample sample;
+    const double before = peakKilobytes();
+    QByteArray bytes = ReadFileBytes(folder.shopFile());
+    const auto size = static_cast<std::size_t>(bytes.size());
+    pugi::xml_document document;
+    sample.read = secondsOf([&] {
+        if (parse == PeerParse::Plain) {
+            document.load_buffer(bytes.constData(), size);
+        } else {
+            document.load_buffer_inplace(bytes.data(), size, inPlaceOptions, pugi::encoding_utf8);
+        }
+    });
+    sample.memory = peakKilobytes() - before;
+    const std::string path = (folder.shopFile() + u".peer"_s).toStdString();
+    sample.write = secondsOf([&] {
+        document.save_file(path.c_str(), "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
+    });
+    return sample;
+}
+
+// Runs this program again for one sample.
+Sample sampleInProcess(const QString& what, const QString& folder)
+{
+    QProcess process;
+    process.start(QCoreApplication::applicationFilePath(), {what, folder});
+    process.waitForFinished(-1);
+    const QList<QByteArray> numbers = process.readAllStandardOutput().split(' ');
+    if (numbers.size() != 3) {
+        std::fprintf(stderr, "a measuring process failed\n");
+        std::exit(2);
+    }
+    return {numbers[0].toDouble(), numbers[1].toDouble(), numbers[2].toDouble()};
+}
+
+double median(std::vector<Sample> samples, double Sample::*value)
+{
+    std::sort(samples.begin(), samples.end(),
+              [value](const Sample& a, const Sample& b) { return a.*value < b.*value; });
+    return samples[samples.size() / 2].*value;
+}
+
+struct Result
+{
+    int products = 0;
+    Sample ours;
+    Sample plain;
+    Sample inPlace;
+};
+
+void print(const char* name, const Sample& sample)
+{
+    std::printf("  %-34s %8.1f ms %8.1f ms %8.1f MB\n", name, sample.read * 1e3, sample.write * 1e3,
+                sample.memory / 1024);
+}
+
+Result measure(ShopSession& session, int products, int rounds)
+{
+    fillShop(session, products);
+    session.writeShopFile();
+    session.shop.reset();
+    std::vector<Sample> ours;
+    std::vector<Sample> plain;
+    std::vector<Sample> inPlace;
+    for (int i = 0; i < rounds; ++i) {
+        ours.push_back(sampleInProcess(u"--ours"_s, session.folder.path()));
+        plain.push_back(sampleInProcess(u"--plain"_s, session.folder.path()));
+        inPlace.push_back(sampleInProcess(u"--inplace"_s, session.folder.path()));
+    }
+    const auto medians = [](const std::vector<Sample>& samples) {
+        return Sample{median(samples, &Sample::read), median(samples, &Sample::write),
+                      median(samples, &Sample::memory)};
+    };
+    Result result{products, medians(ours), medians(plain), medians(inPlace)};
+    std::printf("%d products, %.1f MB: read, write, peak memory of reading\n", products,
+                static_cast<double>(QFileInfo(session.folder.shopFile()).size()) * 1e-6);
+    print("the shop", result.ours);
+    print("pugixml, load_buffer", result.plain);
+    print("pugixml, in place, one node a leaf", result.inPlace);
+    std::fflush(stdout);
+    return result;
+}
+
+void show(const char* title, double ratio)
+{
+    std::printf("%-60s %6.2f\n", title, ratio);
+}
+
+bool judge(const char* title, double ratio, double most)
+{
+    const bool reached = ratio <= most;
+    std::printf("%-60s %6.2f  at most %4.2f  %s\n", title, ratio, most, reached ? "PASS" : "FAIL");
+    return reached;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    QLocale::setDefault(QLocale(u"en_US"_s));
+    NoPrompts prompts;
+    const SystemClock clock;
+    const QStringList arguments = QCoreApplication::arguments();
+    if (arguments.size() == 3 && arguments[1].startsWith(u"--"_s)) {
+        ShopSession session(ApplicationFolder(arguments[2]), prompts, clock);
+        const PeerParse parse = arguments[1] == u"--plain"_s ? PeerParse::Plain : PeerParse::InPlace;
+        const Sample sample = arguments[1] == u"--ours"_s ? sampleOurs(session) : samplePeer(session.folder, parse);
+        std::printf("%.9f %.9f %.0f", sample.read, sample.write, sample.memory);
+        std::fflush(stdout);
+        std::_Exit(0); // what was made need not be taken apart
+    }
+
+    QTemporaryDir directory;
+    ShopSession session(ApplicationFolder(directory.path()), prompts, clock);
+    const std::vector<std::pair<int, int>> sizes = {{1'000, 25}, {10'000, 15}, {100'000, 7}};
+    std::vector<Result> results;
+    for (const auto& [products, rounds] : sizes) {
+        results.push_back(measure(session, products, rounds));
+    }
+
+    std::printf("\nmultiples of the peer\n");
+    bool allReached = true;
+    for (const Result& result : results) {
+        std::printf("%d products\n", result.products);
+        allReached &= judge("  read the file into the object tree : parse", result.ours.read / result.plain.read, 2.5);
+        allReached &= judge("  write the object tree to the file : save a ready DOM",
+                            result.ours.write / result.plain.write, 2.7);
+        allReached &= judge("  peak memory of reading : of a parse", result.ours.memory / result.plain.memory, 2.0);
+        show("  read : parse in place, one node a leaf", result.ours.read / result.inPlace.read);
+        show("  write : save that DOM", result.ours.write / result.inPlace.write);
+        show("  peak memory : of that parse", result.ours.memory / result.inPlace.memory);
+    }
+    const Result& middle = results[1];
+    const Result& large = results[2];
+    std::printf("100,000 products against 10,000, per product\n");
+    allReached &= judge("  read", large.ours.read / middle.ours.read / 10, 1.5);
+    allReached &= judge("  write", large.ours.write / middle.ours.write / 10, 1.5);
+    return allReached ? 0 : 1;
+}

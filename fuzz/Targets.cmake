@@ -1,0 +1,8 @@
+# The fuzz targets, each <name>_fuzz.cpp with the seeds in corpus/<name>/, and what each links. Read by fuzz/ for
+# libFuzzer and by tests/corpus/ for the plain tests over the seeds.
+set(FUZZ_TARGETS packed_file preview_url server_list shop_file template)
+set(FUZZ_LINKS_packed_file tarnwick_backup)
+set(FUZZ_LINKS_preview_url tarnwick_pages)
+set(FUZZ_LINKS_server_list tarnwick_publish)
+set(FUZZ_LINKS_shop_file tarnwick_model)
+set(FUZZ_LINKS_template tarnwick_template_engine)
