@@ -1,12 +1,12 @@
 #include "editors/PanelFrame.h"
 
+#include "editors/ScrollColumn.h"
 #include "editors/SubmitReset.h"
 
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScrollArea>
 
 #include <limits>
 
@@ -37,17 +37,12 @@ PanelFrame::PanelFrame(const QString& heading, QWidget* panel) : QFrame(panel)
     title->setWordWrap(true);
     m_whole->addWidget(title);
 
-    auto* scroll = new QScrollArea(this);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    auto* content = new QWidget(scroll);
+    auto* content = new QWidget(this);
     m_groups = new QVBoxLayout(content);
     m_groups->setContentsMargins(0, 0, 4, 0);
     m_groups->setSpacing(12);
     m_groups->addStretch(1);
-    scroll->setWidget(content);
-    m_whole->addWidget(scroll, 1);
+    m_whole->addWidget(new ScrollColumn(content, this), 1);
 }
 
 QFormLayout* PanelFrame::addForm(const QString& caption)

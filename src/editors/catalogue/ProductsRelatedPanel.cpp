@@ -49,7 +49,7 @@ ProductsRelatedPanel::ProductsRelatedPanel(PanelHost& host, QWidget* parent)
     AllProductsTree->setPalette(colours);
     auto* ToRelatedLbl = new LinkLabel("ToRelatedLbl", tr("Add >"), frame);
     auto* FromRelatedLbl = new LinkLabel("FromRelatedLbl", tr("< Remove"), frame);
-    RelatedProductsLst = named(new QListView(frame), "RelatedProductsLst", tr("Related products"));
+    RelatedProductsLst = named(new QListView(frame), "RelatedProductsLst", tr("Related to this product"));
     RelatedProductsLst->setUniformItemSizes(true);
     RelatedProductsLst->setSpacing(1);
     RelatedProductsLst->setMinimumWidth(140);

@@ -25,7 +25,7 @@ qint16 pixelsIn(const QString& text)
 NumericBox* sizeBox(const char* name, QLabel* label, QWidget* parent)
 {
     auto* box = named(new NumericBox(NumericBox::Takes::WholeNumber, parent), name, label->text());
-    box->setFixedWidth(80);
+    box->setFixedWidth(box->fontMetrics().horizontalAdvance(u"00000000"_s) + 2 * box->fontMetrics().averageCharWidth());
     label->setBuddy(box);
     return box;
 }

@@ -1,5 +1,7 @@
 #include "editors/design/ColumnGrid.h"
 
+#include <QEvent>
+
 #include <algorithm>
 
 namespace {
@@ -9,54 +11,80 @@ constexpr int rowGap = 7;
 
 } // namespace
 
-ColumnGrid::ColumnGrid(int mostColumns, QWidget* parent)
-    : QWidget(parent), m_grid(new QGridLayout(this)), m_mostColumns(mostColumns)
+ColumnGrid::ColumnGrid(int mostColumns, QWidget* parent) : QWidget(parent), m_mostColumns(mostColumns)
 {
-    m_grid->setContentsMargins(0, 0, 0, 0);
-    m_grid->setHorizontalSpacing(columnGap);
-    m_grid->setVerticalSpacing(rowGap);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
 }
 
 void ColumnGrid::add(QWidget* widget)
 {
+    widget->setParent(this);
     m_widgets.push_back(widget);
-    m_columns = fittingColumns();
-    arrange();
+    updateGeometry();
+}
+
+QSize ColumnGrid::minimumSizeHint() const
+{
+    return {cell().width(), sizeOf(m_mostColumns).height()};
+}
+
+QSize ColumnGrid::sizeHint() const
+{
+    return sizeOf(m_mostColumns);
+}
+
+int ColumnGrid::heightForWidth(int width) const
+{
+    return sizeOf(fittingColumns(width)).height();
+}
+
+bool ColumnGrid::event(QEvent* event)
+{
+    // One of the widgets wants another size, or has been hidden.
+    if (event->type() == QEvent::LayoutRequest) {
+        updateGeometry();
+        arrange();
+    }
+    return QWidget::event(event);
 }
 
 void ColumnGrid::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    const int columns = fittingColumns();
-    if (columns != m_columns) {
-        m_columns = columns;
-        arrange();
+    arrange();
+}
+
+QSize ColumnGrid::cell() const
+{
+    QSize largest(0, 0);
+    for (const QWidget* widget : m_widgets) {
+        largest = largest.expandedTo(widget->sizeHint());
     }
+    return largest;
+}
+
+int ColumnGrid::fittingColumns(int width) const
+{
+    return std::clamp((width + columnGap) / (cell().width() + columnGap), 1, m_mostColumns);
+}
+
+QSize ColumnGrid::sizeOf(int columns) const
+{
+    const int count = static_cast<int>(m_widgets.size());
+    const int rows = (count + columns - 1) / columns;
+    const QSize one = cell();
+    return {std::max(0, columns * (one.width() + columnGap) - columnGap),
+            std::max(0, rows * (one.height() + rowGap) - rowGap)};
 }
 
 void ColumnGrid::arrange()
 {
-    for (int column = 0; column < m_mostColumns; ++column) {
-        m_grid->setColumnStretch(column, column < m_columns ? 1 : 0);
-    }
+    const int columns = fittingColumns(width());
+    const int height = cell().height();
+    const int step = (width() + columnGap) / columns;
     for (std::size_t i = 0; i < m_widgets.size(); ++i) {
         const int place = static_cast<int>(i);
-        m_grid->addWidget(m_widgets[i], place / m_columns, place % m_columns);
+        m_widgets[i]->setGeometry(place % columns * step, place / columns * (height + rowGap), step - columnGap,
+                                  height);
     }
-    // A grid of several columns asks for no more room than one column, so that it can be made narrow again.
-    int widest = 0;
-    for (const QWidget* widget : m_widgets) {
-        widest = std::max(widest, widget->sizeHint().width());
-    }
-    setMinimumWidth(widest);
-    updateGeometry();
-}
-
-int ColumnGrid::fittingColumns() const
-{
-    int widest = 1;
-    for (const QWidget* widget : m_widgets) {
-        widest = std::max(widest, widget->sizeHint().width());
-    }
-    return std::clamp((width() + columnGap) / (widest + columnGap), 1, m_mostColumns);
 }

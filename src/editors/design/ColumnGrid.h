@@ -2,7 +2,6 @@
 // adding, which is also the tab order.
 #pragma once
 
-#include <QGridLayout>
 #include <QWidget>
 
 #include <vector>
@@ -18,15 +17,23 @@ public:
     // The grid owns the widget afterwards.
     void add(QWidget* widget);
 
+    // A grid of several columns asks for no more room than one column, so that it can be made narrow again.
+    QSize minimumSizeHint() const override;
+    QSize sizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+
 protected:
+    bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    // The room that the widest and the highest of the widgets want.
+    QSize cell() const;
+    int fittingColumns(int width) const;
+    QSize sizeOf(int columns) const;
     void arrange();
-    int fittingColumns() const;
 
-    QGridLayout* m_grid;
     std::vector<QWidget*> m_widgets;
     int m_mostColumns;
-    int m_columns = 1;
 };

@@ -1,6 +1,7 @@
 #include "editors/design/PageManager.h"
 
 #include "editors/PanelHost.h"
+#include "editors/ScrollColumn.h"
 #include "editors/SubmitReset.h"
 #include "editors/design/ManagerTables.h"
 #include "editors/design/PageOptions.h"
@@ -8,7 +9,6 @@
 #include "model/ShopSession.h"
 
 #include <QLabel>
-#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -26,37 +26,27 @@ QLabel* newHeading(const QString& text, QWidget* parent)
     return heading;
 }
 
-QScrollArea* newScrollArea(QWidget* content, QWidget* parent)
-{
-    auto* scroll = new QScrollArea(parent);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
-    scroll->setWidget(content);
-    return scroll;
-}
-
 } // namespace
 
 PageManager::PageManager(PanelHost& host, const ManagerTable& table, QWidget* parent)
     : Panel(parent),
       m_host(host),
       m_table(table),
-      m_options(new PageOptions(host, table, nullptr)),
-      m_template(new TemplatePart(host, table, this))
+      m_tabs(new QTabWidget(this)), // ahead of what stands in it, for the tab key
+      m_options(new PageOptions(host, table, m_tabs)),
+      m_template(new TemplatePart(host, table, m_tabs))
 {
     const QString heading = CaptionText(table.heading);
     setAccessibleName(heading);
-    auto* tabs = new QTabWidget(this);
-    tabs->setObjectName(u"PagesTab"_s);
-    tabs->addTab(newScrollArea(m_options, tabs), tr("Page"));
-    tabs->addTab(m_template, tr("Template"));
+    m_tabs->setObjectName(u"PagesTab"_s);
+    m_tabs->addTab(new ScrollColumn(m_options, m_tabs), tr("Page"));
+    m_tabs->addTab(m_template, tr("Template"));
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 12, 16, 12);
     column->setSpacing(10);
     column->addWidget(newHeading(heading, this));
-    column->addWidget(tabs, 1);
+    column->addWidget(m_tabs, 1);
     column->addWidget(new SubmitReset(host, this));
 }
 

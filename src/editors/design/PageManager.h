@@ -9,6 +9,7 @@
 
 class PageOptions;
 class PanelHost;
+class QTabWidget;
 class ShopClass;
 class TemplatePart;
 struct ManagerTable;
@@ -40,6 +41,7 @@ protected:
 private:
     PanelHost& m_host;
     const ManagerTable& m_table;
+    QTabWidget* m_tabs;
     PageOptions* m_options;
     TemplatePart* m_template;
     std::shared_ptr<ShopClass> m_shop; // none while the panel is not bound
