@@ -1,4 +1,4 @@
-// The folder that a picture was last added from. It is kept per user, from session to session; the shop does not have
+// The folder that a picture was last chosen from. It is kept per user, from session to session; the shop does not have
 // it.
 #pragma once
 
@@ -7,7 +7,7 @@
 class PicturePathSetting
 {
 public:
-    // Empty when no picture was added yet.
+    // Empty when no picture was chosen yet, and after a choice that was taken back.
     QString folder() const;
     void setFolder(const QString& folder);
 };

@@ -72,11 +72,11 @@ void PicturesList::addPicture()
 {
     PicturePathSetting setting;
     const QString chosen = m_host.session().prompts.chooseFile(setting.folder(), PictureFileFilter());
+    const QFileInfo source(chosen);
+    setting.setFolder(chosen.isEmpty() ? QString() : source.path()); // a choice taken back forgets the folder: meant
     if (chosen.isEmpty()) {
         return;
     }
-    const QFileInfo source(chosen);
-    setting.setFolder(source.path());
     const QString name = source.fileName();
     const QFileInfo target(m_host.session().folder.picturesFolder() + name);
     if (target.exists() && !m_host.session().prompts.askYesNo(u"Tarnwick"_s, u"Overwrite this file?"_s)) {

@@ -290,7 +290,17 @@ TEST_F(Pictures, AreAddedFromElsewhereAndTheFolderIsRemembered)
     ASSERT_GE(prompts.fileQuestions.size(), 2);
     EXPECT_EQ(prompts.fileQuestions[prompts.fileQuestions.size() - 2], files.path(u"photos"_s));
     EXPECT_TRUE(prompts.fileQuestions.back().contains(u"*.bmp *.png *jpg *gif"_s));
-    EXPECT_EQ(PicturePathSetting().folder(), files.path(u"photos"_s));
+}
+
+TEST_F(Pictures, ForgetTheFolderWhenTheChoiceIsTakenBack)
+{
+    PicturePathSetting().setFolder(files.path(u"photos"_s));
+    prompts.answerFile(QString());
+    browse([&](const QDialog& dialog) {
+        pressIn(dialog, "AddBttn");
+        pressIn(dialog, "CancelBtn");
+    });
+    EXPECT_EQ(PicturePathSetting().folder(), QString());
 }
 
 TEST_F(Pictures, OfTheSameNameAreOverwrittenOnYesOnly)
