@@ -61,13 +61,15 @@ void WindowTest::useShop(const QByteArray& inside)
 void WindowTest::start()
 {
     const ProgramServices services{files.folder(), prompts, clock, errors, [this] { ++restarts; }};
-    window = startProgram(services, [this](QWidget* parent) {
-        preview = new RecordingPreview(parent);
-        return PreviewParts{preview, preview,
-                            [this](PreviewNavigation* navigation) { preview->navigation = navigation; }};
-    });
+    window = startProgram(services, [this](QWidget* parent) { return makePreview(parent); });
     window->activateWindow();
     QCoreApplication::processEvents();
+}
+
+PreviewParts WindowTest::makePreview(QWidget* parent)
+{
+    preview = new RecordingPreview(parent);
+    return {preview, preview, [this](PreviewNavigation* navigation) { preview->navigation = navigation; }};
 }
 
 void WindowTest::click(const char* button)

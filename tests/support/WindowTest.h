@@ -5,6 +5,7 @@
 #include "pages/PreviewSurface.h"
 #include "shell/MainForm.h"
 #include "shell/StartUp.h"
+#include "support/RecordingErrors.h"
 #include "support/TestSupport.h"
 
 #include <QLabel>
@@ -14,7 +15,6 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <optional>
-#include <vector>
 
 // A preview without a browser.
 class RecordingPreview : public QWidget, public PreviewSurface
@@ -30,18 +30,6 @@ public:
     PreviewNavigation* navigation = nullptr;
 };
 
-// Keeps the errors that would have ended the program.
-class RecordingErrors : public FatalErrorHandler
-{
-public:
-    void fatalError(const RuntimeError& error) noexcept override
-    {
-        numbers.push_back(static_cast<int>(error.number()));
-    }
-
-    std::vector<int> numbers;
-};
-
 class WindowTest : public testing::Test
 {
 protected:
@@ -52,6 +40,8 @@ protected:
 
     // Starts the program up to the shown window. What a test expects of boxes has to be told before.
     void start();
+    // The preview that the window gets: one that keeps the text, unless a fixture has another.
+    virtual PreviewParts makePreview(QWidget* parent);
 
     // Widgets by their names.
     template <class T = QWidget>

@@ -4,10 +4,6 @@
 #include "template_engine/Templates_Set.h"
 
 #include <QCoreApplication>
-#include <QKeyEvent>
-#include <QStyle>
-#include <QStyleOptionButton>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -23,54 +19,6 @@ void DesignTest::openManager(const char* button)
     click(button);
     showTab(PageTab);
     QCoreApplication::processEvents();
-}
-
-void DesignTest::press(QWidget* widget)
-{
-    ASSERT_NE(widget, nullptr);
-    QTest::mouseClick(widget, Qt::LeftButton);
-}
-
-void DesignTest::tick(QCheckBox* box)
-{
-    ASSERT_NE(box, nullptr);
-    QStyleOptionButton option;
-    option.initFrom(box);
-    const QRect indicator = box->style()->subElementRect(QStyle::SE_CheckBoxIndicator, &option, box);
-    QTest::mouseClick(box, Qt::LeftButton, {}, indicator.center());
-}
-
-void DesignTest::pressKeys(QWidget* field, const QString& text)
-{
-    for (const QChar letter : text) {
-        if (letter == u'\n') {
-            QTest::keyClick(field, Qt::Key_Return);
-        } else if (letter.unicode() < 0x80) {
-            QTest::keyClick(field, letter.toLatin1());
-        } else {
-            QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(letter));
-            QCoreApplication::sendEvent(field, &press);
-        }
-    }
-}
-
-void DesignTest::type(QLineEdit* field, const QString& text)
-{
-    field->setFocus();
-    field->selectAll();
-    if (text.isEmpty()) {
-        QTest::keyClick(field, Qt::Key_Delete);
-    } else {
-        pressKeys(field, text);
-    }
-}
-
-void DesignTest::type(QPlainTextEdit* field, const QString& text)
-{
-    field->setFocus();
-    field->selectAll();
-    QTest::keyClick(field, Qt::Key_Delete);
-    pressKeys(field, text);
 }
 
 QDialog* DesignTest::dialog(const char* name) const

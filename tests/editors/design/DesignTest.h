@@ -3,6 +3,7 @@
 
 #include "design/ShopDesignClass.h"
 #include "editors/Panel.h"
+#include "support/Hands.h"
 #include "support/WindowTest.h"
 
 #include <QCheckBox>
@@ -38,15 +39,11 @@ protected:
         return window->VisibleFrame->findChild<QWidget*>(QLatin1String(name)) != nullptr;
     }
 
-    // Clicks like a person, inside the widget.
-    static void press(QWidget* widget);
+    static void press(QWidget* widget) { Hands::press(widget); }
     void pressIn(const char* name) { press(in(name)); }
-    static void tick(QCheckBox* box);
-    // Replaces what stands in a field.
-    // Key presses for every letter of the text; the test library's own way knows no letters outside ASCII.
-    static void pressKeys(QWidget* field, const QString& text);
-    static void type(QLineEdit* field, const QString& text);
-    static void type(QPlainTextEdit* field, const QString& text);
+    static void tick(QCheckBox* box) { Hands::tick(box); }
+    static void pressKeys(QWidget* field, const QString& text) { Hands::pressKeys(field, text); }
+    static void type(QWidget* field, const QString& text) { Hands::type(field, text); }
 
     // The one dialog of that name that is shown.
     QDialog* dialog(const char* name) const;

@@ -27,7 +27,7 @@ protected:
     static void linger() { QTest::qWait(300); }
 
     RawServer server;
-    RecordedErrors errors;
+    RecordingErrors errors;
     NetworkHttpClient client{errors};
 };
 

@@ -3,6 +3,7 @@
 
 #include "publish/PublishSupport.h"
 #include "publish/dialog/frmUpload.h"
+#include "support/RecordingErrors.h"
 
 #include <QList>
 #include <QUrl>
@@ -11,18 +12,6 @@
 #include <functional>
 #include <memory>
 #include <vector>
-
-// Keeps the errors that would have ended the program.
-class RecordedErrors : public FatalErrorHandler
-{
-public:
-    void fatalError(const RuntimeError& error) noexcept override
-    {
-        numbers.push_back(static_cast<int>(error.number()));
-    }
-
-    std::vector<int> numbers;
-};
 
 class UploadDialogTest : public testing::Test
 {
@@ -55,7 +44,7 @@ protected:
 
     TemporaryShopFolder files;
     RecordingPrompts prompts;
-    RecordedErrors errors;
+    RecordingErrors errors;
     QList<QUrl> openedUrls;
     std::unique_ptr<frmUpload> dialog;
 };
