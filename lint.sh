@@ -1,13 +1,17 @@
 #!/usr/bin/env bash
-# The format of all our sources, and clang-tidy, which also reports the second compiler's warnings, over the program's own
-# sources. --format: the format alone. --all: clang-tidy over tests, benchmarks and fuzz targets too.
+# The format of all our sources, the shell scripts, the desktop entry, and clang-tidy, which also reports the second
+# compiler's warnings, over the program's own sources. --format: all but clang-tidy. --all: clang-tidy over tests,
+# benchmarks and fuzz targets too.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
 
-need git clang-format
+need git clang-format shellcheck desktop-file-utils
 git ls-files '*.h' '*.cpp' | xargs -r clang-format --dry-run -Werror
 echo "clang-format: clean"
+git ls-files '*.sh' .ci/run | xargs -r shellcheck -x
+desktop-file-validate packaging/tarnwick.desktop
+echo "shellcheck and desktop-file-validate: clean"
 [ "${1:-}" != --format ] || exit 0
 
 need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${LINT_PACKAGES[@]}"

@@ -1,10 +1,20 @@
 #!/usr/bin/env bash
-# Builds everything and runs all tests. A second run without changes builds nothing.
+# Builds everything and runs all tests. A second run without changes builds nothing. What is given goes to ctest.
+# --coverage, ahead of it: another build that counts which lines run, and the share of each folder at the end.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
 
+preset=dev
+if [ "${1:-}" = --coverage ]; then
+  shift
+  preset=coverage
+  need gcovr
+fi
+
 need "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${VIRTUAL_DISPLAY_PACKAGES[@]}"
-cmake --preset dev --log-level=WARNING
-cmake --build --preset dev
-ctest --test-dir build/dev --output-on-failure --no-tests=error "$@"
+cmake --preset "$preset" --log-level=WARNING
+cmake --build --preset "$preset"
+[ "$preset" != coverage ] || find build/coverage -name '*.gcda' -delete
+ctest --test-dir "build/$preset" --output-on-failure --no-tests=error "$@"
+[ "$preset" != coverage ] || scripts/coverage.sh build/coverage

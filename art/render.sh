@@ -13,4 +13,4 @@ PYTHONDONTWRITEBYTECODE=1 python3 "$here/draw.py" "$drawings"
 for drawing in "$drawings"/*.svg; do
     rsvg-convert --format png --output "$pictures/$(basename "$drawing" .svg).png" "$drawing"
 done
-echo "$(ls "$drawings" | wc -l) pictures drawn."
+echo "$(find "$drawings" -type f | wc -l) pictures drawn."

@@ -230,6 +230,23 @@ TEST_F(Styles, KeepTheColourNumbersOfANewStyleWhenTheyAreConfirmedUnseen)
               (QStringList{u"menuinfooter"_s, u"0"_s, u"255"_s, {}, {}, u"No"_s, u"No"_s, u"No"_s, u"No"_s}));
 }
 
+TEST_F(Styles, OfferFontsAndSizes)
+{
+    openManager("HeaderDesignSBtn");
+    QDialog* form = openStyle("menuinheader");
+    const auto entries = [form](const char* list) {
+        QStringList texts;
+        for (int i = 0; i < part<QComboBox>(form, list)->count(); ++i) {
+            texts << part<QComboBox>(form, list)->itemText(i);
+        }
+        return texts.join(u'|');
+    };
+    EXPECT_EQ(entries("FontNameLst"), u"Arial|Helvetica|Sans-serif|Times New Roman|Verdana"_s);
+    EXPECT_EQ(entries("FontSizeLst"),
+              u"7pt|8pt|9pt|10pt|11pt|12pt|14pt|16pt|18pt|20pt|22pt|24pt|26pt|28pt|30pt|36pt|42pt|48pt"_s);
+    press(form, "CancelBtn");
+}
+
 TEST_F(Styles, KeepAFontAndASizeThatTheListsDoNotHold)
 {
     shop().CSSs.Item(u"IDgeneral_header"_s)->FontName = u"Georgia, serif"_s;
