@@ -1,15 +1,28 @@
 #!/usr/bin/env bash
 # Measures Tarnwick against named peers and prints how many times faster it is. Fails when a wanted ratio is missed.
+# With a name it builds and runs one program: ./bench.sh template. What follows the name goes to the program.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
 
 need "${BUILD_PACKAGES[@]}" "${BENCH_PACKAGES[@]}"
 cmake --preset bench --log-level=WARNING
-cmake --build --preset bench --target benchmarks
 
+if [ $# -gt 0 ]; then
+  program=${1%_bench}_bench
+  shift
+  if [ ! -f "bench/$program.cpp" ]; then
+    echo "There is no $program. There are:" bench/*_bench.cpp >&2
+    exit 2
+  fi
+  cmake --build --preset bench --target "$program"
+  exec "build/bench/bench/$program" "$@"
+fi
+
+cmake --build --preset bench --target benchmarks
 failed=0
 for program in build/bench/bench/*_bench; do
-  "$program" "$@" || failed=1
+  echo "== ${program##*/}"
+  "$program" || failed=1
 done
 exit "$failed"

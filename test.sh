@@ -16,5 +16,5 @@ need "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${VIRTUA
 cmake --preset "$preset" --log-level=WARNING
 cmake --build --preset "$preset"
 [ "$preset" != coverage ] || find build/coverage -name '*.gcda' -delete
-ctest --test-dir "build/$preset" --output-on-failure --no-tests=error "$@"
+ctest --test-dir "build/$preset" --output-on-failure --no-tests=error --parallel "$(nproc)" "$@"
 [ "$preset" != coverage ] || scripts/coverage.sh build/coverage

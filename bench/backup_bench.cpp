@@ -6,6 +6,7 @@
 //
 // Memory is measured too: a process of its own makes a backup, another restores it, and the most memory that each ever
 // had may exceed what it started with by the container, three times the largest file, and 50 MB.
+#include "NoPrompts.h"
 #include "Ratios.h"
 #include "backup/clsPacker.h"
 
@@ -31,18 +32,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 megabyte = 1'000'000;
-
-// Says yes to all boxes.
-class QuietPrompts : public UserPrompts
-{
-public:
-    void showMessage(const QString&, const QString&, PromptIcon) override {}
-    bool askYesNo(const QString&, const QString&) override { return false; }
-    PromptAnswer askYesNoCancel(const QString&, const QString&) override { return PromptAnswer::Cancel; }
-    std::optional<QString> askText(const QString&, const QString&) override { return std::nullopt; }
-    QString chooseFile(const QString&, const QString&) override { return QString(); }
-    std::optional<int> chooseColour(int) override { return std::nullopt; }
-};
 
 [[noreturn]] void giveUp(const char* what)
 {
@@ -146,7 +135,7 @@ private:
 
 bool backUp(const SampleShop& shop)
 {
-    QuietPrompts prompts;
+    NoPrompts prompts;
     clsPacker packer(shop.folder(), prompts);
     QString name = u"big"_s;
     return packer.BackUp(name);
@@ -154,7 +143,7 @@ bool backUp(const SampleShop& shop)
 
 bool restore(const SampleShop& shop)
 {
-    QuietPrompts prompts;
+    NoPrompts prompts;
     clsPacker packer(shop.folder(), prompts);
     return packer.Restore(shop.path(u"backups/big.kvb"_s));
 }

@@ -1,6 +1,7 @@
 # The fuzz targets, each <name>_fuzz.cpp with the seeds in corpus/<name>/, and what each links. Read by fuzz/ for
 # libFuzzer and by tests/corpus/ for the plain tests over the seeds.
-set(FUZZ_TARGETS packed_file preview_url server_list shop_file template)
+set(FUZZ_TARGETS import packed_file preview_url server_list shop_file template)
+set(FUZZ_LINKS_import tarnwick_model)
 set(FUZZ_LINKS_packed_file tarnwick_backup)
 set(FUZZ_LINKS_preview_url tarnwick_pages)
 set(FUZZ_LINKS_server_list tarnwick_publish)

@@ -1,7 +1,7 @@
 # shellcheck shell=bash disable=SC2034
 # Sourced by the scripts at the top: which Debian packages each of them needs, and how they get there.
 
-BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-webengine-dev libqt6svg6-dev libpugixml-dev zlib1g-dev)
+BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-webengine-dev qt6-svg-dev libpugixml-dev zlib1g-dev)
 RUN_PACKAGES=(libqt6webenginewidgets6 libqt6svg6 qt6-qpa-plugins fonts-dejavu-core)
 VIRTUAL_DISPLAY_PACKAGES=(xvfb xauth)
 TEST_PACKAGES=(libgtest-dev libgmock-dev git php-cli tidy)

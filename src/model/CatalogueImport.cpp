@@ -11,32 +11,32 @@ using Categories = KeyedCollection<std::shared_ptr<CategoryClass>>;
 
 constexpr qsizetype pathField = 2;
 
-// One level of a path: its name, and whether more levels follow.
-struct PathLevel
-{
-    QString name;
-    bool isLast = true;
-};
-
-PathLevel takeLevel(QStringList& fields)
+// The path of a line, less the levels that were gone through. Error 9 when the line is too short to have one.
+QString& pathOf(QStringList& fields)
 {
     if (fields.size() <= pathField) {
         throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
     }
-    QString& path = fields[pathField];
-    const qsizetype separator = path.indexOf(u'\\');
-    if (separator < 0) {
-        return {path, true};
-    }
-    const PathLevel level{path.first(separator), false};
-    path.remove(0, separator + 1);
-    return level;
+    return fields[pathField];
 }
 
-std::shared_ptr<CategoryClass> findByName(const Categories& categories, const QString& name)
+// Where the first level of a path ends.
+qsizetype levelEnd(const QString& path)
+{
+    const qsizetype separator = path.indexOf(u'\\');
+    return separator < 0 ? path.size() : separator;
+}
+
+// The last letters go first: names in one shop are often numbered, and differ there.
+bool areEqual(QStringView a, QStringView b)
+{
+    return a.size() == b.size() && (a.isEmpty() || (a.back() == b.back() && a == b));
+}
+
+std::shared_ptr<CategoryClass> findByName(const Categories& categories, QStringView name)
 {
     for (const std::shared_ptr<CategoryClass>& category : categories) {
-        if (category->name == name) {
+        if (areEqual(category->name, name)) {
             return category;
         }
     }
@@ -63,28 +63,32 @@ std::shared_ptr<CategoryClass> makeCategory(const ModelServices& services, const
 
 void ShopClass::ImportCategory(QStringList& fields)
 {
-    const PathLevel level = takeLevel(fields);
-    std::shared_ptr<CategoryClass> category = findByName(categories, level.name);
+    QString& path = pathOf(fields);
+    const qsizetype end = levelEnd(path);
+    std::shared_ptr<CategoryClass> category = findByName(categories, QStringView(path).first(end));
     if (!category) {
-        category = makeCategory(*m_services, level.name, nullptr, *m_discount, categories);
+        category = makeCategory(*m_services, path.first(end), nullptr, *m_discount, categories);
     }
-    if (level.isLast) {
+    if (end == path.size()) {
         category->AddImportedProduct(fields);
     } else {
+        path.remove(0, end + 1);
         category->ImportCategory(fields);
     }
 }
 
 void CategoryClass::ImportCategory(QStringList& fields)
 {
-    const PathLevel level = takeLevel(fields);
-    std::shared_ptr<CategoryClass> category = findByName(categories, level.name);
+    QString& path = pathOf(fields);
+    const qsizetype end = levelEnd(path);
+    std::shared_ptr<CategoryClass> category = findByName(categories, QStringView(path).first(end));
     if (!category) {
-        category = makeCategory(*m_services, level.name, shared_from_this(), *Discount(), categories);
+        category = makeCategory(*m_services, path.first(end), shared_from_this(), *Discount(), categories);
     }
-    if (level.isLast) {
+    if (end == path.size()) {
         category->AddImportedProduct(fields);
     } else {
+        path.remove(0, end + 1);
         category->ImportCategory(fields);
     }
 }

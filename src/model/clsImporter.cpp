@@ -7,6 +7,7 @@
 namespace {
 
 constexpr int linesBetweenReports = 500;
+constexpr qsizetype usualFields = 3;
 
 qsizetype lineEnd(const QString& text, qsizetype from)
 {
@@ -24,6 +25,7 @@ QStringList clsImporter::PSplit(QStringView line)
     qsizetype start = 0;    // of the field
     qsizetype trailing = 0; // characters at its end that do not belong to it
     QStringList fields;
+    fields.reserve(usualFields);
     const auto append = [&](qsizetype end) {
         fields.append(line.sliced(start, end - start - trailing).toString());
         trailing = 0;

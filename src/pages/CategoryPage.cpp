@@ -42,9 +42,9 @@ VariableRows SubCategoryRows(const PageContext& context, const CategoryClass& ca
 // An empty price counts as "0" for the discounted text of this page only: this is meant.
 void AddPrices(Variables& row, const std::shared_ptr<clsPrice>& price)
 {
-    const QString discounted = price->NewPrice(price->Value.isEmpty() ? u"0"_s : price->Value);
     row.Add(u"price", PriceVariable(price));
-    row.Add(u"new_price", IfDiscounted(*price, price->Value, discounted));
+    row.Add(u"new_price", price->Value.isEmpty() ? IfDiscounted(*price, price->Value, price->NewPrice(u"0"_s))
+                                                 : NewPriceIfDiscounted(*price, price->Value));
 }
 
 VariableRows ProductRows(const PageContext& context, const CategoryClass& category)

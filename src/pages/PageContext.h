@@ -10,7 +10,10 @@ class PageContext
 {
 public:
     // Both must outlive the context.
-    PageContext(ShopSession& session, Templates_Set& templates) : m_session(&session), m_templates(&templates) {}
+    PageContext(ShopSession& session, Templates_Set& templates)
+        : m_session(&session), m_templates(&templates), m_picturesFolder(session.folder.picturesFolder())
+    {
+    }
 
     // Each raises error 91 when there is none.
     const std::shared_ptr<ShopClass>& sharedShop() const;
@@ -20,6 +23,8 @@ public:
 
     const ObjectsCollection& objects() const { return m_session->objects; }
     const ApplicationFolder& folder() const { return m_session->folder; }
+    // With its trailing separator; put together once, since every row of a page asks for it.
+    const QString& picturesFolder() const { return m_picturesFolder; }
     const Templates_Set& templates() const { return *m_templates; }
     // An empty set of variables for these templates.
     Variables newVariables() const { return Variables(m_templates->names); }
@@ -27,4 +32,5 @@ public:
 private:
     ShopSession* m_session;
     Templates_Set* m_templates;
+    QString m_picturesFolder;
 };

@@ -1,5 +1,6 @@
 #include "pages/ProductRows.h"
 
+#include "model/CommonFunctions.h"
 #include "pages/TemplateUtils.h"
 
 #include <algorithm>
@@ -41,10 +42,19 @@ QString IfDiscounted(clsPrice& price, const QString& askedPrice, const QString& 
     return price.Discount()->Value(askedPrice).isEmpty() ? QString() : discountedText;
 }
 
+// One look at the discount serves both questions. The new price is worked out even if nothing shows it: a price that is
+// no number fails its page.
+QString NewPriceIfDiscounted(clsPrice& price, const QString& askedPrice)
+{
+    const QString percentage = price.Discount()->Value(askedPrice);
+    const QString discounted = CalculateNewPrice(askedPrice, percentage);
+    return percentage.isEmpty() ? QString() : discounted;
+}
+
 void AddSinglePrice(Variables& vars, const std::shared_ptr<clsPrice>& price)
 {
     vars.Add(u"price", PriceVariable(price));
-    vars.Add(u"new_price", IfDiscounted(*price, price->Value, price->NewPrice(price->Value)));
+    vars.Add(u"new_price", NewPriceIfDiscounted(*price, price->Value));
 }
 
 VariableRows VariantRows(const PageContext& context, clsPrice& price, const VariantOptions& options)

@@ -22,6 +22,9 @@ VariableValue PriceVariable(const std::shared_ptr<clsPrice>& price);
 // for differs from page to page. Errors as for clsDiscount::Value.
 QString IfDiscounted(clsPrice& price, const QString& askedPrice, const QString& discountedText);
 
+// The same for the discounted text of the very price that is asked for. Errors as for clsPrice::NewPrice.
+QString NewPriceIfDiscounted(clsPrice& price, const QString& askedPrice);
+
 // Adds "price" and "new_price" of a price without variants. Errors as for clsPrice::NewPrice.
 void AddSinglePrice(Variables& vars, const std::shared_ptr<clsPrice>& price);
 

@@ -3,6 +3,8 @@
 #include "base/RuntimeError.h"
 #include "design/CSSClass.h"
 
+#include <QStringBuilder>
+
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -21,9 +23,14 @@ QString TypeWord(ImageSelection type)
 
 using ImageValues = std::array<VariableValue, ImageKeys::Count>;
 
-ImageValues ValuesOf(const ApplicationFolder& folder, clsSelectedImage& image)
+QString PicturePath(const QString& picturesFolder, const QString& name)
 {
-    return {TypeWord(image.SelectionType), FullPicturePath(folder, image.imageFileName), image.TextValue,
+    return name.contains(u':') ? name : QString(picturesFolder % name);
+}
+
+ImageValues ValuesOf(const PageContext& context, clsSelectedImage& image)
+{
+    return {TypeWord(image.SelectionType), PicturePath(context.picturesFolder(), image.imageFileName), image.TextValue,
             image.WidthBmp(), image.HeightBmp()};
 }
 
@@ -62,7 +69,7 @@ QString GetCssText(const CSSClass& style)
 
 QString FullPicturePath(const ApplicationFolder& folder, const QString& name)
 {
-    return name.contains(u':') ? name : folder.picturesFolder() + name;
+    return PicturePath(folder.picturesFolder(), name);
 }
 
 QString SelectedPicturePath(const ApplicationFolder& folder, CategoryClass& category)
@@ -86,7 +93,7 @@ ImageKeys::ImageKeys(QStringView key)
 void AddImageVariables(Variables& vars, const PageContext& context, clsSelectedImage& selectedImage,
                        const ImageKeys& keys)
 {
-    AddValues(vars, keys, ValuesOf(context.folder(), selectedImage));
+    AddValues(vars, keys, ValuesOf(context, selectedImage));
 }
 
 void AddSlotVariables(Variables& vars, const PageContext& context, ImageSlot slot)
@@ -102,7 +109,7 @@ SlotForRows::SlotForRows(const PageContext& context, ImageSlot slot)
 void SlotForRows::addTo(Variables& row)
 {
     if (!m_values)
-        m_values = ValuesOf(m_context.folder(), *m_image);
+        m_values = ValuesOf(m_context, *m_image);
     AddValues(row, m_keys, *m_values);
 }
 

@@ -21,12 +21,11 @@ ImportIntoTree::ImportIntoTree(MainForm& window) : m_window(window), m_formerCal
     SessionCallbacks& callbacks = m_window.session().callbacks;
     callbacks.AddCategoryToTheTree = [this](const std::shared_ptr<CategoryClass>& parent,
                                             const std::shared_ptr<CategoryClass>& category) {
-        const QString key = parent ? NodeKey(parent->id) : ShopNodeKey();
-        m_nodes.insert(NodeKey(category->id), m_window.AddCategoryToTheTree(nodeOf(key), category));
+        m_nodes.insert(category.get(), m_window.AddCategoryToTheTree(nodeOf(parent.get()), category));
     };
     callbacks.AddProductToTheTree = [this](const std::shared_ptr<CategoryClass>& category,
                                            const std::shared_ptr<ProductClass>& product) {
-        m_window.AddProductToTheTree(nodeOf(NodeKey(category->id)), product);
+        m_window.AddProductToTheTree(nodeOf(category.get()), product);
     };
     tree.beginAppending();
     m_time.start();
@@ -44,7 +43,9 @@ void ImportIntoTree::collect(TreeNode* node)
     if (node->image == TreeImage::Product) {
         return;
     }
-    m_nodes.insert(node->key, node);
+    const CatalogueObject& object = m_window.session().objects.Item(node->key);
+    const auto* category = std::get_if<std::shared_ptr<CategoryClass>>(&object);
+    m_nodes.insert(category ? category->get() : nullptr, node);
     for (const auto& child : node->children) {
         collect(child.get());
     }

@@ -22,11 +22,12 @@ public:
     clsImporter::Progress progress();
 
 private:
-    TreeNode* nodeOf(const QString& key) const { return m_nodes.value(key); }
+    // Of the shop, for none.
+    TreeNode* nodeOf(const CategoryClass* category) const { return m_nodes.value(category); }
     void collect(TreeNode* node);
 
     MainForm& m_window;
     SessionCallbacks m_formerCallbacks;
-    QHash<QString, TreeNode*> m_nodes; // shop and categories, by key
+    QHash<const CategoryClass*, TreeNode*> m_nodes;
     QElapsedTimer m_time;
 };

@@ -1,15 +1,17 @@
 #include "editors/catalogue/RelatedProducts.h"
 
+#include <algorithm>
+
 void RelatedProducts::setRows(std::vector<Row> rows)
 {
     beginResetModel();
     m_rows = std::move(rows);
-    m_ids.clear();
-    m_ids.reserve(static_cast<qsizetype>(m_rows.size()));
-    for (const Row& row : m_rows) {
-        m_ids.insert(row.id);
-    }
     endResetModel();
+}
+
+bool RelatedProducts::contains(const QString& id) const
+{
+    return std::any_of(m_rows.begin(), m_rows.end(), [&id](const Row& row) { return row.id == id; });
 }
 
 void RelatedProducts::append(const Row& row)
@@ -17,7 +19,6 @@ void RelatedProducts::append(const Row& row)
     const int last = rowCount();
     beginInsertRows({}, last, last);
     m_rows.push_back(row);
-    m_ids.insert(row.id);
     endInsertRows();
 }
 
@@ -27,7 +28,6 @@ void RelatedProducts::removeAt(int row)
         return;
     }
     beginRemoveRows({}, row, row);
-    m_ids.remove(m_rows[static_cast<std::size_t>(row)].id);
     m_rows.erase(m_rows.begin() + row);
     endRemoveRows();
 }

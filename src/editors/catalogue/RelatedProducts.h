@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QAbstractListModel>
-#include <QSet>
 #include <QStringList>
 
 #include <vector>
@@ -25,7 +24,7 @@ public:
     using QAbstractListModel::QAbstractListModel;
 
     void setRows(std::vector<Row> rows);
-    bool contains(const QString& id) const { return m_ids.contains(id); }
+    bool contains(const QString& id) const;
     void append(const Row& row);
     // 0-based; does nothing when there is no such row.
     void removeAt(int row);
@@ -36,5 +35,4 @@ public:
 
 private:
     std::vector<Row> m_rows;
-    QSet<QString> m_ids;
 };

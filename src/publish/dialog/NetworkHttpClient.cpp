@@ -2,6 +2,7 @@
 
 #include "publish/dialog/SendWithoutDelay.h"
 
+#include <QElapsedTimer>
 #include <QNetworkAccessManager>
 #include <QNetworkProxy>
 #include <QNetworkReply>
@@ -55,12 +56,7 @@ private:
     qsizetype m_read = 0;
 };
 
-// The proxies that the user's system is set to, and no others.
-class SystemProxies : public QNetworkProxyFactory
-{
-public:
-    QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override { return systemProxyForQuery(query); }
-};
+constexpr qint64 proxiesCountFor = 60'000; // milliseconds
 
 QNetworkRequest requestFor(const QString& url, const QByteArray& contentType, qsizetype size)
 {
@@ -117,6 +113,37 @@ HttpAnswer answerOf(QNetworkReply& reply)
 
 } // namespace
 
+// The proxies that the user's system is set to, and no others. Asking the system takes longer than sending a small
+// file, so an answer counts for a minute.
+struct NetworkHttpClient::Proxies
+{
+    QList<QNetworkProxy> forQuery(const QNetworkProxyQuery& query)
+    {
+        if (!m_age.isValid() || m_age.hasExpired(proxiesCountFor) || !(m_query == query)) {
+            m_query = query;
+            m_answer = QNetworkProxyFactory::systemProxyForQuery(query);
+            m_age.start();
+        }
+        return m_answer;
+    }
+
+    // What a network manager asks, and owns.
+    class Factory : public QNetworkProxyFactory
+    {
+    public:
+        explicit Factory(Proxies& proxies) : m_proxies(proxies) {}
+        QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override { return m_proxies.forQuery(query); }
+
+    private:
+        Proxies& m_proxies;
+    };
+
+private:
+    QNetworkProxyQuery m_query;
+    QList<QNetworkProxy> m_answer;
+    QElapsedTimer m_age;
+};
+
 struct NetworkHttpClient::Request
 {
     Request(QNetworkAccessManager* requestManager, BodyReadOnce* requestBody, const Done& whenDone)
@@ -136,7 +163,10 @@ struct NetworkHttpClient::Request
     Done done;
 };
 
-NetworkHttpClient::NetworkHttpClient(FatalErrorHandler& errors, QObject* parent) : QObject(parent), m_errors(errors) {}
+NetworkHttpClient::NetworkHttpClient(FatalErrorHandler& errors, QObject* parent)
+    : QObject(parent), m_errors(errors), m_proxies(std::make_unique<Proxies>())
+{
+}
 
 NetworkHttpClient::~NetworkHttpClient()
 {
@@ -147,7 +177,7 @@ void NetworkHttpClient::post(const QString& url, const QByteArray& contentType, 
                              const Done& done)
 {
     auto* manager = new QNetworkAccessManager(this);
-    manager->setProxyFactory(new SystemProxies);
+    manager->setProxyFactory(new Proxies::Factory(*m_proxies));
     auto* device = new BodyReadOnce(body);
     device->setParent(manager);
     m_request = std::make_unique<Request>(manager, device, done);

@@ -1,6 +1,6 @@
-// The HTTP client over the network. Everything is made anew for each request, so that nothing lasts from one to the
-// next: no cookies, no cache, no credentials, no connection that the server may have closed meanwhile. Redirects are
-// not followed, and no request is ever sent twice. The upload dialog owns it.
+// The HTTP client over the network. All but the question for the system's proxies is made anew for each request, so
+// that nothing lasts from one to the next: no cookies, no cache, no credentials, no connection that the server may have
+// closed meanwhile. Redirects are not followed, and no request is ever sent twice. The upload dialog owns it.
 #pragma once
 
 #include "base/Guarded.h"
@@ -26,10 +26,12 @@ public:
     void cancel() override;
 
 private:
+    struct Proxies;
     struct Request;
 
     void finish(const HttpAnswer& answer);
 
     FatalErrorHandler& m_errors;
+    std::unique_ptr<Proxies> m_proxies;
     std::unique_ptr<Request> m_request; // the one under way
 };
