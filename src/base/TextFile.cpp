@@ -1,5 +1,6 @@
 #include "base/TextFile.h"
 
+#include "base/LargePages.h"
 #include "base/RuntimeError.h"
 #include "base/Utf8.h"
 
@@ -123,6 +124,7 @@ public:
         }
         // One byte more than expected, so that the end is seen without another round.
         QByteArray bytes(expectedSize + 1, Qt::Uninitialized);
+        UseLargePages(bytes.data(), bytes.size());
         qsizetype filled = 0;
         for (;;) {
             const ssize_t count = ::read(m_descriptor, bytes.data() + filled, bytes.size() - filled);

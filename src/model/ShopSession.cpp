@@ -1,9 +1,12 @@
 #include "model/ShopSession.h"
 
 #include "base/DelimitedFields.h"
+#include "base/LargePages.h"
 #include "base/TextFile.h"
 #include "base/XMLUtils.h"
 #include "base/XmlFile.h"
+
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +39,8 @@ bool ShopSession::LoadCountries()
 bool ShopSession::loadShop()
 {
     log.WriteLoadLog(u"Start shop creating"_s);
+    // The document and the objects made of it take about four times the room of the file.
+    const LargePagesOnHeap heap(4 * QFileInfo(folder.shopFile()).size());
     XmlFile file;
     file.load(folder.shopFile());
     shop = std::make_shared<ShopClass>(services);

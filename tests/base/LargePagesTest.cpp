@@ -1,0 +1,58 @@
+// A wish for large pages may be fulfilled or not; what is done with the memory is the same.
+#include "base/LargePages.h"
+
+#include "support/TestSupport.h"
+
+#include <algorithm>
+#include <limits>
+#include <vector>
+
+namespace {
+
+constexpr qsizetype megabyte = 1024 * 1024;
+
+// Some memory in small blocks, written and read again.
+bool worksWithSmallBlocks()
+{
+    std::vector<std::vector<char>> blocks;
+    for (int i = 0; i < 20'000; ++i) {
+        blocks.emplace_back(500, static_cast<char>(i));
+    }
+    for (std::size_t i = 0; i < blocks.size(); ++i) {
+        if (std::count(blocks[i].begin(), blocks[i].end(), static_cast<char>(i)) != 500) {
+            return false;
+        }
+    }
+    return true;
+}
+
+TEST(LargePages, ChangeNothingOfABlock)
+{
+    std::vector<char> block(static_cast<std::size_t>(9 * megabyte), 'x');
+    UseLargePages(block.data(), static_cast<qsizetype>(block.size()));
+    UseLargePages(block.data(), 1);
+    UseLargePages(block.data(), 0);
+    EXPECT_EQ(std::count(block.begin(), block.end(), 'x'), 9 * megabyte);
+}
+
+TEST(LargePages, ServeTheHeapOfAWorkOfAnySize)
+{
+    for (const qsizetype bytes : {qsizetype{-1}, qsizetype{0}, qsizetype{1}, 2 * megabyte, 20 * megabyte,
+                                  std::numeric_limits<qsizetype>::max()}) {
+        const LargePagesOnHeap heap(bytes);
+        EXPECT_TRUE(worksWithSmallBlocks()) << bytes;
+    }
+    EXPECT_TRUE(worksWithSmallBlocks());
+}
+
+TEST(LargePages, OfAWorkInsideOfAnotherAreNoHarm)
+{
+    const LargePagesOnHeap outer(8 * megabyte);
+    {
+        const LargePagesOnHeap inner(16 * megabyte);
+        EXPECT_TRUE(worksWithSmallBlocks());
+    }
+    EXPECT_TRUE(worksWithSmallBlocks());
+}
+
+} // namespace
