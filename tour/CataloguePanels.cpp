@@ -1,152 +1,149 @@
-#include "CataloguePanels.h"
-
+#include "Parts.h"
+#include "Walk.h"
 #include "editors/DateField.h"
 #include "editors/LinkLabel.h"
-#include "editors/Panel.h"
+#include "editors/TextArea.h"
 #include "editors/catalogue/CustomGrid.h"
+#include "editors/catalogue/ProductTaxesPanel.h"
+#include "editors/catalogue/ShopShippingCostsPanel.h"
 #include "shell/CatalogueTree.h"
-#include "shell/MainForm.h"
-#include "shell/ShortcartButton.h"
 
-#include <QApplication>
 #include <QDialog>
+#include <QGridLayout>
 #include <QListWidget>
 #include <QRadioButton>
 #include <QTest>
-#include <QTimer>
 #include <QTreeView>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class Walk
+// The panel's picture with an option chosen; nothing of it is submitted.
+void keepOption(Walk& walk, const char* option, const QString& name)
 {
-public:
-    Walk(MainForm& window, const std::function<void(const QString&)>& keep) : m_window(window), m_keep(keep) {}
-
-    void click(const char* button)
-    {
-        auto* shortcart = m_window.findChild<ShortcartButton*>(QLatin1String(button));
-        QTest::mouseClick(shortcart->findChild<QLabel*>(u"IconImg"_s), Qt::LeftButton);
-    }
-    void clickNode(TreeNode* node)
-    {
-        CatalogueTree* tree = m_window.parts().CategoriesAndProductsTree;
-        for (TreeNode* above = node->parent; above; above = above->parent) {
-            tree->expandNode(above);
-        }
-        const QModelIndex index = tree->nodes().indexOf(node);
-        tree->scrollTo(index);
-        QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(index).center());
-    }
-    template <class Widget>
-    Widget* in(const char* name) const
-    {
-        return m_window.VisibleFrame->findChild<Widget*>(QLatin1String(name));
-    }
-    // Shows a panel that no button leads to.
-    void showPanel(const char* name)
-    {
-        m_window.ShowFrame(m_window.findChild<Panel*>(QLatin1String(name)), PanelCode::Show);
-    }
-    void keep(const QString& name) const { m_keep(u"panel_"_s + name); }
-    // The same with an option chosen; nothing of it is submitted.
-    void keepOption(const char* option, const QString& name) const
-    {
-        in<QRadioButton>(option)->setChecked(true);
-        keep(name);
-    }
-
-    void shop();
-    void category(TreeNode* node);
-    void product(TreeNode* node);
-
-private:
-    void picker();
-
-    MainForm& m_window;
-    const std::function<void(const QString&)>& m_keep;
-};
-
-void Walk::shop()
-{
-    keep(u"shop_general"_s);
-    click("ShopDiscountSBtn");
-    keep(u"shop_discount"_s);
-    keepOption("DependOpt", u"shop_discount_bands"_s);
-    m_window.ResetActivePanel();
-    click("ShopTaxesSBtn");
-    keep(u"shop_taxes"_s);
-    click("ShippingChargesSBtn");
-    keep(u"shop_charges"_s);
-    showPanel("ShopsShippingPnl");
-    keep(u"shop_shipping_types"_s);
-    click("ShopGeneralSBtn");
+    walk.in<QRadioButton>(option)->setChecked(true);
+    walk.keep(name);
 }
 
-void Walk::category(TreeNode* node)
+// A panel that has no instance on the window gets one for its picture.
+template <class PanelType>
+void keepUnplacedPanel(Walk& walk, const QString& name)
 {
-    clickNode(node);
-    keep(u"category_general"_s);
-    picker();
-    click("CategoryDiscountSBtn");
-    keepOption("ApplyOpt", u"category_discount"_s);
-    QTest::mouseClick(in<DateField>("DateFromTxt"), Qt::LeftButton);
-    keep(u"category_discount_month"_s);
-    in<MonthCalendar>("DateMV")->hide();
-    keepOption("InheritOpt", u"category_discount_inherited"_s);
-    m_window.ResetActivePanel();
+    QFrame* holder = walk.window.parts().MainFrame;
+    const auto panel = std::make_unique<PanelType>(walk.window, holder);
+    panel->setObjectName(name);
+    qobject_cast<QGridLayout*>(holder->layout())->addWidget(panel.get(), 0, 0);
+    walk.showPanel(panel.get());
+    walk.keep(name);
+    walk.showPanel(nullptr);
 }
 
-void Walk::picker()
+void walkShop(Walk& walk)
 {
-    QTimer::singleShot(0, &m_window, [this] {
-        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        auto* pictures = dialog->findChild<QListWidget*>(u"lstImages"_s);
-        pictures->setCurrentRow(pictures->count() / 2);
-        keep(u"picture_picker"_s);
-        dialog->reject();
-    });
-    in<LinkLabel>("BrowseBtnLbl")->click();
+    walk.clickNode(walk.rootNode());
+    walk.keep(u"shop_general"_s);
+    walk.click("ShopDiscountSBtn");
+    walk.keep(u"shop_discount"_s);
+    keepOption(walk, "ApplyOpt", u"shop_discount_to_all"_s);
+    walk.window.ResetActivePanel();
+    walk.click("ShopTaxesSBtn");
+    walk.keep(u"shop_taxes"_s);
+    auto* grid = walk.in<CustomGrid>("TaxGrd")->BaseGrd;
+    QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, grid->visualItemRect(grid->item(1, 1)).center());
+    walk.keep(u"shop_taxes_cell_open"_s);
+    walk.in<QRadioButton>("optNoTax")->setChecked(true);
+    walk.keep(u"shop_taxes_not_used"_s);
+    walk.window.ResetActivePanel();
+    walk.click("ShippingChargesSBtn");
+    walk.keep(u"shop_charges"_s);
+    walk.showPanel(Walk::partOf<Panel>(&walk.window, "ShopsShippingPnl"));
+    walk.keep(u"shop_shipping_types"_s);
+    keepUnplacedPanel<ShopShippingCostsPanel>(walk, u"shop_shipping_costs"_s);
 }
 
-void Walk::product(TreeNode* node)
+void walkCategory(Walk& walk, TreeNode* node)
 {
-    clickNode(node);
-    keep(u"product_general"_s);
-    click("ProductDiscountSBtn");
-    keepOption("SpecificOpt", u"product_discount"_s);
-    m_window.ResetActivePanel();
-    click("ProductPriceSbtn");
-    in<CustomGrid>("MultipriceGrd")->AddItemButtonLbl->click();
-    keep(u"product_prices"_s);
-    m_window.ResetActivePanel();
-    click("ProductRelatedSBtn");
-    in<QTreeView>("AllProductsTree")->expandToDepth(1);
-    keep(u"product_related"_s);
-    showPanel("ProductShippingCostsPnl");
-    keep(u"product_shipping_costs"_s);
-    click("ProductGeneralSBtn");
+    walk.clickNode(node);
+    walk.keep(u"category_general"_s);
+    walk.keepDialog(
+        u"picture_picker"_s, [&] { walk.in<LinkLabel>("BrowseBtnLbl")->click(); },
+        [](QDialog& dialog) {
+            auto* pictures = Walk::partOf<QListWidget>(&dialog, "lstImages");
+            pictures->setCurrentRow(pictures->count() / 2);
+        });
+    walk.click("CategoryDiscountSBtn");
+    walk.keep(u"category_discount"_s);
+    keepOption(walk, "DependOpt", u"category_discount_by_price"_s);
+    QTest::mouseClick(walk.in<DateField>("DateFromTxt"), Qt::LeftButton);
+    walk.keep(u"category_discount_month"_s);
+    walk.in<MonthCalendar>("DateMV")->hide();
+    keepOption(walk, "NoDiscountOpt", u"category_discount_none"_s);
+    walk.window.ResetActivePanel();
+}
+
+void walkProduct(Walk& walk, TreeNode* node)
+{
+    walk.clickNode(node);
+    walk.keep(u"product_general"_s);
+    walk.click("ProductDiscountSBtn");
+    walk.keep(u"product_discount"_s);
+    keepOption(walk, "SpecificOpt", u"product_discount_specific"_s);
+    walk.window.ResetActivePanel();
+    walk.click("ProductPriceSbtn");
+    walk.keep(u"product_prices"_s);
+    walk.in<LinkLabel>("AddItemButtonLbl")->click();
+    walk.keep(u"product_prices_new_row"_s);
+    walk.window.ResetActivePanel();
+    walk.click("ProductRelatedSBtn");
+    walk.in<QTreeView>("AllProductsTree")->expandToDepth(1);
+    walk.keep(u"product_related"_s);
+    walk.showPanel(Walk::partOf<Panel>(&walk.window, "ProductShippingCostsPnl"));
+    walk.keep(u"product_shipping_costs"_s);
+    keepOption(walk, "IndividualOpt", u"product_shipping_costs_individual"_s);
+    walk.window.ResetActivePanel();
+    keepUnplacedPanel<ProductTaxesPanel>(walk, u"product_taxes"_s);
 }
 
 } // namespace
 
-void walkCataloguePanels(MainForm& window, const std::function<void(const QString& name)>& keep)
+void walkCataloguePanels(Walk& walk)
 {
-    Walk walk(window, keep);
-    TreeNode* node = window.parts().CategoriesAndProductsTree->nodes().rootNode();
-    walk.clickNode(node);
-    walk.shop();
-    if (node->children.empty()) {
-        return;
-    }
-    node = node->children.front().get();
-    walk.category(node);
-    while (!node->children.empty() && node->children.front()->image != TreeImage::Product) {
-        node = node->children.front().get();
-    }
-    if (!node->children.empty()) {
-        walk.product(node->children.front().get());
-    }
+    walk.beginPart(u"panel"_s);
+    TreeNode* root = walk.rootNode();
+    walkShop(walk);
+    walkCategory(walk, root->children.front().get());
+    walkProduct(walk, Walk::findNode(root, [](const TreeNode& node) { return node.text == u"Breakfast mug"; }));
+}
+
+void walkCatalogueExtremes(Walk& walk)
+{
+    walk.beginPart(u"extreme"_s);
+    const QString longName =
+        u"Hand-thrown stoneware for the long table, with lids, ladles, trivets and the boards that they stand on, "
+        "wood-fired in the third week of every second month"_s;
+    walk.clickNode(walk.rootNode());
+    walk.click("ShopNewCategorySBtn");
+    walk.keep(u"new_category"_s);
+    walk.in<QLineEdit>("CategoryNameTxt")->clear();
+    QTest::keyClicks(walk.in<QLineEdit>("CategoryNameTxt"), longName);
+    walk.click("CategoryDiscountSBtn");
+    keepOption(walk, "DependOpt", u"no_bands"_s);
+    walk.window.ResetActivePanel();
+    walk.click("NewProductSBtn");
+    walk.keep(u"new_product"_s);
+    walk.in<QLineEdit>("ProductNameTxt")->clear();
+    QTest::keyClicks(walk.in<QLineEdit>("ProductNameTxt"), longName);
+    walk.in<TextArea>("ProductDescriptionTxt")->fill(QString(40, u'<') + QStringList(120, longName).join(u". "_s));
+    walk.keep(u"long_texts"_s);
+    walk.click("ProductPriceSbtn");
+    walk.keep(u"no_prices"_s);
+    walk.click("ProductRelatedSBtn");
+    walk.keep(u"no_related_products"_s);
+    walk.prompts.saysYes = true;
+    walk.click("RemoveProductSBtn");
+    walk.click("RemoveCategorySBtn");
+    walk.prompts.saysYes = false;
 }

@@ -1,41 +1,74 @@
 #include "Tour.h"
-#include "shell/DialogPrompts.h"
 #include "shell/FatalErrorBox.h"
 #include "shell/Theme.h"
 #include "shell/browser/PreviewBrowser.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
-// A tour runs with nobody to press a button: boxes go to the standard error stream, questions are answered with No.
-class SilentPrompts : public UserPrompts
+// What the command line asks for. It is read ahead of the application object, which takes the scale from the
+// environment when it is made.
+struct Options
 {
-public:
-    void showMessage(const QString& title, const QString& text, PromptIcon /*icon*/) override
-    {
-        qWarning("%s: %s", qUtf8Printable(title), qUtf8Printable(text));
-    }
-    bool askYesNo(const QString& /*title*/, const QString& /*text*/) override { return false; }
-    PromptAnswer askYesNoCancel(const QString& /*title*/, const QString& /*text*/) override { return PromptAnswer::No; }
-    std::optional<QString> askText(const QString& /*title*/, const QString& /*prompt*/) override { return {}; }
-    QString chooseFile(const QString& /*folder*/, const QString& /*filter*/) override { return {}; }
-    std::optional<int> chooseColour(int /*colour*/) override { return {}; }
+    QString folder;
+    QByteArray scale;
+    bool dark = false;
+    bool withPages = true;
+    QSize size; // empty: as the program opens
 };
+
+// A width and a height in pixels, such as 1366x768; an empty size when the text is none.
+QSize sizeOf(const QString& text)
+{
+    const QStringList sides = text.split(u'x');
+    return sides.size() == 2 ? QSize(sides[0].toInt(), sides[1].toInt()) : QSize();
+}
+
+bool readOptions(const QStringList& arguments, Options& options)
+{
+    QCommandLineParser parser;
+    parser.addPositionalArgument(u"FOLDER"_s, u"where the pictures go"_s);
+    const QCommandLineOption scale(u"scale"_s, u"pixels of the screen to a pixel of the window"_s, u"factor"_s);
+    const QCommandLineOption dark(u"dark"_s, u"the dark palette"_s);
+    const QCommandLineOption withoutPages(u"without-pages"_s, u"the windows alone, not every page of the shop"_s);
+    const QCommandLineOption size(u"size"_s, u"the window's size"_s, u"WxH"_s);
+    parser.addOptions({scale, dark, withoutPages, size});
+    if (!parser.parse(arguments) || parser.positionalArguments().size() != 1) {
+        return false;
+    }
+    options = {parser.positionalArguments().front(), parser.value(scale).toLatin1(), parser.isSet(dark),
+               !parser.isSet(withoutPages), sizeOf(parser.value(size))};
+    return !parser.isSet(size) || !options.size.isEmpty();
+}
 
 } // namespace
 
 int main(int argc, char** argv)
 {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i) {
+        arguments << QString::fromLocal8Bit(argv[i]);
+    }
+    Options options;
+    if (!readOptions(arguments, options)) {
+        qCritical("usage: tarnwick_tour FOLDER [--scale 1.5] [--dark] [--size 1366x768] [--without-pages]");
+        return 2;
+    }
+    if (!options.scale.isEmpty()) {
+        qputenv("QT_SCALE_FACTOR", options.scale);
+    }
     PreviewBrowser::prepareProcess();
     QApplication application(argc, argv);
     applyTheme(application);
-    if (argc != 2) {
-        qCritical("usage: tarnwick_tour FOLDER");
-        return 2;
+    if (options.dark) {
+        QApplication::setPalette(darkPalette());
     }
-    SilentPrompts prompts;
+    TourPrompts prompts;
     FatalErrorBox errors(prompts);
-    guarded(errors, [&] { Tour(QString::fromLocal8Bit(argv[1]), prompts, errors).walk(); });
+    guarded(errors, [&] { Tour(options.folder, options.size, prompts, errors).walk(options.withPages); });
     return 0;
 }

@@ -8,6 +8,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScreen>
+#include <QTextCharFormat>
+#include <QToolButton>
 
 #include <optional>
 
@@ -19,6 +21,10 @@ constexpr QRgb inUseColour = qRgb(255, 255, 255);
 constexpr QRgb greyedColour = qRgb(192, 192, 192);
 // Both backgrounds are light, whatever the palette.
 constexpr QRgb textColour = qRgb(31, 37, 51);
+constexpr QRgb placeholderColour = qRgb(84, 92, 110);
+
+constexpr QRgb weekendOnLight = qRgb(178, 36, 36);
+constexpr QRgb weekendOnDark = qRgb(255, 148, 138);
 
 std::optional<QDate> dateIn(const QString& text)
 {
@@ -52,6 +58,7 @@ void DateField::setInUse(bool inUse)
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
         colours.setColor(group, QPalette::Base, inUse ? inUseColour : greyedColour);
         colours.setColor(group, QPalette::Text, textColour);
+        colours.setColor(group, QPalette::PlaceholderText, placeholderColour);
     }
     setPalette(colours);
 }
@@ -83,6 +90,7 @@ MonthCalendar::MonthCalendar(const Clock& clock, QWidget* parent) : QCalendarWid
     setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
     findChild<QAbstractItemView*>()->installEventFilter(this);
+    dress();
 
     const auto pick = [this](const QDate& date) {
         if (m_field) {
@@ -92,6 +100,31 @@ MonthCalendar::MonthCalendar(const Clock& clock, QWidget* parent) : QCalendarWid
     };
     connect(this, &QCalendarWidget::clicked, this, pick);   // with the mouse
     connect(this, &QCalendarWidget::activated, this, pick); // with the Enter key
+}
+
+// Plain arrows on the bar in the place of the style's own, and a weekend that is readable in either palette.
+void MonthCalendar::dress()
+{
+    for (const auto& [name, arrow] :
+         {std::pair("qt_calendar_prevmonth", u"\u2039"), {"qt_calendar_nextmonth", u"\u203a"}}) {
+        if (auto* button = findChild<QToolButton*>(QLatin1String(name))) {
+            button->setIcon(QIcon());
+            button->setText(QString::fromUtf16(arrow));
+            QFont font = button->font();
+            font.setPointSizeF(font.pointSizeF() * 1.5);
+            font.setBold(true);
+            button->setFont(font);
+            QPalette colours = palette();
+            // The bar's ground is that of a selection.
+            colours.setColor(QPalette::ButtonText, colours.color(QPalette::HighlightedText));
+            button->setPalette(colours);
+        }
+    }
+    const bool isDark = palette().color(QPalette::Base).lightness() < 128;
+    QTextCharFormat weekend;
+    weekend.setForeground(QColor::fromRgb(isDark ? weekendOnDark : weekendOnLight));
+    setWeekdayTextFormat(Qt::Saturday, weekend);
+    setWeekdayTextFormat(Qt::Sunday, weekend);
 }
 
 void MonthCalendar::openUnder(QLineEdit& field)

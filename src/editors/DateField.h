@@ -43,6 +43,8 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void dress();
+
     const Clock& m_clock;
     QLineEdit* m_field = nullptr;
 };

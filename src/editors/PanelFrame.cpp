@@ -15,6 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int fieldWidth = 620; // pixels; a line of text that is longer is hard to read
+constexpr int besideScrollBar = 4;
 
 } // namespace
 
@@ -39,13 +40,22 @@ PanelFrame::PanelFrame(const QString& heading, QWidget* panel) : QFrame(panel)
 
     auto* content = new QWidget(this);
     m_groups = new QVBoxLayout(content);
-    m_groups->setContentsMargins(0, 0, 4, 0);
+    m_groups->setContentsMargins(0, 0, besideScrollBar, 0);
     m_groups->setSpacing(12);
     m_groups->addStretch(1);
     m_whole->addWidget(new ScrollColumn(content, this), 1);
 }
 
-QFormLayout* PanelFrame::addForm(const QString& caption)
+void PanelFrame::addGroup(QWidget* group, bool stretches)
+{
+    m_groups->insertWidget(m_groups->count() - 1, group, stretches ? 1 : 0);
+    if (stretches && !m_isStretched) {
+        m_isStretched = true;
+        m_groups->setStretch(m_groups->count() - 1, 0);
+    }
+}
+
+QFormLayout* PanelFrame::addForm(const QString& caption, bool stretches)
 {
     auto* group = new QGroupBox(caption, this);
     auto* form = new QFormLayout(group);
@@ -54,7 +64,7 @@ QFormLayout* PanelFrame::addForm(const QString& caption)
     form->setVerticalSpacing(9);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    m_groups->insertWidget(m_groups->count() - 1, group);
+    addGroup(group, stretches);
     return form;
 }
 
@@ -64,17 +74,15 @@ QVBoxLayout* PanelFrame::addColumn(const QString& caption, bool stretches)
     auto* column = new QVBoxLayout(group);
     column->setContentsMargins(14, 10, 14, 14);
     column->setSpacing(9);
-    m_groups->insertWidget(m_groups->count() - 1, group, stretches ? 1 : 0);
-    if (stretches && !m_isStretched) {
-        m_isStretched = true;
-        m_groups->setStretch(m_groups->count() - 1, 0);
-    }
+    addGroup(group, stretches);
     return column;
 }
 
 void PanelFrame::addButtons(PanelHost& host)
 {
-    m_whole->addWidget(new SubmitReset(host, this));
+    auto* buttons = new SubmitReset(host, this);
+    buttons->layout()->setContentsMargins(0, 0, besideScrollBar, 0); // end where the groups end
+    m_whole->addWidget(buttons);
 }
 
 void addField(QFormLayout* form, const QString& label, QWidget* field, const char* name)

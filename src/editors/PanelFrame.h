@@ -19,12 +19,14 @@ public:
 
     // A group with a caption, below the groups before it: fields with their labels at the left, or a free column. A
     // group that stretches takes all the height that is left.
-    QFormLayout* addForm(const QString& caption);
+    QFormLayout* addForm(const QString& caption, bool stretches = false);
     QVBoxLayout* addColumn(const QString& caption, bool stretches = false);
     // The row of Submit and Reset.
     void addButtons(PanelHost& host);
 
 private:
+    void addGroup(QWidget* group, bool stretches);
+
     QVBoxLayout* m_groups;
     QVBoxLayout* m_whole;
     bool m_isStretched = false;

@@ -9,6 +9,9 @@ ScrollColumn::ScrollColumn(QWidget* content, QWidget* parent) : QScrollArea(pare
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setWidget(content);
+    // What it stands on shows through: a tab has a ground of its own.
+    viewport()->setAutoFillBackground(false);
+    content->setAutoFillBackground(false);
     content->installEventFilter(this);
 }
 

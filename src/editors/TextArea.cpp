@@ -2,10 +2,23 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr int shownLines = 7;
+constexpr int leastHeight = 90; // pixels
+
+} // namespace
+
 TextArea::TextArea(QWidget* parent) : QPlainTextEdit(parent)
 {
     setTabChangesFocus(true);
-    setMinimumHeight(90);
+    setMinimumHeight(leastHeight);
+}
+
+QSize TextArea::sizeHint() const
+{
+    const int lines = shownLines * fontMetrics().lineSpacing() + 2 * static_cast<int>(document()->documentMargin());
+    return {QPlainTextEdit::sizeHint().width(), qMax(leastHeight, lines + 2 * frameWidth())};
 }
 
 void TextArea::fill(const QString& text)

@@ -11,6 +11,9 @@ class TextArea : public QPlainTextEdit
 public:
     explicit TextArea(QWidget* parent = nullptr);
 
+    // Some lines. Where there is more room, the form gives it.
+    QSize sizeHint() const override;
+
     void fill(const QString& text);
     // Changed texts have the line ends that the text had when it was filled in.
     QString text() const;

@@ -16,6 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int designMenuColumns = 2;
+constexpr int betweenButtons = 10; // pixels, so that long titles stay apart
 
 QFrame* namedFrame(const char* name, QWidget* parent)
 {
@@ -72,7 +73,7 @@ void MainFormLayout::makeToolbarFrame(QWidget* parent)
     ToolbarFrame = namedFrame("ToolbarFrame", parent);
     ToolbarFrame->setAutoFillBackground(true);
     ToolbarFrame->setBackgroundRole(QPalette::Button);
-    auto* row = tightLayout<QHBoxLayout>(ToolbarFrame);
+    auto* row = tightLayout<QHBoxLayout>(ToolbarFrame, betweenButtons);
     row->setContentsMargins(8, 4, pixels(100), 4);
     LogoPic = new QLabel(ToolbarFrame);
     LogoPic->setObjectName(u"LogoPic"_s);
@@ -112,8 +113,8 @@ void MainFormLayout::makeCatalogue(QWidget* parent, FatalErrorHandler& errors)
     for (auto [toolbar, name] : {std::pair(&ShopToolbar, "ShopToolbar"), std::pair(&CategoryToolbar, "CategoryToolbar"),
                                  std::pair(&ProductToolbar, "ProductToolbar")}) {
         *toolbar = namedFrame(name, ContextToolbarFrame);
-        auto* row = tightLayout<QHBoxLayout>(*toolbar);
-        row->setContentsMargins(4, 0, 4, 0);
+        auto* row = tightLayout<QHBoxLayout>(*toolbar, betweenButtons);
+        row->setContentsMargins(4, 6, 4, 0);
         row->addStretch(1);
         toolbars->addWidget(*toolbar, 0, 0);
     }

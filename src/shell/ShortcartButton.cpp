@@ -44,7 +44,7 @@ ShortcartButton::ShortcartButton(const ButtonRow& row, const ApplicationFolder& 
     setObjectName(QLatin1String(row.name));
     setAccessibleName(m_title);
     setFocusPolicy(focusPolicyOf(row.frame));
-    setMinimumWidth(104);
+    setMinimumWidth(96);
     setMouseTracking(true);
 
     IconImg->setObjectName(u"IconImg"_s);

@@ -1,7 +1,8 @@
 #include "shell/Theme.h"
 
+#include "shell/ShopStyle.h"
+
 #include <QApplication>
-#include <QStyleFactory>
 
 namespace {
 
@@ -15,7 +16,7 @@ constexpr Tones light = {qRgb(243, 245, 249), qRgb(255, 255, 255), qRgb(236, 240
                          qRgb(46, 84, 158),   qRgb(255, 252, 232)};
 
 constexpr Tones dark = {qRgb(35, 39, 48),    qRgb(26, 29, 36),    qRgb(41, 46, 57),   qRgb(50, 56, 70),
-                        qRgb(230, 233, 240), qRgb(122, 130, 147), qRgb(95, 120, 173), qRgb(255, 255, 255),
+                        qRgb(230, 233, 240), qRgb(140, 148, 165), qRgb(80, 104, 156), qRgb(255, 255, 255),
                         qRgb(140, 174, 242), qRgb(50, 56, 70)};
 
 QPalette paletteOf(const Tones& tones)
@@ -27,6 +28,9 @@ QPalette paletteOf(const Tones& tones)
     palette.setColor(QPalette::ToolTipText, tones.text);
     palette.setColor(QPalette::Highlight, tones.highlight);
     palette.setColor(QPalette::HighlightedText, tones.highlightedText);
+    // A list that is not in use shows what is selected in it without the colour that asks for the eye.
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.alternate);
+    palette.setColor(QPalette::Disabled, QPalette::HighlightedText, tones.disabled);
     palette.setColor(QPalette::Link, tones.link);
     palette.setColor(QPalette::PlaceholderText, tones.disabled);
     for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
@@ -51,6 +55,6 @@ QPalette darkPalette()
 void applyTheme(QApplication& application)
 {
     const bool desktopIsDark = application.palette().color(QPalette::Window).lightness() < 128;
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(newShopStyle());
     QApplication::setPalette(desktopIsDark ? darkPalette() : lightPalette());
 }

@@ -6,6 +6,19 @@
 
 namespace {
 
+// The shadow falls on the window's ground: on a dark one it is darker still, and its light edge only a little lighter.
+struct ShadowTones
+{
+    QRgb white, gray, darkGray;
+};
+constexpr ShadowTones onLight = {qRgb(255, 255, 255), qRgb(198, 204, 216), qRgb(178, 186, 202)};
+constexpr ShadowTones onDark = {qRgb(66, 73, 90), qRgb(20, 22, 28), qRgb(14, 16, 20)};
+
+const ShadowTones& shadowOn(const QWidget* ground)
+{
+    return ground->palette().color(QPalette::Window).lightness() < 128 ? onDark : onLight;
+}
+
 QFrame* shadowFrame(const char* name, QRgb colour, QWidget* parent)
 {
     auto* frame = new QFrame(parent);
@@ -22,9 +35,9 @@ QFrame* shadowFrame(const char* name, QRgb colour, QWidget* parent)
 TreePane::TreePane(QWidget* tree, QWidget* parent)
     : QWidget(parent),
       m_tree(tree),
-      frmTreeShadowWhite(shadowFrame("frmTreeShadowWhite", qRgb(255, 255, 255), this)),
-      frmTreeShadowGray(shadowFrame("frmTreeShadowGray", qRgb(198, 204, 216), this)),
-      frmTreeShadowDarkGray(shadowFrame("frmTreeShadowDarkGray", qRgb(178, 186, 202), this))
+      frmTreeShadowWhite(shadowFrame("frmTreeShadowWhite", shadowOn(parent).white, this)),
+      frmTreeShadowGray(shadowFrame("frmTreeShadowGray", shadowOn(parent).gray, this)),
+      frmTreeShadowDarkGray(shadowFrame("frmTreeShadowDarkGray", shadowOn(parent).darkGray, this))
 {
     m_tree->setParent(this);
     m_tree->raise();

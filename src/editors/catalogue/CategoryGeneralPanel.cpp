@@ -20,7 +20,7 @@ CategoryGeneralPanel::CategoryGeneralPanel(PanelHost& host, QWidget* parent) : P
     CategoryDescriptionTxt = new TextArea(frame);
     BrowseImageControl1 = named(new BrowseImageControl(host, frame), "BrowseImageControl1", tr("Picture"));
 
-    QFormLayout* form = frame->addForm(tr("The category"));
+    QFormLayout* form = frame->addForm(tr("The category"), true);
     form->addRow(IdLbl);
     addField(form, tr("Name"), CategoryNameTxt, "CategoryNameTxt");
     addField(form, tr("Description"), CategoryDescriptionTxt, "CategoryDescriptionTxt");

@@ -36,6 +36,8 @@ constexpr int besideTaxColumns = pixels(100);
 constexpr std::array chargeWidths = {pixels(2500), pixels(1500), pixels(400), linkWidth};
 constexpr int narrowestColumn = 60; // pixels: with very many columns the grid scrolls
 constexpr int pictureSize = 18;     // pixels
+constexpr int besideTitle = 12;     // pixels of a column that its title does not get
+constexpr int aroundTitle = 8;      // pixels above and below a title
 
 // What stands in a cell of the "Use" column beside its picture.
 enum UseRole { CheckedRole = Qt::UserRole, ModelIndexRole };
@@ -53,7 +55,7 @@ QPixmap usePicture(bool isChecked, const QWidget& grid)
     return picture;
 }
 
-// Puts a picture into the middle of its cell.
+// Puts a picture into the middle of its cell, and greys the links too in a grid that is not in use.
 class CentredPicture : public QStyledItemDelegate
 {
 public:
@@ -66,6 +68,10 @@ protected:
         if (option->features.testFlag(QStyleOptionViewItem::HasDecoration)) {
             option->decorationSize = option->rect.size();
             option->decorationAlignment = Qt::AlignCenter;
+        }
+        if (!option->state.testFlag(QStyle::State_Enabled)) {
+            const QBrush grey = option->widget->palette().brush(QPalette::Disabled, QPalette::Text);
+            option->palette.setBrush(QPalette::Disabled, QPalette::Text, grey);
         }
     }
 };
@@ -89,8 +95,9 @@ CustomGrid::CustomGrid(PanelHost& host, QWidget* parent)
     BaseGrd->horizontalHeader()->setSectionsClickable(false);
     BaseGrd->horizontalHeader()->setHighlightSections(false);
     BaseGrd->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    BaseGrd->horizontalHeader()->setDefaultAlignment(Qt::AlignCenter | Qt::Alignment(Qt::TextWordWrap));
-    BaseGrd->setMinimumHeight(150);
+    BaseGrd->horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter |
+                                                     Qt::Alignment(Qt::TextWordWrap));
+    BaseGrd->setMinimumHeight(110);
     BaseGrd->installEventFilter(this);
     ForGridTxt->setMaxLength(std::numeric_limits<int>::max());
     ForGridTxt->installEventFilter(this);
@@ -257,6 +264,7 @@ void CustomGrid::arrangeColumns()
         for (int column = 0; column <= last; ++column) {
             BaseGrd->setColumnWidth(column, chargeWidths[static_cast<std::size_t>(column)]);
         }
+        fitHeader();
         return;
     }
     const QScrollBar* bar = BaseGrd->verticalScrollBar();
@@ -267,6 +275,25 @@ void CustomGrid::arrangeColumns()
         BaseGrd->setColumnWidth(column, std::max(width, narrowestColumn));
     }
     BaseGrd->setColumnWidth(last, linkWidth);
+    fitHeader();
+}
+
+// As high as the longest title needs, in as many lines as its column makes of it. The titles stand over the texts of
+// their columns, that of the pictures over their middle.
+void CustomGrid::fitHeader()
+{
+    QHeaderView* header = BaseGrd->horizontalHeader();
+    int textHeight = header->fontMetrics().height();
+    for (int column = 0; column < linkColumn(); ++column) {
+        QTableWidgetItem* title = BaseGrd->horizontalHeaderItem(column);
+        if (isUseColumn(column)) {
+            title->setTextAlignment(Qt::AlignCenter);
+        }
+        const QRect room(0, 0, BaseGrd->columnWidth(column) - besideTitle, QWIDGETSIZE_MAX);
+        const QRect text = header->fontMetrics().boundingRect(room, Qt::TextWordWrap, title->text());
+        textHeight = std::max(textHeight, text.height());
+    }
+    header->setFixedHeight(textHeight + aroundTitle);
 }
 
 // What a click does --------------------------------------------------------------------------------------------------

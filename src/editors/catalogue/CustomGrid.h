@@ -66,6 +66,7 @@ private:
 
     void prepare(const QString& tag, const QStringList& titles, int rows);
     void arrangeColumns();
+    void fitHeader();
     void setLink(int row);
     void setUse(int row, bool isChecked, int modelIndex);
     bool isUsed(int row) const;

@@ -24,26 +24,38 @@ ProductGeneralPanel::ProductGeneralPanel(PanelHost& host, QWidget* parent) : Pan
     ProductDescriptionTxt = new TextArea(frame);
     ProductCodeTxt = textField(frame);
     ProductPriceTxt = new NumericBox(NumericBox::Takes::Number, frame);
+    chkForSale = named(new QCheckBox(tr("For sale"), frame), "chkForSale", tr("For sale"));
     ProductUnitTxt = textField(frame);
     ProductLinkTxt = textField(frame);
     BrowseImageControl1 = named(new BrowseImageControl(host, frame), "BrowseImageControl1", tr("Picture"));
-    chkForSale = named(new QCheckBox(tr("For sale"), frame), "chkForSale", tr("For sale"));
 
-    QFormLayout* form = frame->addForm(tr("The product"));
+    QFormLayout* form = frame->addForm(tr("The product"), true);
     form->addRow(IdLbl);
     addField(form, tr("Name"), ProductNameTxt, "ProductNameTxt");
     addField(form, tr("Description"), ProductDescriptionTxt, "ProductDescriptionTxt");
     addField(form, tr("Code"), ProductCodeTxt, "ProductCodeTxt");
-    addField(form, tr("Price"), ProductPriceTxt, "ProductPriceTxt");
+    addPriceRow(form);
     addField(form, tr("Unit"), ProductUnitTxt, "ProductUnitTxt");
     addField(form, tr("Link"), ProductLinkTxt, "ProductLinkTxt");
-    ProductPriceTxt->setFixedWidth(140);
     frame->addColumn(tr("Picture"))->addWidget(BrowseImageControl1);
-    frame->addColumn(tr("Sale"))->addWidget(chkForSale);
     frame->addButtons(host);
 
     connect(ProductNameTxt, &QLineEdit::textEdited, this,
             [this](const QString& text) { guarded(m_host.errorHandler(), [&] { m_host.setSelectedNodeText(text); }); });
+}
+
+void ProductGeneralPanel::addPriceRow(QFormLayout* form)
+{
+    named(ProductPriceTxt, "ProductPriceTxt", tr("Price"));
+    ProductPriceTxt->setFixedWidth(140);
+    auto* caption = new QLabel(tr("Price"), form->parentWidget());
+    caption->setBuddy(ProductPriceTxt);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(18);
+    row->addWidget(ProductPriceTxt);
+    row->addWidget(chkForSale);
+    row->addStretch(1);
+    form->addRow(caption, row);
 }
 
 void ProductGeneralPanel::SetActiveObject(const CatalogueObject& object)

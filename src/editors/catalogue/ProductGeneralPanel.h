@@ -11,6 +11,7 @@ class NumericBox;
 class PanelHost;
 class ProductClass;
 class QCheckBox;
+class QFormLayout;
 class QLabel;
 class QLineEdit;
 class TextArea;
@@ -28,6 +29,7 @@ public:
     void ClearActiveObject() override;
 
 private:
+    void addPriceRow(QFormLayout* form);
     void completeLink();
 
     PanelHost& m_host;

@@ -11,6 +11,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QListView>
+#include <QStringBuilder>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -43,7 +44,9 @@ ProductsRelatedPanel::ProductsRelatedPanel(PanelHost& host, QWidget* parent)
     const QColor ground = colours.color(QPalette::Highlight);
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
         colours.setColor(group, QPalette::Base, ground);
-        colours.setColor(group, QPalette::Text, colours.color(QPalette::HighlightedText));
+        for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText}) { // the second is the branches'
+            colours.setColor(group, role, colours.color(QPalette::HighlightedText));
+        }
         colours.setColor(group, QPalette::Highlight, ground.darker(190));
     }
     AllProductsTree->setPalette(colours);
@@ -81,18 +84,24 @@ void ProductsRelatedPanel::SetActiveObject(const CatalogueObject& object)
         return;
     }
     std::vector<RelatedProducts::Row> rows;
-    const ObjectsCollection& objects = m_host.session().objects;
+    rows.reserve(static_cast<std::size_t>(m_product->relatedCount()));
     for (int i = 0; i < m_product->relatedCount(); ++i) {
         const QString& id = m_product->related[i];
         // A product that is gone has no name to show.
-        if (objects.HasKey(NodeKey(id))) {
-            if (const auto related = ObjectOf<ProductClass>(objects.Item(NodeKey(id)))) {
-                rows.push_back({id, related->name});
-            }
+        if (const ProductClass* related = productOf(id)) {
+            rows.push_back({id, related->name});
         }
     }
     m_related->setRows(std::move(rows));
     fillTree();
+}
+
+const ProductClass* ProductsRelatedPanel::productOf(const QString& id) const
+{
+    const KeyedCollection<CatalogueObject>& objects = m_host.session().objects.items();
+    const int index = objects.IndexOf(NodeKey(id));
+    const auto* product = index == 0 ? nullptr : std::get_if<std::shared_ptr<ProductClass>>(&objects.Item(index));
+    return product ? product->get() : nullptr;
 }
 
 void ProductsRelatedPanel::fillTree()
@@ -114,7 +123,7 @@ void ProductsRelatedPanel::addCategory(TreeNode* parent, const CategoryClass& ca
         addCategory(node, *below);
     }
     for (const std::shared_ptr<ProductClass>& product : category.products) {
-        m_nodes->addNode(node, productPrefix + product->id, product->name, TreeImage::Product);
+        m_nodes->addNode(node, productPrefix % product->id, product->name, TreeImage::Product);
     }
 }
 

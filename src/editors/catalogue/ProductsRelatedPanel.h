@@ -27,6 +27,8 @@ public:
     void ClearActiveObject() override;
 
 private:
+    // None for a product that is gone.
+    const ProductClass* productOf(const QString& id) const;
     void fillTree();
     void addCategory(TreeNode* parent, const CategoryClass& category);
     void toRelated();

@@ -4,11 +4,11 @@
 
 namespace {
 
-constexpr int swatchSize = 16; // pixels
+constexpr int swatchSize = SwatchIconSize.height();
 
 QPixmap emptySwatch(qreal pixelRatio)
 {
-    QPixmap swatch((QSizeF(swatchSize, swatchSize) * pixelRatio).toSize());
+    QPixmap swatch((QSizeF(SwatchIconSize) * pixelRatio).toSize());
     swatch.setDevicePixelRatio(pixelRatio);
     swatch.fill(Qt::transparent);
     return swatch;

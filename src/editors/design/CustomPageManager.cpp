@@ -66,6 +66,7 @@ CustomPageManager::CustomPageManager(PanelHost& panelHost, QWidget* parent)
 QWidget* CustomPageManager::makeEditor()
 {
     CustomPagesListCtl->setObjectName(u"CustomPagesListCtl"_s);
+    CustomPagesListCtl->setSpacing(1);
     AddPageBtn->setObjectName(u"AddPageBtn"_s);
     DeletePageBtn->setObjectName(u"DeletePageBtn"_s);
     PageNameTextCtl->setObjectName(u"PageNameTextCtl"_s);
@@ -80,6 +81,7 @@ QWidget* CustomPageManager::makeEditor()
         return label;
     };
     auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
     buttons->addWidget(AddPageBtn);
     buttons->addWidget(DeletePageBtn);
     auto* grid = new QGridLayout(group);

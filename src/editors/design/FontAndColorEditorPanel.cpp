@@ -19,6 +19,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int widestField = 320; // pixels; the panel may be as wide as a page
+
 const QStringList& fontNames()
 {
     static const QStringList names = {u"Arial"_s, u"Helvetica"_s, u"Sans-serif"_s, u"Times New Roman"_s, u"Verdana"_s};
@@ -76,6 +78,7 @@ FontAndColorEditorPanel::FontAndColorEditorPanel(PanelHost& host, QWidget* paren
 
     auto* form = new QFormLayout(Frame1);
     form->setContentsMargins(16, 12, 16, 14);
+    form->setHorizontalSpacing(14);
     form->setVerticalSpacing(10);
     makeFontRow();
     makeColourRow(host);
@@ -88,6 +91,11 @@ FontAndColorEditorPanel::FontAndColorEditorPanel(PanelHost& host, QWidget* paren
     SampleLbl->setMinimumSize(300, 72);
     SampleLbl->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     form->addRow(SampleLbl);
+    for (QWidget* field :
+         std::initializer_list<QWidget*>{FontNameLst, FontSizeLst, ForeGroundColorBtn, BackGroundColorBtn}) {
+        field->setMaximumWidth(widestField);
+        field->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    }
 
     for (QComboBox* list : {FontNameLst, FontSizeLst}) {
         connect(list, &QComboBox::currentTextChanged, this, &FontAndColorEditorPanel::showSample);
@@ -127,6 +135,7 @@ void FontAndColorEditorPanel::makeColourRow(PanelHost& host)
         auto* button = new QPushButton(Frame1);
         button->setObjectName(QLatin1String(name));
         button->setAccessibleName(accessibleName);
+        button->setIconSize(SwatchIconSize);
         qobject_cast<QFormLayout*>(Frame1->layout())->addRow(caption, button);
         connect(button, &QPushButton::clicked, this, [this, &host, &colour, set] {
             guarded(host.errorHandler(), [&] {

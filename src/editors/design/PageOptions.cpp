@@ -171,6 +171,7 @@ void PageOptions::makeStyles()
     for (const StyleRow& row : m_table.styles) {
         QPushButton* button = namedButton(row.style, CaptionText(row.caption));
         button->setObjectName(u"btnCSS_"_s + QLatin1String(row.style));
+        button->setIconSize(SwatchIconSize);
         grid->add(button);
         m_styleButtons.push_back(button);
         connect(button, &QPushButton::clicked, this,
@@ -181,6 +182,9 @@ void PageOptions::makeStyles()
 void PageOptions::addAheadOfStyles(QWidget* widget, int stretch)
 {
     m_column->insertWidget(m_column->indexOf(m_styleGroup), widget, stretch);
+    if (stretch > 0) {
+        m_column->setStretch(m_column->count() - 1, 0); // the room below the groups is the widget's
+    }
     // The tab key follows the eye, too.
     QWidget* before = m_styleButtons.front()->previousInFocusChain();
     while ((before->focusPolicy() & Qt::TabFocus) == 0) {

@@ -16,6 +16,7 @@ PictureBox::PictureBox(const QString& invalidText, QWidget* parent) : QFrame(par
 {
     setFrameShape(QFrame::StyledPanel);
     setMinimumSize(120, 100);
+    setBackground(Qt::white); // pictures are made for pages, which are light as a rule
     clear();
 }
 

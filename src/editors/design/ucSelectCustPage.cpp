@@ -64,6 +64,7 @@ ucSelectCustPage::ucSelectCustPage(QWidget* parent) : QWidget(parent)
     lstSelectedPages = new QListWidget(Frame1);
     lstSelectedPages->setObjectName(u"lstSelectedPages"_s);
     lstSelectedPages->setAccessibleName(tr("Custom pages"));
+    lstSelectedPages->setSpacing(2);
     lstSelectedPages->setItemDelegate(new WholeRowTicks(lstSelectedPages));
     column->addWidget(lstSelectedPages, 1);
     connect(lstSelectedPages, &QListWidget::itemChanged, this, [this](QListWidgetItem* entry) {

@@ -22,6 +22,8 @@ ucSelectImage::ucSelectImage(PanelHost& host, QWidget* parent)
     buttons->addWidget(OkBtn);
     buttons->addWidget(CancelBtn);
     auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 16, 16, 16);
+    column->setSpacing(14);
     column->addWidget(m_pictures, 1);
     column->addLayout(buttons);
 

@@ -37,6 +37,7 @@ ucSelectImageOrText::ucSelectImageOrText(PanelHost& host, QWidget* parent)
     text->addWidget(txtText, 1);
     text->addWidget(btnCSS_Text);
     auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(16, 16, 16, 16);
     column->setSpacing(10);
     column->addWidget(m_pictures, 1);
     column->addWidget(chkText);
