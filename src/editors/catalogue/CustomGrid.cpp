@@ -3,14 +3,12 @@
 #include "editors/LinkLabel.h"
 #include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
+#include "editors/catalogue/GridPictures.h"
 #include "model/CommonFunctions.h"
 #include "model/ShopSession.h"
 
 #include <QHeaderView>
-#include <QKeyEvent>
-#include <QPixmapCache>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -35,46 +33,11 @@ constexpr int besideColumns = pixels(1200); // what the columns of text leave of
 constexpr int besideTaxColumns = pixels(100);
 constexpr std::array chargeWidths = {pixels(2500), pixels(1500), pixels(400), linkWidth};
 constexpr int narrowestColumn = 60; // pixels: with very many columns the grid scrolls
-constexpr int pictureSize = 18;     // pixels
 constexpr int besideTitle = 12;     // pixels of a column that its title does not get
 constexpr int aroundTitle = 8;      // pixels above and below a title
 
 // What stands in a cell of the "Use" column beside its picture.
 enum UseRole { CheckedRole = Qt::UserRole, ModelIndexRole };
-
-// The checked and the unchecked box. The application's cache of pixmaps holds them for all grids.
-QPixmap usePicture(bool isChecked, const QWidget& grid)
-{
-    const QString file = isChecked ? u":/icons/check_on.svg"_s : u":/icons/check_off.svg"_s;
-    const QString key = u"CustomGrid%1@%2"_s.arg(file).arg(grid.devicePixelRatioF());
-    QPixmap picture;
-    if (!QPixmapCache::find(key, &picture)) {
-        picture = QIcon(file).pixmap(QSize(pictureSize, pictureSize), grid.devicePixelRatioF());
-        QPixmapCache::insert(key, picture);
-    }
-    return picture;
-}
-
-// Puts a picture into the middle of its cell, and greys the links too in a grid that is not in use.
-class CentredPicture : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-protected:
-    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
-    {
-        QStyledItemDelegate::initStyleOption(option, index);
-        if (option->features.testFlag(QStyleOptionViewItem::HasDecoration)) {
-            option->decorationSize = option->rect.size();
-            option->decorationAlignment = Qt::AlignCenter;
-        }
-        if (!option->state.testFlag(QStyle::State_Enabled)) {
-            const QBrush grey = option->widget->palette().brush(QPalette::Disabled, QPalette::Text);
-            option->palette.setBrush(QPalette::Disabled, QPalette::Text, grey);
-        }
-    }
-};
 
 } // namespace
 
@@ -89,7 +52,7 @@ CustomGrid::CustomGrid(PanelHost& host, QWidget* parent)
     BaseGrd->setEditTriggers(QAbstractItemView::NoEditTriggers);
     BaseGrd->setTabKeyNavigation(false);
     BaseGrd->setAlternatingRowColors(true);
-    BaseGrd->setItemDelegate(new CentredPicture(BaseGrd));
+    BaseGrd->setItemDelegate(newGridDelegate(BaseGrd));
     BaseGrd->verticalHeader()->hide();
     BaseGrd->verticalHeader()->setDefaultSectionSize(BaseGrd->fontMetrics().height() + 12);
     BaseGrd->horizontalHeader()->setSectionsClickable(false);
@@ -241,7 +204,7 @@ void CustomGrid::setLink(int row)
 void CustomGrid::setUse(int row, bool isChecked, int modelIndex)
 {
     auto* cell = new QTableWidgetItem;
-    cell->setData(Qt::DecorationRole, usePicture(isChecked, *this));
+    cell->setData(Qt::DecorationRole, UsePicture(isChecked, *this));
     cell->setData(Qt::AccessibleTextRole, isChecked ? tr("In use") : tr("Not in use"));
     cell->setData(CheckedRole, isChecked);
     cell->setData(ModelIndexRole, modelIndex);
@@ -350,93 +313,7 @@ void CustomGrid::addItem()
     openEditor(row, 0);
 }
 
-// The editor over a cell ---------------------------------------------------------------------------------------------
-
-void CustomGrid::openEditor(int row, int column)
-{
-    BaseGrd->setCurrentCell(row, column);
-    BaseGrd->scrollToItem(BaseGrd->item(row, column));
-    ForGridTxt->setText(cellText(row, column));
-    ForGridTxt->setAccessibleDescription(BaseGrd->horizontalHeaderItem(column)->text());
-    ForGridTxt->show();
-    placeEditor();
-    ForGridTxt->setFocus();
-}
-
-void CustomGrid::placeEditor()
-{
-    if (!ForGridTxt->isHidden() && BaseGrd->currentItem()) {
-        ForGridTxt->setGeometry(BaseGrd->visualItemRect(BaseGrd->currentItem()));
-    }
-}
-
-// To the next or the former cell of text; at either end the editor closes.
-void CustomGrid::moveEditor(int step)
-{
-    int row = BaseGrd->currentRow();
-    int column = BaseGrd->currentColumn();
-    do {
-        column += step;
-        if (column < 0 || column >= linkColumn()) {
-            column = column < 0 ? linkColumn() - 1 : 0;
-            row += step;
-        }
-    } while (isUseColumn(column));
-    if (row < 0 || row >= BaseGrd->rowCount()) {
-        BaseGrd->setFocus();
-        ForGridTxt->hide();
-        return;
-    }
-    openEditor(row, column);
-}
-
-bool CustomGrid::gridKey(const QKeyEvent& key)
-{
-    const int row = BaseGrd->currentRow();
-    const int column = BaseGrd->currentColumn();
-    if (row < 0 || column < 0) {
-        return false;
-    }
-    switch (key.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Space:
-    case Qt::Key_F2:
-        cellActivated(row, column);
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool CustomGrid::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == BaseGrd && event->type() == QEvent::KeyPress) {
-        return gridKey(*static_cast<QKeyEvent*>(event));
-    }
-    if (watched == ForGridTxt && event->type() == QEvent::KeyPress) {
-        switch (static_cast<QKeyEvent*>(event)->key()) {
-        case Qt::Key_Tab:
-            moveEditor(1);
-            return true;
-        case Qt::Key_Backtab:
-            moveEditor(-1);
-            return true;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            BaseGrd->setFocus();
-            return true;
-        default:
-            break;
-        }
-    }
-    // Its own context menu does not take the focus away for good.
-    if (watched == ForGridTxt && event->type() == QEvent::FocusOut &&
-        static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
-        ForGridTxt->hide();
-    }
-    return QWidget::eventFilter(watched, event);
-}
+// The grid as a whole ------------------------------------------------------------------------------------------------
 
 void CustomGrid::resizeEvent(QResizeEvent* event)
 {

@@ -1,0 +1,90 @@
+// The grid's editor over a cell, and its keys.
+#include "editors/catalogue/CustomGrid.h"
+
+#include <QKeyEvent>
+
+void CustomGrid::openEditor(int row, int column)
+{
+    BaseGrd->setCurrentCell(row, column);
+    BaseGrd->scrollToItem(BaseGrd->item(row, column));
+    ForGridTxt->setText(cellText(row, column));
+    ForGridTxt->setAccessibleDescription(BaseGrd->horizontalHeaderItem(column)->text());
+    ForGridTxt->show();
+    placeEditor();
+    ForGridTxt->setFocus();
+}
+
+void CustomGrid::placeEditor()
+{
+    if (!ForGridTxt->isHidden() && BaseGrd->currentItem()) {
+        ForGridTxt->setGeometry(BaseGrd->visualItemRect(BaseGrd->currentItem()));
+    }
+}
+
+// To the next or the former cell of text; at either end the editor closes.
+void CustomGrid::moveEditor(int step)
+{
+    int row = BaseGrd->currentRow();
+    int column = BaseGrd->currentColumn();
+    do {
+        column += step;
+        if (column < 0 || column >= linkColumn()) {
+            column = column < 0 ? linkColumn() - 1 : 0;
+            row += step;
+        }
+    } while (isUseColumn(column));
+    if (row < 0 || row >= BaseGrd->rowCount()) {
+        BaseGrd->setFocus();
+        ForGridTxt->hide();
+        return;
+    }
+    openEditor(row, column);
+}
+
+bool CustomGrid::gridKey(const QKeyEvent& key)
+{
+    const int row = BaseGrd->currentRow();
+    const int column = BaseGrd->currentColumn();
+    if (row < 0 || column < 0) {
+        return false;
+    }
+    switch (key.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Space:
+    case Qt::Key_F2:
+        cellActivated(row, column);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool CustomGrid::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == BaseGrd && event->type() == QEvent::KeyPress) {
+        return gridKey(*static_cast<QKeyEvent*>(event));
+    }
+    if (watched == ForGridTxt && event->type() == QEvent::KeyPress) {
+        switch (static_cast<QKeyEvent*>(event)->key()) {
+        case Qt::Key_Tab:
+            moveEditor(1);
+            return true;
+        case Qt::Key_Backtab:
+            moveEditor(-1);
+            return true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            BaseGrd->setFocus();
+            return true;
+        default:
+            break;
+        }
+    }
+    // Its own context menu does not take the focus away for good.
+    if (watched == ForGridTxt && event->type() == QEvent::FocusOut &&
+        static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
+        ForGridTxt->hide();
+    }
+    return QWidget::eventFilter(watched, event);
+}

@@ -1,0 +1,51 @@
+#include "editors/catalogue/GridPictures.h"
+
+#include <QIcon>
+#include <QPixmapCache>
+#include <QStyledItemDelegate>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int pictureSize = 18; // pixels
+
+class GridDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (option->features.testFlag(QStyleOptionViewItem::HasDecoration)) {
+            option->decorationSize = option->rect.size();
+            option->decorationAlignment = Qt::AlignCenter;
+        }
+        if (!option->state.testFlag(QStyle::State_Enabled)) {
+            const QBrush grey = option->widget->palette().brush(QPalette::Disabled, QPalette::Text);
+            option->palette.setBrush(QPalette::Disabled, QPalette::Text, grey);
+        }
+    }
+};
+
+} // namespace
+
+// The application's cache of pixmaps holds the two.
+QPixmap UsePicture(bool isChecked, const QWidget& grid)
+{
+    const QString file = isChecked ? u":/icons/check_on.svg"_s : u":/icons/check_off.svg"_s;
+    const QString key = u"CustomGrid%1@%2"_s.arg(file).arg(grid.devicePixelRatioF());
+    QPixmap picture;
+    if (!QPixmapCache::find(key, &picture)) {
+        picture = QIcon(file).pixmap(QSize(pictureSize, pictureSize), grid.devicePixelRatioF());
+        QPixmapCache::insert(key, picture);
+    }
+    return picture;
+}
+
+QAbstractItemDelegate* newGridDelegate(QObject* parent)
+{
+    return new GridDelegate(parent);
+}
