@@ -35,6 +35,3 @@ private:
     int m_unique = 0;
     int m_id = 1;
 };
-
-// Every member of the shop that its file holds, one a line. It does not go through the writer.
-QStringList Described(ShopClass& shop);

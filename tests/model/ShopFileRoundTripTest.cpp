@@ -1,4 +1,5 @@
 // Shops made of chance are written and read back: the same model, and then the same bytes.
+#include "DescribedShop.h"
 #include "RandomShop.h"
 #include "ShopFixture.h"
 

@@ -12,7 +12,6 @@
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTimer>
 #include <QVBoxLayout>
 
 #include <array>
@@ -166,7 +165,7 @@ void frmUpload::closeEvent(QCloseEvent* event)
     // one, and what it closes then is the program, with the question that the main window asks.
     if (isTransferring() && event->spontaneous() && parentWidget()) {
         event->ignore();
-        QTimer::singleShot(0, parentWidget()->window(), &QWidget::close); // not inside of this event
+        QMetaObject::invokeMethod(parentWidget()->window(), &QWidget::close, Qt::QueuedConnection); // not in this event
         return;
     }
     QDialog::closeEvent(event);
