@@ -3,6 +3,7 @@
 #include "editors/Panel.h"
 #include "model/ShopClass.h"
 #include "shell/CatalogueTree.h"
+#include "shell/ContentRoom.h"
 #include "shell/PanelSet.h"
 #include "shell/ProgressFrames.h"
 #include "shell/ShortcartButton.h"
@@ -23,10 +24,11 @@ MainForm::MainForm(std::unique_ptr<ShopSession> session, const PreviewFactory& m
       m_session(std::move(session)),
       m_templates(std::make_unique<Templates_Set>(m_session->folder, m_session->log))
 {
-    auto* central = new QWidget(this);
-    m_preview = makePreview(central);
-    m_parts = std::make_unique<MainFormLayout>(central, m_preview.widget, m_session->folder, m_session->log, m_errors);
-    setCentralWidget(central);
+    auto* room = new ContentRoom(this);
+    m_preview = makePreview(room->content());
+    m_parts = std::make_unique<MainFormLayout>(room->content(), m_preview.widget, m_session->folder, m_session->log,
+                                               m_errors);
+    setCentralWidget(room);
 
     m_previewPage = std::make_unique<PreviewPage>(*m_session, *m_templates, *m_preview.surface);
     m_navigation = std::make_unique<PreviewNavigation>(*m_session, *m_previewPage);
@@ -89,9 +91,9 @@ void MainForm::connectParts()
     connect(m_parts->CategoriesAndProductsTree, &CatalogueTree::nodeClicked, this, &MainForm::treeNodeClicked);
     connect(m_parts->CategoriesAndProductsTree, &CatalogueTree::popUpRequested, this, &MainForm::showPopUp);
 
-    for (QWidget* surface :
-         {static_cast<QWidget*>(this), centralWidget(), static_cast<QWidget*>(m_parts->ToolbarFrame),
-          static_cast<QWidget*>(m_parts->ShopToolbar), m_parts->CategoriesAndProductsTree->viewport()}) {
+    for (QWidget* surface : {static_cast<QWidget*>(this), m_parts->ToolbarFrame->parentWidget(),
+                             static_cast<QWidget*>(m_parts->ToolbarFrame), static_cast<QWidget*>(m_parts->ShopToolbar),
+                             m_parts->CategoriesAndProductsTree->viewport()}) {
         surface->setMouseTracking(true);
         surface->installEventFilter(this);
     }

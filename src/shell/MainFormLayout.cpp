@@ -1,6 +1,7 @@
 #include "shell/MainFormLayout.h"
 
 #include "shell/CatalogueTree.h"
+#include "shell/ContentRoom.h"
 #include "shell/ProgressFrames.h"
 #include "shell/ShortcartButton.h"
 #include "shell/TreePane.h"
@@ -96,12 +97,13 @@ void MainFormLayout::makeCatalogue(QWidget* parent, FatalErrorHandler& errors)
     treePane->setMinimumWidth(pixels(1500));
     imgSplitter->addWidget(treePane);
 
-    auto* right = new QWidget(imgSplitter);
-    right->setMinimumWidth(pixels(1500));
-    imgSplitter->addWidget(right);
+    auto* rightRoom = new ContentRoom(imgSplitter);
+    rightRoom->setMinimumWidth(pixels(1500));
+    imgSplitter->addWidget(rightRoom);
     imgSplitter->setStretchFactor(1, 1);
     imgSplitter->setSizes({pixels(2800), pixels(9100)});
 
+    QWidget* right = rightRoom->content();
     auto* column = tightLayout<QVBoxLayout>(right);
     ContextToolbarFrame = namedFrame("ContextToolbarFrame", right);
     ContextToolbarFrame->setFixedHeight(pixels(980));
@@ -179,7 +181,7 @@ void MainFormLayout::makeButtons(const ApplicationFolder& folder, LoadLog& log, 
 
 void MainFormLayout::arrangeOverlays(const QSize& window) const
 {
-    if (window.width() < pixels(6250) || window.height() < pixels(3000)) {
+    if (!IsArranged(window)) {
         return;
     }
     PrBar->setGeometry(pixels(50), frmCopyright->y() + 4, pixels(3000), 18);

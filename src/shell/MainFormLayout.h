@@ -22,8 +22,8 @@ class TreePane;
 
 struct MainFormLayout
 {
-    // Makes everything inside the given central widget. The browser's widget is taken over as PreviewBrowser. Each
-    // button logs that it was made.
+    // Makes everything inside the given widget, the content of the window. The browser's widget is taken over as
+    // PreviewBrowser. Each button logs that it was made.
     MainFormLayout(QWidget* central, QWidget* preview, const ApplicationFolder& folder, LoadLog& log,
                    FatalErrorHandler& errors);
 

@@ -2,7 +2,15 @@
 // pixel, so that today's fonts fit.
 #pragma once
 
+#include <QSize>
+
 constexpr int pixels(int twips)
 {
     return twips / 10;
+}
+
+// In a smaller window nothing is arranged: what is in it keeps its place.
+inline bool IsArranged(const QSize& window)
+{
+    return window.width() >= pixels(6250) && window.height() >= pixels(3000);
 }

@@ -142,8 +142,9 @@ TEST_F(ButtonHover, EndsForEightButtonsOnAMoveOverTheWindow)
     const QStringList darkening = {u"ShopTaxesSBtn"_s,      u"ShopDiscountSBtn"_s,    u"ShopGeneralSBtn"_s,
                                    u"PreviewBrowserSBtn"_s, u"ShopDesignSBtn"_s,      u"ProductCatalogSBtn"_s,
                                    u"SaveShopSBtn"_s,       u"CategoryDiscountSBtn"_s};
-    for (QWidget* surface : {find("ToolbarFrame"), find("ShopToolbar"),
-                             window->parts().CategoriesAndProductsTree->viewport(), window->centralWidget()}) {
+    for (QWidget* surface :
+         {find("ToolbarFrame"), find("ShopToolbar"), window->parts().CategoriesAndProductsTree->viewport(),
+          find("ToolbarFrame")->parentWidget()}) {
         SCOPED_TRACE(surface->objectName().toStdString());
         // The hidden toolbars' buttons have no size otherwise.
         find("CategoryToolbar")->show();
