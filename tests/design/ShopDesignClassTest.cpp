@@ -2,6 +2,9 @@
 
 #include "DesignFixture.h"
 
+#include <memory>
+#include <vector>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -205,15 +208,74 @@ TEST_F(ShopDesigns, TheThreeMembersOutsideTheFileDoNotReachIt)
 
 TEST_F(ShopDesigns, SlotsAndSelectionsKeepTheirIdentityAndGetNewContent)
 {
-    const auto logo = design.Image(ImageSlot::HeaderLogo);
-    const auto footer = design.Pages(PageSelection::FooterCustomPageSelected);
-    design.FromXML(element("<ShopDesign><HEADER_LOGO><SelectionType>Text</SelectionType><Text>Logo</Text></HEADER_LOGO>"
-                           "<FOOTER_MENU_LIST><PAGES><SelectedPage>About</SelectedPage></PAGES></FOOTER_MENU_LIST>"
-                           "</ShopDesign>"));
-    EXPECT_EQ(design.Image(ImageSlot::HeaderLogo), logo);
-    EXPECT_EQ(logo->TextValue, u"Logo"_s);
-    EXPECT_EQ(design.Pages(PageSelection::FooterCustomPageSelected), footer);
-    EXPECT_EQ(footer->selectedPages().Item(1), u"About"_s);
+    QByteArray xml;
+    std::vector<std::shared_ptr<clsSelectedImage>> images;
+    for (std::size_t i = 0; i < ImageSlotCount; ++i) {
+        images.push_back(design.Image(static_cast<ImageSlot>(i)));
+        const QByteArray tag = images.back()->Tag.toUtf8();
+        xml += '<' + tag + "><Text>new " + tag + "</Text></" + tag + '>';
+    }
+    std::vector<std::shared_ptr<clsSelectedCustomPages>> selections;
+    for (std::size_t i = 0; i < PageSelectionCount; ++i) {
+        selections.push_back(design.Pages(static_cast<PageSelection>(i)));
+        selections.back()->Add(u"old"_s);
+        const QByteArray tag = selections.back()->Tag.toUtf8();
+        xml += '<' + tag + "><P><S>new " + tag + "</S></P></" + tag + '>';
+    }
+    design.FromXML(element("<ShopDesign>" + xml + "</ShopDesign>"));
+    for (std::size_t i = 0; i < ImageSlotCount; ++i) {
+        EXPECT_EQ(design.Image(static_cast<ImageSlot>(i)), images[i]);
+        EXPECT_EQ(images[i]->TextValue, u"new "_s + images[i]->Tag);
+    }
+    for (std::size_t i = 0; i < PageSelectionCount; ++i) {
+        EXPECT_EQ(design.Pages(static_cast<PageSelection>(i)), selections[i]);
+        ASSERT_EQ(selections[i]->selectedPages().Count(), 1);
+        EXPECT_EQ(selections[i]->selectedPages().Item(1), u"new "_s + selections[i]->Tag);
+    }
+}
+
+// The first broken one ends the reading, so that the number of the error tells which of two is read first.
+TEST_F(ShopDesigns, SelectionsAndSlotsAreReadInAnOrderThatIsNotTheOneOfWriting)
+{
+    const QList<QByteArray> selections = {"FOOTER_MENU_LIST", "HEADER_MENU_LIST", "LEFT_MENU_MENU_LIST",
+                                          "CUSTOM_PAGE_AS_MAIN_PAGE", "MAIN_PAGE_MENU_LIST"};
+    const QList<QByteArray> slotTags = {"HEADER_LOGO",
+                                        "HEADER_SEARCH_BUTTON",
+                                        "HEADER_SHOPPINGCART_BUTTON",
+                                        "MENU_SEARCH_BUTTON",
+                                        "MENU_SHOPPINGCART_BUTTON",
+                                        "MAIN_SEARCH_BUTTON",
+                                        "SEARCHPAGE_SHOPPINGCART_BUTTON",
+                                        "PRODUCT_CART_BUTTON",
+                                        "CATEGORY_CART_BUTTON",
+                                        "CARTPAGE_RECALCULATE_BUTTON",
+                                        "CARTPAGE_CHECKOUT_BUTTON",
+                                        "BUYINGFORM_MAKEORDER_BUTTON"};
+    const auto rowWithoutName = [](const QByteArray& tag) { return '<' + tag + "><P/></" + tag + '>'; };
+    const auto nameTwice = [](const QByteArray& tag) {
+        return '<' + tag + "><P><S>a</S></P><P><S>a</S></P></" + tag + '>';
+    };
+    const auto withWidth = [](const QByteArray& tag, const QByteArray& width) {
+        return '<' + tag + "><SelectionType>Image</SelectionType><Width>" + width + "</Width></" + tag + '>';
+    };
+    const auto errorOf = [&](const QByteArray& one, const QByteArray& other) {
+        const int error = ErrorOf([&] { design.FromXML(element("<ShopDesign>" + one + other + "</ShopDesign>")); });
+        EXPECT_EQ(ErrorOf([&] { design.FromXML(element("<ShopDesign>" + other + one + "</ShopDesign>")); }), error);
+        return error;
+    };
+    for (qsizetype i = 1; i < selections.size(); ++i) {
+        const QByteArray& first = selections[i - 1];
+        const QByteArray& second = selections[i];
+        EXPECT_EQ(errorOf(rowWithoutName(first), nameTwice(second)), 91) << second.toStdString();
+        EXPECT_EQ(errorOf(nameTwice(first), rowWithoutName(second)), 457) << second.toStdString();
+    }
+    for (qsizetype i = 1; i < slotTags.size(); ++i) {
+        const QByteArray& first = slotTags[i - 1];
+        const QByteArray& second = slotTags[i];
+        EXPECT_EQ(errorOf(withWidth(first, "wide"), withWidth(second, "40000")), 13) << second.toStdString();
+        EXPECT_EQ(errorOf(withWidth(first, "40000"), withWidth(second, "wide")), 6) << second.toStdString();
+    }
+    EXPECT_EQ(errorOf(rowWithoutName(selections.last()), withWidth(slotTags.first(), "wide")), 91);
 }
 
 TEST_F(ShopDesigns, EverySlotAndSelectionIsWrittenAndReadBack)

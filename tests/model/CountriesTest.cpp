@@ -29,6 +29,15 @@ TEST_F(Countries, AnEmptyFileGivesAnEmptyCollection)
     EXPECT_TRUE(session.CountriesCollection.isEmpty());
 }
 
+TEST_F(Countries, BlanksAheadEmptyLinesAndTheLastLineEndMakeNoName)
+{
+    EXPECT_EQ(loadCountries("  Austria\r\n\r\n   \r\n\"Korea, South\"\r\nChad"), 0);
+    ASSERT_EQ(session.CountriesCollection.Count(), 3);
+    EXPECT_EQ(session.CountriesCollection.Item(1), u"Austria"_s);
+    EXPECT_EQ(session.CountriesCollection.Item(2), u"Korea, South"_s);
+    EXPECT_EQ(session.CountriesCollection.Item(3), u"Chad"_s);
+}
+
 TEST_F(Countries, AMissingFileIsError53)
 {
     EXPECT_EQ(ErrorOf([this] { session.LoadCountries(); }), 53);

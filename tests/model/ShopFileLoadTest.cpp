@@ -93,6 +93,22 @@ TEST_F(ShopFileLoad, AFileOfAnyOtherVersionIsRewrittenAtOnce)
     }
 }
 
+TEST_F(ShopFileLoad, AFileWithoutAVersionCountsAsAnOldOneAndIsRewritten)
+{
+    // A product without "Related" is read from old files only.
+    ASSERT_EQ(load("<Tarnwick><Shop><SelectedCountries/><Category><Id>2</Id><Product><Id>3</Id></Product>"
+                   "<Product><Id>4</Id><Related><A><RId>7</RId></A><RId>8</RId></Related></Product></Category></Shop>"
+                   "</Tarnwick>"),
+              0);
+    EXPECT_EQ(session.LoadedShopVersion, QString());
+    EXPECT_EQ(session.shop->Version, u"1.2.0"_s);
+    EXPECT_EQ(firstProduct()->related, QStringList{QString()});
+    EXPECT_EQ(rootCategory()->products.Item(2)->related, (QStringList{u"7"_s, u"8"_s, QString()}));
+    const QByteArray bytes = FileBytes(session.folder.shopFile());
+    EXPECT_TRUE(bytes.startsWith("<Tarnwick><Shop><Version>1.2.0</Version>"));
+    EXPECT_TRUE(bytes.contains("<Related/></Product>"));
+}
+
 TEST_F(ShopFileLoad, TheRewritingGoesThroughTheSessionsSave)
 {
     int saves = 0;

@@ -145,6 +145,16 @@ TEST_F(Carts, TheTotalIsComputedInSingles)
     EXPECT_EQ(cart().TotalCost(), u"16777216"_s);
 }
 
+TEST_F(Carts, TaxIsAddedInSinglesToo)
+{
+    // In doubles the two totals would be 1320987.625 and 1469135.75, which are other singles.
+    add(u"3"_s, Localised(u"1234567.89"_s), u"1"_s);
+    cart().tax = 7;
+    EXPECT_EQ(cart().TotalCost(), Localised(u"1320987.8"_s));
+    cart().tax = 19;
+    EXPECT_EQ(cart().TotalCost(), Localised(u"1469135.9"_s));
+}
+
 TEST_F(Carts, TheTotalNeedsNumbers)
 {
     add(u"3"_s, u"ten"_s, u"1"_s);

@@ -205,6 +205,19 @@ TEST_F(Discounts, AnInheritingCategoryHandsBandsOnAndNoneWhenTheWindowIsClosed)
     EXPECT_EQ(product->Value(u"50"_s), QString());
 }
 
+TEST_F(Discounts, BandsThatAnInheritingLevelHasAreHandedOnWithinTheDatesOfThePushOnly)
+{
+    shop->Status = DiscountStatus::Depend;
+    shop->DependedDiscounts()->Add(u"10"_s, u"100"_s, u"5"_s);
+    push();
+    category->SendDiscountToChilds(QString(), day(-1));
+    EXPECT_EQ(category->ParentDependDiscounts, shop->DependedDiscounts());
+    EXPECT_EQ(product->ParentDependDiscounts, nullptr);
+    EXPECT_EQ(product->Value(u"50"_s), QString());
+    category->SendDiscountToChilds(QString(), day(0));
+    EXPECT_EQ(product->Value(u"50"_s), u"5"_s);
+}
+
 TEST_F(Discounts, TheDatesOfAnInheritingLevelHaveNoEffectInValue)
 {
     setToAll(*shop, u"10"_s);

@@ -150,6 +150,22 @@ TEST_F(CartPageTest, EverySumIsRoundedToASingle)
     EXPECT_EQ(std::get<float>(vars.Item(u"totalcost")), 16777216.0F);
 }
 
+TEST_F(CartPageTest, PriceTimesQuantityIsNotRoundedAheadOfTheSum)
+{
+    sencha->Price()->Value = u"16777217"_s; // no single: as one it would be a whole number less
+    addToCart(sencha, u"1"_s, u"3"_s);
+    const Variables vars = variablesOf(u"cart"_s);
+    EXPECT_EQ(std::get<float>(vars.Item(u"totalcost")), 50331652.0F);
+}
+
+TEST_F(CartPageTest, AVariantWithoutAPriceCostsNothing)
+{
+    addVariant(*sencha, u"bag"_s, u"8"_s);
+    addToCart(sencha, QString(), u"3"_s);
+    EXPECT_EQ(page(u"totalcost"_s), u"0"_s);
+    EXPECT_EQ(line(1, u"price"_s), u"20"_s);
+}
+
 TEST_F(CartPageTest, TheTotalStartsAtZeroOnEachRenderingAndHoldsNoTaxAndNoCharge)
 {
     addToCart(sencha, u"20"_s, u"2"_s);

@@ -117,6 +117,30 @@ TEST_F(PreviewCartTest, RecalculationSetsTaxAndCharge)
     }
 }
 
+TEST_F(PreviewCartTest, WhatIsNoRecalculationLeavesTaxAndCharge)
+{
+    for (const char* url :
+         {"~?recalculate=1&tax=7&charge=5", "~?recalculate=1&ACTION=checkout.php&tax=7&charge=5",
+          "~?tax=7&charge=5&ACTION=checkout.php", "~?ACTION=checkout.php&recalculate=1&tax=7&charge=5",
+          "~?ACTION=checkout.php&recalculate=1&tax=7&charge=5&ACTION=checkout.php",
+          "~MAINPAGE&recalculate=1&tax=7&charge=5", "~ACTION=shopcart.php&recalculate=1&tax=7&ACTION=checkout.php",
+          "http://example.com/?recalculate=1&tax=7&charge=5&ACTION=checkout.php"}) {
+        session.Cart->tax = 99;
+        session.Cart->Charge = 98;
+        goTo(url);
+        EXPECT_EQ(session.Cart->tax, 99.0F) << url;
+        EXPECT_EQ(session.Cart->Charge, 98.0F) << url;
+    }
+}
+
+TEST_F(PreviewCartTest, WithoutAProductTheCartIsOnlyShown)
+{
+    // A line that the defaults of the other fields would remove.
+    addToCart(addProduct(u"-1"_s, u"Odd"_s, u"0"_s, tea), u"0"_s, u"1"_s);
+    EXPECT_EQ(goTo("~ACTION=shopcart.php"), u"cart 1x-1"_s);
+    EXPECT_EQ(goTo("~?ACTION=shopcart.php&product_price=0&quantity=0"), u"cart 1x-1"_s);
+}
+
 TEST_F(PreviewCartTest, TheRecalculatedTotalIsOnTheCheckout)
 {
     addToCart(sencha, u"20"_s, u"1"_s);

@@ -147,6 +147,12 @@ TEST_F(ProductPageTest, WithoutRelatedProductsTheGuardIsEmptyAndTheListMissing)
     EXPECT_EQ(page(u"related"_s), u"MISSING"_s);
 }
 
+TEST_F(ProductPageTest, AProductThatIsNotForSaleSaysSo)
+{
+    sencha->ForSale = false;
+    EXPECT_EQ(page(u"ForSale"_s), u"False"_s);
+}
+
 TEST_F(ProductPageTest, AnEmptyPriceIsNotReplacedHere)
 {
     // Without a discount both pages agree; the discounted text of nothing is "0" here, too.

@@ -101,6 +101,22 @@ TEST_F(SearchPageTest, AProductRowHasNoCurrency)
     EXPECT_EQ(valueInRow(u"search"_s, found(u"tea"_s, {sencha}), u"products"_s, 1, u"shop_currency"_s), u"MISSING"_s);
 }
 
+TEST_F(SearchPageTest, AProductThatIsNotForSaleSaysSo)
+{
+    sencha->ForSale = false;
+    EXPECT_EQ(valueInRow(u"search"_s, found(u"tea"_s, {sencha}), u"products"_s, 1, u"ForSale"_s), u"False"_s);
+}
+
+TEST_F(SearchPageTest, ANewPriceOfBandsNeedsAPrice)
+{
+    sencha->Price()->Value.clear();
+    sencha->Price()->Discount()->Status = DiscountStatus::Inherit;
+    auto bands = std::make_shared<clsDependedDiscounts>();
+    bands->Add(u"1"_s, u"2"_s, u"50"_s);
+    sencha->Price()->Discount()->ParentDependDiscounts = bands;
+    EXPECT_EQ(ErrorOf([&] { variablesOf(u"search"_s, found(u"tea"_s, {sencha})); }), 13);
+}
+
 TEST_F(SearchPageTest, NothingFoundIsAListWithoutRowsAndTheGuardSaysNo)
 {
     const Variables vars = variablesOf(u"search"_s, found(u"coffee"_s));

@@ -86,6 +86,7 @@ const Golden Goldens[] = {
     {"STATIC in another case is a value", u"<!--:Static:shop_name:-->", u"Cups"},
     {"a closing tag that closes nothing is a value", u"<!--:end:shop_name:-->", u"Cups"},
     {"a closing tag in another case", u"<!--:cycle:products:--><!--:id:--><!--:END:Products:-->|", u"12|"},
+    {"a closing tag in another case outside of ASCII", u"<!--:ifnot:Größe:-->x<!--:END:GRÖßE:-->|", u"x|"},
 
     // Static.
     {"static makes nothing of a variable", u"a<!--:static:shop_name:-->b", u"ab"},
