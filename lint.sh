@@ -1,23 +1,47 @@
 #!/usr/bin/env bash
 # The format of all our sources, the shell scripts, the desktop entry, and clang-tidy, which also reports the second
-# compiler's warnings, over the program's own sources. --format: all but clang-tidy. --all: clang-tidy over tests,
-# benchmarks and fuzz targets too.
+# compiler's warnings, over the program's own sources.
+#   --format            all but clang-tidy
+#   --all               clang-tidy over tests, benchmarks and fuzz targets too
+#   --changed [COMMIT]  clang-tidy over what differs from that commit (HEAD), and over what includes a header that does
+#   FILE...             clang-tidy over these sources
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
+
+# The sources among the given files, and those that include a header among them.
+sources_of() {
+  local file
+  for file in "$@"; do
+    case $file in
+      *.cpp) echo "$file" ;;
+      *.h) git grep -lE --untracked "^#include \"([^\"]*/)?$(basename "$file")\"" -- '*.cpp' || true ;;
+    esac
+  done | sort -u
+}
 
 need git clang-format shellcheck desktop-file-utils
 git ls-files '*.h' '*.cpp' | xargs -r clang-format --dry-run -Werror
 echo "clang-format: clean"
 git ls-files '*.sh' .ci/run | xargs -r shellcheck -x
 desktop-file-validate packaging/tarnwick.desktop
-echo "shellcheck and desktop-file-validate: clean"
-[ "${1:-}" != --format ] || exit 0
+echo "shellcheck, desktop-file-validate: clean"
+
+files=()
+case ${1:-} in
+  --format) exit 0 ;;
+  "") mapfile -t files < <(git ls-files 'src/*.cpp' 'tour/*.cpp') ;;
+  --all) mapfile -t files < <(git ls-files '*.cpp') ;;
+  --changed)
+    mapfile -t changed < <(git diff --name-only --diff-filter=d "${2:-HEAD}" -- '*.h' '*.cpp'
+      git ls-files --others --exclude-standard -- '*.h' '*.cpp')
+    mapfile -t files < <(sources_of "${changed[@]}")
+    ;;
+  *) files=("$@") ;;
+esac
 
 need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${LINT_PACKAGES[@]}"
 cmake --preset lint --log-level=WARNING
-sources=('src/*.cpp' 'tour/*.cpp')
-[ "${1:-}" != --all ] || sources+=('tests/*.cpp' 'bench/*.cpp' 'fuzz/*.cpp')
 # One file at a time on each core; what clang-tidy finds goes to the standard output, its counts are of no use.
-git ls-files "${sources[@]}" | xargs -r -n 1 -P "$(nproc)" clang-tidy -p build/lint --quiet 2>/dev/null
-echo "clang-tidy: clean"
+printf '%s\0' "${files[@]}" | xargs -0 -r -n 1 -P "$(nproc)" clang-tidy -p build/lint --quiet 2>/dev/null
+echo "clang-tidy: ${#files[@]} files, clean"

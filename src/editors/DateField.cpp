@@ -80,7 +80,8 @@ void DateField::keyPressEvent(QKeyEvent* event)
     QLineEdit::keyPressEvent(event);
 }
 
-MonthCalendar::MonthCalendar(const Clock& clock, QWidget* parent) : QCalendarWidget(parent), m_clock(clock)
+MonthCalendar::MonthCalendar(const Clock& clock, QWidget* parent)
+    : QCalendarWidget(parent), m_clock(clock), m_days(findChild<QAbstractItemView*>())
 {
     setObjectName(u"DateMV"_s);
     setAccessibleName(tr("Month calendar"));
@@ -89,7 +90,7 @@ MonthCalendar::MonthCalendar(const Clock& clock, QWidget* parent) : QCalendarWid
     setGridVisible(false);
     setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
     setDateRange(QDate(100, 1, 1), QDate(9999, 12, 31));
-    findChild<QAbstractItemView*>()->installEventFilter(this);
+    m_days->installEventFilter(this);
     dress();
 
     const auto pick = [this](const QDate& date) {
@@ -141,12 +142,14 @@ void MonthCalendar::openUnder(QLineEdit& field)
     }
     move(place);
     show();
-    findChild<QAbstractItemView*>()->setFocus();
+    m_days->setFocus();
 }
 
 bool MonthCalendar::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress && m_field) {
+    // While the year is typed, the calendar watches the whole program: only what is typed over the days is for the
+    // field.
+    if (watched == m_days && event->type() == QEvent::KeyPress && m_field) {
         auto* key = static_cast<QKeyEvent*>(event);
         if (key->key() == Qt::Key_Escape) {
             hide();

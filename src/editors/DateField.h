@@ -8,6 +8,7 @@
 #include <QLineEdit>
 
 class MonthCalendar;
+class QAbstractItemView;
 
 class DateField : public QLineEdit
 {
@@ -46,5 +47,6 @@ private:
     void dress();
 
     const Clock& m_clock;
+    QAbstractItemView* m_days; // the part with the keyboard's focus
     QLineEdit* m_field = nullptr;
 };

@@ -1,6 +1,6 @@
-// A room of the main window, such as all that is inside of its frame, and the content in it. The content fills the room,
-// but is never squeezed: where the room is too small it is cut off. In a window below the smallest size at which the
-// window is arranged at all it keeps its last layout. The room owns the content.
+// A room of the main window, such as all that is inside of its frame, and the content in it. The content fills the
+// room, but is never squeezed: where the room is too small it is cut off. In a window below the smallest size at which
+// the window is arranged at all it keeps its last layout. The room owns the content.
 #pragma once
 
 #include <QWidget>

@@ -66,7 +66,7 @@ TEST_F(Arrangement, KeepsItsLastLayoutInAWindowThatIsTooSmall)
     resizeTo(1000, 700);
     const QRect main = window->parts().MainFrame->geometry();
     const QRect tree = window->parts().treePane->geometry();
-    for (const QSize& size : {QSize(600, 700), QSize(1000, 280), QSize(200, 100)}) {
+    for (const QSize& size : {QSize(624, 700), QSize(1000, 299), QSize(200, 100)}) {
         resizeTo(size.width(), size.height());
         EXPECT_EQ(window->size(), size);
         EXPECT_EQ(window->parts().MainFrame->geometry(), main);
@@ -75,6 +75,18 @@ TEST_F(Arrangement, KeepsItsLastLayoutInAWindowThatIsTooSmall)
     resizeTo(1100, 750);
     EXPECT_EQ(window->parts().MainFrame->width(), main.width() + 100);
     EXPECT_EQ(window->parts().MainFrame->height(), main.height() + 50);
+}
+
+TEST_F(Arrangement, LaysTheSignsOfWorkOverTheContent)
+{
+    resizeTo(1100, 750);
+    EXPECT_EQ(find("PrBar")->x(), 5);
+    EXPECT_EQ(find("PrBar")->width(), 300);
+    EXPECT_EQ(find("SaveProgressFrame")->pos(), QPoint(216, 276));
+    // The bar stands on the line of the maker's notice, at the window's foot.
+    EXPECT_TRUE(isShown("lblCopyright"));
+    EXPECT_TRUE(find("frmCopyright")->geometry().contains(find("PrBar")->geometry().center()));
+    EXPECT_GE(find("frmCopyright")->y(), window->parts().treePane->geometry().bottom());
 }
 
 TEST_F(Arrangement, CutsOffWhatFindsNoRoomAndSqueezesNothing)

@@ -115,6 +115,20 @@ TEST_F(ButtonHover, TakesBothPicturesFromTheTableByTheTitle)
     }
 }
 
+TEST_F(ButtonHover, HasPicturesThatTellInsideFromOutside)
+{
+    constexpr QSize size(48, 48);
+    for (const Expected& expected : expectedPictures) {
+        if (QByteArray(expected.outside).endsWith(".bmp")) {
+            continue; // the shop's own files
+        }
+        const QImage outside = pictureOf(u":/icons/%1.svg"_s.arg(QLatin1String(expected.outside)), size);
+        const QImage inside = pictureOf(u":/icons/%1.svg"_s.arg(QLatin1String(expected.inside)), size);
+        EXPECT_EQ(outside.size(), size) << expected.title;
+        EXPECT_EQ(outside == inside, qstrcmp(expected.outside, expected.inside) == 0) << expected.title;
+    }
+}
+
 TEST_F(ButtonHover, ShowsTheOutsidePictureNearTheEdges)
 {
     const auto button = makeButton("Taxes");

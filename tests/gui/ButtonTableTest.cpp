@@ -110,8 +110,17 @@ TEST_F(Buttons, OfTheDesignMenuShowTheirPanels)
 
 TEST_F(Buttons, AreClickedByActivateToo)
 {
-    find<ShortcartButton>("ShopTaxesSBtn")->Activate();
+    auto* button = find<ShortcartButton>("ShopTaxesSBtn");
+    bool panelAtTheClick = false;
+    int clicks = 0;
+    QObject::connect(button, &ShortcartButton::Click, button, [&] {
+        panelAtTheClick = isShown("ShopTaxesPnl"); // the panel first, then the button's own click
+        ++clicks;
+    });
+    button->Activate();
     EXPECT_TRUE(isShown("ShopTaxesPnl"));
+    EXPECT_TRUE(panelAtTheClick);
+    EXPECT_EQ(clicks, 1);
 }
 
 TEST_F(Buttons, OnlyRaiseTheirClickBesideThePicture)

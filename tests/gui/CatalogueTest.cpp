@@ -6,6 +6,7 @@
 #include "shell/Theme.h"
 #include "support/WindowTest.h"
 
+#include <QLineEdit>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -61,6 +62,30 @@ TEST_F(Catalogue, ShowsThePictureOfAnOpenCategoryAndAClosedRootAtFirst)
     EXPECT_EQ(root->image, TreeImage::Opened);
 }
 
+TEST_F(Catalogue, OfAShopWithoutCategoriesIsTheRootAloneWithItsPanel)
+{
+    window.reset();
+    useShop("<Version>1.2.0</Version><Name>Fern</Name><SelectedCountries/>");
+    start();
+    CatalogueTree* tree = window->parts().CategoriesAndProductsTree;
+    EXPECT_TRUE(tree->nodes().rootNode()->children.empty());
+    EXPECT_TRUE(tree->isExpanded(tree->nodes().indexOf(tree->nodes().rootNode())));
+    EXPECT_EQ(selected()->key, u"ID_SHOP"_s);
+    EXPECT_EQ(panelName(), u"ShopGeneralPnl"_s);
+}
+
+TEST_F(Catalogue, ShowsAnOpenCategoryWhileItIsExpanded)
+{
+    CatalogueTree* tree = window->parts().CategoriesAndProductsTree;
+    TreeNode* tea = tree->nodes().rootNode()->children[0].get();
+    for (const bool expanded : {true, false}) {
+        clickNode(u"ID2"_s);
+        QTest::keyClick(tree, expanded ? Qt::Key_Right : Qt::Key_Left);
+        EXPECT_EQ(tree->isExpanded(tree->nodes().indexOf(tea)), expanded);
+        EXPECT_EQ(tea->image, expanded ? TreeImage::Opened : TreeImage::Closed);
+    }
+}
+
 TEST_F(Catalogue, OpensTheGeneralPanelOfAClickedNode)
 {
     clickNode(u"ID4"_s);
@@ -112,6 +137,9 @@ TEST_F(Catalogue, TakesANewCategoryBelowACategory)
     EXPECT_EQ(category("10")->parentCategory.lock(), category("2"));
     EXPECT_EQ(category("10")->ParentDiscount.lock(), category("2")->Discount());
     EXPECT_TRUE(category("2")->Discount()->Childs().HasKey(u"10"_s));
+    // Behind its siblings, whatever their kind.
+    EXPECT_EQ(selected()->parent->children.back().get(), selected());
+    EXPECT_EQ(selected()->parent->children.size(), 3U);
 }
 
 TEST_F(Catalogue, TakesANewProduct)
@@ -124,6 +152,8 @@ TEST_F(Catalogue, TakesANewProduct)
     EXPECT_TRUE(isShown("ProductToolbar"));
     EXPECT_TRUE(category("3")->products.HasKey(u"ID10"_s));
     EXPECT_FALSE(category("3")->Discount()->Childs().HasKey(u"10"_s));
+    const auto& product = window->session().objects.Product(u"10"_s);
+    EXPECT_EQ(product->Price()->Discount()->ParentDependDiscounts, category("3")->Discount()->DependedDiscounts());
 }
 
 TEST_F(Catalogue, LandsOnTheCategoryWhenAProductIsRemoved)
@@ -139,6 +169,7 @@ TEST_F(Catalogue, LandsOnTheCategoryWhenAProductIsRemoved)
 
 TEST_F(Catalogue, LandsOnTheShopWhenItsLastCategoryIsRemoved)
 {
+    ASSERT_TRUE(window->session().shop->Discount()->Childs().HasKey(u"2"_s));
     clickNode(u"ID2"_s);
     prompts.answerYesNo(warning, u"Are you sure you want to remove this category"_s, true);
     click("RemoveCategorySBtn");
@@ -146,8 +177,57 @@ TEST_F(Catalogue, LandsOnTheShopWhenItsLastCategoryIsRemoved)
     EXPECT_EQ(panelName(), u"ShopGeneralPnl"_s);
     EXPECT_TRUE(isShown("ShopToolbar"));
     EXPECT_TRUE(window->session().shop->categories.isEmpty());
+    EXPECT_FALSE(window->session().shop->Discount()->Childs().HasKey(u"2"_s));
     for (const char* key : {"ID2", "ID3", "ID4"}) {
         EXPECT_FALSE(window->session().objects.HasKey(QLatin1String(key))) << key;
+    }
+}
+
+TEST_F(Catalogue, LandsOnTheCategoryAboveWhenACategoryBelowItIsRemoved)
+{
+    ASSERT_TRUE(category("2")->Discount()->Childs().HasKey(u"3"_s));
+    clickNode(u"ID3"_s);
+    prompts.answerYesNo(warning, u"Are you sure you want to remove this category"_s, true);
+    click("RemoveCategorySBtn");
+    EXPECT_EQ(selected()->key, u"ID2"_s);
+    EXPECT_EQ(window->SelectedNode, selected());
+    EXPECT_EQ(panelName(), u"CategoryGeneralPnl"_s);
+    EXPECT_TRUE(isShown("CategoryToolbar"));
+    EXPECT_EQ(find<QLineEdit>("CategoryNameTxt")->text(), u"Tea"_s);
+    EXPECT_TRUE(category("2")->categories.isEmpty());
+    EXPECT_FALSE(category("2")->Discount()->Childs().HasKey(u"3"_s));
+    EXPECT_FALSE(window->session().objects.HasKey(u"ID3"_s));
+    EXPECT_TRUE(window->session().objects.HasKey(u"ID4"_s));
+}
+
+TEST_F(Catalogue, SavesNothingWhenARemovalIsRefusedAndKeepsThePanelBound)
+{
+    struct Refusal
+    {
+        const char* node;
+        const char* button;
+        const char* field;
+        const char* question;
+    };
+    const auto nameOf = [this](const char* node) {
+        const CatalogueObject object = window->session().objects.Item(QLatin1String(node));
+        const auto* held = std::get_if<std::shared_ptr<CategoryClass>>(&object);
+        return held ? (*held)->name : std::get<std::shared_ptr<ProductClass>>(object)->name;
+    };
+    for (const Refusal& row :
+         {Refusal{"ID4", "RemoveProductSBtn", "ProductNameTxt", "Are you sure you want to remove this product"},
+          Refusal{"ID3", "RemoveCategorySBtn", "CategoryNameTxt", "Are you sure you want to remove this category"}}) {
+        SCOPED_TRACE(row.node);
+        clickNode(QLatin1String(row.node));
+        const QString before = nameOf(row.node);
+        find<QLineEdit>(row.field)->setText(u"Matcha"_s);
+        prompts.answerYesNo(warning, QLatin1String(row.question), false);
+        click(row.button);
+        EXPECT_TRUE(isShown(row.field));
+        EXPECT_EQ(find<QLineEdit>(row.field)->text(), u"Matcha"_s);
+        EXPECT_EQ(nameOf(row.node), before);
+        window->ApplyActivePanel();
+        EXPECT_EQ(nameOf(row.node), u"Matcha"_s);
     }
 }
 

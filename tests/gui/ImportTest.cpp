@@ -3,9 +3,14 @@
 #include "model/ProductClass.h"
 #include "model/clsImporter.h"
 #include "shell/CatalogueTree.h"
+#include "shell/ImportIntoTree.h"
 #include "support/WindowTest.h"
 
-#include <QElapsedTimer>
+#include <QProgressBar>
+#include <QTest>
+
+#include <algorithm>
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -90,6 +95,58 @@ TEST_F(Import, TellsAFileThatCannotBeOpenedInABox)
     }
     ASSERT_EQ(shown, 1);
     trigger("mnuImport");
+}
+
+TEST_F(Import, MakesTheNodesThatALineAsksFor)
+{
+    struct Line
+    {
+        const char* line;
+        QStringList path; // from below the root to the product
+        const char* description;
+    };
+    const Line lines[] = {
+        {"a,b,c", {u"c"_s, u"a"_s}, "b"},         {"a,b,x\\y\\z", {u"x"_s, u"y"_s, u"z"_s, u"a"_s}, "b"},
+        {"\"a,b\",c,d", {u"d"_s, u"a,b"_s}, "c"}, {"a,b,w\\", {u"w"_s, u""_s, u"a"_s}, "b"},
+        {"p , q ,r", {u"r"_s, u"p"_s}, " q"},     {"same,1,s", {u"s"_s, u"same"_s}, "1"},
+        {"same,1,s", {u"s"_s, u"same"_s}, "1"},
+    };
+    QByteArray text;
+    for (const Line& line : lines) {
+        text += QByteArray(line.line) + '\n';
+    }
+    import(text);
+    for (const Line& line : lines) {
+        SCOPED_TRACE(line.line);
+        const TreeNode* node = root();
+        for (const QString& name : line.path) {
+            const auto below = std::find_if(node->children.begin(), node->children.end(),
+                                            [&](const auto& child) { return child->text == name; });
+            ASSERT_NE(below, node->children.end()) << name.toStdString();
+            node = below->get();
+        }
+        EXPECT_EQ(node->image, TreeImage::Product);
+        EXPECT_EQ(window->session().objects.Product(node->key.mid(2))->Description, QLatin1String(line.description));
+    }
+    // Tea was there before; equal lines make two products in the one category.
+    EXPECT_EQ(root()->children.size(), 7U);
+    const TreeNode* same = root()->children.back().get();
+    ASSERT_EQ(same->children.size(), 2U);
+    EXPECT_NE(same->children[0]->key, same->children[1]->key);
+}
+
+TEST_F(Import, ShowsItsProgressAfterAQuietSecond)
+{
+    auto import = std::make_unique<ImportIntoTree>(*window);
+    const clsImporter::Progress progress = import->progress();
+    progress(1, 4);
+    EXPECT_FALSE(isShown("ImportProgressFrame"));
+    QTest::qWait(1010);
+    progress(3, 4);
+    EXPECT_TRUE(isShown("ImportProgressFrame"));
+    EXPECT_EQ(find<QProgressBar>("ImportProgressBar")->value(), 75);
+    import.reset();
+    EXPECT_FALSE(isShown("ImportProgressFrame"));
 }
 
 TEST_F(Import, OfManyLinesFillsTheTreeInOneGo)

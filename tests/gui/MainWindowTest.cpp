@@ -5,6 +5,8 @@
 #include "support/WindowTest.h"
 
 #include <QAction>
+#include <QElapsedTimer>
+#include <QEvent>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QTest>
@@ -170,6 +172,23 @@ public:
     QStringList calls;
 };
 
+// Notes among a panel's calls when the short bar comes and goes.
+class BarWatch : public QObject
+{
+public:
+    explicit BarWatch(QStringList& notes) : m_notes(notes) {}
+    bool eventFilter(QObject* /*bar*/, QEvent* event) override
+    {
+        if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
+            m_notes << (event->type() == QEvent::Show ? u"bar"_s : u"no bar"_s);
+        }
+        return false;
+    }
+
+private:
+    QStringList& m_notes;
+};
+
 TEST_F(MainWindow, SavesAPanelTwiceThenUnbindsItWhenItIsLeft)
 {
     RecordingPanel panel(window.get());
@@ -180,6 +199,50 @@ TEST_F(MainWindow, SavesAPanelTwiceThenUnbindsItWhenItIsLeft)
     EXPECT_EQ(panel.calls, (QStringList{u"set"_s, u"save"_s, u"save"_s, u"clear"_s}));
     EXPECT_FALSE(panel.isVisible());
     EXPECT_EQ(window->VisibleFrame, nullptr);
+}
+
+TEST_F(MainWindow, UnbindsThePanelThatTheDesignTakesOverFrom)
+{
+    RecordingPanel panel(window.get());
+    window->ShowFrame(&panel, 0);
+    click("ShopDesignSBtn");
+    EXPECT_EQ(panel.calls, (QStringList{u"set"_s, u"save"_s, u"save"_s, u"clear"_s}));
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_EQ(window->VisibleFrame, find<Panel>("MainPagePnl"));
+}
+
+TEST_F(MainWindow, AcknowledgesEveryChangeOfPanelWithItsShortBarAheadOfTheSave)
+{
+    RecordingPanel panel(window.get());
+    BarWatch watch(panel.calls);
+    find("PrBar")->installEventFilter(&watch);
+    window->ShowFrame(&panel, 0);
+    panel.calls.clear();
+    QElapsedTimer time;
+    time.start();
+    window->ApplyActivePanel();
+    EXPECT_GE(time.elapsed(), 21); // a millisecond at each of its steps
+    EXPECT_EQ(panel.calls, (QStringList{u"bar"_s, u"no bar"_s, u"save"_s}));
+    panel.calls.clear();
+    window->ShowFrame(nullptr, 10);
+    EXPECT_EQ(panel.calls, (QStringList{u"save"_s}));
+    panel.calls.clear();
+    window->ShowFrame(nullptr, 0);
+    EXPECT_EQ(panel.calls, (QStringList{u"bar"_s, u"no bar"_s, u"save"_s, u"save"_s, u"clear"_s}));
+}
+
+TEST_F(MainWindow, PreparesTheClicksOfTheButtonsThatMayFollow)
+{
+    const auto code = [this](const char* button) { return find<ShortcartButton>(button)->Code; };
+    for (const char* button : {"SaveShopSBtn", "PreviewBrowserSBtn", "UploadShopSBtn"}) {
+        EXPECT_EQ(code(button), 0) << button;
+    }
+    click("ShopDesignSBtn");
+    EXPECT_EQ(code("PreviewBrowserSBtn"), 10);
+    EXPECT_EQ(code("SaveShopSBtn"), 0);
+    click("ProductCatalogSBtn");
+    EXPECT_EQ(code("SaveShopSBtn"), 10);
+    EXPECT_EQ(code("UploadShopSBtn"), 0); // so that its click closes the panel
 }
 
 TEST_F(MainWindow, OnlyGathersWithCodeTen)
@@ -197,6 +260,8 @@ TEST_F(MainWindow, DoesNothingWithCodeTenAndNoPanel)
 {
     window->ShowFrame(nullptr, 0);
     window->ShowFrame(nullptr, 10);
+    window->ApplyActivePanel();
+    window->ResetActivePanel();
     EXPECT_EQ(window->VisibleFrame, nullptr);
 }
 

@@ -65,12 +65,13 @@ TEST_F(SaveShop, GathersSavesAndLeavesThePanelOpenOnAPressOfItsButton)
     EXPECT_EQ(find<ShortcartButton>("SaveShopSBtn")->Code, 10);
 }
 
-TEST_F(SaveShop, DoesNothingOnASecondPressWithTheFocusStillThere)
+TEST_F(SaveShop, OnlyGathersOnASecondPressWithTheFocusStillThere)
 {
     click("SaveShopSBtn");
     typeShopName(u"Moss"_s);
     click("SaveShopSBtn");
     EXPECT_FALSE(savedShop().contains("<Name>Moss</Name>"));
+    EXPECT_EQ(window->session().shop->name, u"Moss"_s);
     trigger("mnuSaveShop");
     EXPECT_TRUE(savedShop().contains("<Name>Moss</Name>"));
 }

@@ -5,6 +5,7 @@
 #include "support/WindowTest.h"
 
 #include <QDir>
+#include <QProgressBar>
 
 using namespace Qt::StringLiterals;
 
@@ -183,6 +184,7 @@ TEST_F(StartUp, RewritesAFileOfAnotherVersionAheadOfTheWindow)
     const QByteArray saved = FileBytes(files.path(u"shop.xml"_s));
     EXPECT_TRUE(saved.startsWith("<Tarnwick><Shop><Version>1.2.0</Version>")) << saved.left(80).toStdString();
     EXPECT_TRUE(find("SaveProgressFrame")->isHidden());
+    EXPECT_EQ(find<QProgressBar>("SaveProgressBar")->value(), 100); // it ran, though nobody could see it
 }
 
 TEST_F(StartUp, LeavesAFileOfItsOwnVersionAlone)

@@ -66,6 +66,7 @@ CustomPageManager::CustomPageManager(PanelHost& panelHost, QWidget* parent)
 QWidget* CustomPageManager::makeEditor()
 {
     CustomPagesListCtl->setObjectName(u"CustomPagesListCtl"_s);
+    CustomPagesListCtl->setAccessibleName(tr("Pages")); // a list takes none from its caption
     CustomPagesListCtl->setSpacing(1);
     AddPageBtn->setObjectName(u"AddPageBtn"_s);
     DeletePageBtn->setObjectName(u"DeletePageBtn"_s);

@@ -5,6 +5,8 @@
 #include <QAbstractItemView>
 #include <QLabel>
 #include <QRadioButton>
+#include <QSpinBox>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
@@ -243,6 +245,25 @@ TEST_F(CategoryPanels, KeepATextThatIsNoDate)
     calendar()->hide();
     EXPECT_EQ(textIn("DateFromTxt"), u"soon"_s);
     reset();
+}
+
+TEST_F(CategoryPanels, TakeAYearThatIsTypedIntoTheMonth)
+{
+    discount().Status = DiscountStatus::ToAll;
+    click("CategoryDiscountSBtn");
+    clickField("DateFromTxt");
+    QTest::mouseClick(calendar()->findChild<QToolButton*>(u"qt_calendar_yearbutton"_s), Qt::LeftButton);
+    auto* year = calendar()->findChild<QSpinBox*>(u"qt_calendar_yearedit"_s);
+    ASSERT_TRUE(year->isVisible());
+    year->selectAll();
+    QTest::keyClicks(year, u"2031"_s);
+    EXPECT_TRUE(calendar()->isVisible());
+    EXPECT_EQ(textIn("DateFromTxt"), QString());
+    QTest::keyClick(year, Qt::Key_Return);
+    EXPECT_FALSE(year->isVisible());
+    EXPECT_EQ(calendar()->yearShown(), 2031);
+    clickDay(3);
+    EXPECT_EQ(textIn("DateFromTxt"), QLocale().language() == QLocale::German ? u"03.07.2031"_s : u"7/3/2031"_s);
 }
 
 TEST_F(CategoryPanels, OpenNoMonthForDatesThatAreNotUsed)

@@ -116,6 +116,16 @@ TEST_F(Grid, PutsItsEditorOverTheCell)
     EXPECT_FALSE(grid->ForGridTxt->isVisible());
 }
 
+TEST_F(Grid, HidesItsEditorWhenAnotherControlTakesTheFocus)
+{
+    grid->Init({u"One"_s}, {texts({u"a"_s})});
+    clickCell(grid.get(), 0, 0);
+    QTest::keyClicks(grid->ForGridTxt, u"b"_s);
+    grid->AddItemButtonLbl->setFocus();
+    EXPECT_FALSE(grid->ForGridTxt->isVisible());
+    EXPECT_EQ(cell(grid.get(), 0, 0), u"ab"_s);
+}
+
 TEST_F(Grid, DoesNothingWhenItsHeaderIsClicked)
 {
     grid->Init({u"One"_s}, {texts({u"a"_s})});

@@ -85,6 +85,31 @@ TEST_F(ShopPanels, WriteTheShopsDiscountAndPushItDown)
     EXPECT_EQ(product("4")->Price()->Discount()->Value(u"10"_s), Localised(u"12.5"_s));
 }
 
+TEST_F(ShopPanels, GreyTheDatesThatADiscountDoesNotUse)
+{
+    click("ShopDiscountSBtn");
+    const std::pair<const char*, bool> options[] = {{"DependOpt", true}, {"NoDiscountOpt", false}, {"ApplyOpt", true}};
+    for (const auto& [option, used] : options) {
+        press(option);
+        for (const char* field : {"DateFromTxt", "DateToTxt"}) {
+            const QColor colour = in(field)->palette().color(QPalette::Base);
+            EXPECT_EQ(colour, used ? QColor(255, 255, 255) : QColor(192, 192, 192)) << option;
+        }
+    }
+}
+
+TEST_F(ShopPanels, LeaveTheBandsInPlaceWhenTheGridIsEmpty)
+{
+    shop().Discount()->Status = DiscountStatus::Depend;
+    shop().Discount()->DependedDiscounts()->Add(u"1"_s, u"20"_s, u"5"_s);
+    click("ShopDiscountSBtn");
+    clickCell(in<CustomGrid>("DiscountGrd"), 0, 3);
+    submit();
+    ASSERT_EQ(shop().Discount()->DependedDiscounts()->Count(), 1);
+    reset();
+    EXPECT_EQ(rowOf(in<CustomGrid>("DiscountGrd"), 0), (QStringList{u"1"_s, u"20"_s, u"5"_s}));
+}
+
 TEST_F(ShopPanels, ShowTheBandsOnlyWhereThePriceDecides)
 {
     click("ShopDiscountSBtn");
@@ -217,6 +242,27 @@ TEST_F(ShopPanels, ToggleTheRowsOwnTaxBelowARemovedOne)
     EXPECT_EQ(shop().Taxes.Item(1).TaxName, u"Local"_s);
     clickCell(grid, 0, 2);
     EXPECT_FALSE(shop().Taxes.Item(1).IsChecked);
+}
+
+TEST_F(ShopPanels, ToggleAndAppendAChargeAtOnceAndKeepBothOnReset)
+{
+    click("ShippingChargesSBtn");
+    press("cmbSelectCharges");
+    auto* grid = in<CustomGrid>("gridCharges");
+    const auto picture = [&](int row) {
+        return grid->BaseGrd->item(row, 2)->data(Qt::DecorationRole).value<QPixmap>().toImage();
+    };
+    EXPECT_NE(picture(0), picture(1));
+    clickCell(grid, 0, 2);
+    EXPECT_TRUE(shop().Charges.Item(1).IsChecked);
+    EXPECT_EQ(picture(0), picture(1));
+    addRow(grid, {u"Moon"_s, u"99"_s});
+    EXPECT_EQ(shop().Charges.Count(), 3);
+    EXPECT_NE(picture(2), picture(0));
+    reset();
+    EXPECT_TRUE(shop().Charges.Item(1).IsChecked);
+    ASSERT_EQ(shop().Charges.Count(), 3);
+    EXPECT_EQ(rowOf(grid, 2), (QStringList{QString(), QString(), QString()}));
 }
 
 TEST_F(ShopPanels, KeepTheCostOfAChargeAsItIsTyped)

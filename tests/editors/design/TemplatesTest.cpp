@@ -5,6 +5,8 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QTest>
+#include <QTextBlock>
+#include <QTextLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -299,6 +301,40 @@ TEST_F(Templates, TellWhileOneTypesWhatIsWrongAndWhere)
     }
     QTest::keyClick(field, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_TRUE(errors.numbers.empty());
+}
+
+TEST_F(Templates, StandInLettersOfOneWidthWithNumberedLines)
+{
+    openInDesign(category.button);
+    switchOn(category);
+    auto* field = in<QPlainTextEdit>("TemplateTxt");
+    EXPECT_EQ(field->fontMetrics().horizontalAdvance(u"iiii"_s), field->fontMetrics().horizontalAdvance(u"WWWW"_s));
+    const auto numbers = [field] {
+        QCoreApplication::processEvents();
+        const QRect text = field->viewport()->geometry();
+        return field->grab(QRect(0, text.top(), text.left() - 1, text.height())).toImage();
+    };
+    type(field, u"a"_s);
+    const QImage one = numbers();
+    pressKeys(field, u"b"_s);
+    EXPECT_EQ(numbers(), one);
+    QTest::keyClick(field, Qt::Key_Return);
+    EXPECT_NE(numbers(), one);
+}
+
+TEST_F(Templates, HaveTheirTagsInColour)
+{
+    openInDesign(category.button);
+    switchOn(category);
+    auto* field = in<QPlainTextEdit>("TemplateTxt");
+    type(field, u"<p><!--:if:b=1:-->x<!--:a\n:--></p>"_s);
+    QStringList coloured;
+    for (QTextBlock line = field->document()->begin(); line.isValid(); line = line.next()) {
+        for (const QTextLayout::FormatRange& range : line.layout()->formats()) {
+            coloured << line.text().mid(range.start, range.length);
+        }
+    }
+    EXPECT_EQ(coloured, (QStringList{u"<!--:"_s, u"if:"_s, u"b=1"_s, u":-->"_s, u"<!--:"_s, u"a"_s, u":-->"_s}));
 }
 
 TEST_F(Templates, AreSearchedFromTheCursorAndOnFromTheOtherEnd)

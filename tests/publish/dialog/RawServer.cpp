@@ -3,7 +3,6 @@
 #include <QHostAddress>
 
 #include <algorithm>
-
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;

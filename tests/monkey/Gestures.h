@@ -1,0 +1,21 @@
+// What hands do on a window: press, drag, turn the wheel, type. A press may make the widget go, which is looked after.
+#pragma once
+
+#include <QKeySequence>
+#include <QPoint>
+#include <QString>
+#include <QWidget>
+
+// The class and the names from the widget up to the next named parents.
+QString NameOf(const QWidget& widget);
+
+void Press(QWidget& widget, const QPoint& place, Qt::MouseButton button = Qt::LeftButton);
+void PressTwice(QWidget& widget, const QPoint& place);
+void Drag(QWidget& widget, const QPoint& from, const QPoint& to);
+void TurnWheel(QWidget& widget, const QPoint& place, int steps);
+void AskForContextMenu(QWidget& widget, const QPoint& place);
+void PressKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString& text = {});
+// Key by key while the widget takes it; long texts by the clipboard.
+void TypeText(QWidget& widget, const QString& text);
+// The frame's button of the desktop.
+void PressClose(QWidget& window);

@@ -1,0 +1,196 @@
+#include "Monkey.h"
+
+#include "Gestures.h"
+#include "Notes.h"
+#include "OddTexts.h"
+#include "Watchdog.h"
+#include "publish/dialog/frmUpload.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QMenu>
+#include <QRegularExpression>
+#include <QScopedValueRollback>
+#include <QTimerEvent>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int deepest = 6; // turns inside of turns
+
+} // namespace
+
+Monkey::Monkey(MainForm& window, RecordingPreview& preview, Dice& dice, int& stepsLeft, const QString& server)
+    : m_window(window), m_preview(preview), m_dice(dice), m_stepsLeft(stepsLeft), m_server(server)
+{
+}
+
+void Monkey::play()
+{
+    startTimer(1);
+    m_loop.exec();
+    Watchdog::calmDown();
+}
+
+// A new timer for each turn: one that waits would not come again until then.
+void Monkey::timerEvent(QTimerEvent* event)
+{
+    killTimer(event->timerId());
+    turn();
+}
+
+void Monkey::turn()
+{
+    const QScopedValueRollback deeper(m_depth, m_depth + 1);
+    const bool isOver = m_stepsLeft <= 0 || !m_window.isVisible();
+    if (isOver && m_depth == 1 && !QApplication::activeModalWidget() && !QApplication::activePopupWidget()) {
+        m_loop.quit();
+        return;
+    }
+    // The next turn is called from here, or from wherever this one waits.
+    startTimer(1);
+    if (isOver || m_depth > deepest) {
+        windUp();
+        return;
+    }
+    const bool isAsked = QApplication::activeModalWidget() || QApplication::activePopupWidget();
+    const bool isAtWork = m_depth > 1 && !isAsked; // the window only lets events run
+    if (waitsForUpload() || (isAtWork && m_disturbances == 0)) {
+        return;
+    }
+    // How often work lets events run is not the dice's affair: it is decided ahead of it.
+    m_disturbances = isAtWork ? m_disturbances - 1 : std::max(0, m_dice.below(12) - 8);
+    Watchdog::feed();
+    --m_stepsLeft;
+    act();
+}
+
+// How long an upload takes is not the dice's affair, so most of them are left alone.
+bool Monkey::waitsForUpload() const
+{
+    const auto* upload = qobject_cast<frmUpload*>(QApplication::activeModalWidget());
+    return upload && upload->isTransferring() && !m_isRestless;
+}
+
+// Leaves what waits for an answer.
+void Monkey::windUp()
+{
+    if (QWidget* popup = QApplication::activePopupWidget()) {
+        popup->close();
+    } else if (QWidget* dialog = QApplication::activeModalWidget()) {
+        dialog->close();
+    }
+}
+
+void Monkey::act()
+{
+    if (QWidget* popup = QApplication::activePopupWidget()) {
+        actInPopup(*popup);
+    } else if (QWidget* dialog = QApplication::activeModalWidget()) {
+        actInDialog(*dialog);
+    } else {
+        actInWindow();
+    }
+}
+
+void Monkey::actInWindow()
+{
+    const int what = m_dice.below(100);
+    if (what < 45) {
+        touchAny(m_window);
+    } else if (what < 62) {
+        touchButton();
+    } else if (what < 74) {
+        touchTree();
+    } else if (what < 82) {
+        chooseEntry();
+    } else if (what < 90) {
+        m_window.WorkMode == MainForm::PreviewMode ? followLink() : touchAny(m_window);
+    } else if (what < 97) {
+        pressAnyKey(m_window);
+    } else {
+        changeWindow();
+    }
+}
+
+void Monkey::actInDialog(QWidget& dialog)
+{
+    auto* upload = qobject_cast<frmUpload*>(&dialog);
+    if (upload && !upload->isTransferring() && m_dice.chance(30)) {
+        const QString address = m_dice.chance(70) ? m_server : u"http://127.0.0.1:1/"_s;
+        m_isRestless = m_dice.chance(20);
+        Note(u"upload to "_s + address);
+        dialog.findChild<QLineEdit*>(u"txtURL"_s)->setText(address);
+        Press(*dialog.findChild<QWidget*>(u"OkBtn"_s), QPoint(5, 5));
+    } else if (m_dice.chance(7)) {
+        Note(u"close "_s + NameOf(dialog));
+        PressClose(dialog);
+    } else if (m_dice.chance(10)) {
+        pressAnyKey(dialog);
+    } else {
+        touchAny(dialog);
+    }
+}
+
+void Monkey::actInPopup(QWidget& popup)
+{
+    const auto* menu = qobject_cast<QMenu*>(&popup);
+    if (menu && !menu->actions().isEmpty() && m_dice.chance(60)) {
+        QAction* action = m_dice.pick(menu->actions());
+        Note(u"entry "_s + action->text());
+        Press(popup, menu->actionGeometry(action).center());
+    } else if (m_dice.chance(30)) {
+        Note(u"close "_s + NameOf(popup));
+        popup.close();
+    } else if (m_dice.chance(50)) {
+        pressAnyKey(popup);
+    } else {
+        touchAny(popup);
+    }
+}
+
+// Window -------------------------------------------------------------------------------------------------------------
+
+void Monkey::chooseEntry()
+{
+    QList<QAction*> entries;
+    for (const char* menu : {"mnuShop", "mnuTools"}) {
+        entries << m_window.findChild<QMenu*>(QLatin1String(menu))->actions();
+    }
+    entries.removeIf([](const QAction* entry) { return entry->isSeparator(); });
+    QAction* action = m_dice.pick(entries);
+    Note(u"menu "_s + action->objectName());
+    action->trigger();
+}
+
+void Monkey::followLink()
+{
+    static const QRegularExpression link(u"http://previewmode/[^\"'<>]*"_s);
+    QStringList links;
+    if (!m_preview.documents.isEmpty()) {
+        m_preview.documents = {m_preview.documents.last()};
+        for (auto found = link.globalMatch(m_preview.documents.last()); found.hasNext() && links.size() < 500;) {
+            links << found.next().captured().replace(u"&amp;"_s, u"&"_s).replace(u' ', u"%20"_s);
+        }
+    }
+    const bool isOdd = links.isEmpty() || m_dice.chance(8);
+    const QString url = isOdd ? OddAddress(m_dice) : m_dice.pick(links);
+    Note((isOdd ? u"go to "_s : u"follow "_s) + url.left(200));
+    if (PreviewNavigation::judge(url).hasAction) {
+        guarded(m_window.errorHandler(), [&] { m_preview.navigation->act(url); });
+    }
+}
+
+void Monkey::changeWindow()
+{
+    if (m_dice.chance(20)) {
+        Note(u"close the window"_s);
+        m_window.close();
+    } else {
+        m_window.resize(50 + m_dice.below(1400), 50 + m_dice.below(1000));
+        Note(u"resize to %1, %2"_s.arg(m_window.width()).arg(m_window.height()));
+    }
+}

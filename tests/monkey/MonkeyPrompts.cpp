@@ -1,0 +1,50 @@
+#include "MonkeyPrompts.h"
+
+#include "Notes.h"
+#include "OddTexts.h"
+#include "Playground.h"
+
+#include <QStringList>
+
+using namespace Qt::StringLiterals;
+
+void MonkeyPrompts::showMessage(const QString& title, const QString& text, PromptIcon /*icon*/)
+{
+    Note(u"  box \"%1\" \"%2\""_s.arg(title, text));
+}
+
+bool MonkeyPrompts::askYesNo(const QString& /*title*/, const QString& text)
+{
+    const bool answer = m_dice.chance(60);
+    Note(u"  \"%1\": %2"_s.arg(text, answer ? u"yes"_s : u"no"_s));
+    return answer;
+}
+
+PromptAnswer MonkeyPrompts::askYesNoCancel(const QString& /*title*/, const QString& text)
+{
+    const int answer = m_dice.chance(4) ? 2 : m_dice.below(2);
+    Note(u"  \"%1\": %2"_s.arg(text, QStringList{u"yes"_s, u"no"_s, u"cancel"_s}[answer]));
+    return static_cast<PromptAnswer>(answer);
+}
+
+std::optional<QString> MonkeyPrompts::askText(const QString& /*title*/, const QString& prompt)
+{
+    std::optional<QString> answer = m_dice.chance(10) ? std::nullopt : std::optional(OddText(m_dice));
+    Note(u"  \"%1\": %2"_s.arg(prompt, answer ? Shortened(*answer) : u"cancel"_s));
+    return answer;
+}
+
+QString MonkeyPrompts::chooseFile(const QString& folder, const QString& filter)
+{
+    QString answer = m_playground.chosenFile(m_dice, filter);
+    Note(u"  file (%1) (%2): %3"_s.arg(folder, filter, answer));
+    return answer;
+}
+
+std::optional<int> MonkeyPrompts::chooseColour(int colour)
+{
+    std::optional<int> answer =
+        m_dice.chance(30) ? std::nullopt : std::optional(m_dice.chance(20) ? colour : m_dice.below(0x1000000));
+    Note(u"  colour: %1"_s.arg(answer ? QString::number(*answer, 16) : u"cancel"_s));
+    return answer;
+}

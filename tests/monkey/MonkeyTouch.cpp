@@ -1,0 +1,251 @@
+// How the monkey handles what it finds on a window: widgets by their kind, the tree, buttons, keys.
+#include "Gestures.h"
+#include "Monkey.h"
+#include "Notes.h"
+#include "OddTexts.h"
+#include "base/Dates.h"
+#include "editors/DateField.h"
+#include "shell/CatalogueTree.h"
+#include "shell/ShortcartButton.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPointer>
+#include <QScrollArea>
+#include <QSplitter>
+#include <QTabBar>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype mostNodes = 300;
+
+// Keys with a meaning of their own somewhere, and what goes with them.
+struct Key
+{
+    int key;
+    Qt::KeyboardModifiers modifiers = Qt::NoModifier;
+    const char* text = "";
+};
+const std::array keys{
+    Key{Qt::Key_Return, {}, "\r"},
+    Key{Qt::Key_Enter, Qt::KeypadModifier, "\r"},
+    Key{Qt::Key_Escape, {}, "\x1b"},
+    Key{Qt::Key_Tab, {}, "\t"},
+    Key{Qt::Key_Backtab, Qt::ShiftModifier},
+    Key{Qt::Key_Space, {}, " "},
+    Key{Qt::Key_Up},
+    Key{Qt::Key_Down},
+    Key{Qt::Key_Left},
+    Key{Qt::Key_Right},
+    Key{Qt::Key_Home},
+    Key{Qt::Key_End},
+    Key{Qt::Key_PageUp},
+    Key{Qt::Key_PageDown},
+    Key{Qt::Key_Delete, {}, "\x7f"},
+    Key{Qt::Key_Backspace, {}, "\b"},
+    Key{Qt::Key_F2},
+    Key{Qt::Key_F4},
+    Key{Qt::Key_Menu},
+    Key{Qt::Key_Plus, {}, "+"},
+    Key{Qt::Key_Minus, {}, "-"},
+    Key{Qt::Key_Asterisk, {}, "*"},
+    Key{Qt::Key_A, Qt::ControlModifier},
+    Key{Qt::Key_Z, Qt::ControlModifier},
+    Key{Qt::Key_X, Qt::ControlModifier},
+    Key{Qt::Key_V, Qt::ControlModifier},
+    Key{Qt::Key_Left, Qt::AltModifier},
+    Key{Qt::Key_Down, Qt::AltModifier},
+    Key{Qt::Key_5, {}, "5"},
+};
+
+bool canBeTouched(const QWidget& widget)
+{
+    return widget.isVisible() && widget.isEnabled() && widget.width() > 0 && widget.height() > 0;
+}
+
+// Most labels and frames do nothing.
+bool isOfInterest(const QWidget& widget)
+{
+    return (widget.focusPolicy() != Qt::NoFocus && !qobject_cast<const ShortcartButton*>(&widget)) ||
+           qobject_cast<const QAbstractButton*>(&widget) || qobject_cast<const QSplitterHandle*>(&widget);
+}
+
+// Scrolls until the widget can be seen.
+void bringIntoView(QWidget& widget)
+{
+    for (QWidget* above = widget.parentWidget(); above; above = above->parentWidget()) {
+        if (auto* area = qobject_cast<QScrollArea*>(above)) {
+            area->ensureWidgetVisible(&widget);
+        }
+    }
+}
+
+QAbstractItemView* viewOf(QWidget& widget)
+{
+    if (auto* view = qobject_cast<QAbstractItemView*>(&widget)) {
+        return view;
+    }
+    return qobject_cast<QAbstractItemView*>(widget.parentWidget());
+}
+
+} // namespace
+
+QPoint Monkey::placeIn(const QWidget& widget)
+{
+    if (m_dice.chance(60)) {
+        return widget.rect().center();
+    }
+    return {m_dice.below(widget.width()), m_dice.below(widget.height())};
+}
+
+void Monkey::touchAny(QWidget& root)
+{
+    QList<QWidget*> all = root.findChildren<QWidget*>();
+    const bool takesAll = m_dice.chance(10);
+    all.removeIf([&root, takesAll](const QWidget* widget) {
+        return !canBeTouched(*widget) || widget->window() != root.window() || !(takesAll || isOfInterest(*widget));
+    });
+    if (!all.isEmpty()) {
+        touch(*m_dice.pick(all));
+    }
+}
+
+void Monkey::touch(QWidget& widget)
+{
+    bringIntoView(widget);
+    if (widget.visibleRegion().isEmpty()) {
+        return; // covered
+    }
+    const QPoint place = placeIn(widget);
+    const int how = m_dice.below(100);
+    if (how < 3) {
+        Note(u"context "_s + NameOf(widget));
+        AskForContextMenu(widget, place);
+    } else if (how < 6) {
+        Note(u"wheel "_s + NameOf(widget));
+        TurnWheel(widget, place, m_dice.chance(50) ? 1 : -1);
+    } else if (how < 9) {
+        Note(u"drag "_s + NameOf(widget));
+        Drag(widget, place, QPoint(m_dice.below(1200) - 200, m_dice.below(800) - 100));
+    } else if (qobject_cast<QLineEdit*>(&widget) || qobject_cast<QPlainTextEdit*>(&widget)) {
+        touchText(widget);
+    } else if (viewOf(widget) && !qobject_cast<QHeaderView*>(&widget) && how < 90) {
+        touchItems(widget);
+    } else if (auto* tabs = qobject_cast<QTabBar*>(&widget); tabs && tabs->count() > 0) {
+        Note(u"tab "_s + NameOf(widget));
+        Press(widget, tabs->tabRect(m_dice.below(tabs->count())).center());
+    } else if (how < 14) {
+        Note(u"press twice "_s + NameOf(widget));
+        PressTwice(widget, place);
+    } else {
+        const auto* button = qobject_cast<QAbstractButton*>(&widget);
+        Note(u"press "_s + NameOf(widget) + (button ? u" \"%1\""_s.arg(button->text()) : QString()));
+        Press(widget, place, m_dice.chance(5) ? Qt::RightButton : Qt::LeftButton);
+    }
+}
+
+void Monkey::touchText(QWidget& widget)
+{
+    const bool isDate = qobject_cast<DateField*>(&widget) && m_dice.chance(80); // else the run would soon be over
+    const QString text = isDate ? LocalDateText(QDate(2026, 1, 1).addDays(m_dice.below(400))) : OddText(m_dice);
+    Note(u"type "_s + NameOf(widget) + u' ' + Shortened(text));
+    const QPointer<QWidget> kept(&widget);
+    Press(widget, widget.rect().center());
+    if (kept && QApplication::activePopupWidget() == nullptr && m_dice.chance(70)) {
+        PressKey(widget, Qt::Key_A, Qt::ControlModifier, u"\x01"_s);
+    }
+    if (kept) {
+        TypeText(widget, text);
+    }
+    if (kept && m_dice.chance(20)) {
+        PressKey(widget, Qt::Key_Return, {}, u"\r"_s);
+    }
+}
+
+void Monkey::touchItems(QWidget& widget)
+{
+    QAbstractItemView& view = *viewOf(widget);
+    const QAbstractItemModel* model = view.model();
+    const int rows = model ? model->rowCount(view.rootIndex()) : 0;
+    const int columns = model ? model->columnCount(view.rootIndex()) : 0;
+    if (rows == 0 || columns == 0) {
+        Press(*view.viewport(), placeIn(*view.viewport()));
+        return;
+    }
+    const QModelIndex index = model->index(m_dice.below(rows), m_dice.below(columns), view.rootIndex());
+    view.scrollTo(index);
+    const QPoint place = view.visualRect(index).center();
+    Note(u"item %1, %2 of "_s.arg(index.row()).arg(index.column()) + NameOf(view));
+    if (m_dice.chance(15)) {
+        PressTwice(*view.viewport(), place);
+    } else {
+        Press(*view.viewport(), place);
+    }
+    if (QWidget* editor = QApplication::focusWidget();
+        editor && m_dice.chance(50) && editor->window() == view.window()) {
+        const QString text = OddText(m_dice);
+        Note(u"  type "_s + Shortened(text));
+        TypeText(*editor, text);
+    }
+}
+
+void Monkey::touchTree()
+{
+    CatalogueTree& tree = *m_window.parts().CategoriesAndProductsTree;
+    QList<QModelIndex> all{QModelIndex()}; // each node behind its parent
+    for (qsizetype at = 0; at < all.size() && all.size() < mostNodes; ++at) {
+        const QModelIndex parent = all[at];
+        for (int row = 0; row < tree.model()->rowCount(parent); ++row) {
+            all << tree.model()->index(row, 0, parent);
+        }
+    }
+    all.removeFirst();
+    if (all.isEmpty() || !tree.isVisible()) {
+        return;
+    }
+    const QModelIndex index = m_dice.pick(all);
+    for (QModelIndex above = index.parent(); above.isValid(); above = above.parent()) {
+        tree.expand(above);
+    }
+    tree.scrollTo(index);
+    const QPoint place = tree.visualRect(index).center();
+    Note(u"node "_s + Shortened(index.data().toString()));
+    if (m_dice.chance(15)) {
+        Press(*tree.viewport(), place, Qt::RightButton);
+    } else if (m_dice.chance(10)) {
+        PressTwice(*tree.viewport(), place);
+    } else {
+        Press(*tree.viewport(), place);
+    }
+}
+
+void Monkey::touchButton()
+{
+    QList<QWidget*> pictures;
+    for (const ShortcartButton* button : m_window.findChildren<ShortcartButton*>()) {
+        if (button->isVisible()) {
+            pictures << button->findChild<QWidget*>(u"IconImg"_s);
+        }
+    }
+    if (!pictures.isEmpty()) {
+        touch(*m_dice.pick(pictures));
+    }
+}
+
+void Monkey::pressAnyKey(QWidget& root)
+{
+    const Key& key = m_dice.pick(keys);
+    QWidget* focus = QApplication::focusWidget();
+    QWidget& target = focus && focus->window() == root.window() && focus->isVisible() ? *focus : root;
+    Note(u"key %1 "_s.arg(QKeySequence(QKeyCombination(key.modifiers, static_cast<Qt::Key>(key.key))).toString()) +
+         NameOf(target));
+    PressKey(target, key.key, key.modifiers, QString::fromLatin1(key.text));
+}

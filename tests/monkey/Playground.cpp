@@ -1,0 +1,141 @@
+#include "Playground.h"
+
+#include "OddTexts.h"
+#include "model/RandomShop.h"
+#include "model/ShopSession.h"
+#include "support/TestSupport.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QImage>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void writeRandomShop(const ApplicationFolder& folder, unsigned seed)
+{
+    RecordingPrompts prompts;
+    const FixedClock clock(QDate(2026, 7, 15));
+    ShopSession session(folder, prompts, clock);
+    session.shop = std::make_shared<ShopClass>(session.services);
+    RandomShop(seed).fill(session);
+    session.writeShopFile();
+}
+
+} // namespace
+
+Playground::Playground(const QString& root, Dice& dice)
+    : m_root(root), m_shop(root + u"/a/b/c/d/shop"_s), m_files(root + u"/a/b/c/d/files/"_s)
+{
+    if (!QFile::exists(folder().countriesFile())) {
+        copySampleShop();
+        makeOddFiles();
+        changeShop(dice);
+    }
+}
+
+void Playground::copySampleShop() const
+{
+    const QString sample = QStringLiteral(TARNWICK_SOURCE_DIR "/app/");
+    QDirIterator entries(sample, QDir::Files, QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString target = m_shop + u'/' + entries.next().mid(sample.size());
+        QDir().mkpath(QFileInfo(target).path());
+        QFile::copy(entries.filePath(), target);
+        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
+    }
+}
+
+void Playground::makeOddFiles() const
+{
+    QDir().mkpath(m_files);
+    QDir().mkpath(settings());
+    QImage picture(30, 20, QImage::Format_RGB32);
+    picture.fill(Qt::blue);
+    picture.save(m_files + u"blue.png"_s);
+    picture.save(m_files + u"odd name, with & and <.JPG"_s, "JPG");
+    WriteFile(m_files + u"no_picture.gif"_s, "GIF89a");
+    WriteFile(m_files + u"empty.bmp"_s, "");
+    WriteFile(m_files + u"text.kvb"_s, "not packed");
+}
+
+void Playground::changeShop(Dice& dice) const
+{
+    constexpr auto emptyShop =
+        "<Tarnwick><Shop><Version>1.2.0</Version><Name/><SelectedCountries/><ShopDesign/></Shop></Tarnwick>";
+    switch (dice.below(20)) {
+    case 0:
+        QFile::remove(folder().shopFile());
+        break;
+    case 1:
+        WriteFile(folder().shopFile(), "<Tarnwick><Shop>");
+        break;
+    case 2:
+        WriteFile(folder().shopFile(), emptyShop);
+        break;
+    case 3:
+        WriteFile(folder().countriesFile(), "");
+        break;
+    case 4:
+        QDir(folder().picturesFolder()).removeRecursively();
+        break;
+    case 5:
+        QDir(folder().templatesFolder()).removeRecursively();
+        break;
+    case 6:
+    case 7:
+    case 8:
+    case 9:
+        writeRandomShop(folder(), static_cast<unsigned>(dice.below(10000)));
+        break;
+    default:
+        break; // the sample shop
+    }
+}
+
+QString Playground::oneOf(Dice& dice, const QString& folder) const
+{
+    const QStringList names = QDir(folder).entryList(QDir::Files, QDir::Name);
+    return names.isEmpty() ? QString() : folder + dice.pick(names);
+}
+
+// A backup that the run has made, at times with its end cut off.
+QString Playground::packedFile(Dice& dice) const
+{
+    QString backup = oneOf(dice, folder().backupsFolder());
+    if (backup.isEmpty() || dice.chance(70)) {
+        return backup;
+    }
+    QString cut = m_files + u"cut.kvb"_s;
+    const QByteArray bytes = FileBytes(backup);
+    WriteFile(cut, bytes.first(dice.below(static_cast<int>(bytes.size()) + 1)));
+    return cut;
+}
+
+QString Playground::chosenFile(Dice& dice, const QString& filter)
+{
+    switch (dice.below(20)) {
+    case 0:
+    case 1:
+        return {};
+    case 2:
+        return m_files + (dice.chance(50) ? u"gone"_s : QString());
+    case 3:
+        return oneOf(dice, m_files);
+    case 4:
+        return oneOf(dice, folder().picturesFolder());
+    default:
+        break;
+    }
+    if (filter.contains(u".kvb"_s)) {
+        return packedFile(dice);
+    }
+    if (filter.contains(u".txt"_s)) {
+        QString path = m_files + u"products.txt"_s;
+        WriteFile(path, OddImportFile(dice));
+        return path;
+    }
+    return oneOf(dice, m_files);
+}

@@ -1,0 +1,10 @@
+// Ends the process with a message when it is not fed in time: a window that does not answer any more.
+#pragma once
+
+namespace Watchdog {
+
+// From now on there is this much time until the next call.
+void feed();
+void calmDown();
+
+} // namespace Watchdog
