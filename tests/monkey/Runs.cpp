@@ -2,7 +2,6 @@
 
 #include "Run.h"
 
-#include <QCoreApplication>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -53,11 +52,11 @@ void showEnd(const QByteArray& output)
 }
 
 // The exit code, -1 for a process that a signal has ended. What it says is added to the output.
-int runProcess(const QStringList& arguments, QByteArray& output)
+int runProcess(const QString& program, const QStringList& arguments, QByteArray& output)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(QCoreApplication::applicationFilePath(), arguments);
+    process.start(program, arguments);
     process.waitForFinished(-1);
     output += process.readAll();
     return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
@@ -98,12 +97,12 @@ void Runs::run(std::uint32_t seed)
     const QStringList way{u"--alone"_s, u"--seed"_s, QString::number(seed), u"--steps"_s,
                           QString::number(m_plan.steps)};
     QByteArray output;
-    int code = runProcess(way + there, output);
+    int code = runProcess(m_program, way + there, output);
     const QByteArray end = code == FatalError ? endOf(output) : "all steps";
     const QByteArray wayToEnd = code == FatalError ? wayTo(output) : QByteArray();
     if (isLegal(code)) {
         // However a run ends, the shop that lies in its folder is a whole one.
-        code = runProcess(QStringList{u"--check"_s} + there, output);
+        code = runProcess(m_program, QStringList{u"--check"_s} + there, output);
     }
 
     const std::lock_guard lock(m_telling);
@@ -114,7 +113,7 @@ void Runs::run(std::uint32_t seed)
         ++m_ends[end];
     } else {
         m_isClean = false;
-        const QByteArray program = QCoreApplication::applicationFilePath().toLocal8Bit();
+        const QByteArray program = m_program.toLocal8Bit();
         showEnd(output);
         std::printf("\nDefect in the run of seed %u (%d). To see it again:\n  %s %s --folder FOLDER\n"
                     "and, for what it leaves behind,\n  %s --check --folder FOLDER\n",

@@ -5,7 +5,7 @@
 #include <QByteArray>
 #include <QDeadlineTimer>
 #include <QMap>
-#include <QStringList>
+#include <QString>
 
 #include <atomic>
 #include <chrono>
@@ -25,8 +25,9 @@ public:
         bool goesOnBehindDefects = false;
     };
 
-    explicit Runs(const Plan& plan)
-        : m_plan(plan), m_nextSeed(plan.firstSeed), m_deadline(std::chrono::seconds(plan.seconds))
+    // The program is this one, which the runs are started with.
+    Runs(const QString& program, const Plan& plan)
+        : m_program(program), m_plan(plan), m_nextSeed(plan.firstSeed), m_deadline(std::chrono::seconds(plan.seconds))
     {
     }
 
@@ -38,6 +39,7 @@ private:
     void run(std::uint32_t seed);
     void showEnds() const;
 
+    QString m_program;
     Plan m_plan;
     std::atomic<std::uint32_t> m_nextSeed;
     QDeadlineTimer m_deadline;

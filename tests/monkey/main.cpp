@@ -69,7 +69,9 @@ int main(int argc, char** argv)
         return parser.isSet(u"check"_s) ? CheckShop(folder) : RunMonkey(folder, seed, steps);
     }
     const QCoreApplication application(argc, argv);
-    Runs runs({seed, parser.value(u"seconds"_s).toInt(), steps, parser.value(u"jobs"_s).toInt(),
-               parser.isSet(u"talk"_s), parser.isSet(u"on"_s)});
+    // Asked for here: the library makes the path when it is first asked, and not for several threads at once.
+    const QString program = QCoreApplication::applicationFilePath();
+    Runs runs(program, {seed, parser.value(u"seconds"_s).toInt(), steps, parser.value(u"jobs"_s).toInt(),
+                        parser.isSet(u"talk"_s), parser.isSet(u"on"_s)});
     return runs.runAll() ? 0 : 1;
 }
