@@ -1,6 +1,7 @@
 #include "base/LargePages.h"
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <malloc.h>
@@ -9,11 +10,12 @@
 
 namespace {
 
-constexpr std::uintptr_t largePage = 2 * 1024 * 1024;
+constexpr std::uintptr_t largePage = std::uintptr_t{2} * 1024 * 1024;
 constexpr qsizetype mostAtOnce = 1024 * largePage;
 
 // How the heap's library itself would have it in the end; it stops adapting to the program once it is told anything.
 constexpr int usualGrowth = 128 * 1024;
+constexpr std::size_t moreThanIsLeft = std::size_t{2} * usualGrowth;
 constexpr int usualMapping = 32 * 1024 * 1024;
 
 } // namespace
@@ -24,7 +26,7 @@ void UseLargePages(void* block, qsizetype size) noexcept
     const std::uintptr_t begin = (address + largePage - 1) / largePage * largePage;
     const std::uintptr_t end = (address + static_cast<std::uintptr_t>(size)) / largePage * largePage;
     if (begin < end) {
-        ::madvise(reinterpret_cast<void*>(begin), end - begin, MADV_HUGEPAGE);
+        ::madvise(static_cast<char*>(block) + (begin - address), end - begin, MADV_HUGEPAGE);
     }
 }
 
@@ -40,7 +42,7 @@ LargePagesOnHeap::LargePagesOnHeap(qsizetype bytes) noexcept
     const void* const end = ::sbrk(0);
     std::array<void*, 64> blocks{};
     for (void*& block : blocks) {
-        block = std::malloc(2 * usualGrowth);
+        block = std::malloc(moreThanIsLeft);
         if (::sbrk(0) != end) {
             break;
         }
