@@ -165,7 +165,7 @@ void frmUpload::closeEvent(QCloseEvent* event)
     // one, and what it closes then is the program, with the question that the main window asks.
     if (isTransferring() && event->spontaneous() && parentWidget()) {
         event->ignore();
-        QMetaObject::invokeMethod(parentWidget()->window(), &QWidget::close, Qt::QueuedConnection); // not in this event
+        QMetaObject::invokeMethod(parentWidget()->window(), "close", Qt::QueuedConnection); // not inside of this event
         return;
     }
     QDialog::closeEvent(event);
