@@ -1,8 +1,9 @@
 # shellcheck shell=bash disable=SC2034
 # Sourced by the scripts at the top: which Debian packages each of them needs, and how they get there.
 
-BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-webengine-dev qt6-svg-dev libpugixml-dev zlib1g-dev)
-RUN_PACKAGES=(libqt6webenginewidgets6 libqt6svg6 qt6-qpa-plugins fonts-dejavu-core)
+BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-webengine-dev qt6-svg-dev libpugixml-dev zlib1g-dev
+  libcurl4-openssl-dev)
+RUN_PACKAGES=(libqt6webenginewidgets6 libqt6svg6 libcurl4 qt6-qpa-plugins fonts-dejavu-core)
 VIRTUAL_DISPLAY_PACKAGES=(xvfb xauth)
 TEST_PACKAGES=(libgtest-dev libgmock-dev git php-cli tidy)
 LINT_PACKAGES=(clang clang-format clang-tidy libclang-rt-14-dev)

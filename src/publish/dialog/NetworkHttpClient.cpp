@@ -1,211 +1,179 @@
 #include "publish/dialog/NetworkHttpClient.h"
 
-#include "publish/dialog/SendWithoutDelay.h"
+#include "base/ProgramVersion.h"
 
-#include <QElapsedTimer>
-#include <QNetworkAccessManager>
-#include <QNetworkProxy>
-#include <QNetworkReply>
-#include <QNetworkRequest>
-#include <QUrl>
-
-#include <algorithm>
-#include <cstring>
+#include <array>
+#include <new>
 #include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// A body that can be read once. The network library would send a request again whose connection drops; it cannot when
-// there is no way back to the body's start.
-class BodyReadOnce : public QIODevice
+struct Setting
 {
-public:
-    explicit BodyReadOnce(const QByteArray& body) : m_body(body) { open(ReadOnly | Unbuffered); }
-
-    bool isSequential() const override { return true; }
-    bool seek(qint64 /*position*/) override { return false; }
-    bool reset() override { return false; }
-    qint64 bytesAvailable() const override { return m_body.size() - m_read; }
-
-    // Gives the body's memory back; nothing is left to read.
-    void drop()
-    {
-        m_body.clear();
-        m_read = 0;
-    }
-
-protected:
-    qint64 readData(char* data, qint64 maxSize) override
-    {
-        if (m_read == 0) {
-            SendWithoutDelay(); // the library asks for data as soon as it is connected
-        }
-        const qsizetype size = std::min<qsizetype>(maxSize, m_body.size() - m_read);
-        if (size > 0) {
-            std::memcpy(data, m_body.constData() + m_read, static_cast<std::size_t>(size));
-            m_read += size;
-        }
-        return size > 0 ? size : -1;
-    }
-    qint64 writeData(const char* /*data*/, qint64 /*maxSize*/) override { return -1; }
-
-private:
-    QByteArray m_body;
-    qsizetype m_read = 0;
+    CURLoption option;
+    long value;
 };
 
-constexpr qint64 proxiesCountFor = 60'000; // milliseconds
+constexpr std::array settings{
+    Setting{CURLOPT_HTTP_VERSION, CURL_HTTP_VERSION_1_1},
+    Setting{CURLOPT_POST, 1},
+    Setting{CURLOPT_FOLLOWLOCATION, 0},              // a redirect is an answer like any other
+    Setting{CURLOPT_FRESH_CONNECT, 1},               // a request is repeated, by the library alone, when a kept
+    Setting{CURLOPT_FORBID_REUSE, 1},                //   connection turns out to be closed: so none is kept
+    Setting{CURLOPT_UPLOAD_BUFFERSIZE, 256L * 1024}, // bytes, for fewer turns of the event loop
+    Setting{CURLOPT_CONNECTTIMEOUT, 2'000'000},      // seconds; without a number it has a limit of its own
+    Setting{CURLOPT_NOSIGNAL, 1},                    // the program's signals are its own
+    Setting{CURLOPT_QUICK_EXIT, 1},                  // closing the program does not wait for a name server
+};
 
-QNetworkRequest requestFor(const QString& url, const QByteArray& contentType, qsizetype size)
+// What is no address of a server fails like a server that cannot be found.
+QByteArray addressForLibrary(const QUrl& url)
 {
-    QNetworkRequest request{QUrl(url)};
-    request.setRawHeader("Content-Type", contentType);
-    request.setRawHeader("Accept-Encoding", "identity"); // what arrives is as long as it says
-    request.setHeader(QNetworkRequest::ContentLengthHeader, size);
-    request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    request.setAttribute(QNetworkRequest::CacheLoadControlAttribute, QNetworkRequest::AlwaysNetwork);
-    request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
-    for (const auto attribute :
-         {QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::CookieSaveControlAttribute,
-          QNetworkRequest::AuthenticationReuseAttribute}) {
-        request.setAttribute(attribute, QNetworkRequest::Manual);
+    if (!url.isValid() || url.host().isEmpty() || url.scheme() != "http"_L1) {
+        return {};
     }
-    return request;
+    return url.toEncoded(QUrl::RemoveUserInfo | QUrl::RemoveFragment);
 }
 
-// The library wanted to go back to the body's start, and could not. It wants that also where it need not: for a
-// redirect that nobody follows, and when a connection closes behind a quick answer without a length, which is that
-// answer's end.
-bool isWholeInSpiteOfResend(const QNetworkReply& reply, int status, qsizetype size)
+QByteArray proxyForLibrary(const QNetworkProxy& proxy)
 {
-    if (reply.hasRawHeader("Content-Length")) {
-        return reply.rawHeader("Content-Length").toLongLong() == size;
+    const char* scheme = nullptr;
+    switch (proxy.type()) {
+    case QNetworkProxy::HttpProxy:
+    case QNetworkProxy::HttpCachingProxy:
+        scheme = "http://";
+        break;
+    case QNetworkProxy::Socks5Proxy:
+        scheme = "socks5h://"; // it looks up the server's name, too
+        break;
+    default:
+        return ""; // none, not even one that stands in the environment
     }
-    return !reply.hasRawHeader("Transfer-Encoding") || status == 307 || status == 308;
-}
-
-// A refusal by status is an answer like any other; a connection that broke, even behind the status, is none.
-bool isWholeAnswer(const QNetworkReply& reply, int status, qsizetype size)
-{
-    const QNetworkReply::NetworkError error = reply.error();
-    if (status == 0 || error == QNetworkReply::NoError) {
-        return status != 0;
-    }
-    if (error == QNetworkReply::ContentReSendError) {
-        return isWholeInSpiteOfResend(reply, status, size);
-    }
-    return status >= 400 && error > QNetworkReply::UnknownNetworkError && error != QNetworkReply::ProtocolFailure;
-}
-
-HttpAnswer answerOf(QNetworkReply& reply)
-{
-    const int status = reply.attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    const QByteArray body = reply.readAll();
-    if (!isWholeAnswer(reply, status, body.size())) {
-        return {0, {}, TransferFailure{reply.errorString(), static_cast<int>(reply.error())}};
-    }
-    return {status, body, std::nullopt};
+    return scheme + proxy.hostName().toUtf8() + ':' + QByteArray::number(proxy.port());
 }
 
 } // namespace
 
-// The proxies that the user's system is set to, and no others. Asking the system takes longer than sending a small
-// file, so an answer counts for a minute.
-struct NetworkHttpClient::Proxies
-{
-    QList<QNetworkProxy> forQuery(const QNetworkProxyQuery& query)
-    {
-        if (!m_age.isValid() || m_age.hasExpired(proxiesCountFor) || !(m_query == query)) {
-            m_query = query;
-            m_answer = QNetworkProxyFactory::systemProxyForQuery(query);
-            m_age.start();
-        }
-        return m_answer;
-    }
-
-    // What a network manager asks, and owns.
-    class Factory : public QNetworkProxyFactory
-    {
-    public:
-        explicit Factory(Proxies& proxies) : m_proxies(proxies) {}
-        QList<QNetworkProxy> queryProxy(const QNetworkProxyQuery& query) override { return m_proxies.forQuery(query); }
-
-    private:
-        Proxies& m_proxies;
-    };
-
-private:
-    QNetworkProxyQuery m_query;
-    QList<QNetworkProxy> m_answer;
-    QElapsedTimer m_age;
-};
-
+// A transfer and all that the library reads from or writes into while it runs.
 struct NetworkHttpClient::Request
 {
-    Request(QNetworkAccessManager* requestManager, BodyReadOnce* requestBody, const Done& whenDone)
-        : manager(requestManager), body(requestBody), done(whenDone)
+    Request(TransferLoop& transferLoop, const QByteArray& requestBody, Done whenDone)
+        : loop(transferLoop), transfer(curl_easy_init()), body(requestBody), done(std::move(whenDone))
     {
+        if (!transfer) {
+            throw std::bad_alloc();
+        }
     }
     Request(const Request&) = delete;
     Request& operator=(const Request&) = delete;
     ~Request()
     {
-        body->drop();           // ahead of the next request's body
-        manager->deleteLater(); // later: the library may still be inside of one of its signals
+        loop.remove(transfer);
+        curl_easy_cleanup(transfer);
+        curl_slist_free_all(headers);
     }
 
-    QNetworkAccessManager* manager; // owns reply and body
-    BodyReadOnce* body;
+    void addHeader(const QByteArray& header)
+    {
+        curl_slist* all = curl_slist_append(headers, header.constData());
+        if (!all) {
+            throw std::bad_alloc();
+        }
+        headers = all;
+    }
+
+    static std::size_t takeAnswer(const char* data, std::size_t /*one*/, std::size_t size, void* self)
+    {
+        auto* request = static_cast<Request*>(self);
+        const auto length = static_cast<qsizetype>(size);
+        request->isTooLong = length > longestAnswer - request->answer.size();
+        if (request->isTooLong) {
+            return 0; // ends the transfer
+        }
+        try {
+            request->answer.append(data, length);
+        } catch (const std::bad_alloc&) { // which the library's frames must not see
+            return 0;
+        }
+        return size;
+    }
+
+    TransferLoop& loop;
+    CURL* transfer;
+    curl_slist* headers = nullptr;
+    QByteArray body;
+    QByteArray answer;
+    bool isTooLong = false;
+    std::array<char, CURL_ERROR_SIZE> errorText{};
     Done done;
 };
 
-NetworkHttpClient::NetworkHttpClient(FatalErrorHandler& errors, QObject* parent)
-    : QObject(parent), m_errors(errors), m_proxies(std::make_unique<Proxies>())
+NetworkHttpClient::NetworkHttpClient(FatalErrorHandler& errors, QObject* parent) : QObject(parent), m_errors(errors)
 {
+    connect(&m_loop, &TransferLoop::ended, this, &NetworkHttpClient::finish);
 }
 
-NetworkHttpClient::~NetworkHttpClient()
-{
-    NetworkHttpClient::cancel();
-}
+NetworkHttpClient::~NetworkHttpClient() = default;
 
 void NetworkHttpClient::post(const QString& url, const QByteArray& contentType, const QByteArray& body,
                              const Done& done)
 {
-    auto* manager = new QNetworkAccessManager(this);
-    manager->setProxyFactory(new Proxies::Factory(*m_proxies));
-    auto* device = new BodyReadOnce(body);
-    device->setParent(manager);
-    m_request = std::make_unique<Request>(manager, device, done);
+    const QUrl address(url);
+    const QNetworkProxy proxy = m_proxies.proxyFor(address);
+    auto request = std::make_unique<Request>(m_loop, body, done);
+    request->addHeader("Content-Type: " + contentType);
+    request->addHeader("Accept-Encoding: identity"); // an answer is as long as it says
+    request->addHeader("Expect:");                   // the body follows at once
 
-    QNetworkReply* reply = manager->post(requestFor(url, contentType, body.size()), device);
-    connect(reply, &QNetworkReply::readyRead, this, [this, reply] {
-        if (reply->bytesAvailable() > longestAnswer) {
-            finish({0, {}, TransferFailure{tr("The answer is too long"), QNetworkReply::UnknownContentError}});
-        }
-    });
-    connect(reply, &QNetworkReply::finished, this, [this, reply] { finish(answerOf(*reply)); });
+    CURL* transfer = request->transfer;
+    for (const Setting& setting : settings) {
+        curl_easy_setopt(transfer, setting.option, setting.value);
+    }
+    curl_easy_setopt(transfer, CURLOPT_PROTOCOLS_STR, "http");
+    curl_easy_setopt(transfer, CURLOPT_URL, addressForLibrary(address).constData());
+    curl_easy_setopt(transfer, CURLOPT_PROXY, proxyForLibrary(proxy).constData());
+    if (!proxy.user().isEmpty()) {
+        curl_easy_setopt(transfer, CURLOPT_PROXYUSERNAME, proxy.user().toUtf8().constData());
+        curl_easy_setopt(transfer, CURLOPT_PROXYPASSWORD, proxy.password().toUtf8().constData());
+    }
+    curl_easy_setopt(transfer, CURLOPT_NOPROXY, ""); // the system's answer has it in
+    curl_easy_setopt(transfer, CURLOPT_USERAGENT, ("Tarnwick/" + ProgramVersion().toLatin1()).constData());
+    curl_easy_setopt(transfer, CURLOPT_HTTPHEADER, request->headers);
+    curl_easy_setopt(transfer, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request->body.size()));
+    curl_easy_setopt(transfer, CURLOPT_POSTFIELDS, request->body.constData()); // not copied
+    curl_easy_setopt(transfer, CURLOPT_WRITEFUNCTION, &Request::takeAnswer);
+    curl_easy_setopt(transfer, CURLOPT_WRITEDATA, request.get());
+    curl_easy_setopt(transfer, CURLOPT_ERRORBUFFER, request->errorText.data());
+
+    m_request = std::move(request);
+    m_loop.start(transfer);
 }
 
 void NetworkHttpClient::cancel()
 {
-    if (m_request) {
-        // Deleting the manager ends its requests; what they still tell is not for anybody.
-        for (QNetworkReply* reply : m_request->manager->findChildren<QNetworkReply*>()) {
-            reply->disconnect(this);
-            reply->abort();
-        }
-        m_request.reset();
-    }
+    m_request.reset();
 }
 
-void NetworkHttpClient::finish(const HttpAnswer& answer)
+void NetworkHttpClient::finish(CURLcode result)
 {
-    const Done done = std::exchange(m_request->done, nullptr);
-    cancel();
+    HttpAnswer answer;
+    if (result == CURLE_OK) {
+        long status = 0;
+        curl_easy_getinfo(m_request->transfer, CURLINFO_RESPONSE_CODE, &status);
+        answer.status = static_cast<int>(status);
+        answer.body = m_request->answer;
+    } else {
+        QString why = QString::fromLocal8Bit(m_request->errorText.data());
+        if (m_request->isTooLong) {
+            why = tr("The answer is too long");
+        } else if (why.isEmpty()) {
+            why = QString::fromLatin1(curl_easy_strerror(result));
+        }
+        answer.failure = TransferFailure{why, result};
+    }
+    const Done done = std::move(m_request->done);
+    m_request.reset(); // its memory goes before that of the next one comes
     guarded(m_errors, [&] { done(answer); });
 }

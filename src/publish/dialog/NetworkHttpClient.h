@@ -1,10 +1,12 @@
-// The HTTP client over the network. All but the question for the system's proxies is made anew for each request, so
-// that nothing lasts from one to the next: no cookies, no cache, no credentials, no connection that the server may have
-// closed meanwhile. Redirects are not followed, and no request is ever sent twice. The upload dialog owns it.
+// The HTTP client over the network. Every request goes over a connection of its own and leaves nothing behind: no
+// cookies, no cache, no credentials, no connection that the server may have closed meanwhile. Redirects are not
+// followed, and no request is ever sent twice. The upload dialog owns it.
 #pragma once
 
 #include "base/Guarded.h"
 #include "publish/HttpClient.h"
+#include "publish/dialog/SystemProxies.h"
+#include "publish/dialog/TransferLoop.h"
 
 #include <QObject>
 
@@ -16,7 +18,7 @@ class NetworkHttpClient : public QObject, public HttpClient
 
 public:
     // The longest answer that is taken, in bytes; a longer one is a failure.
-    static constexpr qint64 longestAnswer = qint64{64} * 1024 * 1024;
+    static constexpr qsizetype longestAnswer = qsizetype{64} * 1024 * 1024;
 
     // The handler, which takes what done raises, outlives the client.
     explicit NetworkHttpClient(FatalErrorHandler& errors, QObject* parent = nullptr);
@@ -26,12 +28,12 @@ public:
     void cancel() override;
 
 private:
-    struct Proxies;
     struct Request;
 
-    void finish(const HttpAnswer& answer);
+    void finish(CURLcode result);
 
     FatalErrorHandler& m_errors;
-    std::unique_ptr<Proxies> m_proxies;
+    SystemProxies m_proxies;
+    TransferLoop m_loop;
     std::unique_ptr<Request> m_request; // the one under way
 };
