@@ -122,7 +122,7 @@ private:
         QByteArray bytes;
         while (bytes.size() < length) {
             const auto colour = static_cast<char>(m_random() % 8 * 32);
-            bytes += QByteArray(20 + m_random() % 60, colour);
+            bytes += QByteArray(static_cast<qsizetype>(20 + m_random() % 60), colour);
             bytes += static_cast<char>(colour + m_random() % 4);
         }
         bytes.truncate(length);

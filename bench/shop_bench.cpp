@@ -206,6 +206,7 @@ int main(int argc, char** argv)
     ShopSession session(ApplicationFolder(directory.path()), prompts, clock);
     const std::vector<std::pair<int, int>> sizes = {{1'000, 25}, {10'000, 15}, {100'000, 7}};
     std::vector<Result> results;
+    results.reserve(sizes.size());
     for (const auto& [products, rounds] : sizes) {
         results.push_back(measure(session, products, rounds));
     }

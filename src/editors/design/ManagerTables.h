@@ -25,6 +25,7 @@ struct TextRow
     DesignOption option;
     const char* control;
     const char* caption;
+    int width = 620; // of the field at the most, in pixels
 };
 
 // Check boxes, and texts below them, that stand together.

@@ -24,7 +24,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int mostColumns = 3;
-constexpr int longestText = 620; // pixels of a text field
 
 ShopDesignClass& designOf(PanelHost& host)
 {
@@ -113,7 +112,7 @@ void PageOptions::makeGroup(const OptionGroup& group)
     for (const TextRow& row : group.texts) {
         auto* field = new QLineEdit(this);
         field->setObjectName(QLatin1String(row.control));
-        field->setMaximumWidth(longestText);
+        field->setMaximumWidth(row.width);
         auto* caption = new QLabel(CaptionText(row.caption), this);
         caption->setBuddy(field);
         form->addRow(caption, field);

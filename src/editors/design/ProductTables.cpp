@@ -23,6 +23,7 @@ constexpr const char* showRelated     = CAPTION("Show related products");
 constexpr const char* showAddToCart   = CAPTION("Show the add-to-cart button");
 constexpr const char* pageHeader      = CAPTION("Page header:");
 constexpr const char* limit           = CAPTION("Words of the description (0: all):");
+constexpr int numberWidth             = 80;
 
 constexpr const char* page      = CAPTION("Page");
 constexpr const char* products  = CAPTION("Products");
@@ -68,7 +69,7 @@ constexpr SwitchRow categoryProductSwitches[] = {
     {Category_AddToCart,          "chkIncludeAddToCart",          showAddToCart},
 };
 constexpr TextRow categoryProductTexts[] = {
-    {Category_Limit_Desc, "txtLimit", limit},
+    {Category_Limit_Desc, "txtLimit", limit, numberWidth},
 };
 constexpr OptionGroup categoryGroups[] = {
     {page,                       categoryPageSwitches,        categoryPageTexts},
@@ -163,7 +164,7 @@ constexpr SwitchRow searchSwitches[] = {
     {SearchPage_IncludeAddToCart,   "chkIncludeAddToCart",   showAddToCart},
 };
 constexpr TextRow searchTexts[] = {
-    {SearchPage_Limit_Desc, "txtLimit", limit},
+    {SearchPage_Limit_Desc, "txtLimit", limit, numberWidth},
 };
 constexpr OptionGroup searchGroups[] = {
     {page,     searchPageSwitches, searchPageTexts},
@@ -210,7 +211,7 @@ constexpr SwitchRow cartSwitches[] = {
     {CartPage_IncludeAddToCart,   "chkIncludeAddToCart",   CAPTION("Let visitors change the quantity")},
 };
 constexpr TextRow cartTexts[] = {
-    {CartPage_Limit_Desc, "txtLimit", limit},
+    {CartPage_Limit_Desc, "txtLimit", limit, numberWidth},
 };
 constexpr OptionGroup cartGroups[] = {
     {page,     cartPageSwitches, cartPageTexts},
