@@ -197,6 +197,22 @@ TEST_F(NetworkHttpClientTest, ACutOffAnswerInChunksIsAFailure)
     EXPECT_EQ(server.startedRequests, 20);
 }
 
+TEST_F(NetworkHttpClientTest, ARefusalThatComesAheadOfTheBodysEndCounts)
+{
+    QTcpServer impatient;
+    ASSERT_TRUE(impatient.listen(QHostAddress::LocalHost));
+    QObject::connect(&impatient, &QTcpServer::newConnection, &impatient, [&impatient] {
+        QTcpSocket* socket = impatient.nextPendingConnection();
+        socket->setReadBufferSize(1000); // it takes no more of the body
+        socket->write("HTTP/1.1 413 Too large\r\nContent-Length: 3\r\nConnection: close\r\n\r\nbig");
+    });
+    const HttpAnswer answer =
+        post(u"http://127.0.0.1:%1/admin/upload.php"_s.arg(impatient.serverPort()), QByteArray(50000000, 'x'));
+    EXPECT_FALSE(answer.failure.has_value());
+    EXPECT_EQ(answer.status, 413);
+    EXPECT_EQ(answer.body, "big");
+}
+
 TEST_F(NetworkHttpClientTest, AnAnswerWithoutAnEndIsAFailure)
 {
     server.handler = [](QTcpSocket& socket, const RawServer::Request&) {
