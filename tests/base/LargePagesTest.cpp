@@ -9,14 +9,14 @@
 
 namespace {
 
-constexpr qsizetype megabyte = 1024 * 1024;
+constexpr qsizetype megabyte = qsizetype{1024} * 1024;
 
 // Some memory in small blocks, written and read again.
 bool worksWithSmallBlocks()
 {
-    std::vector<std::vector<char>> blocks;
-    for (int i = 0; i < 20'000; ++i) {
-        blocks.emplace_back(500, static_cast<char>(i));
+    std::vector<std::vector<char>> blocks(20'000);
+    for (std::size_t i = 0; i < blocks.size(); ++i) {
+        blocks[i].assign(500, static_cast<char>(i));
     }
     for (std::size_t i = 0; i < blocks.size(); ++i) {
         if (std::count(blocks[i].begin(), blocks[i].end(), static_cast<char>(i)) != 500) {

@@ -16,9 +16,10 @@
 
 class BrowserTest : public testing::Test, protected BrowserDriver
 {
-protected:
+public:
     ~BrowserTest() override;
 
+protected:
     // Puts the sample shop with its templates and pictures into the folder and opens it.
     void openSampleShop();
     // Opens an empty shop "Corner Shop" with templates that show little more than main_part.

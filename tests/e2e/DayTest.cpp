@@ -36,16 +36,18 @@ constexpr int patience = 60000; // milliseconds
 
 class Day : public WindowTest
 {
+public:
+    ~Day() override
+    {
+        EXPECT_TRUE(errors.numbers.empty()) << "run-time error " << errors.numbers.front();
+        window.reset(); // the browser goes ahead of the server and of the errors
+    }
+
 protected:
     void SetUp() override
     {
         useSampleShop();
         ASSERT_TRUE(server.start()) << server.why().toStdString();
-    }
-    ~Day() override
-    {
-        EXPECT_TRUE(errors.numbers.empty()) << "run-time error " << errors.numbers.front();
-        window.reset(); // the browser goes ahead of the server and of the errors
     }
 
     PreviewParts makePreview(QWidget* parent) override
