@@ -195,7 +195,7 @@ TEST_F(ShopFileFailures, NoRoomLeavesTheOldFileWhole)
     session.shop->Description = u"long "_s.repeated(100'000);
     int error = 0;
     {
-        const FileSizeLimit limit(64 * 1024);
+        const FileSizeLimit limit(64UL * 1024);
         error = ErrorOf([this] { session.writeShopFile(); });
     }
     EXPECT_TRUE(error == 61 || error == 57) << error;

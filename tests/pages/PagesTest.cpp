@@ -207,9 +207,10 @@ QString ImageDump(const QString& key, const QString& type, const QString& file, 
 QString SlotDump(const QString& key)
 {
     for (const ImageSlot slot : everySlot()) {
-        if (TagOf(slot) == key)
+        if (TagOf(slot) == key) {
             return ImageDump(key, u"IMAGE"_s, key.toLower() + u".png"_s, u"text of "_s + key, markedWidth(slot),
                              markedHeight(slot));
+        }
     }
     return u"NO SUCH SLOT\n"_s;
 }

@@ -15,9 +15,10 @@
 
 class UploadDialogTest : public testing::Test
 {
-protected:
+public:
     ~UploadDialogTest() override;
 
+protected:
     void makeDialog(QWidget* parent = nullptr);
     // Shows the dialog, which is made when there is none.
     void open();
