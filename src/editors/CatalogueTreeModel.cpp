@@ -20,11 +20,11 @@ CatalogueTreeModel::CatalogueTreeModel(QObject* parent)
 {
 }
 
-TreeNode* CatalogueTreeModel::addNode(TreeNode* parent, const QString& key, const QString& text, TreeImage image)
+TreeNode* CatalogueTreeModel::addNode(TreeNode* parent, QString key, QString text, TreeImage image)
 {
     auto node = std::make_unique<TreeNode>();
-    node->key = key;
-    node->text = text;
+    node->key = std::move(key);
+    node->text = std::move(text);
     node->parent = parent;
     node->image = image;
     node->row = parent ? static_cast<int>(parent->children.size()) : 0;

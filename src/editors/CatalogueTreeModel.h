@@ -32,7 +32,7 @@ public:
     explicit CatalogueTreeModel(QObject* parent = nullptr);
 
     // Appends a node behind its siblings; without a parent it is the root, of which there is one.
-    TreeNode* addNode(TreeNode* parent, const QString& key, const QString& text, TreeImage image);
+    TreeNode* addNode(TreeNode* parent, QString key, QString text, TreeImage image);
     // Removes a node with all below it. Not for the root.
     void removeNode(TreeNode* node);
     void setText(TreeNode* node, const QString& text);

@@ -5,6 +5,8 @@
 #include "model/ProductClass.h"
 #include "model/ShopClass.h"
 
+#include <utility>
+
 namespace {
 
 using Categories = KeyedCollection<std::shared_ptr<CategoryClass>>;
@@ -94,13 +96,13 @@ void CategoryClass::ImportCategory(QStringList& fields)
 }
 
 // The product's discount is not entered in the category's, and it knows no shop: this is meant.
-void CategoryClass::AddImportedProduct(const QStringList& fields)
+void CategoryClass::AddImportedProduct(QStringList& fields)
 {
     auto product = std::make_shared<ProductClass>(*m_services);
     product->id = CurrentShop(*m_services).getNextProductId();
     product->category = weak_from_this();
-    product->name = fields[0];
-    product->Description = fields[1];
+    product->name = std::move(fields[0]);
+    product->Description = std::move(fields[1]);
     products.Add(product, NodeKey(product->id));
     m_services->callbacks.AddProductToTheTree(shared_from_this(), product);
 }

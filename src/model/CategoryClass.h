@@ -51,8 +51,9 @@ public:
     void FromXML(const pugi::xml_node& element, ShopClass& owner, const std::shared_ptr<CategoryClass>& parent);
     void ToXML(pugi::xml_node element);
 
-    // Finds or makes the categories of the path in fields[2], which is consumed, and adds a product named fields[0]
-    // with the description fields[1] to the last. Error 9 with fewer than three fields, 28 when the path is too deep.
+    // Finds or makes the categories of the path in fields[2] and adds a product named fields[0] with the description
+    // fields[1] to the last; the fields are consumed. Error 9 with fewer than three of them, 28 when the path is too
+    // deep.
     void ImportCategory(QStringList& fields);
 
     const ModelServices& services() const { return *m_services; }
@@ -62,7 +63,7 @@ private:
 
     void readChildren(const pugi::xml_node& element, ShopClass& owner);
     // Makes a product of the first two fields in this category.
-    void AddImportedProduct(const QStringList& fields);
+    void AddImportedProduct(QStringList& fields);
 
     const ModelServices* m_services;
     std::shared_ptr<clsSelectedImage> m_selectedImage;

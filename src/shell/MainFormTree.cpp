@@ -60,10 +60,9 @@ void MainForm::AddShopToTheTree()
 TreeNode* MainForm::AddCategoryToTheTree(TreeNode* ParentNode, const std::shared_ptr<CategoryClass>& category)
 {
     CatalogueTree* tree = m_parts->CategoriesAndProductsTree;
-    const QString key = NodeKey(category->id);
-    TreeNode* node = tree->nodes().addNode(ParentNode, key, category->name, TreeImage::Closed);
+    TreeNode* node = tree->nodes().addNode(ParentNode, NodeKey(category->id), category->name, TreeImage::Closed);
     tree->ColorDeSelectedNode(node);
-    m_session->objects.Add(category, key);
+    m_session->objects.Add(category, node->key);
     for (const std::shared_ptr<CategoryClass>& below : category->categories) {
         AddCategoryToTheTree(node, below);
     }
@@ -76,10 +75,9 @@ TreeNode* MainForm::AddCategoryToTheTree(TreeNode* ParentNode, const std::shared
 TreeNode* MainForm::AddProductToTheTree(TreeNode* ParentNode, const std::shared_ptr<ProductClass>& Product)
 {
     CatalogueTree* tree = m_parts->CategoriesAndProductsTree;
-    const QString key = NodeKey(Product->id);
-    TreeNode* node = tree->nodes().addNode(ParentNode, key, Product->name, TreeImage::Product);
+    TreeNode* node = tree->nodes().addNode(ParentNode, NodeKey(Product->id), Product->name, TreeImage::Product);
     tree->ColorDeSelectedNode(node);
-    m_session->objects.Add(Product, key);
+    m_session->objects.Add(Product, node->key);
     return node;
 }
 

@@ -15,6 +15,8 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -31,7 +33,10 @@ QLabel* captionOf(QWidget* field, const QString& text)
 } // namespace
 
 ProductsRelatedPanel::ProductsRelatedPanel(PanelHost& host, QWidget* parent)
-    : Panel(parent), m_host(host), m_nodes(new CatalogueTreeModel(this)), m_related(new RelatedProducts(this))
+    : Panel(parent),
+      m_host(host),
+      m_nodes(new CatalogueTreeModel(this)),
+      m_related(new RelatedProducts([this](const QString& id) { return nameOf(id); }, this))
 {
     auto* frame = new PanelFrame(tr("Related products"), this);
     AllProductsTree = named(new QTreeView(frame), "AllProductsTree", tr("All products"));
@@ -83,25 +88,33 @@ void ProductsRelatedPanel::SetActiveObject(const CatalogueObject& object)
     if (!m_product) {
         return;
     }
-    std::vector<RelatedProducts::Row> rows;
-    rows.reserve(static_cast<std::size_t>(m_product->relatedCount()));
-    for (int i = 0; i < m_product->relatedCount(); ++i) {
-        const QString& id = m_product->related[i];
-        // A product that is gone has no name to show.
-        if (const ProductClass* related = productOf(id)) {
-            rows.push_back({id, related->name});
-        }
+    QString key = NodeKey({});
+    const auto isGone = [this, &key, prefix = key.size()](const QString& id) {
+        key.truncate(prefix);
+        key += id; // without a text of its own for each of them
+        return !productUnder(key);
+    };
+    QStringList list = m_product->related; // the product's own as long as nothing is taken out
+    // From its end: with a long list, the products that the tree begins with are then the last that were touched.
+    if (std::any_of(list.crbegin() + 1, list.crend(), isGone)) {
+        list.erase(std::remove_if(list.begin(), list.end() - 1, isGone), list.end() - 1);
     }
-    m_related->setRows(std::move(rows));
+    m_related->setList(list);
     fillTree();
 }
 
-const ProductClass* ProductsRelatedPanel::productOf(const QString& id) const
+const ProductClass* ProductsRelatedPanel::productUnder(const QString& key) const
 {
     const KeyedCollection<CatalogueObject>& objects = m_host.session().objects.items();
-    const int index = objects.IndexOf(NodeKey(id));
+    const int index = objects.IndexOf(key);
     const auto* product = index == 0 ? nullptr : std::get_if<std::shared_ptr<ProductClass>>(&objects.Item(index));
     return product ? product->get() : nullptr;
+}
+
+QString ProductsRelatedPanel::nameOf(const QString& id) const
+{
+    const ProductClass* product = productUnder(NodeKey(id));
+    return product ? product->name : QString();
 }
 
 void ProductsRelatedPanel::fillTree()
@@ -134,8 +147,8 @@ void ProductsRelatedPanel::toRelated()
         return;
     }
     const QString id = node->key.sliced(productPrefix.size());
-    if (id != m_product->id && !m_related->contains(id)) {
-        m_related->append({id, node->text});
+    if (id != m_product->id && !m_related->ids().contains(id)) {
+        m_related->append(id);
     }
 }
 
@@ -154,7 +167,7 @@ void ProductsRelatedPanel::SaveActiveObject()
 void ProductsRelatedPanel::ClearActiveObject()
 {
     m_product.reset();
-    m_related->setRows({});
+    m_related->setList({});
     m_nodes->beginBuild();
     m_nodes->endBuild();
 }

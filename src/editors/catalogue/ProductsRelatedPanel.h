@@ -27,8 +27,9 @@ public:
     void ClearActiveObject() override;
 
 private:
-    // None for a product that is gone.
-    const ProductClass* productOf(const QString& id) const;
+    // None for a product that is gone, which has no name to show.
+    const ProductClass* productUnder(const QString& key) const;
+    QString nameOf(const QString& id) const;
     void fillTree();
     void addCategory(TreeNode* parent, const CategoryClass& category);
     void toRelated();

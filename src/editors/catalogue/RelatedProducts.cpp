@@ -1,24 +1,24 @@
 #include "editors/catalogue/RelatedProducts.h"
 
-#include <algorithm>
+#include <utility>
 
-void RelatedProducts::setRows(std::vector<Row> rows)
+RelatedProducts::RelatedProducts(NameOf nameOf, QObject* parent)
+    : QAbstractListModel(parent), m_nameOf(std::move(nameOf))
+{
+}
+
+void RelatedProducts::setList(const QStringList& list)
 {
     beginResetModel();
-    m_rows = std::move(rows);
+    m_list = list.isEmpty() ? QStringList{QString()} : list;
     endResetModel();
 }
 
-bool RelatedProducts::contains(const QString& id) const
-{
-    return std::any_of(m_rows.begin(), m_rows.end(), [&id](const Row& row) { return row.id == id; });
-}
-
-void RelatedProducts::append(const Row& row)
+void RelatedProducts::append(const QString& id)
 {
     const int last = rowCount();
     beginInsertRows({}, last, last);
-    m_rows.push_back(row);
+    m_list.insert(last, id);
     endInsertRows();
 }
 
@@ -28,23 +28,13 @@ void RelatedProducts::removeAt(int row)
         return;
     }
     beginRemoveRows({}, row, row);
-    m_rows.erase(m_rows.begin() + row);
+    m_list.removeAt(row);
     endRemoveRows();
-}
-
-QStringList RelatedProducts::ids() const
-{
-    QStringList ids;
-    ids.reserve(static_cast<qsizetype>(m_rows.size()));
-    for (const Row& row : m_rows) {
-        ids << row.id;
-    }
-    return ids;
 }
 
 int RelatedProducts::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
+    return parent.isValid() ? 0 : static_cast<int>(m_list.size()) - 1;
 }
 
 QVariant RelatedProducts::data(const QModelIndex& index, int role) const
@@ -52,9 +42,9 @@ QVariant RelatedProducts::data(const QModelIndex& index, int role) const
     if (!index.isValid() || index.row() >= rowCount()) {
         return {};
     }
-    const Row& row = m_rows[static_cast<std::size_t>(index.row())];
+    const QString& id = m_list.at(index.row());
     if (role == Qt::DisplayRole) {
-        return row.name;
+        return m_nameOf(id);
     }
-    return role == IdRole ? QVariant(row.id) : QVariant();
+    return role == IdRole ? QVariant(id) : QVariant();
 }

@@ -5,34 +5,34 @@
 #include <QAbstractListModel>
 #include <QStringList>
 
-#include <vector>
+#include <functional>
 
 class RelatedProducts : public QAbstractListModel
 {
     Q_OBJECT
 
 public:
-    struct Row
-    {
-        QString id;
-        QString name;
-    };
-
     // The id of a row.
     static constexpr int IdRole = Qt::UserRole;
 
-    using QAbstractListModel::QAbstractListModel;
+    // The name of the product with an id. Asked only for the rows that are shown.
+    using NameOf = std::function<QString(const QString& id)>;
 
-    void setRows(std::vector<Row> rows);
-    bool contains(const QString& id) const;
-    void append(const Row& row);
+    RelatedProducts(NameOf nameOf, QObject* parent);
+
+    // The ids and, behind them, the spare entry that a product's list has: it is kept, so that a list of any length is
+    // taken over without a copy. Without any entry it is added.
+    void setList(const QStringList& list);
+    // Without the spare entry.
+    QStringList ids() const { return m_list.first(rowCount()); }
+    void append(const QString& id);
     // 0-based; does nothing when there is no such row.
     void removeAt(int row);
-    QStringList ids() const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
 private:
-    std::vector<Row> m_rows;
+    NameOf m_nameOf;
+    QStringList m_list{QString()};
 };
