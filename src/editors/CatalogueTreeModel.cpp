@@ -2,6 +2,8 @@
 
 #include <QBrush>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {

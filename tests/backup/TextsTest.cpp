@@ -1,9 +1,10 @@
-// What backup and restore say, letter for letter, in the order in which it is said.
+// What backup and restore say, letter for letter, in the order in which it is said, and that a failure changes nothing.
 #include "backup/BackUpCommands.h"
 #include "backup/BackUpFixture.h"
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <functional>
 #include <vector>
@@ -92,6 +93,9 @@ TEST_F(BackUpTexts, OfABackupAreTheSystemsOwn)
         makeFreshShop();
         row.arrange();
         backUp(u"may"_s, row.boxes);
+        // The folder is made before anything is looked at. A failure writes nothing into it.
+        EXPECT_TRUE(QFile::exists(files.path(u"backups"_s)));
+        EXPECT_EQ(QFileInfo(files.path(u"backups/may.kvb"_s)).isFile(), row.boxes.front().text == completed.text);
     }
 }
 
@@ -132,11 +136,17 @@ TEST_F(BackUpTexts, OfARestoreAreTheSystemsOwn)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.when);
         WriteFile(packed, row.file);
+        const QString shop = files.path(u"shop.xml"_s);
+        WriteFile(shop, "changed");
         if (row.shopStays) {
-            QFile::remove(files.path(u"shop.xml"_s));
-            QDir().mkpath(files.path(u"shop.xml/inside"_s));
+            QFile::remove(shop);
+            QDir().mkpath(shop + u"/inside"_s);
         }
-        EXPECT_EQ(restore(packed, row.boxes), row.boxes.size() == 1);
+        const bool works = row.boxes.size() == 1;
+        EXPECT_EQ(restore(packed, row.boxes), works);
+        if (!row.shopStays) {
+            EXPECT_EQ(FileBytes(shop), works ? ReferenceShop() : "changed");
+        }
     }
 }
 

@@ -32,32 +32,28 @@ TEST_F(WindowTexts, OfAllBoxesAreTheSystemsOwn)
         Kind kind;
         QString title;
         QString text;
-        PromptIcon icon;
         std::function<void()> act;
     } rows[] = {
         {"a product is to be removed", Kind::YesNo, u"Warning"_s, u"Are you sure you want to remove this product"_s,
-         PromptIcon::None,
          [this] {
              clickNode(u"ID4"_s);
              click("RemoveProductSBtn");
          }},
         {"a product is to be removed from the pop-up", Kind::YesNo, u"Warning"_s,
-         u"Are you sure you want to remove this product"_s, PromptIcon::None, [this] { trigger("mnuRemoveProduct"); }},
+         u"Are you sure you want to remove this product"_s, [this] { trigger("mnuRemoveProduct"); }},
         {"a category is to be removed", Kind::YesNo, u"Warning"_s, u"Are you sure you want to remove this category"_s,
-         PromptIcon::None,
          [this] {
              clickNode(u"ID2"_s);
              click("RemoveCategorySBtn");
          }},
         {"a category is to be removed from the pop-up", Kind::YesNo, u"Warning"_s,
-         u"Are you sure you want to remove this category"_s, PromptIcon::None,
-         [this] { trigger("mnuRemoveCategory"); }},
-        {"Alt and Left are pressed in the preview", Kind::Message, programTitle, u"SS"_s, PromptIcon::None,
+         u"Are you sure you want to remove this category"_s, [this] { trigger("mnuRemoveCategory"); }},
+        {"Alt and Left are pressed in the preview", Kind::Message, programTitle, u"SS"_s,
          [this] {
              window->SetMode(MainForm::PreviewMode);
              QTest::keyClick(window.get(), Qt::Key_Left, Qt::AltModifier);
          }},
-        {"the window closes", Kind::YesNoCancel, programTitle, u"Do you want save changes?"_s, PromptIcon::None,
+        {"the window closes", Kind::YesNoCancel, programTitle, u"Do you want save changes?"_s,
          [this] { window->close(); }},
     };
     start();
@@ -65,7 +61,7 @@ TEST_F(WindowTexts, OfAllBoxesAreTheSystemsOwn)
         SCOPED_TRACE(row.when);
         switch (row.kind) {
         case Kind::Message:
-            prompts.expectMessage(row.title, row.text, row.icon);
+            prompts.expectMessage(row.title, row.text);
             break;
         case Kind::YesNo:
             prompts.answerYesNo(row.title, row.text, false);

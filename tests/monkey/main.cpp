@@ -1,6 +1,7 @@
 // The monkey: presses at random on the real window and finds crashes, hangs, and errors that are none of the program's.
 //
-//   monkey [--seed N] [--seconds S] [--steps N]     runs from seed N on, until the time is over
+//   monkey [--seed N] [--seconds S] [--steps N]     runs from seed N on, until the time is over; --jobs at a time,
+//                                                   --talk tells of each, --on goes on behind a defect
 //   monkey --alone --folder F --seed N [--steps N]  one run in this process, to look at a defect
 //   monkey --check --folder F                       opens and saves what that run has left behind
 #include "Run.h"

@@ -94,12 +94,12 @@ void ProductsRelatedPanel::SetActiveObject(const CatalogueObject& object)
         key += id; // without a text of its own for each of them
         return !productUnder(key);
     };
-    QStringList list = m_product->related; // the product's own as long as nothing is taken out
-    // From its end: with a long list, the products that the tree begins with are then the last that were touched.
-    if (std::any_of(list.crbegin() + 1, list.crend(), isGone)) {
-        list.erase(std::remove_if(list.begin(), list.end() - 1, isGone), list.end() - 1);
+    QStringList ids = m_product->related.first(m_product->relatedCount());
+    // From its end: of a long list, the products that the tree begins with are then the last that were touched.
+    if (std::any_of(ids.crbegin(), ids.crend(), isGone)) {
+        ids.removeIf(isGone);
     }
-    m_related->setList(list);
+    m_related->setIds(ids);
     fillTree();
 }
 
@@ -167,7 +167,7 @@ void ProductsRelatedPanel::SaveActiveObject()
 void ProductsRelatedPanel::ClearActiveObject()
 {
     m_product.reset();
-    m_related->setList({});
+    m_related->setIds({});
     m_nodes->beginBuild();
     m_nodes->endBuild();
 }

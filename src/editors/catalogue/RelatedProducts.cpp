@@ -7,10 +7,10 @@ RelatedProducts::RelatedProducts(NameOf nameOf, QObject* parent)
 {
 }
 
-void RelatedProducts::setList(const QStringList& list)
+void RelatedProducts::setIds(const QStringList& ids)
 {
     beginResetModel();
-    m_list = list.isEmpty() ? QStringList{QString()} : list;
+    m_ids = ids;
     endResetModel();
 }
 
@@ -18,7 +18,7 @@ void RelatedProducts::append(const QString& id)
 {
     const int last = rowCount();
     beginInsertRows({}, last, last);
-    m_list.insert(last, id);
+    m_ids << id;
     endInsertRows();
 }
 
@@ -28,13 +28,13 @@ void RelatedProducts::removeAt(int row)
         return;
     }
     beginRemoveRows({}, row, row);
-    m_list.removeAt(row);
+    m_ids.removeAt(row);
     endRemoveRows();
 }
 
 int RelatedProducts::rowCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : static_cast<int>(m_list.size()) - 1;
+    return parent.isValid() ? 0 : static_cast<int>(m_ids.size());
 }
 
 QVariant RelatedProducts::data(const QModelIndex& index, int role) const
@@ -42,7 +42,7 @@ QVariant RelatedProducts::data(const QModelIndex& index, int role) const
     if (!index.isValid() || index.row() >= rowCount()) {
         return {};
     }
-    const QString& id = m_list.at(index.row());
+    const QString& id = m_ids.at(index.row());
     if (role == Qt::DisplayRole) {
         return m_nameOf(id);
     }

@@ -20,11 +20,8 @@ public:
 
     RelatedProducts(NameOf nameOf, QObject* parent);
 
-    // The ids and, behind them, the spare entry that a product's list has: it is kept, so that a list of any length is
-    // taken over without a copy. Without any entry it is added.
-    void setList(const QStringList& list);
-    // Without the spare entry.
-    QStringList ids() const { return m_list.first(rowCount()); }
+    void setIds(const QStringList& ids);
+    const QStringList& ids() const { return m_ids; }
     void append(const QString& id);
     // 0-based; does nothing when there is no such row.
     void removeAt(int row);
@@ -34,5 +31,5 @@ public:
 
 private:
     NameOf m_nameOf;
-    QStringList m_list{QString()};
+    QStringList m_ids;
 };

@@ -23,7 +23,8 @@ constexpr const char* showRelated     = CAPTION("Show related products");
 constexpr const char* showAddToCart   = CAPTION("Show the add-to-cart button");
 constexpr const char* pageHeader      = CAPTION("Page header:");
 constexpr const char* limit           = CAPTION("Words of the description (0: all):");
-constexpr int numberWidth             = 80;
+
+constexpr int numberWidth = 80; // pixels of a field for a number
 
 constexpr const char* page      = CAPTION("Page");
 constexpr const char* products  = CAPTION("Products");

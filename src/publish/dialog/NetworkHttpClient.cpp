@@ -16,12 +16,14 @@ struct Setting
     long value;
 };
 
+// By itself the library repeats a request only over a connection that it kept and that turns out to be closed. So it
+// keeps none.
 constexpr std::array settings{
     Setting{CURLOPT_HTTP_VERSION, CURL_HTTP_VERSION_1_1},
     Setting{CURLOPT_POST, 1},
     Setting{CURLOPT_FOLLOWLOCATION, 0},              // a redirect is an answer like any other
-    Setting{CURLOPT_FRESH_CONNECT, 1},               // a request is repeated, by the library alone, when a kept
-    Setting{CURLOPT_FORBID_REUSE, 1},                //   connection turns out to be closed: so none is kept
+    Setting{CURLOPT_FRESH_CONNECT, 1},               // over no connection of an earlier request
+    Setting{CURLOPT_FORBID_REUSE, 1},                // nor for a later one
     Setting{CURLOPT_UPLOAD_BUFFERSIZE, 256L * 1024}, // bytes, for fewer turns of the event loop
     Setting{CURLOPT_CONNECTTIMEOUT, 2'000'000},      // seconds; without a number it has a limit of its own
     Setting{CURLOPT_NOSIGNAL, 1},                    // the program's signals are its own
@@ -131,7 +133,6 @@ void NetworkHttpClient::post(const QString& url, const QByteArray& contentType, 
     for (const Setting& setting : settings) {
         curl_easy_setopt(transfer, setting.option, setting.value);
     }
-    curl_easy_setopt(transfer, CURLOPT_PROTOCOLS_STR, "http");
     curl_easy_setopt(transfer, CURLOPT_URL, addressForLibrary(address).constData());
     curl_easy_setopt(transfer, CURLOPT_PROXY, proxyForLibrary(proxy).constData());
     if (!proxy.user().isEmpty()) {

@@ -85,6 +85,15 @@ QStringList PanelTest::rowOf(const CustomGrid* grid, int row)
     return texts;
 }
 
+QStringList PanelTest::titlesOf(const CustomGrid* grid)
+{
+    QStringList titles;
+    for (int column = 0; column + 1 < grid->BaseGrd->columnCount(); ++column) {
+        titles << grid->BaseGrd->horizontalHeaderItem(column)->text();
+    }
+    return titles;
+}
+
 void PanelTest::addRow(CustomGrid* grid, const QStringList& texts)
 {
     press(grid->AddItemButtonLbl);

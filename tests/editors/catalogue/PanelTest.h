@@ -49,6 +49,8 @@ protected:
     static void typeIntoCell(CustomGrid* grid, int row, int column, const QString& text);
     static QString cell(const CustomGrid* grid, int row, int column);
     static QStringList rowOf(const CustomGrid* grid, int row);
+    // The titles of the columns of data.
+    static QStringList titlesOf(const CustomGrid* grid);
     // Appends a row by the link and types its first cells.
     void addRow(CustomGrid* grid, const QStringList& texts);
 

@@ -69,11 +69,7 @@ TEST_F(Texts, StandAboveTheColumnsOfEachGrid)
             press(row.option);
         }
         auto* grid = in<CustomGrid>(row.grid);
-        QStringList titles;
-        for (int column = 0; column + 1 < grid->BaseGrd->columnCount(); ++column) {
-            titles << grid->BaseGrd->horizontalHeaderItem(column)->text();
-        }
-        EXPECT_EQ(titles, QString::fromLatin1(row.titles).split(u'|'));
+        EXPECT_EQ(titlesOf(grid), QString::fromLatin1(row.titles).split(u'|'));
         press(grid->AddItemButtonLbl);
         EXPECT_EQ(cell(grid, grid->BaseGrd->rowCount() - 1, grid->BaseGrd->columnCount() - 1), u"Remove"_s);
         window->ResetActivePanel();

@@ -4,6 +4,7 @@
 #include "publish/dialog/RawServer.h"
 #include "publish/dialog/UploadDialogTest.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -212,9 +213,10 @@ TEST_F(HostileAnswersTest, AServerThatIsNotThereIsToldInTheLog)
     const QString nowhere = std::make_unique<RawServer>()->address();
     upload(nowhere);
     EXPECT_FALSE(dialog->isVisible());
-    EXPECT_TRUE(log().startsWith("anna\r\n" + nowhere.toLatin1() + "\r\nFailed to connect")) << log().toStdString();
-    EXPECT_TRUE(log().endsWith("Couldn't connect to server|7\r\n")) << log().toStdString();
-    EXPECT_EQ(log().count('\n'), 3);
+    // The words are the network library's own.
+    const QRegularExpression failure(u"^anna\r\n"_s + QRegularExpression::escape(nowhere) +
+                                     u"\r\n[^|\r\n]+\\|%1\r\n$"_s.arg(CURLE_COULDNT_CONNECT));
+    EXPECT_TRUE(failure.match(QString::fromUtf8(log())).hasMatch()) << log().toStdString();
     uploadAfterwards();
 }
 
