@@ -1,0 +1,5 @@
+// Precompiled for the tests that open windows.
+#pragma once
+
+#include "test.h"
+#include "widgets.h"
