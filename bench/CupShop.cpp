@@ -50,7 +50,7 @@ void addProduct(ShopSession& session, const std::shared_ptr<CategoryClass>& cate
     for (const QString& type : *session.shop->ShippingTypeName) {
         product->ShippingCosts()->Add(QString::number(number % 7), type);
     }
-    category->products.Add(product, NodeKey(product->id));
+    category->products.Add(product, nodeKey(product->id));
 }
 
 std::shared_ptr<CategoryClass> newCategory(ShopSession& session, int number)
@@ -86,11 +86,11 @@ void fillShop(ShopSession& session, int products)
     for (int number = 0; number < products; ++number) {
         if (number % (productsOfCategory * categoriesOfRoot) == 0) {
             root = newCategory(session, number);
-            shop.categories.Add(root, NodeKey(root->id));
+            shop.categories.Add(root, nodeKey(root->id));
         }
         if (number % productsOfCategory == 0) {
             shelf = newCategory(session, number);
-            root->categories.Add(shelf, NodeKey(shelf->id));
+            root->categories.Add(shelf, nodeKey(shelf->id));
         }
         addProduct(session, shelf, number);
     }

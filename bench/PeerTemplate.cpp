@@ -93,21 +93,21 @@ PeerRow PeerTemplate::rowOf(const Variables& variables, const QString& list, Uns
         const VariableValue& value = variables.Item(i);
         if (isList(value)) {
             std::vector<PeerRow> rows;
-            for (const Variables& below : RowsOf(value)) {
+            for (const Variables& below : rowsOf(value)) {
                 rows.push_back(rowOf(below, name, unshown));
             }
             row.lists.emplace_back(name.toStdString(), std::move(rows));
         } else {
             const bool isShown = std::find(m_shown.begin(), m_shown.end(), Shown{list, name}) != m_shown.end();
             if (isShown || (unshown == Unshown::Keep && !isCompared(list, name))) {
-                row.texts.emplace_back(name.toStdString(), TextOf(value).toStdString());
+                row.texts.emplace_back(name.toStdString(), textOf(value).toStdString());
             }
         }
     }
     for (const Comparison& comparison : m_comparisons) {
         if (comparison.list == list) {
             const bool isEqual =
-                variables.Exists(comparison.name) && TextOf(variables.Item(comparison.name)) == comparison.value;
+                variables.exists(comparison.name) && textOf(variables.Item(comparison.name)) == comparison.value;
             if (isEqual == comparison.wanted) {
                 row.sections.push_back(comparison.section);
             }

@@ -12,7 +12,7 @@ class MedianReporter : public benchmark::ConsoleReporter
 public:
     MedianReporter() : ConsoleReporter(OO_Tabular) {}
 
-    void ReportRuns(const std::vector<Run>& runs) override
+    void reportRuns(const std::vector<Run>& runs) override
     {
         for (const Run& run : runs) {
             if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median") {
@@ -20,7 +20,7 @@ public:
                 medians[run.run_name.function_name] = seconds * 1e6;
             }
         }
-        ConsoleReporter::ReportRuns(runs);
+        ConsoleReporter::reportRuns(runs);
     }
 
     std::map<std::string, double> medians; // microseconds of processor time
@@ -28,7 +28,7 @@ public:
 
 } // namespace
 
-int RunAndCompare(int argc, char** argv, const std::vector<Comparison>& comparisons)
+int runAndCompare(int argc, char** argv, const std::vector<Comparison>& comparisons)
 {
     std::vector<std::string> arguments(argv, argv + argc);
     arguments.insert(arguments.begin() + 1,

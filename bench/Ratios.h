@@ -15,4 +15,4 @@ struct Comparison
 
 // Runs all registered benchmarks, prints a table of the ratios with PASS or FAIL, and returns the exit code: 0 when
 // every wanted ratio was reached.
-int RunAndCompare(int argc, char** argv, const std::vector<Comparison>& comparisons);
+int runAndCompare(int argc, char** argv, const std::vector<Comparison>& comparisons);

@@ -294,7 +294,7 @@ bool memoryIsInside(const char* title, qint64 growth, qint64 limit)
 }
 
 // Runs the work each time on folders without files, which is not measured.
-void Register(const std::string& name, const QStringList& emptied, const std::function<bool()>& work)
+void register(const std::string& name, const QStringList& emptied, const std::function<bool()>& work)
 {
     benchmark::RegisterBenchmark(name.c_str(), [emptied, work](benchmark::State& state) {
         for (auto _ : state) {
@@ -329,18 +329,18 @@ int main(int argc, char** argv)
 
     Peer peer(shop);
     const QStringList shopFolders = {shop.path(u"pictures"_s), shop.path(u"templates"_s)};
-    Register("backup", {}, [&] { return backUp(shop); });
-    Register("reading and compress", {}, [&] { return peer.readAndCompress() > 0; });
-    Register("restore", shopFolders, [&] { return restore(shop); });
-    Register("reading, uncompress and writing", {shop.path(u"peer"_s)},
+    register("backup", {}, [&] { return backUp(shop); });
+    register("reading and compress", {}, [&] { return peer.readAndCompress() > 0; });
+    register("restore", shopFolders, [&] { return restore(shop); });
+    register("reading, uncompress and writing", {shop.path(u"peer"_s)},
              [&] { return peer.readUncompressAndWrite() > 0; });
-    Register("restore over an old shop", {}, [&] { return restore(shop); });
+    register("restore over an old shop", {}, [&] { return restore(shop); });
 
     // One run takes seconds.
     std::vector<char*> arguments(argv, argv + argc);
     std::string repetitions = "--benchmark_repetitions=3";
     arguments.insert(arguments.begin() + 1, repetitions.data());
-    const int ratios = RunAndCompare(
+    const int ratios = runAndCompare(
         static_cast<int>(arguments.size()), arguments.data(),
         {{"backup", "backup", "reading and compress", 1 / 1.1},
          {"restore", "restore", "reading, uncompress and writing", 1 / 1.3},

@@ -67,9 +67,9 @@ std::shared_ptr<ProductClass> fillShop(ShopSession& session)
             product->id = QString::number(++id);
             product->name = u"Product number %1"_s.arg(id);
             ids << product->id;
-            category->products.Add(product, NodeKey(product->id));
+            category->products.Add(product, nodeKey(product->id));
         }
-        session.shop->categories.Add(category, NodeKey(category->id));
+        session.shop->categories.Add(category, nodeKey(category->id));
     }
     std::shared_ptr<ProductClass> first = session.shop->categories.Item(1)->products.Item(1);
     first->setRelatedIds(ids.mid(1));
@@ -81,14 +81,14 @@ void openMainTree(ShopSession& session, CatalogueTree& tree)
 {
     CatalogueTreeModel& nodes = tree.nodes();
     nodes.beginBuild();
-    TreeNode* root = nodes.addNode(nullptr, ShopNodeKey(), session.shop->name, TreeImage::Closed);
-    session.objects.Add(session.shop, ShopNodeKey());
+    TreeNode* root = nodes.addNode(nullptr, shopNodeKey(), session.shop->name, TreeImage::Closed);
+    session.objects.Add(session.shop, shopNodeKey());
     for (const std::shared_ptr<CategoryClass>& category : session.shop->categories) {
-        TreeNode* node = nodes.addNode(root, NodeKey(category->id), category->name, TreeImage::Closed);
+        TreeNode* node = nodes.addNode(root, nodeKey(category->id), category->name, TreeImage::Closed);
         tree.ColorDeSelectedNode(node);
         session.objects.Add(category, node->key);
         for (const std::shared_ptr<ProductClass>& product : category->products) {
-            TreeNode* leaf = nodes.addNode(node, NodeKey(product->id), product->name, TreeImage::Product);
+            TreeNode* leaf = nodes.addNode(node, nodeKey(product->id), product->name, TreeImage::Product);
             tree.ColorDeSelectedNode(leaf);
             session.objects.Add(product, leaf->key);
         }
@@ -109,7 +109,7 @@ void clearMainTree(ShopSession& session, CatalogueTree& tree)
 
 // What was opened before is cleared outside of the time that counts.
 template <class Prepare, class Work>
-void Register(const char* name, Prepare prepare, Work work)
+void register(const char* name, Prepare prepare, Work work)
 {
     benchmark::RegisterBenchmark(name, [prepare, work](benchmark::State& state) {
         while (state.KeepRunning()) {
@@ -146,7 +146,7 @@ int main(int argc, char** argv)
     const auto* related = panel.findChild<QListView*>(u"RelatedProductsLst"_s);
     QCoreApplication::processEvents();
 
-    Register(
+    register(
         "open the panel of related products",
         [&] {
             panel.ClearActiveObject();
@@ -159,9 +159,9 @@ int main(int argc, char** argv)
                 std::abort();
             }
         });
-    Register(
+    register(
         "open the window's tree", [&] { clearMainTree(session, tree); }, [&] { openMainTree(session, tree); });
-    return RunAndCompare(argc, argv,
+    return runAndCompare(argc, argv,
                          {{"related products, 100,000 (half is enough)", "open the panel of related products",
                            "open the window's tree", 0.5}});
 }

@@ -72,14 +72,14 @@ public:
         category->shop = session.shop.get();
         category->id = session.shop->getNextProductId();
         category->name = u"Cups, shelf "_s + category->id;
-        session.shop->categories.Add(category, NodeKey(category->id));
-        session.objects.Add(category, NodeKey(category->id));
+        session.shop->categories.Add(category, nodeKey(category->id));
+        session.objects.Add(category, nodeKey(category->id));
         QString former;
         for (int i = 0; i < products; ++i) {
             const auto product = newProduct(i, former);
             product->category = category;
-            category->products.Add(product, NodeKey(product->id));
-            session.objects.Add(product, NodeKey(product->id));
+            category->products.Add(product, nodeKey(product->id));
+            session.objects.Add(product, nodeKey(product->id));
             former = product->id;
         }
         return category;
@@ -218,7 +218,7 @@ double millionCharacters(const ShopSession& session)
 }
 
 template <class Work>
-void Register(const std::string& name, Work work)
+void register(const std::string& name, Work work)
 {
     benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State& state) {
         for (auto _ : state) {
@@ -242,7 +242,7 @@ int main(int argc, char** argv)
     Shop pageShop;
     const std::shared_ptr<CategoryClass> category = pageShop.addCategory(productsOfPage);
     const PeerTemplate peer(pageShop.templates.templates.Item(u"category"_s)->template_text);
-    const Variables variables = PageVariables(pageShop.context, u"category"_s, category);
+    const Variables variables = pageVariables(pageShop.context, u"category"_s, category);
     const PeerRow page = peer.rowOf(variables, PeerTemplate::Unshown::Keep);
     const PeerRow shortPage = peer.rowOf(variables, PeerTemplate::Unshown::LeaveOut);
     const std::string text = RenderPage(pageShop.context, u"category"_s, category).toStdString();
@@ -251,9 +251,9 @@ int main(int argc, char** argv)
         giveUp("The category pages differ");
     }
     const std::string pageTitle = "category page, 1,000 products";
-    Register(pageTitle, [&] { return RenderPage(pageShop.context, u"category"_s, category); });
-    Register(pageTitle + ", ctemplate", [&] { return peer.fillAndExpand(page); });
-    Register(pageTitle + ", ctemplate with less", [&] { return peer.fillAndExpand(shortPage); });
+    register(pageTitle, [&] { return RenderPage(pageShop.context, u"category"_s, category); });
+    register(pageTitle + ", ctemplate", [&] { return peer.fillAndExpand(page); });
+    register(pageTitle + ", ctemplate with less", [&] { return peer.fillAndExpand(shortPage); });
     comparisons.push_back({pageTitle, pageTitle, pageTitle + ", ctemplate", 4.0});
     comparisons.push_back({"  peer with the used variables alone", pageTitle, pageTitle + ", ctemplate with less", 0});
 
@@ -269,9 +269,9 @@ int main(int argc, char** argv)
     for (const Word& word : words) {
         const QString wanted = QString::fromUtf16(word.text);
         const std::string title = std::string("search for ") + word.title;
-        Register(title, [&search, wanted] { return search.ours(wanted).size(); });
-        Register(title + ", toUpper and contains", [&search, wanted] { return search.theirs(wanted).size(); });
+        register(title, [&search, wanted] { return search.ours(wanted).size(); });
+        register(title + ", toUpper and contains", [&search, wanted] { return search.theirs(wanted).size(); });
         comparisons.push_back({title, title, title + ", toUpper and contains", 3.0});
     }
-    return RunAndCompare(argc, argv, comparisons);
+    return runAndCompare(argc, argv, comparisons);
 }

@@ -73,7 +73,7 @@ void makeShop(const ApplicationFolder& folder)
     const ServerFileList emptyServer;
     for (const UploadItem& item : UploadPlan(folder, emptyServer).items()) {
         if (item.kind == UploadItem::Kind::Template) {
-            writeFile(PartOf(item, folder).localFile, QByteArray(4000, 't'));
+            writeFile(partOf(item, folder).localFile, QByteArray(4000, 't'));
         }
     }
 }
@@ -129,7 +129,7 @@ QString prepareCurl(const ApplicationFolder& folder, const QString& address, con
     const ServerFileList emptyServer;
     UploadPlan plan(folder, emptyServer);
     plan.walkShopFile();
-    const QByteArray head = RequestHead(u"anna"_s, u"s3cret"_s, u"1.2.0"_s);
+    const QByteArray head = requestHead(u"anna"_s, u"s3cret"_s, u"1.2.0"_s);
     QString config;
     const auto add = [&](QLatin1StringView page, const QByteArray& body) {
         const QString file = work.filePath(u"body-%1"_s.arg(config.size()));
@@ -137,12 +137,12 @@ QString prepareCurl(const ApplicationFolder& folder, const QString& address, con
         config += config.isEmpty() ? u""_s : u"next\n"_s;
         config += u"url = \"%1\"\ndata-binary = \"@%2\"\noutput = \"/dev/null\"\n"_s.arg(address + page, file) +
                   u"header = \"Content-Type: %1\"\nheader = \"Expect:\"\nsilent\nfail\n"_s.arg(
-                      QString::fromLatin1(RequestContentType()));
+                      QString::fromLatin1(requestContentType()));
     };
     add(ListURL, head);
     for (const UploadItem& item : plan.items()) {
-        const UploadPart part = PartOf(item, folder);
-        add(UploadURL, UploadBody(head, part.fileName, part.contentType, readFile(part.localFile)));
+        const UploadPart part = partOf(item, folder);
+        add(UploadURL, uploadBody(head, part.fileName, part.contentType, readFile(part.localFile)));
     }
     QString path = work.filePath(u"curl.conf"_s);
     writeFile(path, config.toUtf8());
@@ -161,7 +161,7 @@ void runCurl(const QString& config)
 // The highest that this process's memory ever was.
 double peakMegabytes()
 {
-    const QList<QByteArray> lines = ReadFileBytes(u"/proc/self/status"_s).split('\n');
+    const QList<QByteArray> lines = readFileBytes(u"/proc/self/status"_s).split('\n');
     for (const QByteArray& line : lines) {
         if (line.startsWith("VmHWM:")) {
             return line.mid(6).simplified().split(' ').first().toDouble() * 1024e-6;

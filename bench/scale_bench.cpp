@@ -131,7 +131,7 @@ private:
 
 double peakMegabytes()
 {
-    for (const QByteArray& line : ReadFileBytes(u"/proc/self/status"_s).split('\n')) {
+    for (const QByteArray& line : readFileBytes(u"/proc/self/status"_s).split('\n')) {
         if (line.startsWith("VmHWM:")) {
             return line.simplified().split(' ')[1].toDouble() / 1024;
         }
@@ -147,7 +147,7 @@ void makeShop(const ApplicationFolder& folder)
     for (const QString& name : templates.entryList(QDir::Files)) {
         QFile::copy(templates.filePath(name), folder.templatesFolder() + name);
     }
-    WriteFileBytes(folder.countriesFile(), "Mali\n");
+    writeFileBytes(folder.countriesFile(), "Mali\n");
 
     QImage image(240, 180, QImage::Format_RGB32);
     image.fill(Qt::darkCyan);
@@ -155,7 +155,7 @@ void makeShop(const ApplicationFolder& folder)
     QBuffer buffer(&picture);
     image.save(&buffer, "PNG");
     for (int i = 0; i < pictureCount; ++i) {
-        WriteFileBytes(folder.picturesFolder() + u"cup-%1.png"_s.arg(i), picture);
+        writeFileBytes(folder.picturesFolder() + u"cup-%1.png"_s.arg(i), picture);
     }
 
     NoPrompts prompts;
@@ -309,7 +309,7 @@ bool Day::run()
     step("its discounts", [this] { press("CategoryDiscountSBtn"); });
     step("Submit, and the push down the tree", [this] { m_window->ApplyActivePanel(); });
     step("the shop's discounts and the push", [this] {
-        clickNode(ShopNodeKey());
+        clickNode(shopNodeKey());
         press("ShopDiscountSBtn");
         m_window->ApplyActivePanel();
     });
@@ -359,6 +359,6 @@ int main(int argc, char** argv)
     const QTemporaryDir directory;
     const ApplicationFolder folder(directory.path());
     makeShop(folder);
-    WriteFileBytes(folder.path() + u"/saucers.txt"_s, importText());
+    writeFileBytes(folder.path() + u"/saucers.txt"_s, importText());
     return Day(folder).run() ? 0 : 1;
 }

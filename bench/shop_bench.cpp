@@ -52,7 +52,7 @@ double secondsOf(const std::function<void()>& work)
 // The highest that this process's memory ever was.
 double peakKilobytes()
 {
-    const QList<QByteArray> lines = ReadFileBytes(u"/proc/self/status"_s).split('\n');
+    const QList<QByteArray> lines = readFileBytes(u"/proc/self/status"_s).split('\n');
     for (const QByteArray& line : lines) {
         if (line.startsWith("VmHWM:")) {
             return line.mid(6).simplified().split(' ').first().toDouble();
@@ -92,7 +92,7 @@ Sample samplePeer(const ApplicationFolder& folder, PeerParse parse)
         pugi::parse_cdata | pugi::parse_escapes | pugi::parse_ws_pcdata_single | pugi::parse_embed_pcdata;
     Sample sample;
     const double before = peakKilobytes();
-    QByteArray bytes = ReadFileBytes(folder.shopFile());
+    QByteArray bytes = readFileBytes(folder.shopFile());
     const auto size = static_cast<std::size_t>(bytes.size());
     pugi::xml_document document;
     sample.read = secondsOf([&] {

@@ -148,7 +148,7 @@ void makeShop(const ApplicationFolder& folder)
     for (const QString& name : templates.entryList(QDir::Files)) {
         QFile::copy(templates.filePath(name), folder.templatesFolder() + name);
     }
-    WriteFileBytes(folder.countriesFile(), "Mali\n");
+    writeFileBytes(folder.countriesFile(), "Mali\n");
     NoPrompts prompts;
     const SystemClock clock;
     ShopSession session(folder, prompts, clock);

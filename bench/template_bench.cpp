@@ -88,7 +88,7 @@ struct RowTexts
     std::array<std::string, Fields.size()> narrow;
 };
 
-std::vector<RowTexts> MakeRows(int count)
+std::vector<RowTexts> makeRows(int count)
 {
     RowTexts common;
     for (std::size_t i = 0; i < Fields.size(); ++i) {
@@ -138,7 +138,7 @@ constexpr const char* PageText = R"(<h1><!--:shop_name:--></h1>
 )";
 
 // The same page in the peer's language.
-std::string PeerPageText()
+std::string peerPageText()
 {
     QString text = QString::fromLatin1(PageText);
     text.replace(QRegularExpression(u"<!--:(?:if|cycle):([^=:]*)(?:=Yes)?:-->"_s), u"{{#\\1}}"_s);
@@ -189,7 +189,7 @@ class PeerPage
 public:
     using Dictionary = std::unique_ptr<ctemplate::TemplateDictionary>;
 
-    PeerPage() : m_template(ctemplate::Template::StringToTemplate(PeerPageText(), ctemplate::DO_NOT_STRIP))
+    PeerPage() : m_template(ctemplate::Template::StringToTemplate(peerPageText(), ctemplate::DO_NOT_STRIP))
     {
         for (const Field& field : Fields) {
             m_plainNames.emplace_back(field.name);
@@ -232,7 +232,7 @@ private:
     std::deque<ctemplate::StaticTemplateString> m_hashedNames; // a deque, since the library keeps their addresses
 };
 
-bool OutputsAreEqual(OurPage& ours, const PeerPage& peer, const std::vector<RowTexts>& rows)
+bool outputsAreEqual(OurPage& ours, const PeerPage& peer, const std::vector<RowTexts>& rows)
 {
     const std::string theirs = peer.expand(peer.fill(rows));
     return theirs.size() > 500 * rows.size() && ours.expand(ours.fill(rows)).toStdString() == theirs &&
@@ -240,7 +240,7 @@ bool OutputsAreEqual(OurPage& ours, const PeerPage& peer, const std::vector<RowT
 }
 
 template <class Work>
-void Register(const std::string& name, Work work)
+void register(const std::string& name, Work work)
 {
     benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State& state) {
         for (auto _ : state) {
@@ -265,8 +265,8 @@ int main(int argc, char** argv)
     std::deque<PeerPage::Dictionary> peerFilled;
     std::vector<Comparison> comparisons;
     for (const int count : {10, 1000, 20000}) {
-        const std::vector<RowTexts>& rows = pages.emplace_back(MakeRows(count));
-        if (!OutputsAreEqual(ours, peer, rows)) {
+        const std::vector<RowTexts>& rows = pages.emplace_back(makeRows(count));
+        if (!outputsAreEqual(ours, peer, rows)) {
             std::fprintf(stderr, "The outputs at %d rows differ: nothing is measured.\n", count);
             return 2;
         }
@@ -276,14 +276,14 @@ int main(int argc, char** argv)
         const std::string both = "fill and expand, " + std::to_string(count) + " rows";
         const std::string alone = "expand alone, " + std::to_string(count) + " rows";
         const bool judged = count == 1000;
-        Register(both, [&] { return ours.expand(ours.fill(rows)); });
-        Register(both + ", ctemplate", [&] { return peer.expand(peer.fill(rows)); });
-        Register(both + ", ctemplate with hashed names", [&] { return peer.expand(peer.fillByHashedNames(rows)); });
-        Register(alone, [&] { return ours.expand(ourPage); });
-        Register(alone + ", ctemplate", [&] { return peer.expand(peerPage); });
+        register(both, [&] { return ours.expand(ours.fill(rows)); });
+        register(both + ", ctemplate", [&] { return peer.expand(peer.fill(rows)); });
+        register(both + ", ctemplate with hashed names", [&] { return peer.expand(peer.fillByHashedNames(rows)); });
+        register(alone, [&] { return ours.expand(ourPage); });
+        register(alone + ", ctemplate", [&] { return peer.expand(peerPage); });
         comparisons.push_back({both, both, both + ", ctemplate", judged ? 6.0 : 0.0});
         comparisons.push_back({"  peer with hashed names", both, both + ", ctemplate with hashed names", 0.0});
         comparisons.push_back({alone, alone, alone + ", ctemplate", judged ? 4.0 : 0.0});
     }
-    return RunAndCompare(argc, argv, comparisons);
+    return runAndCompare(argc, argv, comparisons);
 }

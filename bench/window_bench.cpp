@@ -162,13 +162,13 @@ void openOurTree(benchmark::State& state, const ShopClass& shop)
 
         CatalogueTreeModel& nodes = tree->nodes();
         nodes.beginBuild();
-        TreeNode* root = nodes.addNode(nullptr, ShopNodeKey(), shop.name, TreeImage::Closed);
+        TreeNode* root = nodes.addNode(nullptr, shopNodeKey(), shop.name, TreeImage::Closed);
         tree->ColorDeSelectedNode(root);
         for (const auto& category : shop.categories) {
-            TreeNode* node = nodes.addNode(root, NodeKey(category->id), category->name, TreeImage::Closed);
+            TreeNode* node = nodes.addNode(root, nodeKey(category->id), category->name, TreeImage::Closed);
             tree->ColorDeSelectedNode(node);
             for (const auto& product : category->products) {
-                tree->ColorDeSelectedNode(nodes.addNode(node, NodeKey(product->id), product->name, TreeImage::Product));
+                tree->ColorDeSelectedNode(nodes.addNode(node, nodeKey(product->id), product->name, TreeImage::Product));
             }
         }
         nodes.endBuild();
@@ -213,11 +213,11 @@ void openTreeWidget(benchmark::State& state, const ShopClass& shop, Colours colo
         watch.waitForPaint();
         state.ResumeTiming();
 
-        QTreeWidgetItem* root = newItem(nullptr, shop.name, ShopNodeKey(), pictures[0]);
+        QTreeWidgetItem* root = newItem(nullptr, shop.name, shopNodeKey(), pictures[0]);
         for (const auto& category : shop.categories) {
-            QTreeWidgetItem* node = newItem(root, category->name, NodeKey(category->id), pictures[0]);
+            QTreeWidgetItem* node = newItem(root, category->name, nodeKey(category->id), pictures[0]);
             for (const auto& product : category->products) {
-                newItem(node, product->name, NodeKey(product->id), pictures[1]);
+                newItem(node, product->name, nodeKey(product->id), pictures[1]);
             }
         }
         tree->addTopLevelItem(root);
@@ -299,7 +299,7 @@ void splitLines(benchmark::State& state, const QString& file)
 }
 
 template <class Work>
-void Register(const std::string& name, Work work)
+void register(const std::string& name, Work work)
 {
     benchmark::RegisterBenchmark(name.c_str(), work)->Unit(benchmark::kMillisecond);
 }
@@ -325,15 +325,15 @@ int main(int argc, char** argv)
     writeFile(large, importText(100'000));
 
     const ShopClass& shop = *program.window->session().shop;
-    Register("open the tree", [&](benchmark::State& state) { openOurTree(state, shop); });
-    Register("open the tree and the catalogue", [&](benchmark::State& state) { openCatalogue(state, program); });
-    Register("open a QTreeWidget", [&](benchmark::State& state) { openTreeWidget(state, shop, Colours::Own); });
-    Register("open a plain QTreeWidget",
+    register("open the tree", [&](benchmark::State& state) { openOurTree(state, shop); });
+    register("open the tree and the catalogue", [&](benchmark::State& state) { openCatalogue(state, program); });
+    register("open a QTreeWidget", [&](benchmark::State& state) { openTreeWidget(state, shop, Colours::Own); });
+    register("open a plain QTreeWidget",
              [&](benchmark::State& state) { openTreeWidget(state, shop, Colours::Widget); });
-    Register("import 10,000 lines", [&](benchmark::State& state) { importLines(state, small, 10'000); });
-    Register("import 100,000 lines", [&](benchmark::State& state) { importLines(state, large, 100'000); });
-    Register("split 100,000 lines", [&](benchmark::State& state) { splitLines(state, large); });
-    return RunAndCompare(
+    register("import 10,000 lines", [&](benchmark::State& state) { importLines(state, small, 10'000); });
+    register("import 100,000 lines", [&](benchmark::State& state) { importLines(state, large, 100'000); });
+    register("split 100,000 lines", [&](benchmark::State& state) { splitLines(state, large); });
+    return runAndCompare(
         argc, argv,
         {{"tree of 100,000 products", "open the tree", "open a QTreeWidget", 1 / 0.3},
          {"  peer without colours", "open the tree", "open a plain QTreeWidget", 0},

@@ -10,7 +10,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 // Ends the program when a promise is broken, which libFuzzer takes for a finding.
-inline void Promise(bool kept, const char* what)
+inline void promise(bool kept, const char* what)
 {
     if (!kept) {
         std::fprintf(stderr, "broken promise: %s\n", what);

@@ -39,7 +39,7 @@ class NoPrompts : public UserPrompts
 public:
     void showMessage(const QString& /*title*/, const QString& /*text*/, PromptIcon /*icon*/) override
     {
-        Promise(false, "no box is shown");
+        promise(false, "no box is shown");
     }
     bool askYesNo(const QString& /*title*/, const QString& /*text*/) override { return false; }
     PromptAnswer askYesNoCancel(const QString& /*title*/, const QString& /*text*/) override
@@ -60,7 +60,7 @@ public:
     QString path() const { return u"/proc/self/fd/%1"_s.arg(m_descriptor); }
     void fill(const QByteArray& bytes) const
     {
-        Promise(ftruncate(m_descriptor, 0) == 0 &&
+        promise(ftruncate(m_descriptor, 0) == 0 &&
                     pwrite(m_descriptor, bytes.constData(), bytes.size(), 0) == bytes.size(),
                 "there is memory for the file");
     }
@@ -89,14 +89,14 @@ void gather(const KeyedCollection<std::shared_ptr<CategoryClass>>& categories, i
     int last = 0;
     for (const auto& category : categories) {
         const int id = category->id.toInt();
-        Promise(id > last, "a new category stands behind those of its level");
+        promise(id > last, "a new category stands behind those of its level");
         last = id;
         nodes.push_back({parent, id, false, category->name, category->Description});
         gather(category->categories, id, nodes);
         int lastProduct = 0;
         for (const auto& product : category->products) {
             const int productId = product->id.toInt();
-            Promise(productId > lastProduct, "a new product stands behind those of its category");
+            promise(productId > lastProduct, "a new product stands behind those of its category");
             lastProduct = productId;
             nodes.push_back({id, productId, true, product->name, product->Description});
         }
@@ -184,7 +184,7 @@ public:
     {
         for (const QString& line : lines) {
             const QStringList fields = plainFields(line);
-            Promise(clsImporter::PSplit(line) == fields, "a line has the fields of a plain cut");
+            promise(clsImporter::PSplit(line) == fields, "a line has the fields of a plain cut");
             if (fields.size() < 3) {
                 return static_cast<int>(ErrorNumber::SubscriptOutOfRange);
             }
@@ -232,7 +232,7 @@ void readShop(ShopSession& session, const QByteArray& bytes)
     XmlFile file;
     file.parse(bytes);
     session.shop = std::make_shared<ShopClass>(session.services);
-    session.shop->FromXML(FirstDescendant(file.document(), "Shop"));
+    session.shop->FromXML(firstDescendant(file.document(), "Shop"));
     session.registerShop();
 }
 
@@ -240,7 +240,7 @@ int errorOfImport(ShopSession& session, const QString& path)
 {
     qsizetype last = 0;
     const auto progress = [&last](qsizetype done, qsizetype total) {
-        Promise(done > last && done <= total, "progress goes forward and ends at the end");
+        promise(done > last && done <= total, "progress goes forward and ends at the end");
         last = done;
     };
     try {
@@ -255,10 +255,10 @@ void checkKeys(const ShopSession& session, const Nodes& nodes)
 {
     for (const Node& node : nodes) {
         const QString id = QString::number(node.id);
-        Promise((node.isProduct ? session.objects.Product(id)->name : session.objects.Category(id)->name) == node.name,
+        promise((node.isProduct ? session.objects.Product(id)->name : session.objects.Category(id)->name) == node.name,
                 "every node is found by its key");
     }
-    Promise(session.objects.items().Count() == static_cast<int>(nodes.size()) + 1, "there is no key without a node");
+    promise(session.objects.items().Count() == static_cast<int>(nodes.size()) + 1, "there is no key without a node");
 }
 
 // A text as it comes back from a shop file: the word for "no text" is none, and some characters have no form in XML.
@@ -277,7 +277,7 @@ void checkSaving(ShopSession& session, Nodes nodes)
         node.description = asSaved(node.description);
     }
     readShop(session, session.shop->fileBytes());
-    Promise(nodesOf(*session.shop) == nodes, "what was imported saves and reads again");
+    promise(nodesOf(*session.shop) == nodes, "what was imported saves and reads again");
 }
 
 } // namespace
@@ -296,9 +296,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     readShop(session, smallShop);
 
     Nodes expected = nodesOf(*session.shop);
-    const int error = PlainImport(expected).run(plainLines(DecodeText(bytes).text));
-    Promise(errorOfImport(session, file.path()) == error, "the import ends as it must");
-    Promise(nodesOf(*session.shop) == expected, "the shop has what the lines tell and nothing else");
+    const int error = PlainImport(expected).run(plainLines(decodeText(bytes).text));
+    promise(errorOfImport(session, file.path()) == error, "the import ends as it must");
+    promise(nodesOf(*session.shop) == expected, "the shop has what the lines tell and nothing else");
     checkKeys(session, expected);
     if (expected.size() <= savedNodes) {
         checkSaving(session, std::move(expected));

@@ -23,7 +23,7 @@ namespace {
 class NoPrompts : public UserPrompts
 {
 public:
-    void showMessage(const QString&, const QString&, PromptIcon) override { Promise(false, "no box is shown"); }
+    void showMessage(const QString&, const QString&, PromptIcon) override { promise(false, "no box is shown"); }
     bool askYesNo(const QString&, const QString&) override { return false; }
     PromptAnswer askYesNoCancel(const QString&, const QString&) override { return PromptAnswer::Cancel; }
     std::optional<QString> askText(const QString&, const QString&) override { return std::nullopt; }
@@ -40,7 +40,7 @@ public:
     QString path() const { return u"/proc/self/fd/%1"_s.arg(m_descriptor); }
     void fill(const std::uint8_t* data, std::size_t size) const
     {
-        Promise(ftruncate(m_descriptor, 0) == 0 && pwrite(m_descriptor, data, size, 0) == static_cast<ssize_t>(size),
+        promise(ftruncate(m_descriptor, 0) == 0 && pwrite(m_descriptor, data, size, 0) == static_cast<ssize_t>(size),
                 "there is memory for the file");
     }
 
@@ -49,27 +49,27 @@ private:
 };
 
 // The room for a size: S * 0.01 + S + 12, halves to the even number, in whole numbers.
-qint64 RoomFor(qint64 size)
+qint64 roomFor(qint64 size)
 {
     const qint64 room = size + 12 + size / 100;
     const qint64 rest = size % 100;
     return rest > 50 || (rest == 50 && room % 2 != 0) ? room + 1 : room;
 }
 
-void CheckPath(const QString& fileSpec)
+void checkPath(const QString& fileSpec)
 {
     const ApplicationFolder folder(u"/shop"_s);
-    const QString path = RestoredPath(folder, fileSpec, true);
+    const QString path = restoredPath(folder, fileSpec, true);
     const QString name = path.sliced(path.lastIndexOf(u'/') + 1);
     const bool isFile = !name.isEmpty() && name != u"."_s && name != u".."_s && !name.contains(QChar::Null);
-    Promise(path.isEmpty() || path == folder.shopFile() ||
+    promise(path.isEmpty() || path == folder.shopFile() ||
                 (isFile && (path == folder.picturesFolder() + name || path == folder.templatesFolder() + name)),
             "an entry stays in its folder");
 }
 
 // Whether the entry's path is written and read back the same: it fits into its length, and no byte order mark ahead of
 // it gets lost.
-bool CanReturn(const QString& fileSpec)
+bool canReturn(const QString& fileSpec)
 {
     return fileSpec.toUtf8().size() <= 0xFFFF && !fileSpec.startsWith(QChar::ByteOrderMark);
 }
@@ -87,35 +87,35 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     clsPacker packer(folder, prompts, u"1.2.0"_s);
     const PackedStatus status = packer.ReadFile(given.path());
     const qint32 told = size >= 8 ? qFromLittleEndian<qint32>(data + 4) : 0;
-    Promise(packer.Count() <= std::max(told, 0), "no more entries than the header counts");
+    promise(packer.Count() <= std::max(told, 0), "no more entries than the header counts");
     switch (status) {
     case PackedStatus::SameVersion:
     case PackedStatus::NewerVersion:
     case PackedStatus::OlderVersion:
-        Promise(packer.Count() == told && !packer.Changed(), "a readable file has the entries that it counts");
+        promise(packer.Count() == told && !packer.Changed(), "a readable file has the entries that it counts");
         break;
     case PackedStatus::CannotRead:
         break;
     default:
-        Promise(false, "the status is one of the four");
+        promise(false, "the status is one of the four");
     }
 
-    bool canReturn = packer.Count() > 0;
+    bool isReturnable = packer.Count() > 0;
     for (int i = 1; i <= packer.Count(); ++i) {
-        CheckPath(packer.Item(i).FileSpec());
-        canReturn = canReturn && CanReturn(packer.Item(i).FileSpec());
+        checkPath(packer.Item(i).FileSpec());
+        isReturnable = isReturnable && canReturn(packer.Item(i).FileSpec());
     }
-    if (canReturn) {
+    if (isReturnable) {
         written.fill(nullptr, 0);
-        Promise(packer.WriteFile(written.path()), "what was read can be written");
+        promise(packer.WriteFile(written.path()), "what was read can be written");
         clsPacker again(folder, prompts, u"1.2.0"_s);
-        Promise(again.ReadFile(written.path()) == PackedStatus::SameVersion && again.Count() == packer.Count() &&
+        promise(again.ReadFile(written.path()) == PackedStatus::SameVersion && again.Count() == packer.Count() &&
                     again.Compressed() == packer.Compressed(),
                 "what was written can be read");
         for (int i = 1; i <= packer.Count(); ++i) {
             clsFileData& before = packer.Item(i);
             clsFileData& after = again.Item(i);
-            Promise(after.FileSpec() == before.FileSpec() && after.Compressed() == before.Compressed() &&
+            promise(after.FileSpec() == before.FileSpec() && after.Compressed() == before.Compressed() &&
                         after.Size() == before.Size() && after.CompressedSize() == before.CompressedSize() &&
                         after.ToString() == before.ToString(),
                     "an entry comes back as it was");
@@ -124,15 +124,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     for (int i = 1; i <= packer.Count(); ++i) {
         clsFileData& entry = packer.Item(i);
-        const qint64 room = RoomFor(entry.Size());
+        const qint64 room = roomFor(entry.Size());
         const bool wasDeflated = entry.Compressed();
         const QString text = entry.ToString();
         entry.setCompressed(false);
         if (!entry.Compressed()) {
-            Promise(!wasDeflated || entry.Size() <= room, "inflating stays in its room");
-            Promise(entry.Size() == text.size() && entry.ToString() == text, "the plain bytes are the text's");
+            promise(!wasDeflated || entry.Size() <= room, "inflating stays in its room");
+            promise(entry.Size() == text.size() && entry.ToString() == text, "the plain bytes are the text's");
         } else {
-            Promise(entry.ErrorCode() != 0 && text.isEmpty(), "what cannot be inflated has an error number");
+            promise(entry.ErrorCode() != 0 && text.isEmpty(), "what cannot be inflated has an error number");
         }
     }
     return 0;

@@ -22,7 +22,7 @@ class NoPrompts : public UserPrompts
 public:
     void showMessage(const QString& /*title*/, const QString& /*text*/, PromptIcon /*icon*/) override
     {
-        Promise(false, "no box is shown");
+        promise(false, "no box is shown");
     }
     bool askYesNo(const QString& /*title*/, const QString& /*text*/) override { return false; }
     PromptAnswer askYesNoCancel(const QString& /*title*/, const QString& /*text*/) override
@@ -39,11 +39,11 @@ class CountingSurface : public PreviewSurface
 public:
     bool replaceDocument(const QString& text) override
     {
-        Promise(text.endsWith("\r\n"_L1), "a document ends in a line end");
+        promise(text.endsWith("\r\n"_L1), "a document ends in a line end");
         ++documents;
         return true;
     }
-    void goBlank() override { Promise(false, "nobody asks for a blank page"); }
+    void goBlank() override { promise(false, "nobody asks for a blank page"); }
 
     int documents = 0;
 };
@@ -64,7 +64,7 @@ struct Shop
     PreviewNavigation navigation{session, page};
 };
 
-void AddProduct(ShopSession& session, const std::shared_ptr<CategoryClass>& category, const QString& id,
+void addProduct(ShopSession& session, const std::shared_ptr<CategoryClass>& category, const QString& id,
                 bool hasVariants)
 {
     auto product = std::make_shared<ProductClass>(session.services);
@@ -81,7 +81,7 @@ void AddProduct(ShopSession& session, const std::shared_ptr<CategoryClass>& cate
         product->Price()->AddMultiPrice()->Value = u"9"_s;
     }
     product->setRelatedIds({u"3"_s});
-    category->products.Add(product, NodeKey(id));
+    category->products.Add(product, nodeKey(id));
 }
 
 Shop::Shop()
@@ -92,9 +92,9 @@ Shop::Shop()
     category->shop = session.shop.get();
     category->id = u"2"_s;
     category->name = u"Tea"_s;
-    session.shop->categories.Add(category, NodeKey(category->id));
-    AddProduct(session, category, u"3"_s, false);
-    AddProduct(session, category, u"4"_s, true);
+    session.shop->categories.Add(category, nodeKey(category->id));
+    addProduct(session, category, u"3"_s, false);
+    addProduct(session, category, u"4"_s, true);
     for (const QString& name : {u"About"_s, u"Größe"_s, u"Home Page"_s}) {
         auto own = std::make_shared<CustomPageClass>();
         own->pageName = name;
@@ -103,8 +103,9 @@ Shop::Shop()
     session.Cart = std::make_unique<clsCart>(session.services);
     session.registerShop();
     for (const char* name :
-         {"main", "menu", "category", "product", "custompage", "footer", "header", "search", "checkout"})
+         {"main", "menu", "category", "product", "custompage", "footer", "header", "search", "checkout"}) {
         addPage(QString::fromLatin1(name), u"<!--:shop_name:-->"_s);
+    }
     addPage(u"cart"_s, u"<!--:cycle:products:--><!--:quantity:--><!--:price:--><!--:end:products:-->"_s);
     templates.layout_template = std::make_shared<Template>(templates.names);
     templates.layout_template->template_text = u"<!--:main_part:--><!--:menu:-->"_s;
@@ -119,20 +120,21 @@ void Shop::addPage(const QString& name, const QString& text)
     templates.templates.Add(added, name);
 }
 
-void CheckParameter(const QString& url, const QString& key)
+void checkParameter(const QString& url, const QString& key)
 {
     const QString value = GetUrlParam(url, key, u"absent&"_s);
     const QString mark = key + u'=';
     const bool isThere = url.contains(mark);
-    Promise(isThere == (value != "absent&"_L1), "the default stands for an absent key only");
-    if (isThere)
-        Promise(url.section(mark, 1).section(u'&', 0, 0) == value, "the value reaches to the next &");
+    promise(isThere == (value != "absent&"_L1), "the default stands for an absent key only");
+    if (isThere) {
+        promise(url.section(mark, 1).section(u'&', 0, 0) == value, "the value reaches to the next &");
+    }
     const QString decoded = DecodeUrlText(value);
-    Promise(!decoded.contains("%2C"_L1) && !decoded.contains("%20"_L1), "blanks and commas are decoded");
+    promise(!decoded.contains("%2C"_L1) && !decoded.contains("%20"_L1), "blanks and commas are decoded");
 }
 
 // The error of an action, 0 when it succeeds.
-int ErrorOfAction(PreviewNavigation& navigation, const QString& url)
+int errorOfAction(PreviewNavigation& navigation, const QString& url)
 {
     try {
         navigation.act(url);
@@ -144,7 +146,7 @@ int ErrorOfAction(PreviewNavigation& navigation, const QString& url)
         case ErrorNumber::Overflow:        // a number out of range
             break;
         default:
-            Promise(false, "acting fails by what is not there, by numbers and by kinds only");
+            promise(false, "acting fails by what is not there, by numbers and by kinds only");
         }
         return static_cast<int>(error.number());
     }
@@ -159,14 +161,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     shop.surface.documents = 0;
 
     const QString url = QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    for (const QString& key : {u"id"_s, u"ACTION"_s, u"price"_s})
-        CheckParameter(url, key);
+    for (const QString& key : {u"id"_s, u"ACTION"_s, u"price"_s}) {
+        checkParameter(url, key);
+    }
 
     const NavigationDecision decision = PreviewNavigation::judge(url);
-    Promise(decision.cancel == url.contains("http://previewmode/"_L1), "the pseudo-server is never gone to");
-    const int error = ErrorOfAction(shop.navigation, url);
-    Promise(error != 0 || decision.hasAction == (shop.surface.documents > 0),
+    promise(decision.cancel == url.contains("http://previewmode/"_L1), "the pseudo-server is never gone to");
+    const int error = errorOfAction(shop.navigation, url);
+    promise(error != 0 || decision.hasAction == (shop.surface.documents > 0),
             "an action shows a page, and nothing else does");
-    Promise(decision.hasAction || (error == 0 && shop.session.Cart->Count() == 0), "without an action nothing happens");
+    promise(decision.hasAction || (error == 0 && shop.session.Cart->Count() == 0), "without an action nothing happens");
     return 0;
 }

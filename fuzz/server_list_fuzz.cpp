@@ -33,10 +33,10 @@ public:
 };
 
 // The number of the error that reading the lines raises, 0 for none.
-int ErrorOfLines(const QString& lines, ServerFileList& list)
+int errorOfLines(const QString& lines, ServerFileList& list)
 {
     try {
-        list = ParseFileLines(lines);
+        list = parseFileLines(lines);
         return 0;
     } catch (const RuntimeError& error) {
         return static_cast<int>(error.number());
@@ -44,19 +44,19 @@ int ErrorOfLines(const QString& lines, ServerFileList& list)
 }
 
 // The rules of the lines, told plainly: each line's pieces, cut by "|", have a name, a size and at least one more.
-void PlainWalk(const QString& lines, const ServerFileList& list)
+void plainWalk(const QString& lines, const ServerFileList& list)
 {
     QStringList rows = lines.split(u"\r\n"_s);
     rows.removeLast();
-    Promise(rows.size() == list.Count(), "one entry for each line");
+    promise(rows.size() == list.Count(), "one entry for each line");
     for (int i = 1; i <= list.Count(); ++i) {
         const QStringList pieces = rows[i - 1].split(u'|');
         const clsFileProp& file = list.Item(i);
-        Promise(pieces.size() >= 3, "a line has two bars");
-        Promise(file.fileName == pieces[0], "the name stands ahead of the first bar");
-        Promise(file.thirdValue == pieces.mid(2).join(u'|'), "the rest stands behind the second bar");
-        Promise(pieces[1].trimmed().toLongLong() == file.size, "the size stands between the bars");
-        Promise(list.IndexOf(file.fileName) == i, "the name is the key");
+        promise(pieces.size() >= 3, "a line has two bars");
+        promise(file.fileName == pieces[0], "the name stands ahead of the first bar");
+        promise(file.thirdValue == pieces.mid(2).join(u'|'), "the rest stands behind the second bar");
+        promise(pieces[1].trimmed().toLongLong() == file.size, "the size stands between the bars");
+        promise(list.indexOf(file.fileName) == i, "the name is the key");
     }
 }
 
@@ -65,22 +65,22 @@ void PlainWalk(const QString& lines, const ServerFileList& list)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    const QString answer = AnswerText(bytes);
+    const QString answer = answerText(bytes);
     const qsizetype bar = answer.indexOf(u'|');
     const QString lines = answer.mid(bar + 1);
 
     ServerFileList list;
-    const int error = ErrorOfLines(lines, list);
-    Promise(error == 0 || error == 5 || error == 6 || error == 13 || error == 457, "only the known errors are raised");
+    const int error = errorOfLines(lines, list);
+    promise(error == 0 || error == 5 || error == 6 || error == 13 || error == 457, "only the known errors are raised");
     if (error == 0) {
-        PlainWalk(lines, list);
+        plainWalk(lines, list);
     }
 
     CountingPrompts prompts;
     ServerFileList whole;
-    const bool read = ReadFileList(answer, u"1.2.0"_s, whole, prompts);
-    Promise(read == (bar >= 0 && answer.first(bar) == u"1.2.0" && error == 0), "version and lines decide");
-    Promise(prompts.boxes == (read || bar < 0 ? 0 : 1), "one box for what is wrong, none for no list");
-    Promise(whole.Count() == (read ? list.Count() : 0), "the list is whole or empty");
+    const bool read = readFileList(answer, u"1.2.0"_s, whole, prompts);
+    promise(read == (bar >= 0 && answer.first(bar) == u"1.2.0" && error == 0), "version and lines decide");
+    promise(prompts.boxes == (read || bar < 0 ? 0 : 1), "one box for what is wrong, none for no list");
+    promise(whole.Count() == (read ? list.Count() : 0), "the list is whole or empty");
     return 0;
 }

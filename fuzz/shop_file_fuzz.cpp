@@ -56,7 +56,7 @@ bool readShop(ShopSession& session, const QByteArray& bytes)
 {
     XmlFile file;
     file.parse(bytes);
-    const pugi::xml_node element = FirstDescendant(file.document(), "Shop");
+    const pugi::xml_node element = firstDescendant(file.document(), "Shop");
     if (!element) {
         return false;
     }
@@ -72,13 +72,13 @@ std::optional<QByteArray> savedAndRead(ShopSession& session)
     try {
         bytes = session.shop->fileBytes();
     } catch (const RuntimeError& error) {
-        Promise(isOneOf(saveErrors, error.number()), "saving fails for a picture only");
+        promise(isOneOf(saveErrors, error.number()), "saving fails for a picture only");
         return std::nullopt;
     }
     try {
-        Promise(readShop(session, bytes), "a saved file has a shop");
+        promise(readShop(session, bytes), "a saved file has a shop");
     } catch (const RuntimeError& error) {
-        Promise(error.number() == ErrorNumber::DuplicateKey, "a saved shop reads again");
+        promise(error.number() == ErrorNumber::DuplicateKey, "a saved shop reads again");
         return std::nullopt;
     }
     return bytes;
@@ -91,20 +91,20 @@ void readAndSave(ShopSession& session, const QByteArray& bytes)
             return;
         }
     } catch (const RuntimeError& error) {
-        Promise(isOneOf(readErrors, error.number()), "reading fails with a known number");
+        promise(isOneOf(readErrors, error.number()), "reading fails with a known number");
         return;
     }
     try {
         session.registerShop();
     } catch (const RuntimeError& error) {
-        Promise(error.number() == ErrorNumber::DuplicateKey, "the tree fails for an id in two places only");
+        promise(error.number() == ErrorNumber::DuplicateKey, "the tree fails for an id in two places only");
     }
     if (!savedAndRead(session)) {
         return;
     }
     const std::optional<QByteArray> second = savedAndRead(session);
     const std::optional<QByteArray> third = second ? savedAndRead(session) : std::nullopt;
-    Promise(second && third && *second == *third, "saving settles");
+    promise(second && third && *second == *third, "saving settles");
 }
 
 } // namespace

@@ -35,7 +35,7 @@ Variables Row(NameTable& names, QStringView id)
 }
 
 // One variable of each kind, and those that stand in the input.
-Variables MakePage(NameTable& names, const QByteArray& ownVariables)
+Variables makePage(NameTable& names, const QByteArray& ownVariables)
 {
     Variables page(names);
     page.Add(u"shop_name", u"Cups"_s);
@@ -54,23 +54,23 @@ Variables MakePage(NameTable& names, const QByteArray& ownVariables)
     page.Add(u"nested", std::move(rows));
 
     for (const QByteArray& line : ownVariables.split('\n').mid(0, 50)) {
-        const QString text = DecodeText(line).text;
+        const QString text = decodeText(line).text;
         const QString key = text.section(u'=', 0, 0);
-        const bool known = page.Exists(key);
+        const bool known = page.exists(key);
         try {
             page.Add(key, text.section(u'=', 1));
-            Promise(!known && page.Exists(key), "a key is added once and found then");
+            promise(!known && page.exists(key), "a key is added once and found then");
         } catch (const RuntimeError& error) {
-            Promise(known && error.number() == ErrorNumber::DuplicateKey, "only a key that is there is refused");
+            promise(known && error.number() == ErrorNumber::DuplicateKey, "only a key that is there is refused");
         }
     }
     return page;
 }
 
 // The rules of expansion, told plainly.
-void PlainWalk(const Variables& vars, const ElementArray& parts, QString& out)
+void plainWalk(const Variables& vars, const ElementArray& parts, QString& out)
 {
-    for (int i = 0; i < UpperBound(parts); ++i) {
+    for (int i = 0; i < upperBound(parts); ++i) {
         const Template_Element& element = *parts[static_cast<std::size_t>(i)];
         const bool exists = Template::ItemExists(vars, element.Value);
         switch (element.TType) {
@@ -79,70 +79,70 @@ void PlainWalk(const Variables& vars, const ElementArray& parts, QString& out)
             break;
         case ElementType::If:
         case ElementType::IfNot: {
-            const bool equal = exists && TextOf(vars.Item(element.Value)) == element.Default;
+            const bool equal = exists && textOf(vars.Item(element.Value)) == element.Default;
             if (equal == (element.TType == ElementType::If)) {
-                PlainWalk(vars, element.Template_Parts, out);
+                plainWalk(vars, element.Template_Parts, out);
             }
             break;
         }
         case ElementType::Cycle:
             if (exists) {
-                for (const Variables& row : RowsOf(vars.Item(element.Value))) {
-                    PlainWalk(row, element.Template_Parts, out);
+                for (const Variables& row : rowsOf(vars.Item(element.Value))) {
+                    plainWalk(row, element.Template_Parts, out);
                 }
             }
             break;
         case ElementType::XCycle:
             break;
         default:
-            out += exists ? TextOf(vars.Item(element.Value)) : element.Default;
+            out += exists ? textOf(vars.Item(element.Value)) : element.Default;
         }
     }
 }
 
 // The text, or nothing when the work failed by a type mismatch.
 template <class Work>
-std::optional<QString> Expanded(Work work)
+std::optional<QString> expanded(Work work)
 {
     try {
         return work();
     } catch (const RuntimeError& error) {
-        Promise(error.number() == ErrorNumber::TypeMismatch, "expanding fails by a type mismatch only");
+        promise(error.number() == ErrorNumber::TypeMismatch, "expanding fails by a type mismatch only");
         return std::nullopt;
     }
 }
 
-bool Parsed(Template& page)
+bool parsed(Template& page)
 {
     try {
         page.Parse();
         return true;
     } catch (const TemplateError& error) {
-        Promise(error.number() == ErrorNumber::InvalidArgument || error.number() == ErrorNumber::Overflow,
+        promise(error.number() == ErrorNumber::InvalidArgument || error.number() == ErrorNumber::Overflow,
                 "parsing fails with 5 or 6 only");
-        Promise(error.position() >= 0 && QStringView(page.template_text).sliced(error.position()).startsWith(u"<!--:"),
+        promise(error.position() >= 0 && QStringView(page.template_text).sliced(error.position()).startsWith(u"<!--:"),
                 "the failure stands at an opening mark");
         return false;
     }
 }
 
 // Tags stripped by hand are what the engine strips. Short texts only: the engine takes quadratic time on "<<<<".
-void TryTags(const QString& text)
+void tryTags(const QString& text)
 {
     clsRegExp byHand;
     byHand.setPattern(u"<[^>]*>"_s);
     clsRegExp byEngine;
     byEngine.setPattern(u"(?:<[^>]*>)"_s);
     if (text.size() < 2000 && text.isValidUtf16()) {
-        Promise(byHand.Replace(text, u" "_s, 0) == byEngine.Replace(text, u" "_s, 0), "both strip the same tags");
+        promise(byHand.Replace(text, u" "_s, 0) == byEngine.Replace(text, u" "_s, 0), "both strip the same tags");
     }
     try {
         const QString whole = byHand.Replace(text, u" "_s, 0);
         const QString cut = byHand.Replace(text, u" "_s, 3);
-        Promise(whole.startsWith(cut), "a cut takes from the end only");
-        Promise(cut.simplified().count(u' ') <= whole.simplified().count(u' '), "a cut adds no words");
+        promise(whole.startsWith(cut), "a cut takes from the end only");
+        promise(cut.simplified().count(u' ') <= whole.simplified().count(u' '), "a cut adds no words");
     } catch (const RuntimeError& error) {
-        Promise(error.number() == ErrorNumber::Overflow, "cutting fails by an overflow only");
+        promise(error.number() == ErrorNumber::Overflow, "cutting fails by an overflow only");
     }
 }
 
@@ -154,22 +154,22 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const qsizetype nul = bytes.indexOf('\0');
     NameTable names;
     Template page(names);
-    page.template_text = DecodeText(nul < 0 ? bytes : bytes.first(nul)).text;
-    TryTags(page.template_text);
-    if (!Parsed(page)) {
+    page.template_text = decodeText(nul < 0 ? bytes : bytes.first(nul)).text;
+    tryTags(page.template_text);
+    if (!parsed(page)) {
         return 0;
     }
-    const Variables vars = MakePage(names, nul < 0 ? QByteArray() : bytes.sliced(nul + 1));
-    const auto expanded = Expanded([&] { return page.Get_String(vars); });
-    const auto walked = Expanded([&] {
+    const Variables vars = makePage(names, nul < 0 ? QByteArray() : bytes.sliced(nul + 1));
+    const auto text = expanded([&] { return page.Get_String(vars); });
+    const auto walked = expanded([&] {
         QString out;
-        PlainWalk(vars, page.parts(), out);
+        plainWalk(vars, page.parts(), out);
         return out;
     });
-    Promise(expanded == walked, "the expansion is what a plain walk gives");
+    promise(text == walked, "the expansion is what a plain walk gives");
     if (page.template_text.size() < 4000) {
-        for (int i = 0; i < UpperBound(page.parts()); ++i) {
-            Promise(page.parts()[static_cast<std::size_t>(i)]->to_string().endsWith(u'\r'), "a dump ends its lines");
+        for (int i = 0; i < upperBound(page.parts()); ++i) {
+            promise(page.parts()[static_cast<std::size_t>(i)]->to_string().endsWith(u'\r'), "a dump ends its lines");
         }
     }
     return 0;

@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-void BackUpFromMenu(const BackUpServices& services)
+void backUpFromMenu(const BackUpServices& services)
 {
     clsPacker packer(services.folder, services.prompts);
     packer.WriteError = [&services] {
@@ -31,7 +31,7 @@ void BackUpFromMenu(const BackUpServices& services)
     }
 }
 
-bool RestoreFromMenu(const BackUpServices& services)
+bool restoreFromMenu(const BackUpServices& services)
 {
     const QString path =
         services.prompts.chooseFile(services.folder.backupsFolder(), u"Packed shops (*.kvb *.KVB);;All files (*)"_s);

@@ -16,9 +16,9 @@ struct BackUpServices
 
 // Asks for a name and packs the saved shop into that file under backups/, which is made when it is not there. Edits
 // that are not saved are not in it. Error 75 when the folder cannot be made.
-void BackUpFromMenu(const BackUpServices& services);
+void backUpFromMenu(const BackUpServices& services);
 
 // Asks for a packed file and restores it. True when the files on disk are those of the backup: the window then forgets
 // its unsaved changes, starts the program anew and closes. False after Cancel, or after a failure that was told. Errors
 // as those of clsPacker::Restore.
-[[nodiscard]] bool RestoreFromMenu(const BackUpServices& services);
+[[nodiscard]] bool restoreFromMenu(const BackUpServices& services);

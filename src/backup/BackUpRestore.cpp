@@ -62,7 +62,7 @@ bool staysInFolder(QStringView name, const QString& fileName)
 
 } // namespace
 
-QString RestoredPath(const ApplicationFolder& folder, const QString& fileSpec, bool withTemplates)
+QString restoredPath(const ApplicationFolder& folder, const QString& fileSpec, bool withTemplates)
 {
     if (fileSpec == shopEntry) {
         return folder.shopFile();
@@ -80,7 +80,7 @@ QString RestoredPath(const ApplicationFolder& folder, const QString& fileSpec, b
 bool clsPacker::BackUp(QString& name)
 {
     setCompressed(true);
-    if (!IsFile(m_folder.shopFile())) {
+    if (!isFile(m_folder.shopFile())) {
         raiseReadError(PackedStatus::FileMissing);
         return false;
     }
@@ -143,7 +143,7 @@ bool clsPacker::Restore(const QString& path)
         return false;
     }
     for (const std::unique_ptr<clsFileData>& entry : m_entries) {
-        const QString target = RestoredPath(m_folder, entry->FileSpec(), withTemplates);
+        const QString target = restoredPath(m_folder, entry->FileSpec(), withTemplates);
         if (target.isEmpty()) {
             continue;
         }

@@ -9,4 +9,4 @@
 
 // Where an entry of that path is written to; empty when it is skipped: a path of another form, one that would lead out
 // of its folder, or a template when templates are not restored.
-QString RestoredPath(const ApplicationFolder& folder, const QString& fileSpec, bool withTemplates);
+QString restoredPath(const ApplicationFolder& folder, const QString& fileSpec, bool withTemplates);

@@ -75,7 +75,7 @@ PackedStream::PackedStream(const QString& path, Mode mode) : m_file(path)
         failAt(ErrorNumber::FileNotFound, path);
     }
     // A pipe in the way would keep the program waiting.
-    if (exists && !IsFile(path)) {
+    if (exists && !isFile(path)) {
         failAt(ErrorNumber::PathFileAccess, path);
     }
     // Opened for writing alone, the file would be emptied.
@@ -139,12 +139,12 @@ void PackedStream::fail() const
     failAt(numberOf(m_file.error()), m_file.fileName());
 }
 
-QString PackedText(const QByteArray& bytes)
+QString packedText(const QByteArray& bytes)
 {
-    return DecodeText(bytes).text;
+    return decodeText(bytes).text;
 }
 
-bool IsFile(const QString& path)
+bool isFile(const QString& path)
 {
     return !path.contains(QChar::Null) && QFileInfo(path).isFile();
 }

@@ -55,7 +55,7 @@ private:
 };
 
 // The text of a field: UTF-8 when its bytes are that, else Windows-1252.
-QString PackedText(const QByteArray& bytes);
+QString packedText(const QByteArray& bytes);
 
 // Whether a file of this path exists; a folder, a pipe or a device is none.
-bool IsFile(const QString& path);
+bool isFile(const QString& path);

@@ -58,7 +58,7 @@ QString sizeText(qint32 bytes)
     // One decimal, a half rounded up; a zero behind the separator is not shown: "1. Kb.".
     const qint64 tenths = (qint64{bytes} * 10 + 512) / 1024;
     const QString decimal = tenths % 10 == 0 ? QString() : QString::number(tenths % 10);
-    return QString::number(tenths / 10) + DecimalSeparator() + decimal + " Kb."_L1;
+    return QString::number(tenths / 10) + decimalSeparator() + decimal + " Kb."_L1;
 }
 
 } // namespace
@@ -104,7 +104,7 @@ bool clsFileData::Load(const QString& relativePath, bool compress)
         if (QFileInfo(path).size() > largestSize) {
             return false;
         }
-        const QByteArray bytes = ReadFileBytes(path);
+        const QByteArray bytes = readFileBytes(path);
         if (bytes.isEmpty() || bytes.size() > largestSize) {
             return false;
         }
@@ -140,7 +140,7 @@ QString clsFileData::CompressedSizeString() const
 
 QString clsFileData::ToString()
 {
-    return DecodeWindows1252(m_compressed ? inflated().value_or(QByteArray()) : m_data);
+    return decodeWindows1252(m_compressed ? inflated().value_or(QByteArray()) : m_data);
 }
 
 QString clsFileData::Extension() const
@@ -169,7 +169,7 @@ bool clsFileData::ReadFromPackedFile(PackedStream& file)
 {
     try {
         const bool compressed = file.readFlag();
-        const QString fileSpec = PackedText(file.readBytes(file.readUInt16()));
+        const QString fileSpec = packedText(file.readBytes(file.readUInt16()));
         const qint32 size = file.readInt32();
         const qint32 compressedSize = file.readInt32();
         if (size < 0 || compressedSize < 0) {

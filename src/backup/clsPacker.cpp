@@ -23,7 +23,7 @@ Header readHeader(PackedStream& file)
     file.readInt32(); // always written as 0, never looked at
     header.count = file.readInt32();
     const quint16 versionLength = file.readUInt16();
-    header.version = PackedText(file.readBytes(versionLength));
+    header.version = packedText(file.readBytes(versionLength));
     header.compressed = file.readFlag();
     if (versionLength == 0) {
         file.readUInt16();
@@ -51,7 +51,7 @@ clsFileData& clsPacker::Add(const QString& key)
 AddFileResult clsPacker::AddFile(const QString& relativePath)
 {
     AddFileResult result = AddFileResult::AlreadyPresent;
-    if (!m_entries.HasKey(relativePath)) {
+    if (!m_entries.hasKey(relativePath)) {
         raiseWorking(false);
         clsFileData& entry = Add(relativePath);
         result = AddFileResult::Added;
@@ -76,7 +76,7 @@ PackedStatus clsPacker::ReadFile(const QString& path)
     if (!path.isEmpty()) {
         FileSpec = path;
     }
-    if (!IsFile(FileSpec)) {
+    if (!isFile(FileSpec)) {
         raiseReadError(PackedStatus::FileMissing);
     }
     raiseWorking(false);

@@ -29,7 +29,7 @@ class clsPacker
 {
 public:
     // The prompts outlive the packer. The version is compared with those of packed files, and written into them.
-    clsPacker(const ApplicationFolder& folder, UserPrompts& prompts, const QString& version = ProgramVersion());
+    clsPacker(const ApplicationFolder& folder, UserPrompts& prompts, const QString& version = programVersion());
 
     // Empties pictures/ and templates/, removes shop.xml and writes back what the packed file holds; templates of an
     // older version are left as they are. False, after a box, when the packed file cannot be read or is of a newer

@@ -58,7 +58,7 @@ int takeNumber(QStringView& text, qsizetype fewest, qsizetype most)
 
 } // namespace
 
-QString LocalDateText(const QDate& date)
+QString localDateText(const QDate& date)
 {
     const QString form = localForm();
     QString text;
@@ -78,7 +78,7 @@ QString LocalDateText(const QDate& date)
     return text;
 }
 
-QDate DateFromLocalText(const QString& text)
+QDate dateFromLocalText(const QString& text)
 {
     const QString form = localForm();
     QStringView rest(text);
@@ -106,7 +106,7 @@ QDate DateFromLocalText(const QString& text)
     return {year, month, day};
 }
 
-QString ShopFileDateText(const QDate& date)
+QString shopFileDateText(const QDate& date)
 {
     return padded(date.day(), 2) + u'.' + padded(date.month(), 2) + u'.' + padded(date.year(), 4);
 }

@@ -6,11 +6,11 @@
 #include <QString>
 
 // A date as local date text.
-QString LocalDateText(const QDate& date);
+QString localDateText(const QDate& date);
 
 // Local date text as a date of the years 100 to 9999. Error 13 when the text is no date of that form: nothing but the
 // numbers and what the locale puts between them, the year in four digits.
-QDate DateFromLocalText(const QString& text);
+QDate dateFromLocalText(const QString& text);
 
 // A date in the shop file's form "dd.mm.yyyy".
-QString ShopFileDateText(const QDate& date);
+QString shopFileDateText(const QDate& date);

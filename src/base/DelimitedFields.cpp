@@ -48,7 +48,7 @@ void appendFieldsOfLine(QStringView line, QStringList& fields)
 
 } // namespace
 
-QStringList DelimitedFields(const QString& text)
+QStringList delimitedFields(const QString& text)
 {
     QStringList fields;
     QString lines = text;

@@ -60,9 +60,9 @@ public:
     T& Item(const QString& key) { return m_items[checkedPosition(key)]; }
     const T& Item(const QString& key) const { return m_items[checkedPosition(key)]; }
 
-    bool HasKey(const QString& key) const noexcept { return IndexOf(key) != 0; }
+    bool hasKey(const QString& key) const noexcept { return indexOf(key) != 0; }
     // The 1-based position of a key, 0 when there is none.
-    int IndexOf(const QString& key) const noexcept { return m_keys ? m_keys->find(key) + 1 : 0; }
+    int indexOf(const QString& key) const noexcept { return m_keys ? m_keys->find(key) + 1 : 0; }
 
     // Removes one item; those behind it move up. Errors as for Item.
     void Remove(int index) { removePosition(checkedPosition(index)); }
@@ -89,7 +89,7 @@ private:
     }
     std::size_t checkedPosition(const QString& key) const
     {
-        const int index = IndexOf(key);
+        const int index = indexOf(key);
         if (index == 0) {
             throw RuntimeError(ErrorNumber::InvalidArgument);
         }

@@ -20,7 +20,7 @@ constexpr int usualMapping = 32 * 1024 * 1024;
 
 } // namespace
 
-void UseLargePages(void* block, qsizetype size) noexcept
+void useLargePages(void* block, qsizetype size) noexcept
 {
     const auto address = reinterpret_cast<std::uintptr_t>(block);
     const std::uintptr_t begin = (address + largePage - 1) / largePage * largePage;
@@ -49,7 +49,7 @@ LargePagesOnHeap::LargePagesOnHeap(qsizetype bytes) noexcept
     }
     void* const newEnd = ::sbrk(0);
     if (newEnd != end) {
-        UseLargePages(static_cast<char*>(newEnd) - bytes, bytes);
+        useLargePages(static_cast<char*>(newEnd) - bytes, bytes);
     }
     for (void* block : blocks) {
         std::free(block);

@@ -6,7 +6,7 @@
 #include <QtGlobal>
 
 // Wishes large pages for a block that was just taken and not yet written.
-void UseLargePages(void* block, qsizetype size) noexcept;
+void useLargePages(void* block, qsizetype size) noexcept;
 
 // Makes the heap grow by so many bytes at once, in large pages, for the small blocks that are taken from it while this
 // lives. What is not taken is not in use either.

@@ -13,5 +13,5 @@ void LoadLog::reset()
 
 void LoadLog::WriteLoadLog(const QString& message)
 {
-    AppendFileBytes(m_fileName, '"' + message.toUtf8() + "\"\r\n");
+    appendFileBytes(m_fileName, '"' + message.toUtf8() + "\"\r\n");
 }

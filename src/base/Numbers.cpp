@@ -86,7 +86,7 @@ QString plainForm(const Decimal& decimal)
     const std::string_view digits = decimal.digits();
     if (decimal.exponent < 0) {
         text.append(u'0');
-        text.append(DecimalSeparator());
+        text.append(decimalSeparator());
         appendZeros(text, -decimal.exponent - 1);
         appendAscii(text, digits);
         return text;
@@ -98,7 +98,7 @@ QString plainForm(const Decimal& decimal)
         return text;
     }
     appendAscii(text, digits.substr(0, static_cast<std::size_t>(wholeDigits)));
-    text.append(DecimalSeparator());
+    text.append(decimalSeparator());
     appendAscii(text, digits.substr(static_cast<std::size_t>(wholeDigits)));
     return text;
 }
@@ -108,7 +108,7 @@ QString exponentForm(const Decimal& decimal)
     QString text = decimal.negative ? u"-"_s : QString();
     appendAscii(text, decimal.digits().substr(0, 1));
     if (decimal.count > 1) {
-        text.append(DecimalSeparator());
+        text.append(decimalSeparator());
         appendAscii(text, decimal.digits().substr(1));
     }
     text.append(decimal.exponent < 0 ? "E-"_L1 : "E+"_L1);
@@ -156,12 +156,12 @@ bool readPlainNumber(QStringView text, QChar separator, double& number)
 
 } // namespace
 
-QString DecimalSeparator()
+QString decimalSeparator()
 {
     return QLocale().decimalPoint();
 }
 
-double NumberFromText(const QString& text)
+double numberFromText(const QString& text)
 {
     const QStringView trimmed = QStringView(text).trimmed();
     const QLocale locale;
@@ -211,17 +211,17 @@ double Val(const QString& text)
     return number == 0 ? 0 : number; // no "-0" for a lone sign
 }
 
-QString NumberToText(double number)
+QString numberToText(double number)
 {
     return generalForm(roundedDecimal(number, doubleDigits), doubleDigits);
 }
 
-QString SingleToText(float number)
+QString singleToText(float number)
 {
     return generalForm(roundedDecimal(number, singleDigits), singleDigits);
 }
 
-QString SingleToShortestText(float number)
+QString singleToShortestText(float number)
 {
     if (!std::isfinite(number)) {
         throw RuntimeError(ErrorNumber::Overflow);
@@ -233,7 +233,7 @@ QString SingleToShortestText(float number)
     return generalForm(decimalFromScientific({text.data(), length}), most);
 }
 
-QString FormatTwoDecimals(double number)
+QString formatTwoDecimals(double number)
 {
     const Decimal decimal = roundedDecimal(number, doubleDigits);
     const std::string_view digits = decimal.digits();
@@ -259,7 +259,7 @@ QString FormatTwoDecimals(double number)
     const bool isZero = first == end - 2 && cents.endsWith("00");
     QString text = decimal.negative && !isZero ? u"-"_s : QString();
     text.append(QLatin1StringView(cents.constData() + first, end - 2 - first));
-    text.append(DecimalSeparator());
+    text.append(decimalSeparator());
     text.append(QLatin1StringView(cents.constData() + end - 2, 2));
     return text;
 }

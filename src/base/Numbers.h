@@ -5,11 +5,11 @@
 #include <QString>
 
 // The user's decimal separator, one character for all locales known.
-QString DecimalSeparator();
+QString decimalSeparator();
 
 // A locale's number text as a double. Blanks around it are allowed; group separators only where the locale puts them.
 // Error 13 when the text is no number, an empty text included; error 6 when it is out of range.
-double NumberFromText(const QString& text);
+double numberFromText(const QString& text);
 
 // The plain number scan: blanks ahead are skipped, then one sign, digits and one "." are read, whatever the locale, up
 // to the first character that is no part of that. 0 when nothing was read. An exponent is not read. Error 6 when the
@@ -20,16 +20,16 @@ double Val(const QString& text);
 // The plain form is taken while it needs no more than 15 digits, a single 0 ahead of the separator not counted: 0.0001,
 // 123456789012345; all else takes the exponent form with two or more digits of exponent: 1E+15, 1.5E-20. Error 6 when
 // the number is infinite or not a number.
-QString NumberToText(double number);
+QString numberToText(double number);
 
 // The same for a single with seven digits: 0.3, 1234567, 1.234568E+07.
-QString SingleToText(float number);
+QString singleToText(float number);
 
 // A single as the shortest text that reads back as the same single; plain while nine digits are enough. Error 6 as
 // above.
-QString SingleToShortestText(float number);
+QString singleToShortestText(float number);
 
 // The picture "#.00": two decimals, no digit forced ahead of the separator, rounded half away from zero on the number's
 // decimal text of 15 significant digits, so that 1.005 gives 1.01. A half is ".50", zero and what rounds to it ".00".
 // Error 6 when the number is infinite or not a number.
-QString FormatTwoDecimals(double number);
+QString formatTwoDecimals(double number);

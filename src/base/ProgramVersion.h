@@ -4,4 +4,4 @@
 #include <QString>
 
 // Major, minor and revision joined by ".": "1.2.0".
-QString ProgramVersion();
+QString programVersion();

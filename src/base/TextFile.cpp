@@ -124,7 +124,7 @@ public:
         }
         // One byte more than expected, so that the end is seen without another round.
         QByteArray bytes(expectedSize + 1, Qt::Uninitialized);
-        UseLargePages(bytes.data(), bytes.size());
+        useLargePages(bytes.data(), bytes.size());
         qsizetype filled = 0;
         for (;;) {
             const ssize_t count = ::read(m_descriptor, bytes.data() + filled, bytes.size() - filled);
@@ -201,15 +201,15 @@ private:
 
 } // namespace
 
-DecodedText DecodeText(const QByteArray& bytes)
+DecodedText decodeText(const QByteArray& bytes)
 {
-    if (IsValidUtf8(bytes)) {
+    if (isValidUtf8(bytes)) {
         return {QString::fromUtf8(bytes), TextEncoding::Utf8}; // drops one byte order mark
     }
-    return {DecodeWindows1252(bytes), TextEncoding::Windows1252};
+    return {decodeWindows1252(bytes), TextEncoding::Windows1252};
 }
 
-QString DecodeWindows1252(const QByteArray& bytes)
+QString decodeWindows1252(const QByteArray& bytes)
 {
     QString text = QString::fromLatin1(bytes);
     for (QChar& letter : text) {
@@ -220,7 +220,7 @@ QString DecodeWindows1252(const QByteArray& bytes)
     return text;
 }
 
-QByteArray EncodeText(const QString& text, TextEncoding encoding)
+QByteArray encodeText(const QString& text, TextEncoding encoding)
 {
     if (encoding == TextEncoding::Windows1252) {
         if (const std::optional<QByteArray> bytes = encodeWindows1252(text)) {
@@ -230,7 +230,7 @@ QByteArray EncodeText(const QString& text, TextEncoding encoding)
     return text.toUtf8();
 }
 
-QByteArray ReadFileBytes(const QString& path)
+QByteArray readFileBytes(const QString& path)
 {
     OpenFile file(path);
     if (!file.open(O_RDONLY)) {
@@ -240,12 +240,12 @@ QByteArray ReadFileBytes(const QString& path)
     return file.readAll(file.size());
 }
 
-DecodedText ReadTextFile(const QString& path)
+DecodedText readTextFile(const QString& path)
 {
-    return DecodeText(ReadFileBytes(path));
+    return decodeText(readFileBytes(path));
 }
 
-void WriteFileBytes(const QString& path, const QByteArray& bytes)
+void writeFileBytes(const QString& path, const QByteArray& bytes)
 {
     OpenFile file(path);
     bool created = false;
@@ -271,7 +271,7 @@ void WriteFileBytes(const QString& path, const QByteArray& bytes)
     file.close();
 }
 
-void AppendFileBytes(const QString& path, const QByteArray& bytes)
+void appendFileBytes(const QString& path, const QByteArray& bytes)
 {
     OpenFile file(path);
     if (!file.open(O_WRONLY | O_CREAT | O_APPEND)) {

@@ -13,20 +13,20 @@ struct DecodedText
     TextEncoding encoding = TextEncoding::Utf8;
 };
 
-DecodedText DecodeText(const QByteArray& bytes);
+DecodedText decodeText(const QByteArray& bytes);
 
 // Bytes that are known to be Windows-1252. Its five undefined bytes become the control characters of the same number.
-QString DecodeWindows1252(const QByteArray& bytes);
+QString decodeWindows1252(const QByteArray& bytes);
 
 // The text's bytes in that encoding when it can hold the text, else in UTF-8.
-QByteArray EncodeText(const QString& text, TextEncoding encoding);
+QByteArray encodeText(const QString& text, TextEncoding encoding);
 
 // Error 53 when there is no such file, 70 or 75 when it cannot be opened, 57 when reading it fails.
-QByteArray ReadFileBytes(const QString& path);
-DecodedText ReadTextFile(const QString& path);
+QByteArray readFileBytes(const QString& path);
+DecodedText readTextFile(const QString& path);
 
 // Replaces the file's content. The old file stays whole when there is no room: error 61, 70, 75 or 57.
-void WriteFileBytes(const QString& path, const QByteArray& bytes);
+void writeFileBytes(const QString& path, const QByteArray& bytes);
 
 // Appends to the file, which is made when it is not there. Errors 61, 70, 75 or 57.
-void AppendFileBytes(const QString& path, const QByteArray& bytes);
+void appendFileBytes(const QString& path, const QByteArray& bytes);

@@ -12,7 +12,7 @@ bool isContinuation(unsigned char byte)
 
 } // namespace
 
-const unsigned char* SkipAscii(const unsigned char* at, const unsigned char* end)
+const unsigned char* skipAscii(const unsigned char* at, const unsigned char* end)
 {
     while (end - at >= 8) {
         std::uint64_t word = 0;
@@ -28,7 +28,7 @@ const unsigned char* SkipAscii(const unsigned char* at, const unsigned char* end
     return at;
 }
 
-int Utf8SequenceLength(const unsigned char* at, const unsigned char* end)
+int utf8SequenceLength(const unsigned char* at, const unsigned char* end)
 {
     const auto left = end - at;
     if (left < 1) {
@@ -56,12 +56,12 @@ int Utf8SequenceLength(const unsigned char* at, const unsigned char* end)
     return left >= 4 && !overlong && !tooLarge && isContinuation(at[2]) && isContinuation(at[3]) ? 4 : 0;
 }
 
-bool IsValidUtf8(QByteArrayView bytes)
+bool isValidUtf8(QByteArrayView bytes)
 {
     const auto* at = reinterpret_cast<const unsigned char*>(bytes.data());
     const unsigned char* const end = at + bytes.size();
-    for (at = SkipAscii(at, end); at != end; at = SkipAscii(at, end)) {
-        const int length = Utf8SequenceLength(at, end);
+    for (at = skipAscii(at, end); at != end; at = skipAscii(at, end)) {
+        const int length = utf8SequenceLength(at, end);
         if (length == 0) {
             return false;
         }

@@ -31,7 +31,7 @@ Whole wholeNumberFromText(const QString& text)
     if (const int plain = plainNumber(text); plain >= 0) {
         return static_cast<Whole>(plain);
     }
-    const double rounded = std::nearbyint(NumberFromText(text)); // half to even
+    const double rounded = std::nearbyint(numberFromText(text)); // half to even
     if (rounded < std::numeric_limits<Whole>::min() || rounded > std::numeric_limits<Whole>::max()) {
         throw RuntimeError(ErrorNumber::Overflow);
     }
@@ -40,12 +40,12 @@ Whole wholeNumberFromText(const QString& text)
 
 } // namespace
 
-qint16 Int16FromText(const QString& text)
+qint16 int16FromText(const QString& text)
 {
     return wholeNumberFromText<qint16>(text);
 }
 
-qint32 Int32FromText(const QString& text)
+qint32 int32FromText(const QString& text)
 {
     return wholeNumberFromText<qint32>(text);
 }

@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-pugi::xml_node NextNode(const pugi::xml_node& node, const pugi::xml_node& top)
+pugi::xml_node nextNode(const pugi::xml_node& node, const pugi::xml_node& top)
 {
     if (const pugi::xml_node child = node.first_child()) {
         return child;
@@ -22,21 +22,21 @@ pugi::xml_node NextNode(const pugi::xml_node& node, const pugi::xml_node& top)
     return {};
 }
 
-QString NodeText(const pugi::xml_node& node)
+QString nodeText(const pugi::xml_node& node)
 {
     if (!node.first_child()) {
-        return TextFromUtf8(node.value());
+        return textFromUtf8(node.value());
     }
     QByteArray text;
-    for (pugi::xml_node at = node; at; at = NextNode(at, node)) {
+    for (pugi::xml_node at = node; at; at = nextNode(at, node)) {
         text.append(at.value());
     }
-    return TextFromUtf8(text);
+    return textFromUtf8(text);
 }
 
-pugi::xml_node FirstDescendant(const pugi::xml_node& element, const char* tag)
+pugi::xml_node firstDescendant(const pugi::xml_node& element, const char* tag)
 {
-    for (pugi::xml_node at = NextNode(element, element); at; at = NextNode(at, element)) {
+    for (pugi::xml_node at = nextNode(element, element); at; at = nextNode(at, element)) {
         if (std::strcmp(at.name(), tag) == 0) {
             return at;
         }
@@ -46,8 +46,8 @@ pugi::xml_node FirstDescendant(const pugi::xml_node& element, const char* tag)
 
 QString GetNodeText(const pugi::xml_node& element, const char* tag, const QString& defaultText)
 {
-    const pugi::xml_node node = FirstDescendant(element, tag);
-    return node ? NodeText(node) : defaultText;
+    const pugi::xml_node node = firstDescendant(element, tag);
+    return node ? nodeText(node) : defaultText;
 }
 
 namespace {
@@ -77,7 +77,7 @@ void setText(pugi::xml_node node, const QString& text)
         node.set_value(buffer.data(), static_cast<std::size_t>(text.size()));
         return;
     }
-    const QByteArray utf8 = XmlUtf8FromText(text);
+    const QByteArray utf8 = xmlUtf8FromText(text);
     node.set_value(utf8.constData(), static_cast<std::size_t>(utf8.size()));
 }
 

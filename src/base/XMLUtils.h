@@ -9,14 +9,14 @@
 
 // The node behind another in document order, among those below `top`; an empty node at the end. Walks of hostile depth
 // use it, since it needs no stack.
-pugi::xml_node NextNode(const pugi::xml_node& node, const pugi::xml_node& top);
+pugi::xml_node nextNode(const pugi::xml_node& node, const pugi::xml_node& top);
 
 // All text below the node, as it stands. A text may sit in the element itself (see XmlFile.h): callers never take
 // value() of an element or of a text node by themselves.
-QString NodeText(const pugi::xml_node& node);
+QString nodeText(const pugi::xml_node& node);
 
 // The first descendant of the element with that tag, at any depth, in document order; an empty node when there is none.
-pugi::xml_node FirstDescendant(const pugi::xml_node& element, const char* tag);
+pugi::xml_node firstDescendant(const pugi::xml_node& element, const char* tag);
 
 // The text of the first descendant with that tag, or the default when there is none.
 QString GetNodeText(const pugi::xml_node& element, const char* tag, const QString& defaultText);
@@ -28,7 +28,7 @@ pugi::xml_node AddChildElement(const pugi::xml_node& parent, const char* tag, co
 template <class T>
 bool CollectionHasKey(const KeyedCollection<T>& collection, const QString& key)
 {
-    return collection.HasKey(key);
+    return collection.hasKey(key);
 }
 
 // "#RRGGBB" (every "#" is dropped, what stands behind six digits is not looked at) as a colour number with red in the

@@ -102,7 +102,7 @@ private:
         if (*m_at < 0x80) {
             return isXmlLetter(*m_at++);
         }
-        const int length = Utf8SequenceLength(m_at, m_end);
+        const int length = utf8SequenceLength(m_at, m_end);
         const bool noLetter = length == 3 && m_at[0] == 0xEF && m_at[1] == 0xBF && m_at[2] >= 0xBE;
         m_at += length;
         return length != 0 && !noLetter;
@@ -346,7 +346,7 @@ private:
 
 } // namespace
 
-bool KeepsXmlRules(QByteArrayView bytes, bool* hasSections)
+bool keepsXmlRules(QByteArrayView bytes, bool* hasSections)
 {
     Scanner scanner(bytes);
     const bool kept = scanner.document();

@@ -9,4 +9,4 @@
 // "]]>"; no attribute twice. A document type with declarations of its own is refused: nobody would read them. The byte
 // behind the last one must be there and be zero, as behind those of a QByteArray.
 // `hasSections`, when it is given, is set when there is a CDATA section.
-bool KeepsXmlRules(QByteArrayView bytes, bool* hasSections = nullptr);
+bool keepsXmlRules(QByteArrayView bytes, bool* hasSections = nullptr);

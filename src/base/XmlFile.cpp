@@ -70,17 +70,17 @@ bool normalise(QByteArray& bytes)
     if (encoding == "ISO-8859-1"_L1) {
         bytes = QString::fromLatin1(bytes).toUtf8();
     } else if (encoding == "WINDOWS-1252"_L1) {
-        bytes = DecodeWindows1252(bytes).toUtf8();
+        bytes = decodeWindows1252(bytes).toUtf8();
     } else {
         return encoding.isEmpty() || encoding == "UTF-8"_L1 || encoding == "US-ASCII"_L1;
     }
     return true;
 }
 
-// Makes plain texts of the sections of character data, which XmlToBytes relies on.
+// Makes plain texts of the sections of character data, which xmlToBytes relies on.
 void dissolveSections(pugi::xml_document& document)
 {
-    for (pugi::xml_node at = document.first_child(); at; at = NextNode(at, document)) {
+    for (pugi::xml_node at = document.first_child(); at; at = nextNode(at, document)) {
         if (at.type() == pugi::node_cdata) {
             const pugi::xml_node section = at;
             pugi::xml_node parent = at.parent();
@@ -114,7 +114,7 @@ void XmlFile::load(const QString& path)
 {
     QByteArray bytes;
     try {
-        bytes = ReadFileBytes(path);
+        bytes = readFileBytes(path);
     } catch (const RuntimeError&) {
         // A file that cannot be read is an empty document.
     }
@@ -126,7 +126,7 @@ void XmlFile::parse(QByteArray bytes)
     m_document.reset();
     m_bytes = std::move(bytes);
     bool hasSections = false;
-    if (normalise(m_bytes) && KeepsXmlRules(m_bytes, &hasSections)) {
+    if (normalise(m_bytes) && keepsXmlRules(m_bytes, &hasSections)) {
         const auto size = static_cast<std::size_t>(m_bytes.size());
         if (m_document.load_buffer_inplace(m_bytes.data(), size, parseFlags, pugi::encoding_utf8)) {
             if (hasSections) {
@@ -139,7 +139,7 @@ void XmlFile::parse(QByteArray bytes)
     m_bytes.clear();
 }
 
-QByteArray XmlToBytes(const pugi::xml_document& document)
+QByteArray xmlToBytes(const pugi::xml_document& document)
 {
     BytesWriter writer;
     document.save(writer, "", pugi::format_raw | pugi::format_no_declaration | pugi::format_skip_control_chars,

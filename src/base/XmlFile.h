@@ -3,7 +3,7 @@
 //
 // How a document stands in memory: elements and texts only, no comments, no instructions, no white space between
 // elements. A text that is the first thing in its element sits in the element itself (value(), and no child node);
-// texts behind an element are child nodes. NodeText in XMLUtils.h takes both.
+// texts behind an element are child nodes. nodeText in XMLUtils.h takes both.
 //
 // Read are UTF-8, UTF-16 with its byte order mark, and what a declaration names as ISO-8859-1 or Windows-1252.
 #pragma once
@@ -34,4 +34,4 @@ private:
 // The document as UTF-8 without a declaration and without added white space; one that XmlFile read or whose texts came
 // in by AddChildElement. Control characters that XML cannot hold are left out; a CR is written as a character
 // reference, so that it comes back.
-QByteArray XmlToBytes(const pugi::xml_document& document);
+QByteArray xmlToBytes(const pugi::xml_document& document);

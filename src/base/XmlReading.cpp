@@ -24,7 +24,7 @@ bool isEmpty(const pugi::xml_node& node)
     return pointerOf(node) == nullptr;
 }
 
-// As NextNode, for the long walks.
+// As nextNode, for the long walks.
 pugi::xml_node nodeBehind(const pugi::xml_node& node, const pugi::xml_node& top)
 {
     const pugi::xml_node child = node.first_child();
@@ -77,7 +77,7 @@ bool hasTextInside(const pugi::xml_node& node)
 
 } // namespace
 
-void FindFirstDescendants(const pugi::xml_node& element, std::span<const char* const> names,
+void findFirstDescendants(const pugi::xml_node& element, std::span<const char* const> names,
                           std::span<pugi::xml_node> hits)
 {
     std::size_t missing = names.size();
@@ -171,7 +171,7 @@ QString FlatElements::text(Place place, const QString& defaultText) const
         return defaultText;
     }
     const char* raw = rawText(place);
-    return raw != nullptr ? TextFromUtf8(raw) : NodeText(m_rows[place].node);
+    return raw != nullptr ? textFromUtf8(raw) : nodeText(m_rows[place].node);
 }
 
 const char* FlatElements::rawText(Place place) const
@@ -179,11 +179,11 @@ const char* FlatElements::rawText(Place place) const
     return m_rows[place].end == place + 1 ? m_rows[place].node.value() : nullptr;
 }
 
-std::vector<pugi::xml_node> FindNumberedDescendants(const pugi::xml_node& element, const char* prefix, int firstNumber,
+std::vector<pugi::xml_node> findNumberedDescendants(const pugi::xml_node& element, const char* prefix, int firstNumber,
                                                     int count)
 {
     std::vector<pugi::xml_node> hits(static_cast<std::size_t>(count));
-    for (pugi::xml_node at = NextNode(element, element); at; at = NextNode(at, element)) {
+    for (pugi::xml_node at = nextNode(element, element); at; at = nextNode(at, element)) {
         const int place = numberBehind(at.name(), prefix) - firstNumber;
         if (place >= 0 && place < count && !hits[static_cast<std::size_t>(place)]) {
             hits[static_cast<std::size_t>(place)] = at;
@@ -192,10 +192,10 @@ std::vector<pugi::xml_node> FindNumberedDescendants(const pugi::xml_node& elemen
     return hits;
 }
 
-std::vector<pugi::xml_node> AllDescendants(const pugi::xml_node& element, const char* name)
+std::vector<pugi::xml_node> allDescendants(const pugi::xml_node& element, const char* name)
 {
     std::vector<pugi::xml_node> hits;
-    for (pugi::xml_node at = NextNode(element, element); at; at = NextNode(at, element)) {
+    for (pugi::xml_node at = nextNode(element, element); at; at = nextNode(at, element)) {
         if (std::strcmp(at.name(), name) == 0) {
             hits.push_back(at);
         }
@@ -203,24 +203,24 @@ std::vector<pugi::xml_node> AllDescendants(const pugi::xml_node& element, const 
     return hits;
 }
 
-QString TextOr(const pugi::xml_node& found, const QString& defaultText)
+QString textOr(const pugi::xml_node& found, const QString& defaultText)
 {
-    return found ? NodeText(found) : defaultText;
+    return found ? nodeText(found) : defaultText;
 }
 
-std::vector<QString> ChildTexts(const pugi::xml_node& element)
+std::vector<QString> childTexts(const pugi::xml_node& element)
 {
     std::vector<QString> texts;
     if (hasTextInside(element)) {
-        texts.push_back(TextFromUtf8(element.value()));
+        texts.push_back(textFromUtf8(element.value()));
     }
     for (const pugi::xml_node& child : element.children()) {
-        texts.push_back(NodeText(child));
+        texts.push_back(nodeText(child));
     }
     return texts;
 }
 
-std::vector<std::optional<QString>> FirstGrandchildTexts(const pugi::xml_node& element)
+std::vector<std::optional<QString>> firstGrandchildTexts(const pugi::xml_node& element)
 {
     std::vector<std::optional<QString>> texts;
     if (hasTextInside(element)) {
@@ -228,9 +228,9 @@ std::vector<std::optional<QString>> FirstGrandchildTexts(const pugi::xml_node& e
     }
     for (const pugi::xml_node& child : element.children()) {
         if (hasTextInside(child)) {
-            texts.emplace_back(TextFromUtf8(child.value()));
+            texts.emplace_back(textFromUtf8(child.value()));
         } else if (const pugi::xml_node grandchild = child.first_child()) {
-            texts.emplace_back(NodeText(grandchild));
+            texts.emplace_back(nodeText(grandchild));
         } else {
             texts.emplace_back();
         }

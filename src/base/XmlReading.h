@@ -1,4 +1,4 @@
-// Looking up many elements of one parent at once. The rule is that of FirstDescendant, the first element of a name at
+// Looking up many elements of one parent at once. The rule is that of firstDescendant, the first element of a name at
 // any depth in document order, but one walk serves all names: a search per field costs five times as much.
 #pragma once
 
@@ -12,7 +12,7 @@
 
 // Finds the first descendant of each of the names. An element that is not there stays an empty node. `hits` has as many
 // places as `names`. The walk ends when all are found; it is quickest for elements in the order of the names.
-void FindFirstDescendants(const pugi::xml_node& element, std::span<const char* const> names,
+void findFirstDescendants(const pugi::xml_node& element, std::span<const char* const> names,
                           std::span<pugi::xml_node> hits);
 
 // The elements below one element, gathered in one walk, for look-ups in several of them: each look-up is then a run
@@ -61,18 +61,18 @@ private:
 };
 
 // The first descendants of numbered names: "Cost1", "Cost2" and so on, `count` of them beginning with `firstNumber`.
-std::vector<pugi::xml_node> FindNumberedDescendants(const pugi::xml_node& element, const char* prefix, int firstNumber,
+std::vector<pugi::xml_node> findNumberedDescendants(const pugi::xml_node& element, const char* prefix, int firstNumber,
                                                     int count);
 
 // All descendants of that name, at any depth, in document order.
-std::vector<pugi::xml_node> AllDescendants(const pugi::xml_node& element, const char* name);
+std::vector<pugi::xml_node> allDescendants(const pugi::xml_node& element, const char* name);
 
 // The text of a node that a look-up found, or the default when it found none.
-QString TextOr(const pugi::xml_node& found, const QString& defaultText);
+QString textOr(const pugi::xml_node& found, const QString& defaultText);
 
 // The child nodes of an element: a text is one, too, and comments are none. A text that is the first child sits in the
 // element itself (see XmlFile.h), which these hide.
 // The texts of all child nodes, in order.
-std::vector<QString> ChildTexts(const pugi::xml_node& element);
+std::vector<QString> childTexts(const pugi::xml_node& element);
 // For each child node, in order, the text of its own first child node; nothing for one without children.
-std::vector<std::optional<QString>> FirstGrandchildTexts(const pugi::xml_node& element);
+std::vector<std::optional<QString>> firstGrandchildTexts(const pugi::xml_node& element);

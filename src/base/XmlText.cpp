@@ -26,7 +26,7 @@ QString withoutForbidden(const QString& text)
 
 } // namespace
 
-QString TextFromUtf8(QByteArrayView utf8)
+QString textFromUtf8(QByteArrayView utf8)
 {
     if (utf8.startsWith("\xEF\xBB\xBF")) {
         return QChar(QChar::ByteOrderMark) + QString::fromUtf8(utf8); // the conversion takes one mark off
@@ -34,7 +34,7 @@ QString TextFromUtf8(QByteArrayView utf8)
     return QString::fromUtf8(utf8);
 }
 
-QByteArray XmlUtf8FromText(const QString& text)
+QByteArray xmlUtf8FromText(const QString& text)
 {
     // Without a way out of the loop, it takes many letters at a time.
     unsigned int found = 0;

@@ -5,7 +5,7 @@
 #include <QString>
 
 // A document's text. A byte order mark in it is a letter like any other.
-QString TextFromUtf8(QByteArrayView utf8);
+QString textFromUtf8(QByteArrayView utf8);
 
 // A text as a document can hold it: without the characters that XML has no form for.
-QByteArray XmlUtf8FromText(const QString& text);
+QByteArray xmlUtf8FromText(const QString& text);

@@ -3,7 +3,7 @@
 
 #include <QString>
 
-inline QString ApplicationTitle()
+inline QString applicationTitle()
 {
     return QStringLiteral("Ambrel eCommerce Software");
 }

@@ -9,24 +9,24 @@
 #define TARNWICK_OPTION_ROW(group, name, defaultText)                                                                  \
     DesignOptionRow{DesignGroup::group, DesignOption::name, #name, QStringLiteral(#name), QStringLiteral(defaultText)},
 
-std::span<const DesignOptionRow> DesignOptionTable()
+std::span<const DesignOptionRow> designOptionTable()
 {
     static const std::array<DesignOptionRow, DesignOptionCount> table = {TARNWICK_DESIGN_OPTIONS(TARNWICK_OPTION_ROW)};
     return table;
 }
 
-std::span<const DesignOptionRow> DesignOptionsOf(DesignGroup group)
+std::span<const DesignOptionRow> designOptionsOf(DesignGroup group)
 {
-    const std::span<const DesignOptionRow> table = DesignOptionTable();
+    const std::span<const DesignOptionRow> table = designOptionTable();
     const auto isOfGroup = [group](const DesignOptionRow& row) { return row.group == group; };
     const auto first = std::find_if(table.begin(), table.end(), isOfGroup);
     const auto last = std::find_if_not(first, table.end(), isOfGroup);
     return {first, last};
 }
 
-std::optional<DesignOption> DesignOptionByName(QStringView name)
+std::optional<DesignOption> designOptionByName(QStringView name)
 {
-    for (const DesignOptionRow& row : DesignOptionTable()) {
+    for (const DesignOptionRow& row : designOptionTable()) {
         if (row.name == name) {
             return row.option;
         }
@@ -37,7 +37,7 @@ std::optional<DesignOption> DesignOptionByName(QStringView name)
 QString NormaliseLimit(const QString& text)
 {
     try {
-        return QString::number(Int16FromText(text));
+        return QString::number(int16FromText(text));
     } catch (const RuntimeError&) {
         return QStringLiteral("0");
     }

@@ -127,13 +127,13 @@ struct DesignOptionRow
 inline constexpr std::size_t DesignOptionCount = 93;
 
 // All options in the order of the file; a row's position is the number of its option.
-std::span<const DesignOptionRow> DesignOptionTable();
+std::span<const DesignOptionRow> designOptionTable();
 
 // The options of one group, in the order of the file.
-std::span<const DesignOptionRow> DesignOptionsOf(DesignGroup group);
+std::span<const DesignOptionRow> designOptionsOf(DesignGroup group);
 
 // The option of that name, exact case; nothing when there is none.
-std::optional<DesignOption> DesignOptionByName(QStringView name);
+std::optional<DesignOption> designOptionByName(QStringView name);
 
 // What the three limits of description lengths (names ending in "_Limit_Desc") do with a text that is stored: the
 // 16-bit whole number that it stands for as text, "0" when it stands for none. Blanks around are allowed, a fraction is

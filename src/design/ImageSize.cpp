@@ -21,12 +21,12 @@ qint16 narrowed(int pixels)
 
 } // namespace
 
-ImageSize NarrowedImageSize(int width, int height)
+ImageSize narrowedImageSize(int width, int height)
 {
     return {narrowed(width), narrowed(height)};
 }
 
-ImageSize ReadImageSize(const ApplicationFolder& folder, const QString& fileName)
+ImageSize readImageSize(const ApplicationFolder& folder, const QString& fileName)
 {
     const QString path = folder.pictureFile(fileName);
     if (!QFile::exists(path)) {
@@ -38,5 +38,5 @@ ImageSize ReadImageSize(const ApplicationFolder& folder, const QString& fileName
     if (!size.isValid()) {
         throw RuntimeError(ErrorNumber::InvalidArgument, u"Invalid picture: %1"_s.arg(path));
     }
-    return NarrowedImageSize(size.width(), size.height());
+    return narrowedImageSize(size.width(), size.height());
 }

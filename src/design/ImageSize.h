@@ -13,8 +13,8 @@ struct ImageSize
 };
 
 // The size as the 16-bit numbers that the shop file has. Error 6 when one is larger than 32767.
-ImageSize NarrowedImageSize(int width, int height);
+ImageSize narrowedImageSize(int width, int height);
 
 // The size of the picture of that name under pictures/. Error 53 when there is no such file there, 5 when it is no
 // picture, 6 when it is larger than 32767 pixels.
-ImageSize ReadImageSize(const ApplicationFolder& folder, const QString& fileName);
+ImageSize readImageSize(const ApplicationFolder& folder, const QString& fileName);

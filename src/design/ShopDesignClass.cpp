@@ -87,12 +87,12 @@ bool isLimit(DesignOption option)
 
 } // namespace
 
-QString TagOf(ImageSlot slot)
+QString tagOf(ImageSlot slot)
 {
     return imageTags[static_cast<std::size_t>(slot)];
 }
 
-QString TagOf(PageSelection selection)
+QString tagOf(PageSelection selection)
 {
     return pageTags[static_cast<std::size_t>(selection)];
 }
@@ -133,13 +133,13 @@ void ShopDesignClass::readOptions(const pugi::xml_node& node)
     // Every option is looked up once, though the file has the header's twice: only the first of a name counts.
     std::array<const char*, DesignOptionCount> names{};
     std::array<pugi::xml_node, DesignOptionCount> found;
-    const std::span<const DesignOptionRow> table = DesignOptionTable();
+    const std::span<const DesignOptionRow> table = designOptionTable();
     for (std::size_t i = 0; i < DesignOptionCount; ++i) {
         names[i] = table[i].element;
     }
-    FindFirstDescendants(node, names, found);
+    findFirstDescendants(node, names, found);
     for (std::size_t i = 0; i < DesignOptionCount; ++i) {
-        setOption(table[i].option, TextOr(found[i], table[i].defaultText));
+        setOption(table[i].option, textOr(found[i], table[i].defaultText));
     }
 }
 
@@ -163,7 +163,7 @@ void ShopDesignClass::FromXML(const pugi::xml_node& node)
 void ShopDesignClass::ToXML(pugi::xml_node node)
 {
     for (const GroupStep& step : groupSteps) {
-        for (const DesignOptionRow& row : DesignOptionsOf(step.group)) {
+        for (const DesignOptionRow& row : designOptionsOf(step.group)) {
             writeOption(node, row.option);
         }
     }
@@ -180,5 +180,5 @@ void ShopDesignClass::ToXML(pugi::xml_node node)
 
 void ShopDesignClass::writeOption(pugi::xml_node node, DesignOption option) const
 {
-    AddChildElement(node, DesignOptionTable()[static_cast<std::size_t>(option)].element, Option(option));
+    AddChildElement(node, designOptionTable()[static_cast<std::size_t>(option)].element, Option(option));
 }

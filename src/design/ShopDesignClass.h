@@ -42,8 +42,8 @@ enum class PageSelection {
 inline constexpr std::size_t PageSelectionCount = 5;
 
 // The names of their elements in the shop file.
-QString TagOf(ImageSlot slot);
-QString TagOf(PageSelection selection);
+QString tagOf(ImageSlot slot);
+QString tagOf(PageSelection selection);
 
 class ShopDesignClass
 {

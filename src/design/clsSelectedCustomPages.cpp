@@ -26,11 +26,11 @@ void clsSelectedCustomPages::FromXML(const pugi::xml_node& node)
 {
     if (Tag.isEmpty()) {
         m_services->prompts.showMessage(
-            ApplicationTitle(), u"You didn't type tag for one of the custom page selection"_s, PromptIcon::Critical);
+            applicationTitle(), u"You didn't type tag for one of the custom page selection"_s, PromptIcon::Critical);
         return;
     }
     Clear();
-    for (const std::optional<QString>& name : FirstGrandchildTexts(FirstDescendant(node, Tag.toUtf8().constData()))) {
+    for (const std::optional<QString>& name : firstGrandchildTexts(firstDescendant(node, Tag.toUtf8().constData()))) {
         if (!name) {
             throw RuntimeError(ErrorNumber::ObjectNotSet);
         }

@@ -46,7 +46,7 @@ clsSelectedImage::clsSelectedImage(const DesignServices& services, const QString
 qint16 clsSelectedImage::WidthBmp()
 {
     if (m_size.width == 0 && !imageFileName.isEmpty()) {
-        m_size.width = ReadImageSize(m_services->folder, imageFileName).width;
+        m_size.width = readImageSize(m_services->folder, imageFileName).width;
     }
     return m_size.width;
 }
@@ -54,7 +54,7 @@ qint16 clsSelectedImage::WidthBmp()
 qint16 clsSelectedImage::HeightBmp()
 {
     if (m_size.height == 0 && !imageFileName.isEmpty()) {
-        m_size.height = ReadImageSize(m_services->folder, imageFileName).height;
+        m_size.height = readImageSize(m_services->folder, imageFileName).height;
     }
     return m_size.height;
 }
@@ -66,7 +66,7 @@ void clsSelectedImage::ToXML(pugi::xml_node parent)
     AddChildElement(element, elementNames[Element::FileName], imageFileName);
     AddChildElement(element, elementNames[Element::Text], TextValue);
     if (!imageFileName.isEmpty() && (m_size.width == 0 || m_size.height == 0)) {
-        m_size = ReadImageSize(m_services->folder, imageFileName);
+        m_size = readImageSize(m_services->folder, imageFileName);
     }
     AddChildElement(element, elementNames[Element::Width], QString::number(m_size.width));
     AddChildElement(element, elementNames[Element::Height], QString::number(m_size.height));
@@ -76,17 +76,17 @@ void clsSelectedImage::FromXML(const pugi::xml_node& node)
 {
     if (Tag.isEmpty()) {
         m_services->prompts.showMessage(
-            ApplicationTitle(), u"You didn't type tag for one of the image selection type"_s, PromptIcon::Critical);
+            applicationTitle(), u"You didn't type tag for one of the image selection type"_s, PromptIcon::Critical);
         return;
     }
-    const pugi::xml_node element = FirstDescendant(node, Tag.toUtf8().constData());
+    const pugi::xml_node element = firstDescendant(node, Tag.toUtf8().constData());
     if (!element) {
         return;
     }
     std::array<pugi::xml_node, ElementCount> found;
-    FindFirstDescendants(element, elementNames, found);
+    findFirstDescendants(element, elementNames, found);
     m_size = {};
-    const QString type = TextOr(found[Element::SelectionType], u"0"_s);
+    const QString type = textOr(found[Element::SelectionType], u"0"_s);
     for (const SelectionName& row : selectionNames) {
         if (type == row.name) {
             SelectionType = row.selection;
@@ -94,11 +94,11 @@ void clsSelectedImage::FromXML(const pugi::xml_node& node)
     }
     // The test is on the word that was read: an unknown one leaves the type and brings no size.
     if (type == nameOf(ImageSelection::Image)) {
-        m_size.width = Int16FromText(TextOr(found[Element::Width], u"0"_s));
-        m_size.height = Int16FromText(TextOr(found[Element::Height], u"0"_s));
+        m_size.width = int16FromText(textOr(found[Element::Width], u"0"_s));
+        m_size.height = int16FromText(textOr(found[Element::Height], u"0"_s));
     }
-    TextValue = TextOr(found[Element::Text], QString());
-    imageFileName = TextOr(found[Element::FileName], QString());
+    TextValue = textOr(found[Element::Text], QString());
+    imageFileName = textOr(found[Element::FileName], QString());
 }
 
 ImageSizeTexts clsSelectedImage::GetBitmapSize(const ImageSize& shownPicture) const
@@ -119,7 +119,7 @@ void clsSelectedImage::GetBitmapSizeVirtual(const QString& fileName)
         return;
     }
     try {
-        m_size = ReadImageSize(m_services->folder, fileName);
+        m_size = readImageSize(m_services->folder, fileName);
     } catch (const RuntimeError&) {
         // A file that cannot be read leaves the size as it was.
     }

@@ -31,7 +31,7 @@ public:
     QString Tag;                     // the name of the slot's element in the shop file
 
     // Size in pixels. When it is not known (0) and there is a file name, it is read from the file and kept: errors as
-    // for ReadImageSize.
+    // for readImageSize.
     qint16 WidthBmp();
     qint16 HeightBmp();
     void setWidthBmp(qint16 width) { m_size.width = width; }
@@ -40,7 +40,7 @@ public:
     ImageSize cachedSize() const { return m_size; }
 
     // Appends the slot's element to the parent. Reads the size when there is a file name and a size is not known:
-    // errors as for ReadImageSize.
+    // errors as for readImageSize.
     void ToXML(pugi::xml_node parent);
     // Reads the first element named Tag below the node; changes nothing when there is none. An empty Tag shows a box.
     // Error 13 when a size of an image slot is no number, 6 when it does not fit.

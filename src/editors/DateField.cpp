@@ -29,7 +29,7 @@ constexpr QRgb weekendOnDark = qRgb(255, 148, 138);
 std::optional<QDate> dateIn(const QString& text)
 {
     try {
-        return DateFromLocalText(text);
+        return dateFromLocalText(text);
     } catch (const RuntimeError&) {
         return {};
     }
@@ -84,7 +84,7 @@ MonthCalendar::MonthCalendar(const Clock& clock, QWidget* parent)
     : QCalendarWidget(parent), m_clock(clock), m_days(findChild<QAbstractItemView*>())
 {
     setObjectName(u"DateMV"_s);
-    setAccessibleName(tr("Month calendar"));
+    setAccessibleName(u"Month calendar"_s);
     setWindowFlags(Qt::Popup);
     setDateEditEnabled(false);
     setGridVisible(false);
@@ -95,7 +95,7 @@ MonthCalendar::MonthCalendar(const Clock& clock, QWidget* parent)
 
     const auto pick = [this](const QDate& date) {
         if (m_field) {
-            m_field->setText(LocalDateText(date));
+            m_field->setText(localDateText(date));
         }
         hide();
     };

@@ -30,13 +30,13 @@ bool NumericBox::accepts(const QString& text) const
     try {
         switch (m_takes) {
         case Takes::Number:
-            NumberFromText(text);
+            numberFromText(text);
             break;
         case Takes::NormalisedNumber:
-            NumberFromText(NormalizeDecimal(text));
+            numberFromText(NormalizeDecimal(text));
             break;
         case Takes::WholeNumber:
-            Int16FromText(text);
+            int16FromText(text);
             break;
         }
         return true;

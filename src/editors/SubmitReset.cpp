@@ -14,16 +14,16 @@ static void takeIcons()
 
 SubmitReset::SubmitReset(PanelHost& host, QWidget* parent)
     : QWidget(parent),
-      imgButtonSubmit(new QPushButton(tr("Submit"), this)),
-      imgButtonReset(new QPushButton(tr("Reset"), this))
+      imgButtonSubmit(new QPushButton(u"Submit"_s, this)),
+      imgButtonReset(new QPushButton(u"Reset"_s, this))
 {
     takeIcons();
     imgButtonSubmit->setObjectName(u"imgButtonSubmit"_s);
     imgButtonSubmit->setIcon(QIcon(u":/editors/submit.svg"_s));
-    imgButtonSubmit->setToolTip(tr("Takes over what stands in this panel"));
+    imgButtonSubmit->setToolTip(u"Takes over what stands in this panel"_s);
     imgButtonReset->setObjectName(u"imgButtonReset"_s);
     imgButtonReset->setIcon(QIcon(u":/editors/reset.svg"_s));
-    imgButtonReset->setToolTip(tr("Brings back what was there before"));
+    imgButtonReset->setToolTip(u"Brings back what was there before"_s);
     for (QPushButton* button : {imgButtonSubmit, imgButtonReset}) {
         button->setAccessibleName(button->text());
     }

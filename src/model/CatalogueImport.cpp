@@ -50,13 +50,13 @@ std::shared_ptr<CategoryClass> makeCategory(const ModelServices& services, const
                                             const std::shared_ptr<CategoryClass>& parent, clsDiscount& discountAbove,
                                             Categories& categories)
 {
-    CheckCategoryLevel(parent.get());
+    checkCategoryLevel(parent.get());
     auto category = std::make_shared<CategoryClass>(services);
     category->parentCategory = parent;
-    category->id = CurrentShop(services).getNextProductId();
+    category->id = currentShop(services).getNextProductId();
     category->name = name;
     discountAbove.AddChildDiscount(category->Discount(), category->id);
-    categories.Add(category, NodeKey(category->id));
+    categories.Add(category, nodeKey(category->id));
     services.callbacks.AddCategoryToTheTree(parent, category);
     return category;
 }
@@ -99,10 +99,10 @@ void CategoryClass::ImportCategory(QStringList& fields)
 void CategoryClass::AddImportedProduct(QStringList& fields)
 {
     auto product = std::make_shared<ProductClass>(*m_services);
-    product->id = CurrentShop(*m_services).getNextProductId();
+    product->id = currentShop(*m_services).getNextProductId();
     product->category = weak_from_this();
     product->name = std::move(fields[0]);
     product->Description = std::move(fields[1]);
-    products.Add(product, NodeKey(product->id));
+    products.Add(product, nodeKey(product->id));
     m_services->callbacks.AddProductToTheTree(shared_from_this(), product);
 }

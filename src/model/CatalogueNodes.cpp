@@ -21,9 +21,9 @@ std::shared_ptr<CategoryClass> categoryOf(const ProductClass& product)
 
 } // namespace
 
-std::shared_ptr<CategoryClass> NewCategory(ShopClass& shop, const std::shared_ptr<CategoryClass>& parent)
+std::shared_ptr<CategoryClass> newCategory(ShopClass& shop, const std::shared_ptr<CategoryClass>& parent)
 {
-    CheckCategoryLevel(parent.get());
+    checkCategoryLevel(parent.get());
     auto category = std::make_shared<CategoryClass>(shop.services());
     category->name = u"New Category"_s;
     category->id = shop.getNextProductId();
@@ -33,11 +33,11 @@ std::shared_ptr<CategoryClass> NewCategory(ShopClass& shop, const std::shared_pt
         category->ParentDiscount = parent->Discount();
     }
     (parent ? parent->Discount() : shop.Discount())->AddChildDiscount(category->Discount(), category->id);
-    (parent ? parent->categories : shop.categories).Add(category, NodeKey(category->id));
+    (parent ? parent->categories : shop.categories).Add(category, nodeKey(category->id));
     return category;
 }
 
-std::shared_ptr<ProductClass> NewProduct(ShopClass& shop, const std::shared_ptr<CategoryClass>& category)
+std::shared_ptr<ProductClass> newProduct(ShopClass& shop, const std::shared_ptr<CategoryClass>& category)
 {
     auto product = std::make_shared<ProductClass>(shop.services());
     product->Price()->Discount()->ParentDependDiscounts = category->Discount()->DependedDiscounts();
@@ -45,11 +45,11 @@ std::shared_ptr<ProductClass> NewProduct(ShopClass& shop, const std::shared_ptr<
     product->id = shop.getNextProductId();
     product->shop = &shop;
     product->category = category;
-    category->products.Add(product, NodeKey(product->id));
+    category->products.Add(product, nodeKey(product->id));
     return product;
 }
 
-std::shared_ptr<ProductClass> DuplicateProduct(ShopClass& shop, ProductClass& product)
+std::shared_ptr<ProductClass> duplicateProduct(ShopClass& shop, ProductClass& product)
 {
     const std::shared_ptr<CategoryClass> category = categoryOf(product);
     std::shared_ptr<ProductClass> clone = product.CreateClone();
@@ -57,21 +57,21 @@ std::shared_ptr<ProductClass> DuplicateProduct(ShopClass& shop, ProductClass& pr
     clone->id = shop.getNextProductId();
     clone->shop = product.shop;
     clone->category = category;
-    category->products.Add(clone, NodeKey(clone->id));
+    category->products.Add(clone, nodeKey(clone->id));
     return clone;
 }
 
-void RemoveProduct(ProductClass& product)
+void removeProduct(ProductClass& product)
 {
-    categoryOf(product)->products.Remove(NodeKey(product.id));
+    categoryOf(product)->products.Remove(nodeKey(product.id));
 }
 
-void RemoveCategory(ShopClass& shop, const std::shared_ptr<CategoryClass>& category)
+void removeCategory(ShopClass& shop, const std::shared_ptr<CategoryClass>& category)
 {
     const std::shared_ptr<CategoryClass> parent = category->parentCategory.lock();
     (parent ? parent->Discount() : shop.Discount())->RemoveChildDiscount(category->id);
-    (parent ? parent->categories : shop.categories).Remove(NodeKey(category->id));
-    shop.services().objects.Remove(NodeKey(category->id));
+    (parent ? parent->categories : shop.categories).Remove(nodeKey(category->id));
+    shop.services().objects.Remove(nodeKey(category->id));
     category->RemoveChilds();
     shop.keepRemoved(category);
 }

@@ -34,15 +34,15 @@ bool isNamed(const pugi::xml_node& node, const char* name)
 
 } // namespace
 
-bool BooleanFromWord(const QString& word)
+bool booleanFromWord(const QString& word)
 {
     if (word == "True"_L1) {
         return true;
     }
-    return word != "False"_L1 && NumberFromText(word) != 0;
+    return word != "False"_L1 && numberFromText(word) != 0;
 }
 
-QString BooleanToWord(bool value)
+QString booleanToWord(bool value)
 {
     return value ? u"True"_s : u"False"_s;
 }
@@ -53,7 +53,7 @@ QString StripDirectory(const QString& fileName)
     return separator < 0 ? fileName : fileName.sliced(separator + 1);
 }
 
-pugi::xml_node AddNumberedElement(pugi::xml_node parent, const char* prefix, int number, const QString& text)
+pugi::xml_node addNumberedElement(pugi::xml_node parent, const char* prefix, int number, const QString& text)
 {
     std::array<char, 40> name{};
     std::snprintf(name.data(), name.size(), "%s%d", prefix, number);
@@ -63,22 +63,22 @@ pugi::xml_node AddNumberedElement(pugi::xml_node parent, const char* prefix, int
 void CategoryClass::FromXML(const pugi::xml_node& element, ShopClass& owner,
                             const std::shared_ptr<CategoryClass>& parent)
 {
-    CheckCategoryLevel(parent.get());
+    checkCategoryLevel(parent.get());
     shop = &owner;
     parentCategory = parent;
     std::array<pugi::xml_node, inCategory::Count> found;
-    FindFirstDescendants(element, inCategory::names, found);
-    id = TextOr(found[inCategory::Id], QString());
+    findFirstDescendants(element, inCategory::names, found);
+    id = textOr(found[inCategory::Id], QString());
     if (id.isEmpty()) {
         id = owner.getNextProductId();
     }
     // A category without a name gets the name of a product without one: this is meant.
-    name = TextOr(found[inCategory::Name], u"UNDEFINED_PRODUCT_NAME"_s);
-    Description = TextOr(found[inCategory::Description], QString());
-    ReadNodeImage(*this, TextOr(found[inCategory::Picture], QString()), TextOr(found[inCategory::Width], u"0"_s),
-                  TextOr(found[inCategory::Height], u"0"_s));
+    name = textOr(found[inCategory::Name], u"UNDEFINED_PRODUCT_NAME"_s);
+    Description = textOr(found[inCategory::Description], QString());
+    readNodeImage(*this, textOr(found[inCategory::Picture], QString()), textOr(found[inCategory::Width], u"0"_s),
+                  textOr(found[inCategory::Height], u"0"_s));
     if (found[inCategory::Discount]) {
-        ReadLevelDiscount(found[inCategory::Discount], *Discount(), u"No"_s);
+        readLevelDiscount(found[inCategory::Discount], *Discount(), u"No"_s);
     }
     readChildren(element, owner);
 }
@@ -92,10 +92,10 @@ void CategoryClass::readChildren(const pugi::xml_node& element, ShopClass& owner
             auto category = std::make_shared<CategoryClass>(*m_services);
             category->FromXML(child, owner, shared_from_this());
             Discount()->AddChildDiscount(category->Discount(), category->id);
-            categories.Add(category, NodeKey(category->id));
+            categories.Add(category, nodeKey(category->id));
         } else if (isNamed(child, "Product")) {
             productElements.push_back(child);
-        } else if (isNamed(child, "ShopDesign") || FirstDescendant(child, "ShopDesign")) {
+        } else if (isNamed(child, "ShopDesign") || firstDescendant(child, "ShopDesign")) {
             m_services->reading.designSeenInCategory = true;
         }
     }
@@ -105,7 +105,7 @@ void CategoryClass::readChildren(const pugi::xml_node& element, ShopClass& owner
         auto product = std::make_shared<ProductClass>(*m_services);
         product->FromXML(child, owner, shared_from_this());
         Discount()->AddChildDiscount(product->Price()->Discount(), product->id);
-        products.Add(product, NodeKey(product->id));
+        products.Add(product, nodeKey(product->id));
     }
 }
 
@@ -114,8 +114,8 @@ void CategoryClass::ToXML(pugi::xml_node element)
     AddChildElement(element, "Id", id);
     AddChildElement(element, "Name", name);
     AddChildElement(element, "Description", Description);
-    WriteNodeImage(element, *this);
-    WriteLevelDiscount(AddChildElement(element, "Discount", u"HUERAGA"_s), *Discount());
+    writeNodeImage(element, *this);
+    writeLevelDiscount(AddChildElement(element, "Discount", u"HUERAGA"_s), *Discount());
     for (const std::shared_ptr<CategoryClass>& category : categories) {
         category->ToXML(AddChildElement(element, "Category", u"HUERAGA"_s));
     }

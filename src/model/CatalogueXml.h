@@ -7,11 +7,11 @@
 #include <pugixml.hpp>
 
 // "True" and "False", exact case, else a number that counts as true when it is not zero. Error 13 for any other text.
-bool BooleanFromWord(const QString& word);
-QString BooleanToWord(bool value);
+bool booleanFromWord(const QString& word);
+QString booleanToWord(bool value);
 
 // A file name without everything up to and including the last backslash.
 QString StripDirectory(const QString& fileName);
 
 // Appends an element whose name is the prefix and a number behind it, such as "Cost1".
-pugi::xml_node AddNumberedElement(pugi::xml_node parent, const char* prefix, int number, const QString& text);
+pugi::xml_node addNumberedElement(pugi::xml_node parent, const char* prefix, int number, const QString& text);

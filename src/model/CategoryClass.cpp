@@ -51,14 +51,14 @@ void CategoryClass::RemoveChilds()
 {
     for (const std::shared_ptr<CategoryClass>& category : categories) {
         category->RemoveChilds();
-        m_services->objects.Remove(NodeKey(category->id));
+        m_services->objects.Remove(nodeKey(category->id));
     }
     for (const std::shared_ptr<ProductClass>& product : products) {
-        m_services->objects.Remove(NodeKey(product->id));
+        m_services->objects.Remove(nodeKey(product->id));
     }
 }
 
-void CheckCategoryLevel(const CategoryClass* parent)
+void checkCategoryLevel(const CategoryClass* parent)
 {
     if (parent != nullptr && parent->Level() >= MaximumCategoryLevel) {
         throw RuntimeError(ErrorNumber::OutOfStackSpace);

@@ -71,4 +71,4 @@ private:
 };
 
 // A category that is to stand below that parent (none: a root category) must not lie too deep. Error 28 when it would.
-void CheckCategoryLevel(const CategoryClass* parent);
+void checkCategoryLevel(const CategoryClass* parent);

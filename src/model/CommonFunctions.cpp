@@ -30,7 +30,7 @@ std::optional<int> digitsOnly(QStringView text)
 
 double numberOrZero(const QString& text)
 {
-    return text.isEmpty() ? 0 : NumberFromText(text);
+    return text.isEmpty() ? 0 : numberFromText(text);
 }
 
 struct StatusWord
@@ -58,7 +58,7 @@ QString NormalizeDecimal(const QString& text)
     if (!text.contains(u'.') && !text.contains(u',')) {
         return text;
     }
-    const QString separator = DecimalSeparator();
+    const QString separator = decimalSeparator();
     QString normalised = text;
     if (separator == u"."_s) {
         normalised.replace(u',', u'.');
@@ -84,18 +84,18 @@ QString DateTextToLocal(const QString& text)
     }
     const QDate date = QDate(1899, 12, 30).addDays(*day + 1).addMonths(*month - 1).addYears(*year - 1900);
     const bool hasText = date.isValid() && date.year() >= 100 && date.year() <= 9999;
-    return hasText ? LocalDateText(date) : QString();
+    return hasText ? localDateText(date) : QString();
 }
 
-QString LocalToDateText(const QString& text)
+QString localToDateText(const QString& text)
 {
-    return text.isEmpty() ? QString() : ShopFileDateText(DateFromLocalText(text));
+    return text.isEmpty() ? QString() : shopFileDateText(dateFromLocalText(text));
 }
 
-bool DateIsBetween(const QDate& day, const QString& dateFrom, const QString& dateTo)
+bool dateIsBetween(const QDate& day, const QString& dateFrom, const QString& dateTo)
 {
-    const QDate first = dateFrom.isEmpty() ? QDate(1900, 1, 1) : DateFromLocalText(dateFrom);
-    const QDate last = dateTo.isEmpty() ? QDate(5100, 1, 1) : DateFromLocalText(dateTo);
+    const QDate first = dateFrom.isEmpty() ? QDate(1900, 1, 1) : dateFromLocalText(dateFrom);
+    const QDate last = dateTo.isEmpty() ? QDate(5100, 1, 1) : dateFromLocalText(dateTo);
     return first <= day && day <= last;
 }
 
@@ -108,7 +108,7 @@ QString CalculateNewPrice(const QString& price, const QString& percent)
     if (!std::isfinite(r)) {
         throw RuntimeError(ErrorNumber::Overflow);
     }
-    return NumberToText(NumberFromText(FormatTwoDecimals(r)));
+    return numberToText(numberFromText(formatTwoDecimals(r)));
 }
 
 int StatusFromWord(const QString& word)

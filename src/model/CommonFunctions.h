@@ -18,11 +18,11 @@ QString NormalizeDecimal(const QString& text);
 QString DateTextToLocal(const QString& text);
 
 // Local date text in the shop file's form "dd.mm.yyyy"; the empty text stays empty. Error 13 when it is no date.
-QString LocalToDateText(const QString& text);
+QString localToDateText(const QString& text);
 
 // True when the day lies between the two local date texts, both ends included; an empty one is an open end, which the
 // years 1900 and 5100 stand for. Error 13 when a text is no date.
-bool DateIsBetween(const QDate& day, const QString& dateFrom, const QString& dateTo);
+bool dateIsBetween(const QDate& day, const QString& dateFrom, const QString& dateTo);
 
 // The price lowered by that many percent, rounded to two decimals, shortest form; an empty text counts as 0. Both and
 // the result are number texts of the user's locale. Error 13 when one is no number, 6 when the result is out of range.

@@ -20,7 +20,7 @@ constexpr std::array<const char*, BandElementCount> bandNames = {"From", "To", "
 // The date of a file as local text; what is no date counts as none.
 void readDate(const pugi::xml_node& found, QString& date)
 {
-    const QString text = TextOr(found, QString());
+    const QString text = textOr(found, QString());
     if (!text.isEmpty()) {
         date = DateTextToLocal(text);
     }
@@ -29,29 +29,29 @@ void readDate(const pugi::xml_node& found, QString& date)
 void writeStatusAndDates(pugi::xml_node element, const clsDiscount& discount)
 {
     AddChildElement(element, "Status", StatusToWord(discount.Status));
-    AddChildElement(element, "DateFrom", LocalToDateText(discount.DateFrom));
-    AddChildElement(element, "DateTo", LocalToDateText(discount.DateTo));
+    AddChildElement(element, "DateFrom", localToDateText(discount.DateFrom));
+    AddChildElement(element, "DateTo", localToDateText(discount.DateTo));
 }
 
 } // namespace
 
-void ReadLevelDiscount(const pugi::xml_node& element, clsDiscount& discount, const QString& defaultStatus)
+void readLevelDiscount(const pugi::xml_node& element, clsDiscount& discount, const QString& defaultStatus)
 {
     std::array<pugi::xml_node, DiscountElementCount> found;
-    FindFirstDescendants(element, levelNames, found);
-    discount.Status = StatusFromWord(TextOr(found[Status], defaultStatus));
+    findFirstDescendants(element, levelNames, found);
+    discount.Status = StatusFromWord(textOr(found[Status], defaultStatus));
     readDate(found[DateFrom], discount.DateFrom);
     readDate(found[DateTo], discount.DateTo);
-    discount.setApplyToWhole(TextOr(found[Percentage], u"0"_s));
-    for (const pugi::xml_node& row : AllDescendants(element, "PriceFrame")) {
+    discount.setApplyToWhole(textOr(found[Percentage], u"0"_s));
+    for (const pugi::xml_node& row : allDescendants(element, "PriceFrame")) {
         std::array<pugi::xml_node, BandElementCount> band;
-        FindFirstDescendants(row, bandNames, band);
-        discount.DependedDiscounts()->Add(TextOr(band[From], QString()), TextOr(band[To], QString()),
-                                          TextOr(band[Percent], QString()));
+        findFirstDescendants(row, bandNames, band);
+        discount.DependedDiscounts()->Add(textOr(band[From], QString()), textOr(band[To], QString()),
+                                          textOr(band[Percent], QString()));
     }
 }
 
-void WriteLevelDiscount(pugi::xml_node element, clsDiscount& discount)
+void writeLevelDiscount(pugi::xml_node element, clsDiscount& discount)
 {
     writeStatusAndDates(element, discount);
     AddChildElement(element, "ApplyToAll", discount.ApplyToWhole());
@@ -63,7 +63,7 @@ void WriteLevelDiscount(pugi::xml_node element, clsDiscount& discount)
     }
 }
 
-void WritePriceDiscount(pugi::xml_node element, const clsDiscount& discount)
+void writePriceDiscount(pugi::xml_node element, const clsDiscount& discount)
 {
     writeStatusAndDates(element, discount);
     AddChildElement(element, "Specific", discount.Specific());

@@ -9,9 +9,9 @@
 class clsDiscount;
 
 // Status, dates, ApplyToAll and the bands. Error 94 when Status, or the default in its place, is no status word.
-void ReadLevelDiscount(const pugi::xml_node& element, clsDiscount& discount, const QString& defaultStatus);
+void readLevelDiscount(const pugi::xml_node& element, clsDiscount& discount, const QString& defaultStatus);
 // Error 13 when a date is no date, 94 when the status has no word.
-void WriteLevelDiscount(pugi::xml_node element, clsDiscount& discount);
+void writeLevelDiscount(pugi::xml_node element, clsDiscount& discount);
 
 // Status, dates and Specific; they are read with the product. Errors as above.
-void WritePriceDiscount(pugi::xml_node element, const clsDiscount& discount);
+void writePriceDiscount(pugi::xml_node element, const clsDiscount& discount);

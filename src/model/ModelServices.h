@@ -45,4 +45,4 @@ struct ModelServices
 };
 
 // The open shop. Error 91 when there is none.
-ShopClass& CurrentShop(const ModelServices& services);
+ShopClass& currentShop(const ModelServices& services);

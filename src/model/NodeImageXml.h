@@ -9,13 +9,13 @@
 
 #include <pugixml.hpp>
 
-// A slot is made only for what is there. Errors as for Int16FromText.
+// A slot is made only for what is there. Errors as for int16FromText.
 template <class Node>
-void ReadNodeImage(Node& node, const QString& picture, const QString& width, const QString& height)
+void readNodeImage(Node& node, const QString& picture, const QString& width, const QString& height)
 {
     const QString fileName = StripDirectory(picture);
-    const qint16 widthBmp = Int16FromText(width);
-    const qint16 heightBmp = Int16FromText(height);
+    const qint16 widthBmp = int16FromText(width);
+    const qint16 heightBmp = int16FromText(height);
     if (!fileName.isEmpty() || widthBmp != 0 || heightBmp != 0) {
         clsSelectedImage& image = *node.selectedImage();
         image.imageFileName = fileName;
@@ -26,7 +26,7 @@ void ReadNodeImage(Node& node, const QString& picture, const QString& width, con
 
 // Errors as for clsSelectedImage::WidthBmp.
 template <class Node>
-void WriteNodeImage(pugi::xml_node element, Node& node)
+void writeNodeImage(pugi::xml_node element, Node& node)
 {
     clsSelectedImage* image = node.hasSelectedImage() ? node.selectedImage().get() : nullptr;
     AddChildElement(element, "Picture", image != nullptr ? image->imageFileName : QString());

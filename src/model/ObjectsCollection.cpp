@@ -20,7 +20,7 @@ const std::shared_ptr<Node>& nodeOf(const CatalogueObject& object)
 
 } // namespace
 
-QString NodeKey(const QString& id)
+QString nodeKey(const QString& id)
 {
     QString key(id.size() + 2, Qt::Uninitialized);
     key[0] = u'I';
@@ -29,19 +29,19 @@ QString NodeKey(const QString& id)
     return key;
 }
 
-QString ShopNodeKey()
+QString shopNodeKey()
 {
     return u"ID_SHOP"_s;
 }
 
 const std::shared_ptr<CategoryClass>& ObjectsCollection::Category(const QString& id) const
 {
-    return nodeOf<CategoryClass>(Item(NodeKey(id)));
+    return nodeOf<CategoryClass>(Item(nodeKey(id)));
 }
 
 const std::shared_ptr<ProductClass>& ObjectsCollection::Product(const QString& id) const
 {
-    return nodeOf<ProductClass>(Item(NodeKey(id)));
+    return nodeOf<ProductClass>(Item(nodeKey(id)));
 }
 
 const KeyedCollection<CatalogueObject>& ObjectsCollection::items() const

@@ -20,9 +20,9 @@ using CatalogueObject = std::variant<std::monostate, std::shared_ptr<ShopClass>,
                                      std::shared_ptr<ProductClass>>;
 
 // "ID" followed by the id.
-QString NodeKey(const QString& id);
+QString nodeKey(const QString& id);
 // The key of the root node, the shop: "ID_SHOP".
-QString ShopNodeKey();
+QString shopNodeKey();
 
 class ObjectsCollection
 {
@@ -36,7 +36,7 @@ public:
     // Error 5 when the key is missing.
     void Remove(const QString& key) { ownItems().Remove(key); }
     const CatalogueObject& Item(const QString& key) const { return items().Item(key); }
-    bool HasKey(const QString& key) const { return items().HasKey(key); }
+    bool hasKey(const QString& key) const { return items().hasKey(key); }
 
     // The category or product with that id. Error 5 when there is no node of that id, 13 when it is of another kind.
     const std::shared_ptr<CategoryClass>& Category(const QString& id) const;

@@ -95,15 +95,15 @@ public:
             has(inProduct::Related) ? elements().node(m_found[inProduct::Related]) : pugi::xml_node();
         QStringList ids;
         if (fileVersion < u"1.2.0"_s) {
-            for (const pugi::xml_node& found : AllDescendants(related, "RId")) {
-                ids.append(NodeText(found));
+            for (const pugi::xml_node& found : allDescendants(related, "RId")) {
+                ids.append(nodeText(found));
             }
             return ids;
         }
         if (!related) {
             throw RuntimeError(ErrorNumber::ObjectNotSet);
         }
-        for (const std::optional<QString>& id : FirstGrandchildTexts(related)) {
+        for (const std::optional<QString>& id : firstGrandchildTexts(related)) {
             ids.append(id.value_or(QString()));
         }
         return ids;
@@ -156,7 +156,7 @@ private:
         for (const QChar letter : text) {
             isPlain = isPlain && letter >= u'0' && letter <= u'9';
         }
-        return isPlain ? text : NumberToText(Val(text));
+        return isPlain ? text : numberToText(Val(text));
     }
 
     ProductReading& m_reading;
@@ -180,10 +180,10 @@ void ProductClass::FromXML(const pugi::xml_node& element, ShopClass& owner,
     Code = read.text(inProduct::Code);
     clsPrice& price = *Price();
     price.Value = read.sharedText(inProduct::Price);
-    ForSale = BooleanFromWord(read.sharedText(inProduct::ForSale, u"True"_s));
+    ForSale = booleanFromWord(read.sharedText(inProduct::ForSale, u"True"_s));
     Unit = read.sharedText(inProduct::Unit);
     LINK = read.text(inProduct::Link);
-    ReadNodeImage(*this, read.sharedText(inProduct::Picture), read.sharedText(inProduct::Width, u"0"_s),
+    readNodeImage(*this, read.sharedText(inProduct::Picture), read.sharedText(inProduct::Width, u"0"_s),
                   read.sharedText(inProduct::Height, u"0"_s));
     if (read.has(inProduct::Discount)) {
         read.readDiscount(*price.Discount());
@@ -207,19 +207,19 @@ void ProductClass::ToXML(pugi::xml_node element)
     AddChildElement(element, "Description", Description);
     AddChildElement(element, "Code", Code);
     AddChildElement(element, "Price", NormalizeDecimal(Price()->Value));
-    AddChildElement(element, "ForSale", BooleanToWord(ForSale));
+    AddChildElement(element, "ForSale", booleanToWord(ForSale));
     AddChildElement(element, "Unit", Unit);
     AddChildElement(element, "Link", LINK);
-    WriteNodeImage(element, *this);
-    WritePriceDiscount(AddChildElement(element, "Discount", container), *Price()->Discount());
+    writeNodeImage(element, *this);
+    writePriceDiscount(AddChildElement(element, "Discount", container), *Price()->Discount());
 
     const pugi::xml_node shipping = AddChildElement(element, "Shipping", container);
     AddChildElement(shipping, "ShippingStatus", ShippingStatus);
     AddChildElement(shipping, "Weight", NormalizeDecimal(Weight));
-    if (const std::shared_ptr<TextCollection>& types = CurrentShop(*m_services).ShippingTypeName) {
+    if (const std::shared_ptr<TextCollection>& types = currentShop(*m_services).ShippingTypeName) {
         for (int i = 1; i <= types->Count(); ++i) {
-            const int cost = m_shippingCosts ? m_shippingCosts->IndexOf(types->Item(i)) : 0;
-            AddNumberedElement(shipping, "ShippingCost", i,
+            const int cost = m_shippingCosts ? m_shippingCosts->indexOf(types->Item(i)) : 0;
+            addNumberedElement(shipping, "ShippingCost", i,
                                cost != 0 ? NormalizeDecimal(m_shippingCosts->Item(cost)) : QString());
         }
     }

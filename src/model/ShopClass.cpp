@@ -7,7 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-ShopClass& CurrentShop(const ModelServices& services)
+ShopClass& currentShop(const ModelServices& services)
 {
     if (!services.shop) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
@@ -25,7 +25,7 @@ ShopClass::ShopClass(const ModelServices& services)
 
 QString ShopClass::getNextProductId()
 {
-    const qint32 highest = Int32FromText(MaxProductId);
+    const qint32 highest = int32FromText(MaxProductId);
     if (highest == std::numeric_limits<qint32>::max()) {
         throw RuntimeError(ErrorNumber::Overflow);
     }

@@ -30,7 +30,7 @@ ShopSession::ShopSession(const ApplicationFolder& applicationFolder, UserPrompts
 bool ShopSession::LoadCountries()
 {
     log.WriteLoadLog(u"Start Function LoadCountries"_s);
-    for (const QString& country : DelimitedFields(ReadTextFile(folder.countriesFile()).text)) {
+    for (const QString& country : delimitedFields(readTextFile(folder.countriesFile()).text)) {
         CountriesCollection.Add(country, country);
     }
     return true;
@@ -44,9 +44,9 @@ bool ShopSession::loadShop()
     XmlFile file;
     file.load(folder.shopFile());
     shop = std::make_shared<ShopClass>(services);
-    const pugi::xml_node element = FirstDescendant(file.document(), "Shop");
+    const pugi::xml_node element = firstDescendant(file.document(), "Shop");
     if (!element) {
-        prompts.showMessage(ApplicationTitle(), u"Error in the configuration XML file. No 'Shop' node."_s,
+        prompts.showMessage(applicationTitle(), u"Error in the configuration XML file. No 'Shop' node."_s,
                             PromptIcon::None);
         return false;
     }
@@ -56,7 +56,7 @@ bool ShopSession::loadShop()
 
 void ShopSession::writeShopFile()
 {
-    WriteFileBytes(folder.shopFile(), CurrentShop(services).fileBytes());
+    writeFileBytes(folder.shopFile(), currentShop(services).fileBytes());
 }
 
 namespace {
@@ -74,16 +74,16 @@ int nodeCount(const KeyedCollection<std::shared_ptr<CategoryClass>>& categories)
 
 void ShopSession::registerShop()
 {
-    objects.create(nodeCount(CurrentShop(services).categories) + 1);
-    objects.Add(shop, ShopNodeKey());
-    for (const std::shared_ptr<CategoryClass>& category : CurrentShop(services).categories) {
+    objects.create(nodeCount(currentShop(services).categories) + 1);
+    objects.Add(shop, shopNodeKey());
+    for (const std::shared_ptr<CategoryClass>& category : currentShop(services).categories) {
         registerCategory(category);
     }
 }
 
 void ShopSession::registerCategory(const std::shared_ptr<CategoryClass>& category)
 {
-    objects.Add(category, NodeKey(category->id));
+    objects.Add(category, nodeKey(category->id));
     for (const std::shared_ptr<CategoryClass>& child : category->categories) {
         registerCategory(child);
     }
@@ -94,5 +94,5 @@ void ShopSession::registerCategory(const std::shared_ptr<CategoryClass>& categor
 
 void ShopSession::registerProduct(const std::shared_ptr<ProductClass>& product)
 {
-    objects.Add(product, NodeKey(product->id));
+    objects.Add(product, nodeKey(product->id));
 }

@@ -55,7 +55,7 @@ public:
     bool loadShop();
 
     // Writes the whole shop file. The text is complete in memory before the old file is touched: any error while it is
-    // made leaves the file as it was. Error 91 when no shop was loaded, others as for ToXML and WriteFileBytes.
+    // made leaves the file as it was. Error 91 when no shop was loaded, others as for ToXML and writeFileBytes.
     void writeShopFile();
 
     // Makes ObjectsCollection new and enters the shop and all nodes, each category before its contents, sub-categories

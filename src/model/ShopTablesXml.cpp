@@ -38,24 +38,24 @@ int countOf(const std::shared_ptr<TextCollection>& texts)
 
 } // namespace
 
-std::shared_ptr<TextCollection> CountriesFrom(const pugi::xml_node& element)
+std::shared_ptr<TextCollection> countriesFrom(const pugi::xml_node& element)
 {
     if (!element) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
     }
     auto countries = newTexts();
-    for (const QString& country : ChildTexts(element)) {
+    for (const QString& country : childTexts(element)) {
         countries->Add(country, country);
     }
     return countries;
 }
 
-void ReadShippingTypes(const pugi::xml_node& element, ShopClass& shop)
+void readShippingTypes(const pugi::xml_node& element, ShopClass& shop)
 {
     if (!element) {
         return;
     }
-    const std::vector<pugi::xml_node> rows = AllDescendants(element, "Type");
+    const std::vector<pugi::xml_node> rows = allDescendants(element, "Type");
     if (rows.size() > mostShippingTypes) {
         throw RuntimeError(ErrorNumber::OutOfMemory);
     }
@@ -69,9 +69,9 @@ void ReadShippingTypes(const pugi::xml_node& element, ShopClass& shop)
 }
 
 // The number of columns comes from the shipping types, not from the rows.
-void ReadShippingCosts(const pugi::xml_node& element, int typeCount, ShopClass& shop)
+void readShippingCosts(const pugi::xml_node& element, int typeCount, ShopClass& shop)
 {
-    const std::vector<pugi::xml_node> rows = AllDescendants(element, "CostsFrame");
+    const std::vector<pugi::xml_node> rows = allDescendants(element, "CostsFrame");
     if (rows.empty()) {
         return;
     }
@@ -86,23 +86,23 @@ void ReadShippingCosts(const pugi::xml_node& element, int typeCount, ShopClass& 
         shop.ShippingCostFrameFrom->Add(textBelow(row, "From"), numbered("from"_L1, frame));
         shop.ShippingCostFrameTo->Add(textBelow(row, "To"), numbered("to"_L1, frame));
         TextCollection costs;
-        for (const pugi::xml_node& cost : FindNumberedDescendants(row, "Cost", 1, typeCount)) {
-            costs.Add(TextOr(cost, QString()), numbered("cost"_L1, costs.Count()));
+        for (const pugi::xml_node& cost : findNumberedDescendants(row, "Cost", 1, typeCount)) {
+            costs.Add(textOr(cost, QString()), numbered("cost"_L1, costs.Count()));
         }
         shop.ShippingCosts->Add(std::move(costs));
     }
 }
 
-void ReadTaxesAndCharges(const pugi::xml_node& taxes, const pugi::xml_node& charges, ShopClass& shop)
+void readTaxesAndCharges(const pugi::xml_node& taxes, const pugi::xml_node& charges, ShopClass& shop)
 {
-    for (const pugi::xml_node& row : AllDescendants(taxes, "Type")) {
+    for (const pugi::xml_node& row : allDescendants(taxes, "Type")) {
         clsTax tax;
         tax.TaxName = textBelow(row, "Name");
         tax.setPercent(textBelow(row, "Percent"));
         tax.setIsCheckedString(GetNodeText(row, "Used", u"N"_s));
         shop.Taxes.Add(std::move(tax));
     }
-    for (const pugi::xml_node& row : AllDescendants(charges, "Type")) {
+    for (const pugi::xml_node& row : allDescendants(charges, "Type")) {
         clsCharge charge;
         charge.Destination = textBelow(row, "Destination");
         charge.Cost = textBelow(row, "Cost");
@@ -111,15 +111,15 @@ void ReadTaxesAndCharges(const pugi::xml_node& taxes, const pugi::xml_node& char
     }
 }
 
-void WriteCountries(pugi::xml_node element, const TextCollection& countries)
+void writeCountries(pugi::xml_node element, const TextCollection& countries)
 {
     int number = 0;
     for (const QString& country : countries) {
-        AddNumberedElement(element, "Country", ++number, country);
+        addNumberedElement(element, "Country", ++number, country);
     }
 }
 
-void WriteShippingTypes(pugi::xml_node element, const ShopClass& shop)
+void writeShippingTypes(pugi::xml_node element, const ShopClass& shop)
 {
     if (countOf(shop.ShippingTypeName) > 0 && !shop.ShippingTypeDescription) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
@@ -132,7 +132,7 @@ void WriteShippingTypes(pugi::xml_node element, const ShopClass& shop)
 }
 
 // The number of columns comes from the first frame, and a frame without any cost gets empty ones.
-void WriteShippingCosts(pugi::xml_node element, const ShopClass& shop)
+void writeShippingCosts(pugi::xml_node element, const ShopClass& shop)
 {
     if (countOf(shop.ShippingCostFrameFrom) > 0 && (!shop.ShippingCostFrameTo || !shop.ShippingCosts)) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
@@ -143,12 +143,12 @@ void WriteShippingCosts(pugi::xml_node element, const ShopClass& shop)
         AddChildElement(row, "To", NormalizeDecimal(shop.ShippingCostFrameTo->Item(frame)));
         const TextCollection& costs = shop.ShippingCosts->Item(frame);
         for (int i = 1; i <= shop.ShippingCosts->Item(1).Count(); ++i) {
-            AddNumberedElement(row, "Cost", i, costs.isEmpty() ? QString() : NormalizeDecimal(costs.Item(i)));
+            addNumberedElement(row, "Cost", i, costs.isEmpty() ? QString() : NormalizeDecimal(costs.Item(i)));
         }
     }
 }
 
-void WriteTaxes(pugi::xml_node element, const KeyedCollection<clsTax>& taxes)
+void writeTaxes(pugi::xml_node element, const KeyedCollection<clsTax>& taxes)
 {
     for (const clsTax& tax : taxes) {
         const pugi::xml_node row = AddChildElement(element, "Type", u"HUERAGA"_s);
@@ -158,7 +158,7 @@ void WriteTaxes(pugi::xml_node element, const KeyedCollection<clsTax>& taxes)
     }
 }
 
-void WriteCharges(pugi::xml_node element, const KeyedCollection<clsCharge>& charges)
+void writeCharges(pugi::xml_node element, const KeyedCollection<clsCharge>& charges)
 {
     for (const clsCharge& charge : charges) {
         const pugi::xml_node row = AddChildElement(element, "Type", u"HUERAGA"_s);

@@ -67,7 +67,7 @@ pugi::xml_node designElement(const pugi::xml_node& shop, bool isInCategory)
             return child;
         }
         if (isInCategory || !isNamed(child, "Category")) {
-            if (const pugi::xml_node found = FirstDescendant(child, "ShopDesign")) {
+            if (const pugi::xml_node found = firstDescendant(child, "ShopDesign")) {
                 return found;
             }
         }
@@ -81,29 +81,29 @@ void ShopClass::FromXML(const pugi::xml_node& element)
 {
     LoadLog& log = m_services->design.log;
     log.WriteLoadLog(u"Start Shop.FromXML"_s);
-    Version = ProgramVersion();
+    Version = programVersion();
     std::array<pugi::xml_node, inShop::Count> found;
-    FindFirstDescendants(element, inShop::names, found);
+    findFirstDescendants(element, inShop::names, found);
     QString& fileVersion = m_services->LoadedShopVersion;
-    fileVersion = TextOr(found[inShop::Version], QString());
-    shop_currency = TextOr(found[inShop::Currency], QString());
-    ShippingChargesAreSelected = BooleanFromWord(TextOr(found[inShop::ShippingChargesAreSelected], u"False"_s));
-    TaxesAreSelected = BooleanFromWord(TextOr(found[inShop::TaxesAreSelected], u"False"_s));
-    MaxProductId = TextOr(found[inShop::MaxProductId], u"1"_s);
-    name = TextOr(found[inShop::Name], u"UNDEFINED_SHOP_NAME"_s);
-    Description = TextOr(found[inShop::Description], QString());
+    fileVersion = textOr(found[inShop::Version], QString());
+    shop_currency = textOr(found[inShop::Currency], QString());
+    ShippingChargesAreSelected = booleanFromWord(textOr(found[inShop::ShippingChargesAreSelected], u"False"_s));
+    TaxesAreSelected = booleanFromWord(textOr(found[inShop::TaxesAreSelected], u"False"_s));
+    MaxProductId = textOr(found[inShop::MaxProductId], u"1"_s);
+    name = textOr(found[inShop::Name], u"UNDEFINED_SHOP_NAME"_s);
+    Description = textOr(found[inShop::Description], QString());
     if (found[inShop::Discount]) {
-        ReadLevelDiscount(found[inShop::Discount], *m_discount, u"1"_s); // "1" is no status word: this is meant
+        readLevelDiscount(found[inShop::Discount], *m_discount, u"1"_s); // "1" is no status word: this is meant
     }
     log.WriteLoadLog(u"ShopDiscount loaded from XML"_s);
-    SelectedCountries = CountriesFrom(found[inShop::SelectedCountries]);
+    SelectedCountries = countriesFrom(found[inShop::SelectedCountries]);
     log.WriteLoadLog(u"SelectedCountries loaded from XML"_s);
-    ReadShippingTypes(found[inShop::Shipping], *this);
+    readShippingTypes(found[inShop::Shipping], *this);
     log.WriteLoadLog(u"ShopShipping loaded from XML"_s);
-    const auto typeCount = static_cast<int>(AllDescendants(found[inShop::Shipping], "Type").size());
-    ReadShippingCosts(found[inShop::ShippingCosts], typeCount, *this);
+    const auto typeCount = static_cast<int>(allDescendants(found[inShop::Shipping], "Type").size());
+    readShippingCosts(found[inShop::ShippingCosts], typeCount, *this);
     log.WriteLoadLog(u"ShopShippingCosts loaded from XML"_s);
-    ReadTaxesAndCharges(found[inShop::Taxes], found[inShop::Charges], *this);
+    readTaxesAndCharges(found[inShop::Taxes], found[inShop::Charges], *this);
     log.WriteLoadLog(u"Taxes loaded from XML"_s);
     readCategories(element);
     log.WriteLoadLog(u"root categories loaded from XML"_s);
@@ -130,7 +130,7 @@ void ShopClass::readCategories(const pugi::xml_node& element)
             auto category = std::make_shared<CategoryClass>(*m_services);
             category->ParentDiscount = m_discount;
             category->FromXML(child, *this, nullptr);
-            categories.Add(category, NodeKey(category->id));
+            categories.Add(category, nodeKey(category->id));
             m_discount->AddChildDiscount(category->Discount(), category->id);
         }
     }
@@ -144,7 +144,7 @@ void ShopClass::readStylesAndPages(const pugi::xml_node& element)
         if (isNamed(child, "CSS")) {
             auto style = std::make_shared<CSSClass>();
             style->FromXML(child);
-            CSSs.Add(style, NodeKey(style->CSSName));
+            CSSs.Add(style, nodeKey(style->CSSName));
         }
     }
     log.WriteLoadLog(u"CSS loaded from XML"_s);
@@ -174,7 +174,7 @@ QByteArray ShopClass::fileBytes()
     const auto append = [&bytes](const auto& fill) {
         pugi::xml_document part;
         fill(part);
-        bytes += XmlToBytes(part);
+        bytes += xmlToBytes(part);
     };
     append([this](pugi::xml_document& part) { writeHead(part); });
     for (const std::shared_ptr<CategoryClass>& category : categories) {
@@ -194,18 +194,18 @@ void ShopClass::writeHead(const pugi::xml_node& element) const
     }
     const auto container = [&element](const char* tag) { return AddChildElement(element, tag, u"HUERAGA"_s); };
     AddChildElement(element, "Version", Version);
-    AddChildElement(element, "ShippingChargesAreSelected", BooleanToWord(ShippingChargesAreSelected));
-    AddChildElement(element, "TaxesAreSelected", BooleanToWord(TaxesAreSelected));
+    AddChildElement(element, "ShippingChargesAreSelected", booleanToWord(ShippingChargesAreSelected));
+    AddChildElement(element, "TaxesAreSelected", booleanToWord(TaxesAreSelected));
     AddChildElement(element, "shop_currency", shop_currency);
     AddChildElement(element, "MaxProductId", MaxProductId);
     AddChildElement(element, "Name", name);
     AddChildElement(element, "Description", Description);
-    WriteLevelDiscount(container("ShopDiscount"), *m_discount);
-    WriteCountries(container("SelectedCountries"), *SelectedCountries);
-    WriteShippingTypes(container("ShopShipping"), *this);
-    WriteShippingCosts(container("ShopShippingCosts"), *this);
-    WriteTaxes(container("Taxes"), Taxes);
-    WriteCharges(container("Charges"), Charges);
+    writeLevelDiscount(container("ShopDiscount"), *m_discount);
+    writeCountries(container("SelectedCountries"), *SelectedCountries);
+    writeShippingTypes(container("ShopShipping"), *this);
+    writeShippingCosts(container("ShopShippingCosts"), *this);
+    writeTaxes(container("Taxes"), Taxes);
+    writeCharges(container("Charges"), Charges);
 }
 
 // What stands behind them.

@@ -16,12 +16,12 @@ QString TextPool::text(const char* utf8)
         hash = hash * 31 + static_cast<unsigned char>(utf8[length++]);
     }
     if (length > longest) {
-        return TextFromUtf8(utf8);
+        return textFromUtf8(utf8);
     }
     Entry& entry = m_entries[hash % m_entries.size()];
     if (std::strcmp(entry.utf8.data(), utf8) != 0) {
         std::memcpy(entry.utf8.data(), utf8, length + 1);
-        entry.text = TextFromUtf8(utf8);
+        entry.text = textFromUtf8(utf8);
     }
     return entry.text;
 }

@@ -58,11 +58,11 @@ void clsCart::AddNewProduct(const QString& id, const QString& /*productName*/,
     } catch (const RuntimeError& error) {
         if (error.number() == ErrorNumber::DuplicateKey) {
             QString& sum = m_lines.Item(key)->Quantity;
-            sum = NumberToText(Val(sum) + Val(quantity));
+            sum = numberToText(Val(sum) + Val(quantity));
             return;
         }
         m_services->design.prompts.showMessage(
-            ApplicationTitle(),
+            applicationTitle(),
             u"Unexpected error in clsCart.AddNewProduct\r\n%1 - %2"_s.arg(static_cast<int>(error.number()))
                 .arg(error.description()),
             PromptIcon::Critical);
@@ -83,7 +83,7 @@ void clsCart::Recalculate(const QString& id, const QString& price, const QString
             return;
         }
         m_services->design.prompts.showMessage(
-            ApplicationTitle(),
+            applicationTitle(),
             u"clsCart.Recalculate \r\nUnexpected error #%1: \r\n%2"_s.arg(static_cast<int>(error.number()))
                 .arg(error.description()),
             PromptIcon::Critical);
@@ -95,11 +95,11 @@ QString clsCart::TotalCost() const
     // Every step is rounded to a single.
     float total = 0;
     for (const std::shared_ptr<clsCartProduct>& line : m_lines) {
-        total = static_cast<float>(NumberFromText(line->SelectedPrice()) + static_cast<double>(total));
+        total = static_cast<float>(numberFromText(line->SelectedPrice()) + static_cast<double>(total));
     }
     const float factor = tax / 100.0F + 1.0F;
     total = factor * total;
     const float sum = Charge + total;
-    const double rounded = NumberFromText(FormatTwoDecimals(static_cast<double>(sum)));
-    return SingleToShortestText(static_cast<float>(rounded));
+    const double rounded = numberFromText(formatTwoDecimals(static_cast<double>(sum)));
+    return singleToShortestText(static_cast<float>(rounded));
 }

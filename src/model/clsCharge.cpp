@@ -4,20 +4,20 @@ using namespace Qt::StringLiterals;
 
 QString clsCharge::IsCheckedString() const
 {
-    return FlagText(IsChecked);
+    return flagText(IsChecked);
 }
 
 void clsCharge::setIsCheckedString(const QString& text)
 {
-    SetFlag(IsChecked, text);
+    setFlag(IsChecked, text);
 }
 
-QString FlagText(bool isChecked)
+QString flagText(bool isChecked)
 {
     return isChecked ? u"Y"_s : u"N"_s;
 }
 
-void SetFlag(bool& isChecked, const QString& text)
+void setFlag(bool& isChecked, const QString& text)
 {
     if (text == "Y"_L1) {
         isChecked = true;

@@ -16,5 +16,5 @@ public:
 };
 
 // What clsTax and clsCharge make of their switch.
-QString FlagText(bool isChecked);
-void SetFlag(bool& isChecked, const QString& text);
+QString flagText(bool isChecked);
+void setFlag(bool& isChecked, const QString& text);

@@ -61,7 +61,7 @@ void clsDiscount::setParentDiscount(const std::shared_ptr<clsDiscount>& parent)
 bool clsDiscount::isOpen(const QString& dateFrom, const QString& dateTo) const
 {
     // Most have no dates, and asking the clock costs more than all else on a page of products.
-    return (dateFrom.isEmpty() && dateTo.isEmpty()) || DateIsBetween(m_clock->today(), dateFrom, dateTo);
+    return (dateFrom.isEmpty() && dateTo.isEmpty()) || dateIsBetween(m_clock->today(), dateFrom, dateTo);
 }
 
 QString clsDiscount::Value(const QString& price) const
@@ -80,9 +80,9 @@ QString clsDiscount::Value(const QString& price) const
 QString clsDiscount::bandFor(const QString& price) const
 {
     for (const clsDependedDiscount& band : *ParentDependDiscounts) {
-        const double number = NumberFromText(price);
-        const double from = NumberFromText(band.PriceFrom());
-        const double to = NumberFromText(band.PriceTo());
+        const double number = numberFromText(price);
+        const double from = numberFromText(band.PriceFrom());
+        const double to = numberFromText(band.PriceTo());
         if (from < number && number < to) {
             return band.Value();
         }

@@ -65,8 +65,8 @@ QStringList clsImporter::PSplit(QStringView line)
 
 void clsImporter::Import(const QString& fileName)
 {
-    const QString text = ReadTextFile(fileName).text;
-    ShopClass& shop = CurrentShop(m_session.services);
+    const QString text = readTextFile(fileName).text;
+    ShopClass& shop = currentShop(m_session.services);
     int lines = 0;
     for (qsizetype at = 0; at < text.size();) {
         const qsizetype end = lineEnd(text, at);

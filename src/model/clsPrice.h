@@ -55,7 +55,7 @@ public:
     // Error 6 above 32767.
     qint16 MultiPriceCount() const;
     // Removes all variants.
-    void ClearMultiPrices() { m_multiPrices.reset(); }
+    void clearMultiPrices() { m_multiPrices.reset(); }
 
     // The Value and Description of the first variant whose discounted value is that text; without one, this price's own
     // Value and an empty description.

@@ -10,10 +10,10 @@ QString clsTax::Percent() const
 
 QString clsTax::IsCheckedString() const
 {
-    return FlagText(IsChecked);
+    return flagText(IsChecked);
 }
 
 void clsTax::setIsCheckedString(const QString& text)
 {
-    SetFlag(IsChecked, text);
+    setFlag(IsChecked, text);
 }

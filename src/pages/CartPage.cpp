@@ -21,9 +21,9 @@ constexpr DesignOption LineOptions[] = {
     CartPage_IncludeRelated,   CartPage_IncludeShipping,    CartPage_IncludeTaxes,
 };
 
-double NumberOrZero(const QString& text)
+double numberOrZero(const QString& text)
 {
-    return text.isEmpty() ? 0.0 : NumberFromText(text);
+    return text.isEmpty() ? 0.0 : numberFromText(text);
 }
 
 // The sum of the page: a single, rounded after each line. It has no tax and no charge, unlike the cart's own total.
@@ -32,9 +32,10 @@ class Total
 public:
     void addLine(const QString& price, const QString& quantity)
     {
-        const double sum = static_cast<double>(m_sum) + NumberOrZero(price) * NumberOrZero(quantity);
-        if (std::abs(sum) > static_cast<double>(std::numeric_limits<float>::max()))
+        const double sum = static_cast<double>(m_sum) + numberOrZero(price) * numberOrZero(quantity);
+        if (std::abs(sum) > static_cast<double>(std::numeric_limits<float>::max())) {
             throw RuntimeError(ErrorNumber::Overflow);
+        }
         m_sum = static_cast<float>(sum);
     }
 
@@ -46,14 +47,14 @@ private:
 
 // Adds "price" and "new_price" of a line, and its cost to the total. The discount is asked for with the text that is
 // discounted already, unlike on the category page: this is meant.
-void AddPrices(Variables& row, const clsCartProduct& line, Total& total)
+void addPrices(Variables& row, const clsCartProduct& line, Total& total)
 {
     const std::shared_ptr<clsPrice>& price = line.ParentProduct()->Price();
-    if (!HasVariants(*price)) {
+    if (!hasVariants(*price)) {
         const QString discounted = price->NewPrice(price->Value);
         total.addLine(discounted, line.Quantity);
-        row.Add(u"price", PriceVariable(price));
-        row.Add(u"new_price", IfDiscounted(*price, discounted, discounted));
+        row.Add(u"price", priceVariable(price));
+        row.Add(u"new_price", ifDiscounted(*price, discounted, discounted));
         return;
     }
     const QString selected = line.SelectedPrice();
@@ -62,45 +63,50 @@ void AddPrices(Variables& row, const clsCartProduct& line, Total& total)
     price->FindMultiPrice(selected, value, description);
     total.addLine(selected, line.Quantity);
     row.Add(u"price", value);
-    row.Add(u"new_price", IfDiscounted(*price, selected, selected));
+    row.Add(u"new_price", ifDiscounted(*price, selected, selected));
 }
 
 // A member of a tax that is asked for by its name. Error 438 when a tax has no such member.
-QString MemberOf(const clsTax& tax, QStringView name)
+QString memberOf(const clsTax& tax, QStringView name)
 {
-    if (name == "TaxName"_L1)
+    if (name == "TaxName"_L1) {
         return tax.TaxName;
-    if (name == "Percent"_L1)
+    }
+    if (name == "Percent"_L1) {
         return tax.Percent();
+    }
     throw RuntimeError(ErrorNumber::NoSuchMember);
 }
 
 // Adds "taxes" and "hastaxes". The list has a row in any case, one without variables when there is no tax. The name is
 // asked for by a word that no tax knows, so that a product with a tax fails the page: this is meant.
-void AddTaxes(Variables& row, const PageContext& context, ProductClass& product)
+void addTaxes(Variables& row, const PageContext& context, ProductClass& product)
 {
     VariableRows rows;
     if (!product.Taxes()->isEmpty()) {
-        if (product.shop == nullptr)
+        if (product.shop == nullptr) {
             throw RuntimeError(ErrorNumber::ObjectNotSet);
+        }
         const KeyedCollection<clsTax>& taxes = product.shop->Taxes;
         for (int i = 1; i <= taxes.Count(); ++i) {
-            if (product.Taxes()->Item(i) != "Y"_L1)
+            if (product.Taxes()->Item(i) != "Y"_L1) {
                 continue;
+            }
             Variables tax = context.newVariables();
-            tax.Add(u"tax_name", MemberOf(taxes.Item(i), u"TaxNames"));
+            tax.Add(u"tax_name", memberOf(taxes.Item(i), u"TaxNames"));
             tax.Add(u"tax_percent", taxes.Item(i).Percent());
             rows.push_back(std::move(tax));
         }
     }
     const bool hasTaxes = !rows.empty();
-    if (!hasTaxes)
+    if (!hasTaxes) {
         rows.push_back(context.newVariables());
+    }
     row.Add(u"taxes", std::move(rows));
     row.Add(u"hastaxes", hasTaxes ? u"yes"_s : QString());
 }
 
-VariableRows LineRows(const PageContext& context, Total& total)
+VariableRows lineRows(const PageContext& context, Total& total)
 {
     const ShopDesignClass& design = context.design();
     const ImageKeys imageKeys(u"CARTPAGE_IMAGE");
@@ -117,13 +123,13 @@ VariableRows LineRows(const PageContext& context, Total& total)
         row.Add(u"shop_currency", context.shop().shop_currency);
         row.Add(u"cut_count", design.Option(CartPage_Limit_Desc));
         AddImageVariables(row, context, *product.selectedImage(), imageKeys);
-        AddPrices(row, *line, total);
+        addPrices(row, *line, total);
         row.Add(u"description", descriptions.cut(product.Description));
         recalculateButton.addTo(row);
-        AddOptions(row, design, LineOptions);
-        row.Add(u"server", ServerAddress());
-        AddRelated(row, context, product);
-        AddTaxes(row, context, product);
+        addOptions(row, design, LineOptions);
+        row.Add(u"server", serverAddress());
+        addRelated(row, context, product);
+        addTaxes(row, context, product);
         rows.push_back(std::move(row));
     }
     return rows;
@@ -131,15 +137,16 @@ VariableRows LineRows(const PageContext& context, Total& total)
 
 } // namespace
 
-void AddCartPage(Variables& vars, const PageContext& context)
+void addCartPage(Variables& vars, const PageContext& context)
 {
-    AddOptions(vars, context.design(), PageOptions);
-    AddSlotVariables(vars, context, ImageSlot::CartPage_Checkout_Button);
+    addOptions(vars, context.design(), PageOptions);
+    addSlotVariables(vars, context, ImageSlot::CartPage_Checkout_Button);
     // An empty cart has nothing more, not even an empty guard.
-    if (context.cart().Count() == 0)
+    if (context.cart().Count() == 0) {
         return;
+    }
     Total total;
-    VariableRows lines = LineRows(context, total);
+    VariableRows lines = lineRows(context, total);
     vars.Add(u"totalcost", total.sum());
     vars.Add(u"products", std::move(lines));
     vars.Add(u"HAS_ITEMS", u"Yes"_s);

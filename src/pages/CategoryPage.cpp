@@ -22,7 +22,7 @@ constexpr DesignOption ProductOptions[] = {
 constexpr VariantOptions PriceOptions = {Category_ProductDescription,
                                          {Category_Price, Category_OldPrice, Category_NewPrice}};
 
-VariableRows SubCategoryRows(const PageContext& context, const CategoryClass& category)
+VariableRows subCategoryRows(const PageContext& context, const CategoryClass& category)
 {
     const ImageKeys imageKeys(u"SUBCATEGORYPAGE_IMAGE");
     VariableRows rows;
@@ -31,8 +31,8 @@ VariableRows SubCategoryRows(const PageContext& context, const CategoryClass& ca
         row.Add(u"id", subCategory->id);
         row.Add(u"name", subCategory->name);
         row.Add(u"description", subCategory->Description);
-        row.Add(u"server", ServerAddress());
-        AddOptions(row, context.design(), SubCategoryOptions);
+        row.Add(u"server", serverAddress());
+        addOptions(row, context.design(), SubCategoryOptions);
         AddImageVariables(row, context, *subCategory->selectedImage(), imageKeys);
         rows.push_back(std::move(row));
     }
@@ -40,14 +40,14 @@ VariableRows SubCategoryRows(const PageContext& context, const CategoryClass& ca
 }
 
 // An empty price counts as "0" for the discounted text of this page only: this is meant.
-void AddPrices(Variables& row, const std::shared_ptr<clsPrice>& price)
+void addPrices(Variables& row, const std::shared_ptr<clsPrice>& price)
 {
-    row.Add(u"price", PriceVariable(price));
-    row.Add(u"new_price", price->Value.isEmpty() ? IfDiscounted(*price, price->Value, price->NewPrice(u"0"_s))
-                                                 : NewPriceIfDiscounted(*price, price->Value));
+    row.Add(u"price", priceVariable(price));
+    row.Add(u"new_price", price->Value.isEmpty() ? ifDiscounted(*price, price->Value, price->NewPrice(u"0"_s))
+                                                 : newPriceIfDiscounted(*price, price->Value));
 }
 
-VariableRows ProductRows(const PageContext& context, const CategoryClass& category)
+VariableRows productRows(const PageContext& context, const CategoryClass& category)
 {
     const ShopDesignClass& design = context.design();
     const ImageKeys imageKeys(u"CATEGORYPAGE_PRODUCT_IMAGE");
@@ -62,22 +62,23 @@ VariableRows ProductRows(const PageContext& context, const CategoryClass& catego
         row.Add(u"name", product->name);
         row.Add(u"ForSale", product->ForSale);
         AddImageVariables(row, context, *product->selectedImage(), imageKeys);
-        row.Add(u"Product_PriceType", PriceTypeOf(*price));
-        if (HasVariants(*price)) {
-            row.Add(u"MultiplePrice", VariantRows(context, *price, PriceOptions));
+        row.Add(u"Product_PriceType", priceTypeOf(*price));
+        if (hasVariants(*price)) {
+            row.Add(u"MultiplePrice", variantRows(context, *price, PriceOptions));
         } else {
-            AddPrices(row, price);
+            addPrices(row, price);
         }
         row.Add(u"description", descriptions.cut(product->Description));
         row.Add(u"cut_count", design.Option(Category_Limit_Desc));
-        row.Add(u"server", ServerAddress());
+        row.Add(u"server", serverAddress());
         row.Add(u"shop_currency", context.shop().shop_currency);
         cartButton.addTo(row);
-        AddOptions(row, design, ProductOptions);
-        VariableRows related = RelatedRows(context, *product);
+        addOptions(row, design, ProductOptions);
+        VariableRows related = relatedRows(context, *product);
         const bool hasRelated = !related.empty();
-        if (hasRelated)
+        if (hasRelated) {
             row.Add(u"related", std::move(related));
+        }
         row.Add(u"hasrelated", hasRelated ? u"yes"_s : QString());
         rows.push_back(std::move(row));
     }
@@ -86,17 +87,19 @@ VariableRows ProductRows(const PageContext& context, const CategoryClass& catego
 
 } // namespace
 
-void AddCategoryPage(Variables& vars, const PageContext& context, CategoryClass& category)
+void addCategoryPage(Variables& vars, const PageContext& context, CategoryClass& category)
 {
-    AddOptions(vars, context.design(), PageOptions);
+    addOptions(vars, context.design(), PageOptions);
     // Products do not count.
     const bool isEmpty = category.categories.isEmpty();
     vars.Add(u"Category_Empty", isEmpty ? u"Yes"_s : u"No"_s);
-    if (!isEmpty)
-        vars.Add(u"categories", SubCategoryRows(context, category));
-    if (!category.products.isEmpty())
-        vars.Add(u"products", ProductRows(context, category));
-    vars.Add(u"breadcrumb", BreadcrumbRows(context, category));
+    if (!isEmpty) {
+        vars.Add(u"categories", subCategoryRows(context, category));
+    }
+    if (!category.products.isEmpty()) {
+        vars.Add(u"products", productRows(context, category));
+    }
+    vars.Add(u"breadcrumb", breadcrumbRows(context, category));
     vars.Add(u"shop_name", context.shop().name);
     vars.Add(u"category_picture", SelectedPicturePath(context.folder(), category));
     vars.Add(u"category_id", category.id);

@@ -5,4 +5,4 @@
 
 // Adds the page's variables behind those of all pages. Error 438 for a category whose picture's name has a ":" in it, 5
 // for a related product that is gone, others as for prices and images.
-void AddCategoryPage(Variables& vars, const PageContext& context, CategoryClass& category);
+void addCategoryPage(Variables& vars, const PageContext& context, CategoryClass& category);

@@ -15,12 +15,13 @@ constexpr DesignOption Options[] = {
     BuyingForm_IncludePageHeader,
 };
 
-VariableRows TaxRows(const PageContext& context)
+VariableRows taxRows(const PageContext& context)
 {
     VariableRows rows;
     for (const clsTax& tax : context.shop().Taxes) {
-        if (!tax.IsChecked)
+        if (!tax.IsChecked) {
             continue;
+        }
         Variables row = context.newVariables();
         row.Add(u"tax_name", tax.TaxName);
         row.Add(u"tax_percent", tax.Percent());
@@ -29,12 +30,13 @@ VariableRows TaxRows(const PageContext& context)
     return rows;
 }
 
-VariableRows ChargeRows(const PageContext& context)
+VariableRows chargeRows(const PageContext& context)
 {
     VariableRows rows;
     for (const clsCharge& charge : context.shop().Charges) {
-        if (!charge.IsChecked)
+        if (!charge.IsChecked) {
             continue;
+        }
         Variables row = context.newVariables();
         row.Add(u"destination", charge.Destination);
         row.Add(u"cost", charge.Cost);
@@ -44,11 +46,12 @@ VariableRows ChargeRows(const PageContext& context)
     return rows;
 }
 
-VariableRows CountryRows(const PageContext& context)
+VariableRows countryRows(const PageContext& context)
 {
     VariableRows rows;
-    if (context.shop().SelectedCountries == nullptr)
+    if (context.shop().SelectedCountries == nullptr) {
         return rows;
+    }
     for (const QString& country : *context.shop().SelectedCountries) {
         Variables row = context.newVariables();
         row.Add(u"country", country);
@@ -58,27 +61,28 @@ VariableRows CountryRows(const PageContext& context)
 }
 
 // The lists of this page are missing when they would have no rows.
-void AddRows(Variables& vars, QStringView key, VariableRows rows)
+void addRows(Variables& vars, QStringView key, VariableRows rows)
 {
-    if (!rows.empty())
+    if (!rows.empty()) {
         vars.Add(key, std::move(rows));
+    }
 }
 
 } // namespace
 
-void AddCheckoutPage(Variables& vars, const PageContext& context)
+void addCheckoutPage(Variables& vars, const PageContext& context)
 {
     const ShopClass& shop = context.shop();
-    AddSlotVariables(vars, context, ImageSlot::BuyingFormMakeOrderButton);
-    AddOptions(vars, context.design(), Options);
+    addSlotVariables(vars, context, ImageSlot::BuyingFormMakeOrderButton);
+    addOptions(vars, context.design(), Options);
     // Only the hosted shop knows of errors in the form.
     vars.Add(u"error", u"No"_s);
     vars.Add(u"shop_name", shop.name);
     vars.Add(u"price", context.cart().TotalCost());
-    AddSlotVariables(vars, context, ImageSlot::CartRecalculateButton);
-    AddRows(vars, u"taxes", TaxRows(context));
+    addSlotVariables(vars, context, ImageSlot::CartRecalculateButton);
+    addRows(vars, u"taxes", taxRows(context));
     vars.Add(u"ShippingChargesAreSelected", shop.ShippingChargesAreSelected);
     vars.Add(u"TaxesAreSelected", shop.TaxesAreSelected);
-    AddRows(vars, u"charges", ChargeRows(context));
-    AddRows(vars, u"SelectedCountries", CountryRows(context));
+    addRows(vars, u"charges", chargeRows(context));
+    addRows(vars, u"SelectedCountries", countryRows(context));
 }

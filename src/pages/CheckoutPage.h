@@ -6,4 +6,4 @@
 
 // Adds the page's variables behind those of all pages. Errors as for clsCart::TotalCost and AddImageVariables, 91
 // without a cart.
-void AddCheckoutPage(Variables& vars, const PageContext& context);
+void addCheckoutPage(Variables& vars, const PageContext& context);

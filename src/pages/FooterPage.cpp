@@ -4,7 +4,7 @@
 
 using enum DesignOption;
 
-void AddFooterPage(Variables& vars, const PageContext& context)
+void addFooterPage(Variables& vars, const PageContext& context)
 {
     const ShopDesignClass& design = context.design();
     vars.Add(u"COPYRIGHT_TEXT", design.Option(Footer_CopyrightText));

@@ -4,4 +4,4 @@
 #include "pages/PageContext.h"
 
 // Adds the piece's variables behind those of all pages.
-void AddFooterPage(Variables& vars, const PageContext& context);
+void addFooterPage(Variables& vars, const PageContext& context);

@@ -16,12 +16,12 @@ constexpr DesignOption Options[] = {
 
 } // namespace
 
-void AddHeaderPage(Variables& vars, const PageContext& context)
+void addHeaderPage(Variables& vars, const PageContext& context)
 {
     const ShopDesignClass& design = context.design();
-    AddSlotVariables(vars, context, ImageSlot::HeaderLogo);
-    AddSlotVariables(vars, context, ImageSlot::HeaderSearchButton);
-    AddSlotVariables(vars, context, ImageSlot::HeaderShoppingCartButton);
+    addSlotVariables(vars, context, ImageSlot::HeaderLogo);
+    addSlotVariables(vars, context, ImageSlot::HeaderSearchButton);
+    addSlotVariables(vars, context, ImageSlot::HeaderShoppingCartButton);
     AddCustomPageList(vars, context, *design.Pages(PageSelection::HeaderCustomPageSelected));
-    AddOptions(vars, design, Options);
+    addOptions(vars, design, Options);
 }

@@ -4,4 +4,4 @@
 #include "pages/PageContext.h"
 
 // Adds the piece's variables behind those of all pages. Errors as for AddImageVariables.
-void AddHeaderPage(Variables& vars, const PageContext& context);
+void addHeaderPage(Variables& vars, const PageContext& context);

@@ -14,20 +14,20 @@ constexpr DesignOption Options[] = {
     Main_IncludeTopCategories, Main_IncludeTwoLevel,   Main_IncludeNavigationMenu,
 };
 
-VariableRows SubCategoryRows(const PageContext& context, const CategoryClass& category)
+VariableRows subCategoryRows(const PageContext& context, const CategoryClass& category)
 {
     VariableRows rows;
     for (const auto& subCategory : category.categories) {
         Variables row = context.newVariables();
         row.Add(u"category_in_id", subCategory->id);
         row.Add(u"category_in_name", subCategory->name);
-        row.Add(u"server", ServerAddress());
+        row.Add(u"server", serverAddress());
         rows.push_back(std::move(row));
     }
     return rows;
 }
 
-Variables CategoryRow(const PageContext& context, CategoryClass& category, const ImageKeys& imageKeys)
+Variables categoryRow(const PageContext& context, CategoryClass& category, const ImageKeys& imageKeys)
 {
     clsDiscount& discount = *category.Discount();
     Variables row = context.newVariables();
@@ -35,13 +35,14 @@ Variables CategoryRow(const PageContext& context, CategoryClass& category, const
     row.Add(u"category_name", category.name);
     row.Add(u"category_description", category.Description);
     AddImageVariables(row, context, *category.selectedImage(), imageKeys);
-    row.Add(u"server", ServerAddress());
+    row.Add(u"server", serverAddress());
     row.Add(u"discount_status", StatusToWord(discount.Status));
     row.Add(u"from_date", discount.DateFrom);
     row.Add(u"to_date", discount.DateTo);
     row.Add(u"discount", discount.ApplyToWhole());
-    if (context.design().isOn(Main_IncludeTwoLevel) && !category.categories.isEmpty())
-        row.Add(u"Main_TwoLevel", SubCategoryRows(context, category));
+    if (context.design().isOn(Main_IncludeTwoLevel) && !category.categories.isEmpty()) {
+        row.Add(u"Main_TwoLevel", subCategoryRows(context, category));
+    }
 
     // The first and the last band as they are stored, not the smallest and the largest: this is meant.
     const clsDependedDiscounts& bands = *discount.DependedDiscounts();
@@ -54,19 +55,20 @@ Variables CategoryRow(const PageContext& context, CategoryClass& category, const
 
 } // namespace
 
-void AddMainPage(Variables& vars, const PageContext& context, const ShopClass& shop)
+void addMainPage(Variables& vars, const PageContext& context, const ShopClass& shop)
 {
     const ShopDesignClass& design = context.design();
     const ImageKeys imageKeys(u"MAINPAGE_IMAGE");
     VariableRows categories;
-    for (const auto& category : shop.categories)
-        categories.push_back(CategoryRow(context, *category, imageKeys));
+    for (const auto& category : shop.categories) {
+        categories.push_back(categoryRow(context, *category, imageKeys));
+    }
     vars.Add(u"categories", std::move(categories));
 
     vars.Add(u"shop_name", shop.name);
     vars.Add(u"Main_ShopDescription", shop.Description);
     vars.Add(u"Main_IncludeShopDescription", design.Option(Main_IncludeShopDescription));
-    AddSlotVariables(vars, context, ImageSlot::MainSearchButton);
+    addSlotVariables(vars, context, ImageSlot::MainSearchButton);
     AddCustomPageList(vars, context, *design.Pages(PageSelection::MainPageMenuList));
-    AddOptions(vars, design, Options);
+    addOptions(vars, design, Options);
 }

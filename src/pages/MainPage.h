@@ -6,4 +6,4 @@
 
 // Adds the page's variables behind those of all pages. Errors 94 for a category whose discount has no status, others as
 // for AddImageVariables.
-void AddMainPage(Variables& vars, const PageContext& context, const ShopClass& shop);
+void addMainPage(Variables& vars, const PageContext& context, const ShopClass& shop);

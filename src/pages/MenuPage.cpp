@@ -19,20 +19,20 @@ constexpr DesignOption OptionsBehindTheCart[] = {
     Menu_HeaderTopCategoryText,
 };
 
-VariableRows CategoryRows(const PageContext& context)
+VariableRows categoryRows(const PageContext& context)
 {
     VariableRows rows;
     for (const auto& category : context.shop().categories) {
         Variables row = context.newVariables();
         row.Add(u"category_id", category->id);
         row.Add(u"category_name", category->name);
-        row.Add(u"server", ServerAddress());
+        row.Add(u"server", serverAddress());
         rows.push_back(std::move(row));
     }
     return rows;
 }
 
-VariableRows CartRows(const PageContext& context)
+VariableRows cartRows(const PageContext& context)
 {
     VariableRows rows;
     for (const auto& line : context.cart()) {
@@ -40,7 +40,7 @@ VariableRows CartRows(const PageContext& context)
         row.Add(u"name", line->ProductName());
         row.Add(u"id", line->id);
         row.Add(u"quantity", line->Quantity);
-        row.Add(u"server", ServerAddress());
+        row.Add(u"server", serverAddress());
         rows.push_back(std::move(row));
     }
     return rows;
@@ -48,18 +48,18 @@ VariableRows CartRows(const PageContext& context)
 
 } // namespace
 
-void AddMenuPage(Variables& vars, const PageContext& context)
+void addMenuPage(Variables& vars, const PageContext& context)
 {
     const ShopDesignClass& design = context.design();
-    vars.Add(u"categories", CategoryRows(context));
+    vars.Add(u"categories", categoryRows(context));
     vars.Add(u"shop_name", context.shop().name);
-    AddSlotVariables(vars, context, ImageSlot::CartPage_Checkout_Button);
-    AddSlotVariables(vars, context, ImageSlot::MenuSearchButton);
-    AddSlotVariables(vars, context, ImageSlot::MenuShoppingCartButton);
+    addSlotVariables(vars, context, ImageSlot::CartPage_Checkout_Button);
+    addSlotVariables(vars, context, ImageSlot::MenuSearchButton);
+    addSlotVariables(vars, context, ImageSlot::MenuShoppingCartButton);
     AddCustomPageList(vars, context, *design.Pages(PageSelection::MenuCustomPageSelected));
-    AddOptions(vars, design, OptionsAheadOfTheCart);
+    addOptions(vars, design, OptionsAheadOfTheCart);
     // Here the guard exists in any case, unlike the one of the cart page.
     vars.Add(u"HAS_ITEMS", context.cart().Count() != 0 ? u"Yes"_s : QString());
-    vars.Add(u"products", CartRows(context));
-    AddOptions(vars, design, OptionsBehindTheCart);
+    vars.Add(u"products", cartRows(context));
+    addOptions(vars, design, OptionsBehindTheCart);
 }

@@ -5,4 +5,4 @@
 
 // Adds the piece's variables behind those of all pages. Error 5 for a cart line whose product is gone, 91 without a
 // cart, others as for AddImageVariables.
-void AddMenuPage(Variables& vars, const PageContext& context);
+void addMenuPage(Variables& vars, const PageContext& context);

@@ -1,6 +1,6 @@
 #include "pages/OwnPage.h"
 
-void AddOwnPage(Variables& vars, const CustomPageClass& page)
+void addOwnPage(Variables& vars, const CustomPageClass& page)
 {
     vars.Add(u"page_text", page.ContentText);
 }

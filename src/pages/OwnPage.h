@@ -5,4 +5,4 @@
 #include "template_engine/Variables.h"
 
 // Adds the page's one variable, its text as typed, behind those of all pages.
-void AddOwnPage(Variables& vars, const CustomPageClass& page);
+void addOwnPage(Variables& vars, const CustomPageClass& page);

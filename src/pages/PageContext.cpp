@@ -2,22 +2,25 @@
 
 const std::shared_ptr<ShopClass>& PageContext::sharedShop() const
 {
-    if (m_session->shop == nullptr)
+    if (m_session->shop == nullptr) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
+    }
     return m_session->shop;
 }
 
 ShopDesignClass& PageContext::design() const
 {
     const std::shared_ptr<ShopDesignClass>& design = shop().ShopDesign;
-    if (design == nullptr)
+    if (design == nullptr) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
+    }
     return *design;
 }
 
 clsCart& PageContext::cart() const
 {
-    if (m_session->Cart == nullptr)
+    if (m_session->Cart == nullptr) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
+    }
     return *m_session->Cart;
 }

@@ -26,14 +26,17 @@ using PageObject =
 
 // The object of that type. Error 91 when there is none, 13 when it is of another type.
 template <class T>
-T& PageObjectAs(const PageObject& object)
+T& pageObjectAs(const PageObject& object)
 {
-    if (std::holds_alternative<std::monostate>(object))
+    if (std::holds_alternative<std::monostate>(object)) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
+    }
     const auto* typed = std::get_if<std::shared_ptr<T>>(&object);
-    if (typed == nullptr)
+    if (typed == nullptr) {
         throw RuntimeError(ErrorNumber::TypeMismatch);
-    if (*typed == nullptr)
+    }
+    if (*typed == nullptr) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
+    }
     return **typed;
 }

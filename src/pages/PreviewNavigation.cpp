@@ -33,57 +33,68 @@ enum class Request {
 // What stands behind the server's address. As many characters are cut off as that has, wherever it stands.
 QString QueryOf(const QString& url)
 {
-    return url.sliced(ServerAddress().size());
+    return url.sliced(serverAddress().size());
 }
 
 // The first rule that fits counts. Some rules look at the query only, some at the whole address: this is meant.
-Request RequestOf(const QString& url, const QString& query)
+Request requestOf(const QString& url, const QString& query)
 {
-    if (!url.contains(ServerAddress()))
+    if (!url.contains(serverAddress())) {
         return Request::Foreign;
-    if (query == "MAINPAGE"_L1)
+    }
+    if (query == "MAINPAGE"_L1) {
         return Request::MainPage;
-    if (query.startsWith("ACTION=category.php"_L1))
+    }
+    if (query.startsWith("ACTION=category.php"_L1)) {
         return Request::Category;
-    if (query.startsWith("ACTION=product.php"_L1))
+    }
+    if (query.startsWith("ACTION=product.php"_L1)) {
         return Request::Product;
+    }
     // Only the key without a value adds to the cart.
-    if (GetUrlParam(url, u"addtoshopcart"_s, u"nothing"_s).isEmpty())
+    if (GetUrlParam(url, u"addtoshopcart"_s, u"nothing"_s).isEmpty()) {
         return Request::AddToCart;
+    }
     const QString action = GetUrlParam(url, u"ACTION"_s, u"qqq"_s);
-    if (action == "shopcart.php"_L1)
+    if (action == "shopcart.php"_L1) {
         return Request::ShoppingCart;
-    if (action == "search.php"_L1)
+    }
+    if (action == "search.php"_L1) {
         return Request::Search;
-    if (query.startsWith("ACTION=custompage.php&name="_L1))
+    }
+    if (query.startsWith("ACTION=custompage.php&name="_L1)) {
         return Request::CustomPage;
-    if (query.startsWith("?ACTION=checkout.php"_L1))
+    }
+    if (query.startsWith("?ACTION=checkout.php"_L1)) {
         return Request::Checkout;
-    if (!query.endsWith("ACTION=checkout.php"_L1))
+    }
+    if (!query.endsWith("ACTION=checkout.php"_L1)) {
         return Request::Unknown;
+    }
     return query.contains("recalculate"_L1) ? Request::Recalculation : Request::Unknown;
 }
 
 // The cart is shown at the end for every address with this word in it, of whatever host.
-bool ShowsCartAtTheEnd(const QString& url)
+bool showsCartAtTheEnd(const QString& url)
 {
     return url.contains("addtoshopcart"_L1);
 }
 
 // A price as the cart keeps it: the number that the text begins with.
-QString CartPrice(const QString& text)
+QString cartPrice(const QString& text)
 {
-    return NumberToText(Val(DecodeUrlText(text)));
+    return numberToText(Val(DecodeUrlText(text)));
 }
 
 // A field of the checkout form. Its comma is one of the user's locale, so it must not become a point.
-float SingleOfField(const QString& url, const QString& key)
+float singleOfField(const QString& url, const QString& key)
 {
     QString text = GetUrlParam(url, key, u"0"_s);
     text.replace("%2C"_L1, ","_L1);
-    const double number = text.isEmpty() ? 0.0 : NumberFromText(text);
-    if (std::abs(number) > static_cast<double>(std::numeric_limits<float>::max()))
+    const double number = text.isEmpty() ? 0.0 : numberFromText(text);
+    if (std::abs(number) > static_cast<double>(std::numeric_limits<float>::max())) {
         throw RuntimeError(ErrorNumber::Overflow);
+    }
     return static_cast<float>(number);
 }
 
@@ -91,22 +102,24 @@ float SingleOfField(const QString& url, const QString& key)
 
 NavigationDecision PreviewNavigation::judge(const QString& url)
 {
-    if (!url.contains(ServerAddress()))
-        return {false, ShowsCartAtTheEnd(url)};
+    if (!url.contains(serverAddress())) {
+        return {false, showsCartAtTheEnd(url)};
+    }
     const QString query = QueryOf(url);
-    const bool isUnknown = !query.isEmpty() && RequestOf(url, query) == Request::Unknown;
-    return {true, !isUnknown || ShowsCartAtTheEnd(url)};
+    const bool isUnknown = !query.isEmpty() && requestOf(url, query) == Request::Unknown;
+    return {true, !isUnknown || showsCartAtTheEnd(url)};
 }
 
 void PreviewNavigation::act(const QString& url)
 {
     QString query;
-    if (url.contains(ServerAddress())) {
+    if (url.contains(serverAddress())) {
         query = QueryOf(url);
-        if (query.isEmpty())
+        if (query.isEmpty()) {
             query = homeQuery();
+        }
     }
-    switch (RequestOf(url, query)) {
+    switch (requestOf(url, query)) {
     case Request::MainPage:
         showMain();
         break;
@@ -140,7 +153,7 @@ void PreviewNavigation::act(const QString& url)
     case Request::Unknown:
         break;
     }
-    if (ShowsCartAtTheEnd(url)) {
+    if (showsCartAtTheEnd(url)) {
         const PageObject last = m_page.lastPageObject();
         m_page.ShowPreviewPage(u"cart"_s, last);
     }
@@ -178,7 +191,7 @@ void PreviewNavigation::addToCart(const QString& url)
 {
     const QString id = GetUrlParam(url, u"product_id"_s, u"0"_s);
     const QString quantity = GetUrlParam(url, u"quantity"_s, u"1"_s);
-    const QString price = CartPrice(GetUrlParam(url, u"price"_s, u"0"_s));
+    const QString price = cartPrice(GetUrlParam(url, u"price"_s, u"0"_s));
     const std::shared_ptr<ProductClass> product = m_session.objects.Product(id);
     const std::shared_ptr<ProductClass> copy = CopyProductForPreview(*product);
     copy->Price()->Selected = price;
@@ -187,11 +200,12 @@ void PreviewNavigation::addToCart(const QString& url)
 
 void PreviewNavigation::recalculateLine(const QString& url)
 {
-    const QString price = CartPrice(GetUrlParam(url, u"product_price"_s, u"0"_s));
+    const QString price = cartPrice(GetUrlParam(url, u"product_price"_s, u"0"_s));
     const QString quantity = GetUrlParam(url, u"quantity"_s, u"0"_s);
     const QString id = GetUrlParam(url, u"product_id"_s, u"-1"_s);
-    if (id != "-1"_L1)
+    if (id != "-1"_L1) {
         m_page.context().cart().Recalculate(id, price, quantity);
+    }
 }
 
 void PreviewNavigation::showFoundProducts(const QString& url)
@@ -201,8 +215,9 @@ void PreviewNavigation::showFoundProducts(const QString& url)
     ProductSearch search(results->word);
     for (const CatalogueObject& object : m_session.objects.items()) {
         const auto* product = std::get_if<std::shared_ptr<ProductClass>>(&object);
-        if (product != nullptr && (search.isIn((*product)->name) || search.isIn((*product)->Description)))
+        if (product != nullptr && (search.isIn((*product)->name) || search.isIn((*product)->Description))) {
             results->products.push_back(*product);
+        }
     }
     m_page.ShowPreviewPage(u"search"_s, results);
 }
@@ -221,8 +236,8 @@ void PreviewNavigation::showNamedPage(const QString& name)
 void PreviewNavigation::setTaxAndCharge(const QString& url)
 {
     clsCart& cart = m_page.context().cart();
-    cart.tax = SingleOfField(url, u"tax"_s);
-    cart.Charge = SingleOfField(url, u"charge"_s);
+    cart.tax = singleOfField(url, u"tax"_s);
+    cart.Charge = singleOfField(url, u"charge"_s);
 }
 
 void PreviewNavigation::showMain()

@@ -20,8 +20,9 @@ void PreviewPage::ShowPreviewPage(const QString& pageName, const PageObject& pag
 
     frame.Add(u"main_part", RenderPage(m_context, pageName, pageObject));
     // The buying form is a piece of every page, too.
-    for (const QString& piece : {u"menu"_s, u"footer"_s, u"header"_s, u"checkout"_s})
+    for (const QString& piece : {u"menu"_s, u"footer"_s, u"header"_s, u"checkout"_s}) {
         frame.Add(piece, RenderPage(m_context, piece, {}));
+    }
 
     VariableRows styles;
     for (const auto& style : m_context.shop().CSSs) {
@@ -32,9 +33,11 @@ void PreviewPage::ShowPreviewPage(const QString& pageName, const PageObject& pag
     frame.Add(u"csss", std::move(styles));
 
     const std::shared_ptr<Template>& layout = m_context.templates().layout_template;
-    if (layout == nullptr)
+    if (layout == nullptr) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
+    }
     const QString document = layout->Get_String(frame) + "\r\n"_L1;
-    while (!m_surface.replaceDocument(document))
+    while (!m_surface.replaceDocument(document)) {
         m_surface.goBlank();
+    }
 }

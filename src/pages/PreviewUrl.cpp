@@ -5,8 +5,9 @@ using namespace Qt::StringLiterals;
 QString GetUrlParam(const QString& text, const QString& key, const QString& defaultText)
 {
     const qsizetype start = text.indexOf(key + u'=');
-    if (start < 0)
+    if (start < 0) {
         return defaultText;
+    }
     const qsizetype value = start + key.size() + 1;
     const qsizetype end = text.indexOf(u'&', start);
     return text.sliced(value, (end < 0 ? text.size() : end) - value);

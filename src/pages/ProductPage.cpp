@@ -43,7 +43,7 @@ constexpr SecondName SecondNames[] = {
 
 } // namespace
 
-void AddProductPage(Variables& vars, const PageContext& context, ProductClass& product)
+void addProductPage(Variables& vars, const PageContext& context, ProductClass& product)
 {
     const ShopDesignClass& design = context.design();
     clsSelectedImage& image = *product.selectedImage();
@@ -57,21 +57,23 @@ void AddProductPage(Variables& vars, const PageContext& context, ProductClass& p
     AddImageVariables(vars, context, image, ImageKeys(u"PRODUCTPAGE_IMAGE"));
     vars.Add(u"Width", image.WidthBmp());
     vars.Add(u"Height", image.HeightBmp());
-    vars.Add(u"Product_PriceType", PriceTypeOf(*price));
-    if (HasVariants(*price)) {
-        vars.Add(u"MultiplePrice", VariantRows(context, *price, PriceOptions));
+    vars.Add(u"Product_PriceType", priceTypeOf(*price));
+    if (hasVariants(*price)) {
+        vars.Add(u"MultiplePrice", variantRows(context, *price, PriceOptions));
     } else {
-        AddSinglePrice(vars, price);
+        addSinglePrice(vars, price);
     }
-    AddOptions(vars, design, Options);
-    AddSlotVariables(vars, context, ImageSlot::ProductCartButton);
-    AddRelated(vars, context, product);
+    addOptions(vars, design, Options);
+    addSlotVariables(vars, context, ImageSlot::ProductCartButton);
+    addRelated(vars, context, product);
 
     const std::shared_ptr<CategoryClass> category = product.category.lock();
-    if (category == nullptr)
+    if (category == nullptr) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
-    vars.Add(u"breadcrumb", BreadcrumbRows(context, *category));
+    }
+    vars.Add(u"breadcrumb", breadcrumbRows(context, *category));
     vars.Add(u"shop_name", context.shop().name);
-    for (const SecondName& second : SecondNames)
+    for (const SecondName& second : SecondNames) {
         vars.Add(second.name, design.Option(second.option));
+    }
 }

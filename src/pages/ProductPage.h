@@ -5,4 +5,4 @@
 
 // Adds the page's variables behind those of all pages. Error 91 for a product without category, 5 for a related product
 // that is gone, others as for prices and images.
-void AddProductPage(Variables& vars, const PageContext& context, ProductClass& product);
+void addProductPage(Variables& vars, const PageContext& context, ProductClass& product);

@@ -22,42 +22,42 @@ private:
 
 } // namespace
 
-QString PriceTypeOf(const clsPrice& price)
+QString priceTypeOf(const clsPrice& price)
 {
-    return HasVariants(price) ? u"Multi"_s : u"Single"_s;
+    return hasVariants(price) ? u"Multi"_s : u"Single"_s;
 }
 
-bool HasVariants(const clsPrice& price)
+bool hasVariants(const clsPrice& price)
 {
     return price.MultiPriceCount() != 0;
 }
 
-VariableValue PriceVariable(const std::shared_ptr<clsPrice>& price)
+VariableValue priceVariable(const std::shared_ptr<clsPrice>& price)
 {
     return std::make_shared<const PriceText>(price);
 }
 
-QString IfDiscounted(clsPrice& price, const QString& askedPrice, const QString& discountedText)
+QString ifDiscounted(clsPrice& price, const QString& askedPrice, const QString& discountedText)
 {
     return price.Discount()->Value(askedPrice).isEmpty() ? QString() : discountedText;
 }
 
 // One look at the discount serves both questions. The new price is worked out even if nothing shows it: a price that is
 // no number fails its page.
-QString NewPriceIfDiscounted(clsPrice& price, const QString& askedPrice)
+QString newPriceIfDiscounted(clsPrice& price, const QString& askedPrice)
 {
     const QString percentage = price.Discount()->Value(askedPrice);
     const QString discounted = CalculateNewPrice(askedPrice, percentage);
     return percentage.isEmpty() ? QString() : discounted;
 }
 
-void AddSinglePrice(Variables& vars, const std::shared_ptr<clsPrice>& price)
+void addSinglePrice(Variables& vars, const std::shared_ptr<clsPrice>& price)
 {
-    vars.Add(u"price", PriceVariable(price));
-    vars.Add(u"new_price", NewPriceIfDiscounted(*price, price->Value));
+    vars.Add(u"price", priceVariable(price));
+    vars.Add(u"new_price", newPriceIfDiscounted(*price, price->Value));
 }
 
-VariableRows VariantRows(const PageContext& context, clsPrice& price, const VariantOptions& options)
+VariableRows variantRows(const PageContext& context, clsPrice& price, const VariantOptions& options)
 {
     const ShopDesignClass& design = context.design();
     VariableRows rows;
@@ -66,12 +66,13 @@ VariableRows VariantRows(const PageContext& context, clsPrice& price, const Vari
         row.Add(u"PriceDescription", variant->Description);
         row.Add(u"MPrice", variant->Value);
         row.Add(u"shop_currency", context.shop().shop_currency);
-        AddOptions(row, design, {&options.description, 1});
-        if (rows.empty())
+        addOptions(row, design, {&options.description, 1});
+        if (rows.empty()) {
             row.Add(u"first_price", u"1"_s);
+        }
         const bool isDiscounted = !price.Discount()->Value(variant->Value).isEmpty();
         row.Add(u"Mnew_price", isDiscounted ? variant->NewValue() : QString());
-        AddOptions(row, design, options.prices);
+        addOptions(row, design, options.prices);
         rows.push_back(std::move(row));
     }
     return rows;
@@ -83,7 +84,7 @@ DescriptionCutter::DescriptionCutter(const ShopDesignClass& design, DesignOption
     m_tags.setPattern(u"<[^>]*>"_s);
 }
 
-VariableRows RelatedRows(const PageContext& context, const ProductClass& product)
+VariableRows relatedRows(const PageContext& context, const ProductClass& product)
 {
     VariableRows rows;
     for (int i = 0; i < product.relatedCount(); ++i) {
@@ -91,21 +92,22 @@ VariableRows RelatedRows(const PageContext& context, const ProductClass& product
         Variables row = context.newVariables();
         row.Add(u"rid", related.id);
         row.Add(u"rname", related.name);
-        row.Add(u"server", ServerAddress());
+        row.Add(u"server", serverAddress());
         rows.push_back(std::move(row));
     }
     return rows;
 }
 
-void AddRelated(Variables& vars, const PageContext& context, const ProductClass& product)
+void addRelated(Variables& vars, const PageContext& context, const ProductClass& product)
 {
-    VariableRows related = RelatedRows(context, product);
+    VariableRows related = relatedRows(context, product);
     vars.Add(u"hasrelated", related.empty() ? QString() : u"yes"_s);
-    if (!related.empty())
+    if (!related.empty()) {
         vars.Add(u"related", std::move(related));
+    }
 }
 
-VariableRows BreadcrumbRows(const PageContext& context, const CategoryClass& category)
+VariableRows breadcrumbRows(const PageContext& context, const CategoryClass& category)
 {
     VariableRows rows;
     std::shared_ptr<const CategoryClass> parent;
@@ -113,7 +115,7 @@ VariableRows BreadcrumbRows(const PageContext& context, const CategoryClass& cat
         Variables row = context.newVariables();
         row.Add(u"name", level->name);
         row.Add(u"id", level->id);
-        row.Add(u"server", ServerAddress());
+        row.Add(u"server", serverAddress());
         rows.push_back(std::move(row));
         parent = level->parentCategory.lock();
     }

@@ -12,21 +12,21 @@
 #include <memory>
 
 // "Multi" for a price with variants, else "Single".
-QString PriceTypeOf(const clsPrice& price);
-bool HasVariants(const clsPrice& price);
+QString priceTypeOf(const clsPrice& price);
+bool hasVariants(const clsPrice& price);
 
 // The value of a "price" variable: the price itself, whose text is its Value as stored, unformatted.
-VariableValue PriceVariable(const std::shared_ptr<clsPrice>& price);
+VariableValue priceVariable(const std::shared_ptr<clsPrice>& price);
 
 // The discounted text when a discount applies to the price that is asked for, else the empty text. Which text is asked
 // for differs from page to page. Errors as for clsDiscount::Value.
-QString IfDiscounted(clsPrice& price, const QString& askedPrice, const QString& discountedText);
+QString ifDiscounted(clsPrice& price, const QString& askedPrice, const QString& discountedText);
 
 // The same for the discounted text of the very price that is asked for. Errors as for clsPrice::NewPrice.
-QString NewPriceIfDiscounted(clsPrice& price, const QString& askedPrice);
+QString newPriceIfDiscounted(clsPrice& price, const QString& askedPrice);
 
 // Adds "price" and "new_price" of a price without variants. Errors as for clsPrice::NewPrice.
-void AddSinglePrice(Variables& vars, const std::shared_ptr<clsPrice>& price);
+void addSinglePrice(Variables& vars, const std::shared_ptr<clsPrice>& price);
 
 // The design options in a row of variants, which differ from page to page.
 struct VariantOptions
@@ -36,7 +36,7 @@ struct VariantOptions
 };
 
 // The rows of "MultiplePrice". Only the first row has "first_price".
-VariableRows VariantRows(const PageContext& context, clsPrice& price, const VariantOptions& options);
+VariableRows variantRows(const PageContext& context, clsPrice& price, const VariantOptions& options);
 
 // Shortens descriptions for one page: tags become blanks, and the text is cut after so many words. A page keeps one for
 // all its rows.
@@ -57,9 +57,9 @@ private:
 
 // The rows of "related", none when the product has no related products. Error 5 for an id that is no longer in the
 // catalogue, 13 for the id of a category.
-VariableRows RelatedRows(const PageContext& context, const ProductClass& product);
+VariableRows relatedRows(const PageContext& context, const ProductClass& product);
 // Adds "hasrelated", and behind it "related" when there are related products.
-void AddRelated(Variables& vars, const PageContext& context, const ProductClass& product);
+void addRelated(Variables& vars, const PageContext& context, const ProductClass& product);
 
 // The rows of "breadcrumb": from the root category down to this one. The shop is no row.
-VariableRows BreadcrumbRows(const PageContext& context, const CategoryClass& category);
+VariableRows breadcrumbRows(const PageContext& context, const CategoryClass& category);

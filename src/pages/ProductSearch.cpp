@@ -13,12 +13,12 @@ constexpr char16_t SeveralUnits = 0xFFFF; // the upper case is longer, or the un
 // One letter becomes three at the most.
 constexpr qsizetype LongestUpperCase = 3;
 
-bool IsAscii(char16_t unit)
+bool isAscii(char16_t unit)
 {
     return unit < 0x80;
 }
 
-char16_t AsciiUpperCase(char16_t unit)
+char16_t asciiUpperCase(char16_t unit)
 {
     const bool isSmall = unit >= u'a' && unit <= u'z';
     return static_cast<char16_t>(isSmall ? unit - u'a' + u'A' : unit);
@@ -33,8 +33,9 @@ ProductSearch::ProductSearch(const QString& what)
 
 bool ProductSearch::isIn(const QString& text)
 {
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         return false;
+    }
     return m_findsAll || m_matcher.indexIn(upperCase(text)) >= 0;
 }
 
@@ -42,13 +43,14 @@ bool ProductSearch::isIn(const QString& text)
 QStringView ProductSearch::upperCase(QStringView text)
 {
     const auto room = static_cast<std::size_t>(text.size() * LongestUpperCase);
-    if (m_buffer.size() < room)
+    if (m_buffer.size() < room) {
         m_buffer.resize(room);
+    }
     const char16_t* const units = text.utf16();
     char16_t* out = m_buffer.data();
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (IsAscii(units[i])) {
-            *out++ = AsciiUpperCase(units[i]);
+        if (isAscii(units[i])) {
+            *out++ = asciiUpperCase(units[i]);
             continue;
         }
         const char16_t upper = upperCaseOf(units[i]);

@@ -21,7 +21,7 @@ constexpr DesignOption ProductOptions[] = {
 constexpr VariantOptions PriceOptions = {
     SearchPage_IncludeDescription, {SearchPage_IncludeOldPrice, SearchPage_IncludeNewPrice, SearchPage_IncludePrice}};
 
-VariableRows ProductRows(const PageContext& context, const SearchResults& results)
+VariableRows productRows(const PageContext& context, const SearchResults& results)
 {
     const ShopDesignClass& design = context.design();
     const ImageKeys imageKeys(u"CATEGORYPAGE_IMAGE");
@@ -36,18 +36,18 @@ VariableRows ProductRows(const PageContext& context, const SearchResults& result
         row.Add(u"name", product->name);
         row.Add(u"ForSale", product->ForSale);
         row.Add(u"cut_count", design.Option(SearchPage_Limit_Desc));
-        row.Add(u"Product_PriceType", PriceTypeOf(*price));
-        if (HasVariants(*price)) {
-            row.Add(u"MultiplePrice", VariantRows(context, *price, PriceOptions));
+        row.Add(u"Product_PriceType", priceTypeOf(*price));
+        if (hasVariants(*price)) {
+            row.Add(u"MultiplePrice", variantRows(context, *price, PriceOptions));
         } else {
-            AddSinglePrice(row, price);
+            addSinglePrice(row, price);
         }
         AddImageVariables(row, context, *product->selectedImage(), imageKeys);
         row.Add(u"description", descriptions.cut(product->Description));
         cartButton.addTo(row);
-        AddOptions(row, design, ProductOptions);
-        row.Add(u"server", ServerAddress());
-        AddRelated(row, context, *product);
+        addOptions(row, design, ProductOptions);
+        row.Add(u"server", serverAddress());
+        addRelated(row, context, *product);
         rows.push_back(std::move(row));
     }
     return rows;
@@ -55,10 +55,10 @@ VariableRows ProductRows(const PageContext& context, const SearchResults& result
 
 } // namespace
 
-void AddSearchPage(Variables& vars, const PageContext& context, const SearchResults& results)
+void addSearchPage(Variables& vars, const PageContext& context, const SearchResults& results)
 {
-    vars.Add(u"products", ProductRows(context, results));
+    vars.Add(u"products", productRows(context, results));
     vars.Add(u"SEARCH_WORD", results.word);
     vars.Add(u"HAS_ITEMS", results.products.empty() ? u"No"_s : u"Yes"_s);
-    AddOptions(vars, context.design(), PageOptions);
+    addOptions(vars, context.design(), PageOptions);
 }

@@ -7,4 +7,4 @@
 
 // Adds the page's variables behind those of all pages. Error 5 for a related product that is gone, others as for prices
 // and images.
-void AddSearchPage(Variables& vars, const PageContext& context, const SearchResults& results);
+void addSearchPage(Variables& vars, const PageContext& context, const SearchResults& results);

@@ -20,7 +20,7 @@
 #include <span>
 
 // The pseudo-server: every link of a page that calls the shop begins with it.
-QString ServerAddress();
+QString serverAddress();
 
 // The rule of one style, as it stands in a style sheet. Nothing is checked or escaped.
 QString GetCssText(const CSSClass& style);
@@ -51,7 +51,7 @@ private:
 void AddImageVariables(Variables& vars, const PageContext& context, clsSelectedImage& selectedImage,
                        const ImageKeys& keys);
 // The same for a slot of the design, whose key is its tag.
-void AddSlotVariables(Variables& vars, const PageContext& context, ImageSlot slot);
+void addSlotVariables(Variables& vars, const PageContext& context, ImageSlot slot);
 
 // The variables of a design slot for rows that all show it: worked out by the first row.
 class SlotForRows
@@ -72,4 +72,4 @@ private:
 void AddCustomPageList(Variables& vars, const PageContext& context, const clsSelectedCustomPages& selection);
 
 // Adds design options under their own names, in the order given.
-void AddOptions(Variables& vars, const ShopDesignClass& design, std::span<const DesignOption> options);
+void addOptions(Variables& vars, const ShopDesignClass& design, std::span<const DesignOption> options);

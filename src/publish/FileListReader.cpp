@@ -59,7 +59,7 @@ clsFileProp parseLine(QStringView line)
 
 } // namespace
 
-ServerFileList ParseFileLines(QStringView lines)
+ServerFileList parseFileLines(QStringView lines)
 {
     ServerFileList list;
     qsizetype at = 0;
@@ -71,7 +71,7 @@ ServerFileList ParseFileLines(QStringView lines)
     return list;
 }
 
-bool ReadFileList(const QString& answer, const QString& programVersion, ServerFileList& list, UserPrompts& prompts)
+bool readFileList(const QString& answer, const QString& programVersion, ServerFileList& list, UserPrompts& prompts)
 {
     list.Clear();
     const qsizetype versionEnd = answer.indexOf(u'|');
@@ -83,7 +83,7 @@ bool ReadFileList(const QString& answer, const QString& programVersion, ServerFi
         return false;
     }
     try {
-        list = ParseFileLines(QStringView(answer).sliced(versionEnd + 1));
+        list = parseFileLines(QStringView(answer).sliced(versionEnd + 1));
     } catch (const RuntimeError& error) {
         prompts.showMessage(u"Error %1"_s.arg(static_cast<int>(error.number())), error.description() + "\r\n"_L1,
                             PromptIcon::Warning);

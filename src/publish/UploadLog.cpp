@@ -40,21 +40,21 @@ QStringList itemsOf(const QString& text)
 
 } // namespace
 
-void WriteUploadLog(const ApplicationFolder& folder, const QString& login, const QString& address,
+void writeUploadLog(const ApplicationFolder& folder, const QString& login, const QString& address,
                     const std::optional<TransferFailure>& failure)
 {
     QString text = login + "\r\n"_L1 + address + "\r\n"_L1;
     if (failure) {
         text += u"%1|%2\r\n"_s.arg(asOneLine(failure->ErrorDescription), QString::number(failure->ErrorNumber));
     }
-    WriteFileBytes(folder.uploadLogFile(), EncodeText(text, TextEncoding::Utf8));
+    writeFileBytes(folder.uploadLogFile(), encodeText(text, TextEncoding::Utf8));
 }
 
-RememberedUpload ReadUploadLog(const ApplicationFolder& folder)
+RememberedUpload readUploadLog(const ApplicationFolder& folder)
 {
     QStringList items;
     try {
-        items = itemsOf(ReadTextFile(folder.uploadLogFile()).text);
+        items = itemsOf(readTextFile(folder.uploadLogFile()).text);
     } catch (const RuntimeError&) {
         return {};
     }

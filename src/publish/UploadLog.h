@@ -9,8 +9,8 @@
 
 #include <optional>
 
-// Writes the file anew: login, address, and a third line only when there is a failure. Errors as for WriteFileBytes.
-void WriteUploadLog(const ApplicationFolder& folder, const QString& login, const QString& address,
+// Writes the file anew: login, address, and a third line only when there is a failure. Errors as for writeFileBytes.
+void writeUploadLog(const ApplicationFolder& folder, const QString& login, const QString& address,
                     const std::optional<TransferFailure>& failure);
 
 // What the file remembers. A field is nothing when the file does not have it.
@@ -22,4 +22,4 @@ struct RememberedUpload
 
 // The first two of at most four items, each ended by a line end or a comma. Nothing when there is no file, none that
 // can be read, or one of more items.
-RememberedUpload ReadUploadLog(const ApplicationFolder& folder);
+RememberedUpload readUploadLog(const ApplicationFolder& folder);

@@ -41,14 +41,14 @@ constexpr int fixedFiles = 19; // what the progress reckons with beside the pict
 QString childText(const pugi::xml_node& element, const char* tag)
 {
     const pugi::xml_node child = element.child(tag);
-    return child ? NodeText(child) : QString();
+    return child ? nodeText(child) : QString();
 }
 
 QString lastChildText(const pugi::xml_node& element, const char* tag)
 {
     QString text;
     for (const pugi::xml_node& child : element.children(tag)) {
-        text = NodeText(child);
+        text = nodeText(child);
     }
     return text;
 }
@@ -64,7 +64,7 @@ pugi::xml_node nodeBehind(pugi::xml_node element, const pugi::xml_node& top)
 
 } // namespace
 
-UploadPart PartOf(const UploadItem& item, const ApplicationFolder& folder)
+UploadPart partOf(const UploadItem& item, const ApplicationFolder& folder)
 {
     // The backslashes are meant on every platform, as is the whole local path of shop and pictures: the server cuts the
     // bare name behind the last one. Templates go by their bare name.
@@ -90,13 +90,13 @@ UploadPlan::Found UploadPlan::walkShopFile()
 {
     XmlFile file;
     file.load(m_folder.shopFile());
-    const pugi::xml_node shop = FirstDescendant(file.document(), "Shop");
+    const pugi::xml_node shop = firstDescendant(file.document(), "Shop");
     if (!shop) {
         return Found::NoShop;
     }
     readPicturesFolder();
     addCatalogue(shop);
-    const pugi::xml_node design = FirstDescendant(shop, "ShopDesign");
+    const pugi::xml_node design = firstDescendant(shop, "ShopDesign");
     if (!design) {
         return Found::NoShopDesign;
     }
@@ -123,15 +123,15 @@ void UploadPlan::readPicturesFolder()
 // category within another one have all been seen by then, so that only an outermost category's are walked.
 void UploadPlan::addCatalogue(const pugi::xml_node& shop)
 {
-    pugi::xml_node node = NextNode(shop, shop);
+    pugi::xml_node node = nextNode(shop, shop);
     while (node) {
         if (std::strcmp(node.name(), "Category") != 0) {
-            node = NextNode(node, shop);
+            node = nextNode(node, shop);
             continue;
         }
         AddPictureIfNeeded(StripPath(childText(node, "Picture")));
         for (const char* kind : {"Product", "Category"}) {
-            for (const pugi::xml_node& below : AllDescendants(node, kind)) {
+            for (const pugi::xml_node& below : allDescendants(node, kind)) {
                 AddPictureIfNeeded(StripPath(childText(below, "Picture")));
             }
         }
@@ -143,13 +143,13 @@ void UploadPlan::addCatalogue(const pugi::xml_node& shop)
 void UploadPlan::addDesign(const pugi::xml_node& design)
 {
     std::array<pugi::xml_node, buttonNames.size()> buttons;
-    FindFirstDescendants(design, buttonNames, buttons);
+    findFirstDescendants(design, buttonNames, buttons);
     for (const pugi::xml_node& button : buttons) {
         AddPictureIfNeeded(lastChildText(button, "FileName"));
     }
     // The shop file has its custom pages beside ShopDesign and none below it, so that their pictures stay where they
     // are. Looking for them here is meant.
-    for (const pugi::xml_node& page : AllDescendants(design, "CustomPage")) {
+    for (const pugi::xml_node& page : allDescendants(design, "CustomPage")) {
         AddPictureIfNeeded(childText(page, "ImageName"));
     }
 }
@@ -159,13 +159,13 @@ void UploadPlan::AddPictureIfNeeded(const QString& name)
     if (name.isEmpty()) {
         return;
     }
-    if (m_serverFiles.HasKey(name)) {
+    if (m_serverFiles.hasKey(name)) {
         const auto local = m_localSizes.constFind(name);
         if (local != m_localSizes.constEnd() && *local == m_serverFiles.Item(name).size) {
             return;
         }
     }
-    if (!PicturesToUpload.HasKey(name)) {
+    if (!PicturesToUpload.hasKey(name)) {
         PicturesToUpload.Add(name, name);
     }
 }

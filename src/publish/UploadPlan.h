@@ -32,7 +32,7 @@ struct UploadPart
 };
 
 // Error 53 for a picture whose name leads out of pictures/: it counts as a file that is not there.
-UploadPart PartOf(const UploadItem& item, const ApplicationFolder& folder);
+UploadPart partOf(const UploadItem& item, const ApplicationFolder& folder);
 
 class UploadPlan
 {

@@ -23,7 +23,7 @@ QByteArray openingBoundary()
 
 QByteArray field(const char* name, const QString& value)
 {
-    return openingBoundary() + "Content-Disposition: form-data; name=\"" + name + "\"\r\n\r\n" + RequestText(value) +
+    return openingBoundary() + "Content-Disposition: form-data; name=\"" + name + "\"\r\n\r\n" + requestText(value) +
            "\r\n";
 }
 
@@ -57,12 +57,12 @@ void showRefusal(UserPrompts& prompts, int number, const QString& text)
 
 } // namespace
 
-QByteArray RequestContentType()
+QByteArray requestContentType()
 {
     return QByteArray("multipart/form-data, boundary=") + boundary;
 }
 
-QString NormalizedBaseUrl(const QString& typed)
+QString normalizedBaseUrl(const QString& typed)
 {
     QString url = typed;
     if (!url.startsWith("http://"_L1)) {
@@ -74,20 +74,20 @@ QString NormalizedBaseUrl(const QString& typed)
     return url;
 }
 
-QByteArray RequestText(const QString& text)
+QByteArray requestText(const QString& text)
 {
-    return EncodeText(text, TextEncoding::Windows1252);
+    return encodeText(text, TextEncoding::Windows1252);
 }
 
-QByteArray RequestHead(const QString& login, const QString& password, const QString& version)
+QByteArray requestHead(const QString& login, const QString& password, const QString& version)
 {
     return field("username", login) + field("password", password) + field("version", version) + openingBoundary();
 }
 
-QByteArray UploadBody(const QByteArray& head, const QString& fileName, const QByteArray& contentType,
+QByteArray uploadBody(const QByteArray& head, const QString& fileName, const QByteArray& contentType,
                       const QByteArray& file)
 {
-    const QByteArray partHead = "Content-Disposition: form-data; name=\"file[]\"; filename=\"" + RequestText(fileName) +
+    const QByteArray partHead = "Content-Disposition: form-data; name=\"file[]\"; filename=\"" + requestText(fileName) +
                                 "\"\r\nContent-Type: " + contentType + "\r\n\r\n";
     const QByteArray tail = QByteArray("\r\n--") + boundary + "--\r\n";
     QByteArray body;
@@ -96,21 +96,21 @@ QByteArray UploadBody(const QByteArray& head, const QString& fileName, const QBy
     return body;
 }
 
-QString AnswerText(const QByteArray& body)
+QString answerText(const QByteArray& body)
 {
     QString text;
     for (qsizetype at = 0; at < body.size();) {
         const qsizetype lineEnd = body.indexOf('\n', at);
         const qsizetype end = lineEnd < 0 ? body.size() : lineEnd + 1;
-        text += DecodeText(QByteArray::fromRawData(body.constData() + at, end - at)).text;
+        text += decodeText(QByteArray::fromRawData(body.constData() + at, end - at)).text;
         at = end;
     }
     return text;
 }
 
-QString ReadAnswer(const HttpAnswer& answer, UserPrompts& prompts)
+QString readAnswer(const HttpAnswer& answer, UserPrompts& prompts)
 {
-    QString responseText = AnswerText(answer.body);
+    QString responseText = answerText(answer.body);
     if (answer.status != 200) {
         showRefusal(prompts, answer.status, textOfStatus(answer.status, responseText));
         return responseText;
@@ -121,11 +121,11 @@ QString ReadAnswer(const HttpAnswer& answer, UserPrompts& prompts)
         showRefusal(prompts, 0,
                     "Incorrect login or password! In case you forgot your password please visit:\r\n"_L1 +
                         VendorAddresses::PasswordRecovery());
-        return ErrorResult;
+        return errorResult;
     }
     if (inBandStatus == "500"_L1) {
         showRefusal(prompts, 0, u"Server internal error"_s);
-        return ErrorResult;
+        return errorResult;
     }
     return responseText;
 }

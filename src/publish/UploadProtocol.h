@@ -14,30 +14,30 @@ inline constexpr QLatin1StringView UploadURL("admin/upload.php");
 inline constexpr QLatin1StringView ListURL("admin/list.php");
 
 // What an answer is taken for when it stops the upload.
-inline constexpr QLatin1StringView ErrorResult("error");
+inline constexpr QLatin1StringView errorResult("error");
 
 // The same for every request. The comma is meant: servers of this protocol expect it.
-QByteArray RequestContentType();
+QByteArray requestContentType();
 
 // What was typed, with "http://" in front and "/" behind where they are missing. Case counts: another spelling of the
 // scheme, and a secure one, get a second scheme in front; this is meant.
-QString NormalizedBaseUrl(const QString& typed);
+QString normalizedBaseUrl(const QString& typed);
 
 // The bytes that a text has in a request: one for each letter (Windows-1252) where that can hold it, else UTF-8.
-QByteArray RequestText(const QString& text);
+QByteArray requestText(const QString& text);
 
 // Login, password (in clear) and program version: the whole body of a request for the list, and the head of all others.
 // It ends with an opening boundary and has no closing one; this is what the server expects.
-QByteArray RequestHead(const QString& login, const QString& password, const QString& version);
+QByteArray requestHead(const QString& login, const QString& password, const QString& version);
 
-// The body of a request that carries one file, whose bytes come through as they are. `head` is RequestHead's.
-QByteArray UploadBody(const QByteArray& head, const QString& fileName, const QByteArray& contentType,
+// The body of a request that carries one file, whose bytes come through as they are. `head` is requestHead's.
+QByteArray uploadBody(const QByteArray& head, const QString& fileName, const QByteArray& contentType,
                       const QByteArray& file);
 
 // The text of an answer. A server holds file names as they came to it, so each line is UTF-8 or Windows-1252 by itself.
-QString AnswerText(const QByteArray& body);
+QString answerText(const QByteArray& body);
 
 // Reads an answer, which must be one without a failure: its text, or the word "error". Shows a box where the answer is
 // a refusal. A status other than 200 shows its box and still gives the text, so that it does not stop an upload by
 // itself; this is meant.
-QString ReadAnswer(const HttpAnswer& answer, UserPrompts& prompts);
+QString readAnswer(const HttpAnswer& answer, UserPrompts& prompts);

@@ -79,9 +79,9 @@ void UploadRun::start()
 
     // A change of the fields during the transfer is for the next one.
     const UploadFields fields = m_screen.fields();
-    m_baseUrl = NormalizedBaseUrl(fields.address);
+    m_baseUrl = normalizedBaseUrl(fields.address);
     m_screen.setAddress(m_baseUrl);
-    m_head = RequestHead(fields.login, fields.password, ProgramVersion());
+    m_head = requestHead(fields.login, fields.password, programVersion());
     post(ListURL, m_head, &UploadRun::listAnswered);
 }
 
@@ -94,12 +94,12 @@ void UploadRun::abandon()
 void UploadRun::writeLog() const
 {
     const UploadFields fields = m_screen.fields();
-    WriteUploadLog(m_folder, fields.login, fields.address, m_failure);
+    writeUploadLog(m_folder, fields.login, fields.address, m_failure);
 }
 
 void UploadRun::post(QLatin1StringView page, const QByteArray& body, void (UploadRun::*answered)(const HttpAnswer&))
 {
-    m_client.post(m_baseUrl + page, RequestContentType(), body,
+    m_client.post(m_baseUrl + page, requestContentType(), body,
                   [this, answered](const HttpAnswer& answer) { (this->*answered)(answer); });
 }
 
@@ -110,15 +110,15 @@ void UploadRun::listAnswered(const HttpAnswer& answer)
         m_screen.closeScreen();
         return;
     }
-    const QString result = ReadAnswer(answer, m_prompts);
+    const QString result = readAnswer(answer, m_prompts);
     if (!m_transferring) {
         return; // the program ended while a box was shown
     }
-    if (result == ErrorResult) {
+    if (result == errorResult) {
         stop();
         return;
     }
-    if (!ReadFileList(result, ProgramVersion(), m_serverFiles, m_prompts)) {
+    if (!readFileList(result, programVersion(), m_serverFiles, m_prompts)) {
         stop();
         m_screen.closeScreen();
         return;
@@ -159,8 +159,8 @@ void UploadRun::sendNext()
 
 void UploadRun::sendItem(const UploadItem& item)
 {
-    const UploadPart part = PartOf(item, m_folder);
-    post(UploadURL, UploadBody(m_head, part.fileName, part.contentType, ReadFileBytes(part.localFile)),
+    const UploadPart part = partOf(item, m_folder);
+    post(UploadURL, uploadBody(m_head, part.fileName, part.contentType, readFileBytes(part.localFile)),
          &UploadRun::itemAnswered);
 }
 
@@ -170,11 +170,11 @@ void UploadRun::itemAnswered(const HttpAnswer& answer)
         fail(*answer.failure, unknownErrorText());
         return;
     }
-    const QString result = ReadAnswer(answer, m_prompts);
+    const QString result = readAnswer(answer, m_prompts);
     if (!m_transferring) {
         return; // the program ended while a box was shown
     }
-    if (result == ErrorResult) {
+    if (result == errorResult) {
         stop(); // what has been sent stays on the server
         return;
     }

@@ -35,7 +35,7 @@ public:
     void start();
     // Breaks a transfer off without a word, because the program ends.
     void abandon();
-    // Writes upload.log with the fields and the failure that is kept, if any. Errors as for WriteFileBytes.
+    // Writes upload.log with the fields and the failure that is kept, if any. Errors as for writeFileBytes.
     void writeLog() const;
 
 private:

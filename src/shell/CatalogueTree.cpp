@@ -18,7 +18,7 @@ CatalogueTree::CatalogueTree(FatalErrorHandler& errors, QWidget* parent)
     : QTreeView(parent), m_errors(errors), m_model(new CatalogueTreeModel(this))
 {
     setObjectName(u"CategoriesAndProductsTree"_s);
-    setAccessibleName(tr("Categories and products"));
+    setAccessibleName(u"Categories and products"_s);
     setModel(m_model);
     setHeaderHidden(true);
     setUniformRowHeights(true);

@@ -27,7 +27,7 @@ void ContentRoom::resizeEvent(QResizeEvent* event)
 
 void ContentRoom::fitContent()
 {
-    if (IsArranged(window()->size()) && m_content->layout()) {
+    if (isArranged(window()->size()) && m_content->layout()) {
         m_content->resize(size().expandedTo(m_content->layout()->minimumSize()));
     }
 }

@@ -51,7 +51,7 @@ void MainForm::load()
     m_preview.surface->goBlank();
     ShopChanged = true;
     m_session->Cart = std::make_unique<clsCart>(m_session->services);
-    setWindowTitle(ApplicationTitle());
+    setWindowTitle(applicationTitle());
     setWindowIcon(QIcon(u":/icons/tarnwick.svg"_s));
     m_parts->ShopToolbar->setVisible(true);
     m_parts->CategoryToolbar->setVisible(false);
@@ -284,7 +284,7 @@ void MainForm::keyPressEvent(QKeyEvent* event)
 {
     // Needless as it looks, this box is meant.
     if (WorkMode == PreviewMode && event->key() == Qt::Key_Left && event->modifiers() == Qt::AltModifier) {
-        guarded(m_errors, [&] { m_session->prompts.showMessage(ApplicationTitle(), u"SS"_s, PromptIcon::None); });
+        guarded(m_errors, [&] { m_session->prompts.showMessage(applicationTitle(), u"SS"_s, PromptIcon::None); });
         return;
     }
     QMainWindow::keyPressEvent(event);
@@ -295,7 +295,7 @@ void MainForm::closeEvent(QCloseEvent* event)
     guarded(m_errors, [&] {
         PromptAnswer answer = PromptAnswer::No;
         if (ShopChanged) {
-            answer = m_session->prompts.askYesNoCancel(ApplicationTitle(), u"Do you want save changes?"_s);
+            answer = m_session->prompts.askYesNoCancel(applicationTitle(), u"Do you want save changes?"_s);
         }
         if (answer == PromptAnswer::Yes) {
             saveShopHandler();

@@ -140,7 +140,7 @@ void MainFormLayout::makeCopyright(QWidget* parent)
     frmCopyright = namedFrame("frmCopyright", parent);
     auto* row = tightLayout<QHBoxLayout>(frmCopyright);
     row->setContentsMargins(8, 4, 8, 4);
-    lblCopyright = new QLabel(QObject::tr("Ambrel eCommerce Software. All rights reserved."), frmCopyright);
+    lblCopyright = new QLabel(u"Ambrel eCommerce Software. All rights reserved."_s, frmCopyright);
     lblCopyright->setObjectName(u"lblCopyright"_s);
     lblCopyright->setForegroundRole(QPalette::PlaceholderText);
     row->addWidget(lblCopyright);
@@ -181,7 +181,7 @@ void MainFormLayout::makeButtons(const ApplicationFolder& folder, LoadLog& log, 
 
 void MainFormLayout::arrangeOverlays(const QSize& window) const
 {
-    if (!IsArranged(window)) {
+    if (!isArranged(window)) {
         return;
     }
     PrBar->setGeometry(pixels(50), frmCopyright->y() + 4, pixels(3000), 18);

@@ -27,16 +27,11 @@ struct PopUpRow
 };
 
 constexpr std::array<PopUpRow, 5> popUpRows = {{
-    {"mnuAddCategory", QT_TRANSLATE_NOOP("MainForm", "Add Category"), "CategoryGeneralPnl", PanelCode::NewCategory,
-     true, true, false},
-    {"mnuAddProduct", QT_TRANSLATE_NOOP("MainForm", "Add Product"), "ProductGeneralPnl", PanelCode::NewProduct, false,
-     true, false},
-    {"mnuRemoveCategory", QT_TRANSLATE_NOOP("MainForm", "Remove Category"), "CategoryGeneralPnl",
-     PanelCode::RemoveCategory, false, true, false},
-    {"mnuRemoveProduct", QT_TRANSLATE_NOOP("MainForm", "Remove Product"), "CategoryGeneralPnl",
-     PanelCode::RemoveProduct, false, false, true},
-    {"mnuDuplicateProduct", QT_TRANSLATE_NOOP("MainForm", "Duplicate Product"), "ProductGeneralPnl",
-     PanelCode::DuplicateProduct, false, false, true},
+    {"mnuAddCategory", "Add Category", "CategoryGeneralPnl", PanelCode::NewCategory, true, true, false},
+    {"mnuAddProduct", "Add Product", "ProductGeneralPnl", PanelCode::NewProduct, false, true, false},
+    {"mnuRemoveCategory", "Remove Category", "CategoryGeneralPnl", PanelCode::RemoveCategory, false, true, false},
+    {"mnuRemoveProduct", "Remove Product", "CategoryGeneralPnl", PanelCode::RemoveProduct, false, false, true},
+    {"mnuDuplicateProduct", "Duplicate Product", "ProductGeneralPnl", PanelCode::DuplicateProduct, false, false, true},
 }};
 
 bool isOffered(const PopUpRow& row, const CatalogueObject& object)
@@ -58,22 +53,22 @@ QAction* MainForm::addEntry(QMenu* menu, const char* name, const QString& captio
 
 void MainForm::makeMenus()
 {
-    QMenu* shop = menuBar()->addMenu(tr("&Shop"));
+    QMenu* shop = menuBar()->addMenu(u"&Shop"_s);
     shop->setObjectName(u"mnuShop"_s);
-    addEntry(shop, "mnuSaveShop", tr("&Save"), &MainForm::saveShopHandler);
-    addEntry(shop, "mnuUpload", tr("&Upload"), &MainForm::showUpload);
+    addEntry(shop, "mnuSaveShop", u"&Save"_s, &MainForm::saveShopHandler);
+    addEntry(shop, "mnuUpload", u"&Upload"_s, &MainForm::showUpload);
     shop->addSeparator()->setObjectName(u"itmSep"_s);
-    addEntry(shop, "mnuImport", tr("Import"), &MainForm::importHandler);
+    addEntry(shop, "mnuImport", u"Import"_s, &MainForm::importHandler);
     shop->addSeparator()->setObjectName(u"itmSep2"_s);
-    addEntry(shop, "mnuBackUp", tr("BackUp"), &MainForm::backUpHandler);
-    addEntry(shop, "mnuRestore", tr("Restore"), &MainForm::restoreHandler);
+    addEntry(shop, "mnuBackUp", u"BackUp"_s, &MainForm::backUpHandler);
+    addEntry(shop, "mnuRestore", u"Restore"_s, &MainForm::restoreHandler);
 
-    QMenu* tools = menuBar()->addMenu(tr("&Tools"));
+    QMenu* tools = menuBar()->addMenu(u"&Tools"_s);
     tools->setObjectName(u"mnuTools"_s);
     m_modeActions[CatalogueMode - 1] =
-        addEntry(tools, "mnuProductsCatalog", tr("Products Ca&talog"), &MainForm::productCatalogHandler);
-    m_modeActions[DesignMode - 1] = addEntry(tools, "mnuShopDesign", tr("Shop &Design"), &MainForm::shopDesignHandler);
-    m_modeActions[PreviewMode - 1] = addEntry(tools, "mnuShopPreview", tr("Shop &Preview"), &MainForm::previewHandler);
+        addEntry(tools, "mnuProductsCatalog", u"Products Ca&talog"_s, &MainForm::productCatalogHandler);
+    m_modeActions[DesignMode - 1] = addEntry(tools, "mnuShopDesign", u"Shop &Design"_s, &MainForm::shopDesignHandler);
+    m_modeActions[PreviewMode - 1] = addEntry(tools, "mnuShopPreview", u"Shop &Preview"_s, &MainForm::previewHandler);
     for (QAction* action : m_modeActions) {
         action->setCheckable(true);
     }
@@ -82,10 +77,10 @@ void MainForm::makeMenus()
 
 void MainForm::makePopUp()
 {
-    mnuPopUp = new QMenu(tr("PopUp"), this);
+    mnuPopUp = new QMenu(u"PopUp"_s, this);
     mnuPopUp->setObjectName(u"mnuPopUp"_s);
     for (const PopUpRow& row : popUpRows) {
-        QAction* action = mnuPopUp->addAction(tr(row.caption));
+        QAction* action = mnuPopUp->addAction(QString::fromLatin1(row.caption));
         action->setObjectName(QLatin1String(row.name));
         connect(action, &QAction::triggered, this,
                 [this, &row] { guarded(m_errors, [&] { ShowFrame(panel(row.panel), row.code); }); });
@@ -107,7 +102,7 @@ void MainForm::showPopUp(const QPoint& position)
 
 void MainForm::uploadShopHandler()
 {
-    if (m_session->prompts.askYesNo(ApplicationTitle(), u"Do you want save changes?"_s)) {
+    if (m_session->prompts.askYesNo(applicationTitle(), u"Do you want save changes?"_s)) {
         saveShopHandler();
     }
     showUpload();
@@ -124,12 +119,12 @@ void MainForm::showUpload()
 
 void MainForm::backUpHandler()
 {
-    BackUpFromMenu({m_session->folder, m_session->prompts, ApplicationTitle()});
+    backUpFromMenu({m_session->folder, m_session->prompts, applicationTitle()});
 }
 
 void MainForm::restoreHandler()
 {
-    if (!RestoreFromMenu({m_session->folder, m_session->prompts, ApplicationTitle()})) {
+    if (!restoreFromMenu({m_session->folder, m_session->prompts, applicationTitle()})) {
         return;
     }
     // The restored shop is the one to keep: the window closes without a question, and its successor loads it.
@@ -141,7 +136,7 @@ void MainForm::restoreHandler()
 void MainForm::importHandler()
 {
     const QString fileName = m_session->prompts.chooseFile(
-        m_session->folder.path(), tr("Text files") + u" (*.txt *.csv);;"_s + tr("All files") + u" (*)"_s);
+        m_session->folder.path(), u"Text files"_s + u" (*.txt *.csv);;"_s + u"All files"_s + u" (*)"_s);
     if (fileName.isEmpty()) {
         return;
     }
@@ -149,6 +144,6 @@ void MainForm::importHandler()
         ImportIntoTree import(*this);
         clsImporter(*m_session, import.progress()).Import(fileName);
     } catch (const RuntimeError& error) {
-        m_session->prompts.showMessage(ApplicationTitle(), error.description(), PromptIcon::Warning);
+        m_session->prompts.showMessage(applicationTitle(), error.description(), PromptIcon::Warning);
     }
 }

@@ -38,9 +38,9 @@ void MainForm::AddShopToTheTree()
 
     m_session->objects.create();
     tree->nodes().beginBuild();
-    TreeNode* root = tree->nodes().addNode(nullptr, ShopNodeKey(), shop->name, TreeImage::Closed);
+    TreeNode* root = tree->nodes().addNode(nullptr, shopNodeKey(), shop->name, TreeImage::Closed);
     tree->ColorDeSelectedNode(root);
-    m_session->objects.Add(shop, ShopNodeKey());
+    m_session->objects.Add(shop, shopNodeKey());
     for (const std::shared_ptr<CategoryClass>& category : shop->categories) {
         AddCategoryToTheTree(root, category);
     }
@@ -60,7 +60,7 @@ void MainForm::AddShopToTheTree()
 TreeNode* MainForm::AddCategoryToTheTree(TreeNode* ParentNode, const std::shared_ptr<CategoryClass>& category)
 {
     CatalogueTree* tree = m_parts->CategoriesAndProductsTree;
-    TreeNode* node = tree->nodes().addNode(ParentNode, NodeKey(category->id), category->name, TreeImage::Closed);
+    TreeNode* node = tree->nodes().addNode(ParentNode, nodeKey(category->id), category->name, TreeImage::Closed);
     tree->ColorDeSelectedNode(node);
     m_session->objects.Add(category, node->key);
     for (const std::shared_ptr<CategoryClass>& below : category->categories) {
@@ -75,7 +75,7 @@ TreeNode* MainForm::AddCategoryToTheTree(TreeNode* ParentNode, const std::shared
 TreeNode* MainForm::AddProductToTheTree(TreeNode* ParentNode, const std::shared_ptr<ProductClass>& Product)
 {
     CatalogueTree* tree = m_parts->CategoriesAndProductsTree;
-    TreeNode* node = tree->nodes().addNode(ParentNode, NodeKey(Product->id), Product->name, TreeImage::Product);
+    TreeNode* node = tree->nodes().addNode(ParentNode, nodeKey(Product->id), Product->name, TreeImage::Product);
     tree->ColorDeSelectedNode(node);
     m_session->objects.Add(Product, node->key);
     return node;
@@ -138,21 +138,21 @@ bool MainForm::runCatalogueCommand(Panel*& ActiveFrame, qint16 Code)
 void MainForm::addNewCategory()
 {
     const CategoryRef* parent = std::get_if<CategoryRef>(&ActiveObject);
-    const CategoryRef category = NewCategory(*m_session->shop, parent ? *parent : nullptr);
+    const CategoryRef category = newCategory(*m_session->shop, parent ? *parent : nullptr);
     selectNewNode(AddCategoryToTheTree(m_parts->CategoriesAndProductsTree->selectedNode(), category));
     ShowToolbar(m_parts->CategoryToolbar);
 }
 
 void MainForm::addNewProduct()
 {
-    const ProductRef product = NewProduct(*m_session->shop, activeAs<CategoryRef>(ActiveObject));
+    const ProductRef product = newProduct(*m_session->shop, activeAs<CategoryRef>(ActiveObject));
     selectNewNode(AddProductToTheTree(m_parts->CategoriesAndProductsTree->selectedNode(), product));
     ShowToolbar(m_parts->ProductToolbar);
 }
 
 void MainForm::duplicateActiveProduct()
 {
-    const ProductRef clone = DuplicateProduct(*m_session->shop, *activeAs<ProductRef>(ActiveObject));
+    const ProductRef clone = duplicateProduct(*m_session->shop, *activeAs<ProductRef>(ActiveObject));
     selectNewNode(AddProductToTheTree(m_parts->CategoriesAndProductsTree->selectedNode()->parent, clone));
     ShowToolbar(m_parts->ProductToolbar);
 }
@@ -162,7 +162,7 @@ bool MainForm::removeActiveProduct()
     if (!m_session->prompts.askYesNo(u"Warning"_s, u"Are you sure you want to remove this product"_s)) {
         return false;
     }
-    RemoveProduct(*activeAs<ProductRef>(ActiveObject));
+    removeProduct(*activeAs<ProductRef>(ActiveObject));
     removeSelectedNode();
     ShowToolbar(m_parts->CategoryToolbar);
     return true;
@@ -173,7 +173,7 @@ bool MainForm::removeActiveCategory(Panel*& ActiveFrame)
     if (!m_session->prompts.askYesNo(u"Warning"_s, u"Are you sure you want to remove this category"_s)) {
         return false;
     }
-    RemoveCategory(*m_session->shop, activeAs<CategoryRef>(ActiveObject));
+    removeCategory(*m_session->shop, activeAs<CategoryRef>(ActiveObject));
     removeSelectedNode();
     if (std::holds_alternative<ShopRef>(ActiveObject)) {
         ShowToolbar(m_parts->ShopToolbar);

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 ShortProgressBar::ShortProgressBar(QWidget* parent) : QProgressBar(parent)
 {
     setObjectName(u"PrBar"_s);
-    setAccessibleName(tr("Progress"));
+    setAccessibleName(u"Progress"_s);
     setTextVisible(false);
     setRange(0, 100);
     hide();
@@ -45,7 +45,7 @@ CaptionedProgress::CaptionedProgress(const QString& caption, QWidget* parent)
     hide();
 }
 
-SaveFrame::SaveFrame(QWidget* parent) : CaptionedProgress(tr("Saving the shop"), parent)
+SaveFrame::SaveFrame(QWidget* parent) : CaptionedProgress(u"Saving the shop"_s, parent)
 {
     setObjectName(u"SaveProgressFrame"_s);
     Label1->setObjectName(u"Label1"_s);
@@ -70,7 +70,7 @@ void SaveFrame::finish()
     hide();
 }
 
-ImportFrame::ImportFrame(QWidget* parent) : CaptionedProgress(tr("Importing products"), parent)
+ImportFrame::ImportFrame(QWidget* parent) : CaptionedProgress(u"Importing products"_s, parent)
 {
     setObjectName(u"ImportProgressFrame"_s);
     m_bar->setObjectName(u"ImportProgressBar"_s);

@@ -10,13 +10,13 @@ using namespace Qt::StringLiterals;
 bool CheckTemplateVersion(const QString& name, const ApplicationFolder& folder, UserPrompts& prompts,
                           const std::function<void()>& closeWindow)
 {
-    const QString text = ReadTextFile(folder.templatesFolder() + name + u".html"_s).text;
-    const QString comment = DelimitedFields(text).value(0);
+    const QString text = readTextFile(folder.templatesFolder() + name + u".html"_s).text;
+    const QString comment = delimitedFields(text).value(0);
     const QString version = comment.mid(4, qMax<qsizetype>(0, comment.size() - 7)); // without "<!--" and "-->"
-    if (version == ProgramVersion()) {
+    if (version == programVersion()) {
         return true;
     }
-    prompts.showMessage(ApplicationTitle(),
+    prompts.showMessage(applicationTitle(),
                         u"Application version doesn't match version of temlate '"_s + name + u".html'\r\n"_s,
                         PromptIcon::Critical);
     closeWindow();

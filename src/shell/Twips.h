@@ -10,7 +10,7 @@ constexpr int pixels(int twips)
 }
 
 // In a smaller window nothing is arranged: what is in it keeps its place.
-inline bool IsArranged(const QSize& window)
+inline bool isArranged(const QSize& window)
 {
     return window.width() >= pixels(6250) && window.height() >= pixels(3000);
 }

@@ -8,11 +8,11 @@ namespace {
 
 // Most values are texts, which are written and compared without a copy. The others stand apart, so that the walk over
 // the steps stays short and needs little stack.
-Q_NEVER_INLINE void AppendOther(const VariableValue& value, TextOutput& out)
+Q_NEVER_INLINE void appendOther(const VariableValue& value, TextOutput& out)
 {
     const auto* number = std::get_if<qint16>(&value);
     if (number == nullptr) {
-        out.append(TextOf(value));
+        out.append(textOf(value));
         return;
     }
     // Every picture brings two integers: not worth a text of their own.
@@ -21,25 +21,25 @@ Q_NEVER_INLINE void AppendOther(const VariableValue& value, TextOutput& out)
     out.append(QLatin1StringView(digits.data(), end - digits.data()));
 }
 
-Q_NEVER_INLINE bool OtherHasText(const VariableValue& value, const QString& text)
+Q_NEVER_INLINE bool otherHasText(const VariableValue& value, const QString& text)
 {
-    return TextOf(value) == text;
+    return textOf(value) == text;
 }
 
-inline void AppendValue(const VariableValue& value, TextOutput& out)
+inline void appendValue(const VariableValue& value, TextOutput& out)
 {
     if (const auto* text = std::get_if<QString>(&value)) {
         out.append(*text);
     } else {
-        AppendOther(value, out);
+        appendOther(value, out);
     }
 }
 
 // Exact: with regard to case, and nothing is trimmed.
-inline bool HasText(const VariableValue& value, const QString& text)
+inline bool hasText(const VariableValue& value, const QString& text)
 {
     const auto* ownText = std::get_if<QString>(&value);
-    return ownText != nullptr ? *ownText == text : OtherHasText(value, text);
+    return ownText != nullptr ? *ownText == text : otherHasText(value, text);
 }
 
 } // namespace
@@ -52,7 +52,7 @@ ExpansionSteps::ExpansionSteps(const ElementArray& elements, NameTable& names)
 void ExpansionSteps::append(const ElementArray& elements, NameTable& names)
 {
     Step step;
-    for (int i = 0; i < UpperBound(elements); ++i) {
+    for (int i = 0; i < upperBound(elements); ++i) {
         const Template_Element& element = *elements[static_cast<std::size_t>(i)];
         if (element.TType <= ElementType::Static) {
             if (!step.text.isEmpty()) {
@@ -102,25 +102,25 @@ void ExpansionSteps::run(const Variables& vars, std::size_t from, std::size_t to
         switch (step.action) {
         case Action::Value:
             if (value != nullptr) {
-                AppendValue(*value, out);
+                appendValue(*value, out);
             } else {
                 out.append(step.value);
             }
             break;
         case Action::If:
-            if (value == nullptr || !HasText(*value, step.value)) {
+            if (value == nullptr || !hasText(*value, step.value)) {
                 i = step.end;
             }
             break;
         case Action::IfNot:
-            if (value != nullptr && HasText(*value, step.value)) {
+            if (value != nullptr && hasText(*value, step.value)) {
                 i = step.end;
             }
             break;
         case Action::Cycle:
             if (value != nullptr) {
                 // A row replaces the variables entirely: nothing of the page is seen in the body.
-                for (const Variables& row : RowsOf(*value)) {
+                for (const Variables& row : rowsOf(*value)) {
                     run(row, i, step.end, out);
                 }
             }

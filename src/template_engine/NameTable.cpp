@@ -10,7 +10,7 @@ namespace {
 
 // Code point by code point, as the case-insensitive comparison of QString does it; QString::toCaseFolded would make
 // "ss" of a sharp s.
-QString Folded(QStringView name)
+QString foldedName(QStringView name)
 {
     QString folded;
     folded.reserve(name.size());
@@ -86,7 +86,7 @@ NameTable::NameTable()
 
 NameId NameTable::intern(QStringView name)
 {
-    const QString folded = Folded(name);
+    const QString folded = foldedName(name);
     const auto known = m_ids.constFind(folded);
     if (known != m_ids.constEnd()) {
         return *known;
@@ -98,5 +98,5 @@ NameId NameTable::intern(QStringView name)
 
 NameId NameTable::find(QStringView name) const
 {
-    return m_ids.value(Folded(name), NoName);
+    return m_ids.value(foldedName(name), NoName);
 }

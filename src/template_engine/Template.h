@@ -28,7 +28,7 @@ public:
     // cycle over what is no list. A template that was never parsed gives nothing.
     QString Get_String(const Variables& vars) const;
 
-    static bool ItemExists(const Variables& vars, QStringView key) { return vars.Exists(key); }
+    static bool ItemExists(const Variables& vars, QStringView key) { return vars.exists(key); }
 
 private:
     NameTable* m_names;

@@ -29,14 +29,14 @@ constexpr std::array KindWords{
     KindWord{u"cycle", ElementType::Cycle},     KindWord{u"xcycle", ElementType::XCycle},
 };
 
-qint16 KindOf(QStringView word)
+qint16 kindOf(QStringView word)
 {
     const auto* known =
         std::find_if(KindWords.begin(), KindWords.end(), [word](const KindWord& kind) { return kind.word == word; });
     return known == KindWords.end() ? ElementType::Default : known->type;
 }
 
-TemplateError TooFar(qsizetype position)
+TemplateError tooFar(qsizetype position)
 {
     return {ErrorNumber::Overflow, u"A tag or block ends past character 32767 of its text."_s, position};
 }
@@ -51,10 +51,10 @@ struct Tag
     QStringView value;
 };
 
-Tag ReadTag(QStringView text, qsizetype mark, qsizetype position)
+Tag readTag(QStringView text, qsizetype mark, qsizetype position)
 {
     if (mark >= LastPosition) {
-        throw TooFar(position + mark);
+        throw tooFar(position + mark);
     }
     const qsizetype closing = text.indexOf(ClosingMark, mark);
     // The closing mark may share its colon with the opening one: "<!--:-->" is a tag that was never finished.
@@ -66,7 +66,7 @@ Tag ReadTag(QStringView text, qsizetype mark, qsizetype position)
     tag.start = mark;
     tag.end = closing + ClosingMark.size();
     if (tag.end > LastPosition) {
-        throw TooFar(position + mark);
+        throw tooFar(position + mark);
     }
     tag.name = text.sliced(mark + OpeningMark.size(), closing - mark - OpeningMark.size());
     tag.empty = tag.name.isEmpty();
@@ -74,7 +74,7 @@ Tag ReadTag(QStringView text, qsizetype mark, qsizetype position)
     // The colon comes first, so a fallback with a colon in a tag without a kind word is split at that colon.
     const qsizetype colon = tag.name.indexOf(u':');
     if (colon >= 0) {
-        tag.type = KindOf(tag.name.first(colon));
+        tag.type = kindOf(tag.name.first(colon));
         tag.name = tag.name.sliced(colon + 1);
     }
     const qsizetype equals = tag.name.indexOf(u'=');
@@ -88,7 +88,7 @@ Tag ReadTag(QStringView text, qsizetype mark, qsizetype position)
     return tag;
 }
 
-std::shared_ptr<Template_Element> MakeElement(qint16 type, QStringView value, QStringView defaultText = {})
+std::shared_ptr<Template_Element> makeElement(qint16 type, QStringView value, QStringView defaultText = {})
 {
     auto element = std::make_shared<Template_Element>();
     element->Value = value.toString();
@@ -104,7 +104,7 @@ struct ClosingTag
 };
 
 // The first closing tag of the block from a place on, whatever lies between; the name in any case.
-ClosingTag FindClosingTag(QStringView text, const Tag& block, qsizetype position)
+ClosingTag findClosingTag(QStringView text, const Tag& block, qsizetype position)
 {
     const QString closing = u"<!--:end:%1:-->"_s.arg(block.name);
     qsizetype start = text.indexOf(OpeningMark, block.end);
@@ -116,25 +116,25 @@ ClosingTag FindClosingTag(QStringView text, const Tag& block, qsizetype position
                             position + block.start);
     }
     if (start + closing.size() > LastPosition) {
-        throw TooFar(position + block.start);
+        throw tooFar(position + block.start);
     }
     return {start, start + closing.size()};
 }
 
 // Appends what a tag makes and returns where the text goes on behind it.
-qsizetype AppendTag(ElementArray& parts, QStringView text, const Tag& tag, qsizetype position)
+qsizetype appendTag(ElementArray& parts, QStringView text, const Tag& tag, qsizetype position)
 {
     if (tag.type == ElementType::Static) {
         return tag.end;
     }
-    const auto element = MakeElement(tag.type, tag.name, tag.value);
+    const auto element = makeElement(tag.type, tag.name, tag.value);
     parts.push_back(element);
     if (tag.type < ElementType::If) {
         return tag.end;
     }
-    const ClosingTag closing = FindClosingTag(text, tag, position);
+    const ClosingTag closing = findClosingTag(text, tag, position);
     const ElementArray body = parse_text(text.sliced(tag.end, closing.start - tag.end), position + tag.end);
-    element->ReDimSubElements(UpperBound(body));
+    element->ReDimSubElements(upperBound(body));
     element->addParts(body);
     return closing.end;
 }
@@ -150,18 +150,18 @@ ElementArray parse_text(QStringView text, qsizetype position)
     while (next < text.size() || afterEmptyTag) {
         const qsizetype mark = text.indexOf(OpeningMark, next);
         if (mark < 0) {
-            parts.push_back(MakeElement(ElementType::Static, text.sliced(pending)));
+            parts.push_back(makeElement(ElementType::Static, text.sliced(pending)));
             break;
         }
         if (mark > pending) {
-            parts.push_back(MakeElement(ElementType::Static, text.sliced(pending, mark - pending)));
+            parts.push_back(makeElement(ElementType::Static, text.sliced(pending, mark - pending)));
         }
-        const Tag tag = ReadTag(text, mark, position);
+        const Tag tag = readTag(text, mark, position);
         next = tag.end;
         // An empty tag is no tag: its characters and, meant so, the text ahead of it once more begin the next text.
         afterEmptyTag = tag.empty;
         if (!tag.empty) {
-            pending = next = AppendTag(parts, text, tag, position);
+            pending = next = appendTag(parts, text, tag, position);
         }
     }
     parts.push_back(nullptr);

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Into one text: a dump for every level of a deep block would be copied as often as the block is deep.
-void AppendDump(const Template_Element& element, int indent, QString& out)
+void appendDump(const Template_Element& element, int indent, QString& out)
 {
     const auto appendLine = [indent, &out](QStringView title, const QString& text) {
         out.resize(out.size() + indent, u' ');
@@ -20,14 +20,14 @@ void AppendDump(const Template_Element& element, int indent, QString& out)
     appendLine(u"Default = ", element.Default);
     for (const auto& part : element.Template_Parts) {
         if (part != nullptr) {
-            AppendDump(*part, indent + 3, out);
+            appendDump(*part, indent + 3, out);
         }
     }
 }
 
 } // namespace
 
-int UpperBound(const ElementArray& elements)
+int upperBound(const ElementArray& elements)
 {
     return static_cast<int>(elements.size()) - 1;
 }
@@ -42,8 +42,8 @@ void Template_Element::ReDimSubElements(int n)
 
 void Template_Element::addParts(const ElementArray& parts)
 {
-    const int count = UpperBound(parts);
-    if (count > UpperBound(Template_Parts) + 1) {
+    const int count = upperBound(parts);
+    if (count > upperBound(Template_Parts) + 1) {
         throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
     }
     if (count > 0) {
@@ -54,6 +54,6 @@ void Template_Element::addParts(const ElementArray& parts)
 QString Template_Element::to_string1(int indent) const
 {
     QString dump;
-    AppendDump(*this, indent, dump);
+    appendDump(*this, indent, dump);
     return dump;
 }

@@ -14,7 +14,7 @@ struct Template_Element;
 // upper bound -1, the array of an empty text has the upper bound 0.
 using ElementArray = std::vector<std::shared_ptr<Template_Element>>;
 
-int UpperBound(const ElementArray& elements);
+int upperBound(const ElementArray& elements);
 
 // The numbers in Template_Element::TType.
 namespace ElementType {

@@ -16,7 +16,7 @@ constexpr std::array<QStringView, 10> PageNames{u"main",   u"footer", u"menu",  
 
 } // namespace
 
-QString LinesEndedByCr(const QString& text)
+QString linesEndedByCr(const QString& text)
 {
     QString lines = text;
     lines.replace(u"\r\n"_s, u"\r"_s);
@@ -56,7 +56,7 @@ void Templates_Set::loadAll()
 
 void Templates_Set::ReLoad(const QString& file, const QString& key)
 {
-    if (templates.HasKey(key)) {
+    if (templates.hasKey(key)) {
         templates.Remove(key);
     }
     load_template(file, key);
@@ -72,15 +72,15 @@ void Templates_Set::load_template(const QString& file, const QString& key)
 
 QString Templates_Set::readTemplate(const QString& file)
 {
-    const DecodedText decoded = ReadTextFile(Path + file + u".html"_s);
-    if (m_encodings.HasKey(file)) {
+    const DecodedText decoded = readTextFile(Path + file + u".html"_s);
+    if (m_encodings.hasKey(file)) {
         m_encodings.Remove(file);
     }
     m_encodings.Add(decoded.encoding, file);
-    return LinesEndedByCr(decoded.text);
+    return linesEndedByCr(decoded.text);
 }
 
 TextEncoding Templates_Set::encodingOf(const QString& file) const
 {
-    return m_encodings.HasKey(file) ? m_encodings.Item(file) : TextEncoding::Utf8;
+    return m_encodings.hasKey(file) ? m_encodings.Item(file) : TextEncoding::Utf8;
 }

@@ -55,4 +55,4 @@ private:
 
 // The text of a template file as the templates hold it: a line ends at CR LF or at a lone CR, a lone LF ends none, and
 // every line, the last one too, is followed by one CR.
-QString LinesEndedByCr(const QString& text);
+QString linesEndedByCr(const QString& text);

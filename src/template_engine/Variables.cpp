@@ -15,7 +15,7 @@ struct ToText
     QString operator()(const QString& text) const { return text; }
     QString operator()(qint16 number) const { return QString::number(number); }
     QString operator()(bool truth) const { return truth ? u"True"_s : u"False"_s; }
-    QString operator()(float number) const { return SingleToText(number); }
+    QString operator()(float number) const { return singleToText(number); }
 
     QString operator()(const std::shared_ptr<const TextObject>& object) const
     {
@@ -57,7 +57,7 @@ void Variables::makeRoom()
     m_values.reserve(static_cast<std::size_t>(room));
 }
 
-bool Variables::Exists(QStringView key) const
+bool Variables::exists(QStringView key) const
 {
     return find(names().find(key)) != nullptr;
 }
@@ -87,12 +87,12 @@ const VariableValue& Variables::Item(QStringView key) const
     return *value;
 }
 
-QString TextOf(const VariableValue& value)
+QString textOf(const VariableValue& value)
 {
     return std::visit(ToText(), value);
 }
 
-const VariableRows& RowsOf(const VariableValue& value)
+const VariableRows& rowsOf(const VariableValue& value)
 {
     static const VariableRows noRows;
     const auto* rows = std::get_if<std::shared_ptr<const VariableRows>>(&value);

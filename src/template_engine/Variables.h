@@ -50,7 +50,7 @@ public:
     void Add(QStringView key, VariableRows rows);
 
     int Count() const { return m_shape->size(); }
-    bool Exists(QStringView key) const;
+    bool exists(QStringView key) const;
     // The key at a position, 1-based, spelled as it was added. Error 9 when there is no such position.
     const QString& Key(int index) const;
     // The value at a position, 1-based. Error 9 when there is no such position.
@@ -75,7 +75,7 @@ private:
 
 // The text form of a value: a text as it stands, an integer in plain decimal, True or False, a single with at most
 // seven significant digits, an object's text. Error 13 for a list, 91 for an object that is not there.
-QString TextOf(const VariableValue& value);
+QString textOf(const VariableValue& value);
 
 // The rows of a list. Error 13 for everything else.
-const VariableRows& RowsOf(const VariableValue& value);
+const VariableRows& rowsOf(const VariableValue& value);

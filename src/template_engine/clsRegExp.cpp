@@ -12,7 +12,7 @@ namespace {
 // and indifferent to broken surrogate pairs, on which the engine gives up.
 constexpr QStringView TagPattern = u"<[^>]*>";
 
-QString ReplaceTags(const QString& text, const QString& replacement)
+QString replaceTags(const QString& text, const QString& replacement)
 {
     qsizetype open = text.indexOf(u'<');
     qsizetype close = open < 0 ? -1 : text.indexOf(u'>', open);
@@ -32,7 +32,7 @@ QString ReplaceTags(const QString& text, const QString& replacement)
 }
 
 // Not QString::replace: it would read "\1" in the replacement.
-QString ReplaceMatches(const QRegularExpression& engine, const QString& text, const QString& replacement)
+QString replaceMatches(const QRegularExpression& engine, const QString& text, const QString& replacement)
 {
     QString result;
     qsizetype copied = 0;
@@ -45,7 +45,7 @@ QString ReplaceMatches(const QRegularExpression& engine, const QString& text, co
     return result.append(QStringView(text).sliced(copied));
 }
 
-QString FirstWords(const QString& text, int count)
+QString firstWords(const QString& text, int count)
 {
     constexpr qsizetype LastPosition = 32767; // counted from 1, like the cursors of the template language
     int words = 0;
@@ -82,8 +82,8 @@ void clsRegExp::Execute(const QString& text)
 QString clsRegExp::Replace(const QString& text, const QString& replacement, int count)
 {
     const QString result =
-        m_pattern == TagPattern ? ReplaceTags(text, replacement) : ReplaceMatches(engine(), text, replacement);
-    return count <= 0 ? result : FirstWords(result, count);
+        m_pattern == TagPattern ? replaceTags(text, replacement) : replaceMatches(engine(), text, replacement);
+    return count <= 0 ? result : firstWords(result, count);
 }
 
 const QRegularExpression& clsRegExp::engine()

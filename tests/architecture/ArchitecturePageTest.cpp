@@ -16,7 +16,7 @@ const QDir root(QStringLiteral(TARNWICK_SOURCE_DIR));
 
 QString page()
 {
-    return QString::fromUtf8(FileBytes(root.filePath(u"docs/architecture.md"_s)));
+    return QString::fromUtf8(fileBytes(root.filePath(u"docs/architecture.md"_s)));
 }
 
 TEST(ArchitecturePage, NamesEveryFolderAtTheTop)

@@ -63,7 +63,7 @@ QList<Include> allIncludes()
     QDirIterator files(root.path(), {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
         const QString path = files.next();
-        const QString text = QString::fromUtf8(FileBytes(path));
+        const QString text = QString::fromUtf8(fileBytes(path));
         auto matches = line.globalMatch(text);
         while (matches.hasNext()) {
             const QRegularExpressionMatch match = matches.next();

@@ -23,7 +23,7 @@ protected:
     {
         askedFor(u"may"_s);
         prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
-        BackUpFromMenu(services);
+        backUpFromMenu(services);
         WriteFile(files.path(u"shop.xml"_s), "changed");
         return files.path(u"backups/may.kvb"_s);
     }
@@ -38,35 +38,35 @@ TEST_F(BackUpCommandsTest, ABackupIsNamedAndMade)
 {
     askedFor(u"may"_s);
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
-    BackUpFromMenu(services);
+    backUpFromMenu(services);
     EXPECT_TRUE(QFile::exists(files.path(u"backups/may.kvb"_s)));
 }
 
 TEST_F(BackUpCommandsTest, WithoutANameNothingHappens)
 {
     askedFor(std::nullopt);
-    BackUpFromMenu(services);
+    backUpFromMenu(services);
     askedFor(QString());
-    BackUpFromMenu(services);
+    backUpFromMenu(services);
     EXPECT_FALSE(QFile::exists(files.path(u"backups"_s)));
 }
 
 TEST_F(BackUpCommandsTest, AFullDiskIsToldTwiceAndThenOnceMore)
 {
-    WriteFile(files.path(u"pictures/noise.png"_s), Noise(100000, 7));
+    WriteFile(files.path(u"pictures/noise.png"_s), noise(100000, 7));
     askedFor(u"may"_s);
     prompts.expectMessage(u"The program"_s, u"Backuping: file saving error ocured"_s);
     prompts.expectMessage(u"The program"_s, u"Backuping: file saving error ocured"_s);
     prompts.expectMessage(u"Error"_s, u"Creating backup is failed"_s, PromptIcon::Critical);
     const FileSizeLimit limit(50000);
-    BackUpFromMenu(services);
+    backUpFromMenu(services);
 }
 
 TEST_F(BackUpCommandsTest, AFileInTheFoldersPlaceIsARunTimeError)
 {
     WriteFile(files.path(u"backups"_s), "in the way");
     askedFor(u"may"_s);
-    EXPECT_EQ(ErrorOf([&] { BackUpFromMenu(services); }), 75);
+    EXPECT_EQ(errorOf([&] { backUpFromMenu(services); }), 75);
 }
 
 TEST_F(BackUpCommandsTest, AShopIsRestoredAndTheRestartIsTold)
@@ -75,8 +75,8 @@ TEST_F(BackUpCommandsTest, AShopIsRestoredAndTheRestartIsTold)
     prompts.answerFile(path);
     prompts.expectMessage(u"Restoring"_s, u"Restore is completed.\r\nThe program will be restarted now."_s,
                           PromptIcon::Information);
-    EXPECT_TRUE(RestoreFromMenu(services));
-    EXPECT_EQ(FileBytes(files.path(u"shop.xml"_s)), ReferenceShop());
+    EXPECT_TRUE(restoreFromMenu(services));
+    EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), referenceShop());
     EXPECT_EQ(prompts.fileQuestions,
               (QStringList{folder.backupsFolder(), u"Packed shops (*.kvb *.KVB);;All files (*)"_s}));
 }
@@ -85,6 +85,6 @@ TEST_F(BackUpCommandsTest, WithoutAChoiceNothingIsRestored)
 {
     backedUpAndChanged();
     prompts.answerFile(QString());
-    EXPECT_FALSE(RestoreFromMenu(services));
-    EXPECT_EQ(FileBytes(files.path(u"shop.xml"_s)), "changed");
+    EXPECT_FALSE(restoreFromMenu(services));
+    EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), "changed");
 }

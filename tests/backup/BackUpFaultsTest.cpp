@@ -21,13 +21,13 @@ protected:
     BackUpFaultsTest()
     {
         useReferenceShop();
-        WriteFile(files.path(u"pictures/noise.png"_s), Noise(100000, 7));
+        WriteFile(files.path(u"pictures/noise.png"_s), noise(100000, 7));
     }
 
     // All files but the backups.
     QMap<QString, QByteArray> shopFiles() const
     {
-        QMap<QString, QByteArray> found = FilesBelow(files.folder().path());
+        QMap<QString, QByteArray> found = filesBelow(files.folder().path());
         for (const QString& path : found.keys()) {
             if (path.startsWith(u"backups/")) {
                 found.remove(path);
@@ -78,7 +78,7 @@ TEST_F(BackUpFaultsTest, AFullDiskIsToldTwiceAndLeavesAPart)
     EXPECT_EQ(told.last(3), (QStringList{u"Working(True)"_s, u"WriteError"_s, u"WriteError"_s}));
     EXPECT_EQ(told.count(u"WriteError"_s), 2);
     EXPECT_TRUE(packer.Changed());
-    EXPECT_EQ(FileBytes(files.path(u"backups/may.kvb"_s)).size(), 50000);
+    EXPECT_EQ(fileBytes(files.path(u"backups/may.kvb"_s)).size(), 50000);
     EXPECT_EQ(shopFiles(), before);
     EXPECT_EQ(packer.ReadFile(files.path(u"backups/may.kvb"_s)), PackedStatus::CannotRead);
 }
@@ -90,7 +90,7 @@ TEST_F(BackUpFaultsTest, WhereverTheDiskBecomesFullTheResultIsFalse)
     packer.AddFile(u"pictures\\cup.png"_s);
     const QString path = files.path(u"out"_s);
     ASSERT_TRUE(packer.WriteFile(path));
-    const qint64 whole = FileBytes(path).size();
+    const qint64 whole = fileBytes(path).size();
     for (qint64 size = 0; size <= whole; ++size) {
         QFile::remove(path);
         const FileSizeLimit limit(static_cast<rlim_t>(size));
@@ -114,16 +114,16 @@ TEST_F(BackUpFaultsTest, AFileInTheFoldersPlaceIsARunTimeError)
 {
     WriteFile(files.path(u"backups"_s), "in the way");
     QString name = u"may"_s;
-    EXPECT_EQ(ErrorOf([&] { packer.BackUp(name); }), 75);
-    EXPECT_EQ(FileBytes(files.path(u"backups"_s)), "in the way");
+    EXPECT_EQ(errorOf([&] { packer.BackUp(name); }), 75);
+    EXPECT_EQ(fileBytes(files.path(u"backups"_s)), "in the way");
 
     QFile::remove(files.path(u"backups"_s));
     const QString whole = makeBackUp();
     ASSERT_TRUE(QDir(files.path(u"pictures"_s)).removeRecursively());
     WriteFile(files.path(u"pictures"_s), "in the way");
-    EXPECT_EQ(ErrorOf([&] { packer.Restore(whole); }), 75);
-    EXPECT_EQ(FileBytes(files.path(u"pictures"_s)), "in the way");
-    EXPECT_EQ(FileBytes(files.path(u"shop.xml"_s)), ReferenceShop());
+    EXPECT_EQ(errorOf([&] { packer.Restore(whole); }), 75);
+    EXPECT_EQ(fileBytes(files.path(u"pictures"_s)), "in the way");
+    EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), referenceShop());
 }
 
 TEST_F(BackUpFaultsTest, AFileThatVanishesBetweenListAndReadIsLeftOut)
@@ -163,15 +163,15 @@ TEST_F(BackUpFaultsTest, AProcessKilledWhileItWritesABackupHarmsNothingElse)
 {
     const QMap<QString, QByteArray> before = shopFiles();
     const QString whole = makeBackUp();
-    const QByteArray wholeBytes = FileBytes(whole);
+    const QByteArray wholeBytes = fileBytes(whole);
     const int ended = signalThatEnded(60000, [&] {
         QString name = u"killed"_s;
         packer.BackUp(name);
     });
     EXPECT_EQ(ended, SIGXFSZ);
-    EXPECT_EQ(FileBytes(files.path(u"backups/killed.kvb"_s)).size(), 60000);
+    EXPECT_EQ(fileBytes(files.path(u"backups/killed.kvb"_s)).size(), 60000);
     EXPECT_EQ(shopFiles(), before);
-    EXPECT_EQ(FileBytes(whole), wholeBytes);
+    EXPECT_EQ(fileBytes(whole), wholeBytes);
 
     // What is left of it is refused, and the shop stays as it is.
     const QString killed = files.path(u"backups/killed.kvb"_s);
@@ -184,19 +184,19 @@ TEST_F(BackUpFaultsTest, AProcessKilledWhileItWritesABackupHarmsNothingElse)
     clsPacker again(files.folder(), prompts, u"1.2.0"_s);
     QString name = u"killed.kvb"_s;
     EXPECT_TRUE(again.BackUp(name));
-    EXPECT_EQ(FileBytes(killed), wholeBytes);
+    EXPECT_EQ(fileBytes(killed), wholeBytes);
 }
 
 TEST_F(BackUpFaultsTest, AProcessKilledWhileItRestoresLeavesTheBackupToRestoreAgain)
 {
     const QMap<QString, QByteArray> before = shopFiles();
     const QString whole = makeBackUp();
-    const QByteArray wholeBytes = FileBytes(whole);
+    const QByteArray wholeBytes = fileBytes(whole);
     WriteFile(files.path(u"pictures/stray.png"_s), "stray");
     const int ended = signalThatEnded(40000, [&] { packer.Restore(whole); });
     EXPECT_EQ(ended, SIGXFSZ);
-    EXPECT_EQ(FileBytes(files.path(u"pictures/noise.png"_s)).size(), 40000);
-    EXPECT_EQ(FileBytes(whole), wholeBytes);
+    EXPECT_EQ(fileBytes(files.path(u"pictures/noise.png"_s)).size(), 40000);
+    EXPECT_EQ(fileBytes(whole), wholeBytes);
     EXPECT_TRUE(packer.Restore(whole));
     EXPECT_EQ(shopFiles(), before);
 }
@@ -205,20 +205,20 @@ TEST_F(BackUpFaultsTest, AFullDiskWhileRestoringIsARunTimeErrorAndTheBackupStays
 {
     const QMap<QString, QByteArray> before = shopFiles();
     const QString whole = makeBackUp();
-    const QByteArray wholeBytes = FileBytes(whole);
+    const QByteArray wholeBytes = fileBytes(whole);
     {
         const FileSizeLimit limit(40000);
-        EXPECT_EQ(ErrorOf([&] { packer.Restore(whole); }), 57);
+        EXPECT_EQ(errorOf([&] { packer.Restore(whole); }), 57);
     }
-    EXPECT_EQ(FileBytes(whole), wholeBytes);
+    EXPECT_EQ(fileBytes(whole), wholeBytes);
     EXPECT_TRUE(packer.Restore(whole));
     EXPECT_EQ(shopFiles(), before);
 }
 
 TEST_F(BackUpFaultsTest, ADeviceIsNoFile)
 {
-    EXPECT_EQ(ErrorOf([] { const PackedStream stream(u"/dev/full"_s, PackedStream::Mode::Write); }), 75);
-    EXPECT_EQ(ErrorOf([] { const PackedStream stream(u"/dev/zero"_s, PackedStream::Mode::Read); }), 75);
+    EXPECT_EQ(errorOf([] { const PackedStream stream(u"/dev/full"_s, PackedStream::Mode::Write); }), 75);
+    EXPECT_EQ(errorOf([] { const PackedStream stream(u"/dev/zero"_s, PackedStream::Mode::Read); }), 75);
 }
 
 TEST_F(BackUpFaultsTest, ASubFolderInAPicturesPlaceIsARunTimeError)
@@ -226,6 +226,6 @@ TEST_F(BackUpFaultsTest, ASubFolderInAPicturesPlaceIsARunTimeError)
     const QString whole = makeBackUp();
     ASSERT_TRUE(QFile::remove(files.path(u"pictures/cup.png"_s)));
     QDir().mkpath(files.path(u"pictures/cup.png"_s));
-    EXPECT_EQ(ErrorOf([&] { packer.Restore(whole); }), 75);
+    EXPECT_EQ(errorOf([&] { packer.Restore(whole); }), 75);
     EXPECT_TRUE(QDir(files.path(u"pictures/cup.png"_s)).exists());
 }

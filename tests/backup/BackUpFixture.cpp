@@ -16,12 +16,12 @@ QString eventName(const char* name, bool argument)
 
 } // namespace
 
-QByteArray ReferenceShop()
+QByteArray referenceShop()
 {
     return "<Tarnwick><Shop><Version>1.2.0</Version><Name>Cups</Name></Shop></Tarnwick>";
 }
 
-QByteArray ReferencePicture()
+QByteArray referencePicture()
 {
     QByteArray bytes;
     for (int i = 0; i < 3 * 256; ++i) {
@@ -30,22 +30,22 @@ QByteArray ReferencePicture()
     return bytes;
 }
 
-QByteArray ReferencePage()
+QByteArray referencePage()
 {
     return QByteArray("<!--1.2.0-->\r\n<h1><!--:shop_name:--></h1>\r\n").repeated(20);
 }
 
-QString ReferencePath(const QString& name)
+QString referencePath(const QString& name)
 {
     return QStringLiteral(TARNWICK_SOURCE_DIR "/tests/data/packed/") + name;
 }
 
-QByteArray ReferenceBytes(const QString& name)
+QByteArray referenceBytes(const QString& name)
 {
-    return FileBytes(ReferencePath(name));
+    return fileBytes(referencePath(name));
 }
 
-QByteArray Noise(qsizetype size, quint32 seed)
+QByteArray noise(qsizetype size, quint32 seed)
 {
     QRandomGenerator generator(seed);
     QByteArray bytes(size, Qt::Uninitialized);
@@ -55,13 +55,13 @@ QByteArray Noise(qsizetype size, quint32 seed)
     return bytes;
 }
 
-QMap<QString, QByteArray> FilesBelow(const QString& folder)
+QMap<QString, QByteArray> filesBelow(const QString& folder)
 {
     QMap<QString, QByteArray> found;
     QDirIterator entries(folder, QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
     while (entries.hasNext()) {
         const QString path = entries.next();
-        found.insert(path.sliced(folder.size() + 1), FileBytes(path));
+        found.insert(path.sliced(folder.size() + 1), fileBytes(path));
     }
     return found;
 }
@@ -87,9 +87,9 @@ BackUpTest::BackUpTest()
 
 void BackUpTest::useReferenceShop()
 {
-    WriteFile(files.path(u"shop.xml"_s), ReferenceShop());
-    WriteFile(files.path(u"pictures/cup.png"_s), ReferencePicture());
-    WriteFile(files.path(u"templates/main.html"_s), ReferencePage());
+    WriteFile(files.path(u"shop.xml"_s), referenceShop());
+    WriteFile(files.path(u"pictures/cup.png"_s), referencePicture());
+    WriteFile(files.path(u"templates/main.html"_s), referencePage());
 }
 
 void BackUpTest::listenTo(clsPacker& source)
@@ -112,7 +112,7 @@ QString BackUpTest::packedFile(const QByteArray& bytes)
     return path;
 }
 
-QString OnDisk(const QString& fileSpec)
+QString onDisk(const QString& fileSpec)
 {
     return QString(fileSpec).replace(u'\\', u'/');
 }

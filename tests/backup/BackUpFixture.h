@@ -14,18 +14,18 @@
 #include <sys/resource.h>
 
 // The contents of the files in the reference files.
-QByteArray ReferenceShop();
-QByteArray ReferencePicture();
-QByteArray ReferencePage();
+QByteArray referenceShop();
+QByteArray referencePicture();
+QByteArray referencePage();
 
-QString ReferencePath(const QString& name);
-QByteArray ReferenceBytes(const QString& name);
+QString referencePath(const QString& name);
+QByteArray referenceBytes(const QString& name);
 
 // Bytes that do not deflate; the same for the same seed.
-QByteArray Noise(qsizetype size, quint32 seed);
+QByteArray noise(qsizetype size, quint32 seed);
 
 // All files below a folder, hidden ones too, by their relative paths.
-QMap<QString, QByteArray> FilesBelow(const QString& folder);
+QMap<QString, QByteArray> filesBelow(const QString& folder);
 
 // No file of this process grows past that size while an object of this lives. Writing past it fails, or ends the
 // process when `deadly` is set.
@@ -62,4 +62,4 @@ protected:
 };
 
 // The relative path on disk of a path in a packed file.
-QString OnDisk(const QString& fileSpec);
+QString onDisk(const QString& fileSpec);

@@ -53,7 +53,7 @@ TEST_F(BackUpTest, TheShopItsPicturesAndItsTemplatesArePacked)
     EXPECT_EQ(reader.ReadFile(files.path(u"backups/may.kvb"_s)), PackedStatus::SameVersion);
     EXPECT_EQ(entriesOf(reader), (QStringList{u"shop.xml"_s, u"pictures\\cup.png"_s, u"templates\\main.html"_s}));
     EXPECT_TRUE(reader.Compressed());
-    EXPECT_EQ(reader.Item(3).ToString(), QString::fromLatin1(ReferencePage()));
+    EXPECT_EQ(reader.Item(3).ToString(), QString::fromLatin1(referencePage()));
 }
 
 TEST_F(BackUpTest, EventsComeInTheOrderOfTheWork)
@@ -112,7 +112,7 @@ TEST_F(BackUpTest, AnExistingBackupIsReplacedWithoutAQuestion)
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     QString name = u"may.kvb"_s;
     EXPECT_TRUE(packer.BackUp(name));
-    EXPECT_EQ(FileBytes(files.path(u"backups/may.kvb"_s)), ReferenceBytes(u"current"_s));
+    EXPECT_EQ(fileBytes(files.path(u"backups/may.kvb"_s)), referenceBytes(u"current"_s));
 }
 
 TEST_F(BackUpTest, FilesFollowInTheOrderOfTheFileSystem)
@@ -163,7 +163,7 @@ TEST_F(BackUpTest, WhatIsEmptyOrNoFileOrHasNoNameInTheFormatIsLeftOut)
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     QString name = u"may"_s;
     ASSERT_TRUE(packer.BackUp(name));
-    EXPECT_EQ(FileBytes(files.path(u"backups/may.kvb"_s)), ReferenceBytes(u"current"_s));
+    EXPECT_EQ(fileBytes(files.path(u"backups/may.kvb"_s)), referenceBytes(u"current"_s));
 }
 
 TEST_F(BackUpTest, OfTwoNamesThatDifferByCaseOneIsPacked)

@@ -22,9 +22,9 @@ struct Reading
 };
 
 // The most address space that this process ever had, in bytes.
-qint64 PeakOfMemory()
+qint64 peakOfMemory()
 {
-    const QByteArray status = FileBytes(u"/proc/self/status"_s);
+    const QByteArray status = fileBytes(u"/proc/self/status"_s);
     const qsizetype at = status.indexOf("VmPeak:");
     return status.mid(at + 7, status.indexOf("kB", at) - at - 7).trimmed().toLongLong() * 1024;
 }
@@ -87,7 +87,7 @@ TEST_F(PackedFilesTest, ADeflatedContainerIsWrittenByteForByte)
         ASSERT_EQ(packer.AddFile(path), AddFileResult::Added);
     }
     ASSERT_TRUE(packer.WriteFile(files.path(u"out"_s)));
-    EXPECT_EQ(FileBytes(files.path(u"out"_s)), ReferenceBytes(u"current"_s));
+    EXPECT_EQ(fileBytes(files.path(u"out"_s)), referenceBytes(u"current"_s));
 }
 
 TEST_F(PackedFilesTest, AStoredContainerIsWrittenByteForByte)
@@ -97,25 +97,25 @@ TEST_F(PackedFilesTest, AStoredContainerIsWrittenByteForByte)
         ASSERT_EQ(packer.AddFile(path), AddFileResult::Added);
     }
     ASSERT_TRUE(packer.WriteFile(files.path(u"out"_s)));
-    EXPECT_EQ(FileBytes(files.path(u"out"_s)), ReferenceBytes(u"stored"_s));
+    EXPECT_EQ(fileBytes(files.path(u"out"_s)), referenceBytes(u"stored"_s));
     // Deflated in memory it is the other one, and back again.
     packer.setCompressed(true);
     ASSERT_TRUE(packer.WriteFile(files.path(u"deflated"_s)));
-    EXPECT_EQ(FileBytes(files.path(u"deflated"_s)), ReferenceBytes(u"current"_s));
+    EXPECT_EQ(fileBytes(files.path(u"deflated"_s)), referenceBytes(u"current"_s));
     packer.setCompressed(false);
     ASSERT_TRUE(packer.WriteFile(files.path(u"stored"_s)));
-    EXPECT_EQ(FileBytes(files.path(u"stored"_s)), ReferenceBytes(u"stored"_s));
+    EXPECT_EQ(fileBytes(files.path(u"stored"_s)), referenceBytes(u"stored"_s));
 }
 
 TEST_F(PackedFilesTest, NamesAreWrittenInUtf8)
 {
-    WriteFile(files.path(u"shop.xml"_s), ReferenceShop());
-    WriteFile(files.path(u"pictures/M\u00FCller \u20AC \u6771.png"_s), ReferencePicture());
+    WriteFile(files.path(u"shop.xml"_s), referenceShop());
+    WriteFile(files.path(u"pictures/M\u00FCller \u20AC \u6771.png"_s), referencePicture());
     packer.setCompressed(true);
     packer.AddFile(u"shop.xml"_s);
     packer.AddFile(u"pictures\\M\u00FCller \u20AC \u6771.png"_s);
     ASSERT_TRUE(packer.WriteFile(files.path(u"out"_s)));
-    EXPECT_EQ(FileBytes(files.path(u"out"_s)), ReferenceBytes(u"names_in_utf8"_s));
+    EXPECT_EQ(fileBytes(files.path(u"out"_s)), referenceBytes(u"names_in_utf8"_s));
 }
 
 TEST_F(PackedFilesTest, ABackupIsWrittenByteForByte)
@@ -124,12 +124,12 @@ TEST_F(PackedFilesTest, ABackupIsWrittenByteForByte)
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     QString name = u"may"_s;
     ASSERT_TRUE(packer.BackUp(name));
-    EXPECT_EQ(FileBytes(files.path(u"backups/may.kvb"_s)), ReferenceBytes(u"current"_s));
+    EXPECT_EQ(fileBytes(files.path(u"backups/may.kvb"_s)), referenceBytes(u"current"_s));
 }
 
 TEST_F(PackedFilesTest, EveryReferenceFileIsInTheTable)
 {
-    QStringList names = QDir(ReferencePath({})).entryList(QDir::Files);
+    QStringList names = QDir(referencePath({})).entryList(QDir::Files);
     names.removeOne(u"make.py"_s);
     for (const QString& name : names) {
         EXPECT_TRUE(readings().contains(name)) << name.toStdString();
@@ -143,14 +143,14 @@ TEST_F(PackedFilesTest, EveryReferenceFileHasItsStatusItsEventsAndItsEntries)
         SCOPED_TRACE(name.toStdString());
         clsPacker reader(files.folder(), prompts, u"1.2.0"_s);
         listenTo(reader);
-        EXPECT_EQ(reader.ReadFile(ReferencePath(name)), reading.status);
+        EXPECT_EQ(reader.ReadFile(referencePath(name)), reading.status);
         EXPECT_EQ(reader.Count(), reading.entries);
         QStringList expected = {u"Working(False)"_s, u"Working(True)"_s};
         if (reading.status != PackedStatus::SameVersion) {
             expected << u"ReadError(%1)"_s.arg(static_cast<int>(reading.status));
         }
         EXPECT_EQ(takeEvents(), expected);
-        EXPECT_EQ(reader.FileSpec, ReferencePath(name));
+        EXPECT_EQ(reader.FileSpec, referencePath(name));
     }
 }
 
@@ -161,11 +161,11 @@ TEST_F(PackedFilesTest, ReadingAndWritingGivesTheSameBytes)
          {u"current"_s, u"stored"_s, u"raw_entry_among_deflated"_s, u"names_in_utf8"_s, u"foreign_paths"_s,
           u"longer_than_told"_s, u"not_inflatable"_s, u"folders_below_pictures"_s}) {
         SCOPED_TRACE(name.toStdString());
-        ASSERT_EQ(packer.ReadFile(ReferencePath(name)), PackedStatus::SameVersion);
+        ASSERT_EQ(packer.ReadFile(referencePath(name)), PackedStatus::SameVersion);
         EXPECT_FALSE(packer.Changed());
         const QString out = files.path(name);
         ASSERT_TRUE(packer.WriteFile(out));
-        EXPECT_EQ(FileBytes(out), ReferenceBytes(name));
+        EXPECT_EQ(fileBytes(out), referenceBytes(name));
     }
 }
 
@@ -174,40 +174,40 @@ TEST_F(PackedFilesTest, TheEntriesAreThoseOfTheFile)
     for (const QString& name : {u"current"_s, u"stored"_s, u"raw_entry_among_deflated"_s, u"legacy"_s, u"older"_s,
                                 u"newer"_s, u"stale_tail"_s}) {
         SCOPED_TRACE(name.toStdString());
-        packer.ReadFile(ReferencePath(name));
+        packer.ReadFile(referencePath(name));
         ASSERT_EQ(packer.Count(), 3);
         EXPECT_EQ(packer.Item(1).FileSpec(), u"shop.xml"_s);
-        EXPECT_EQ(packer.Item(1).ToString(), QString::fromLatin1(ReferenceShop()));
+        EXPECT_EQ(packer.Item(1).ToString(), QString::fromLatin1(referenceShop()));
         EXPECT_EQ(packer.Item(2).FileSpec(), u"pictures\\cup.png"_s);
         EXPECT_EQ(packer.Item(2).Size(), 768);
         EXPECT_EQ(packer.Item(3).FileSpec(), u"templates\\main.html"_s);
-        EXPECT_EQ(packer.Item(3).ToString(), QString::fromLatin1(ReferencePage()));
+        EXPECT_EQ(packer.Item(3).ToString(), QString::fromLatin1(referencePage()));
     }
 }
 
 TEST_F(PackedFilesTest, TheFlagOfTheHeaderIsThePackersAndEachEntryHasItsOwn)
 {
-    packer.ReadFile(ReferencePath(u"stored"_s));
+    packer.ReadFile(referencePath(u"stored"_s));
     EXPECT_FALSE(packer.Compressed());
-    packer.ReadFile(ReferencePath(u"raw_entry_among_deflated"_s));
+    packer.ReadFile(referencePath(u"raw_entry_among_deflated"_s));
     EXPECT_TRUE(packer.Compressed());
     EXPECT_TRUE(packer.Item(1).Compressed());
     EXPECT_FALSE(packer.Item(2).Compressed());
-    packer.ReadFile(ReferencePath(u"zeros"_s));
+    packer.ReadFile(referencePath(u"zeros"_s));
     EXPECT_FALSE(packer.Compressed());
-    packer.ReadFile(ReferencePath(u"legacy"_s)); // its bytes 10 and 11
+    packer.ReadFile(referencePath(u"legacy"_s)); // its bytes 10 and 11
     EXPECT_TRUE(packer.Compressed());
-    packer.ReadFile(ReferencePath(u"flags_of_other_numbers"_s));
+    packer.ReadFile(referencePath(u"flags_of_other_numbers"_s));
     EXPECT_TRUE(packer.Compressed());
-    EXPECT_EQ(packer.Item(1).ToString(), QString::fromLatin1(ReferenceShop()));
+    EXPECT_EQ(packer.Item(1).ToString(), QString::fromLatin1(referenceShop()));
     EXPECT_EQ(packer.Item(2).ToString(), u"cup"_s);
 }
 
 TEST_F(PackedFilesTest, NamesAreReadInUtf8OrElseInWindows1252)
 {
-    packer.ReadFile(ReferencePath(u"names_in_utf8"_s));
+    packer.ReadFile(referencePath(u"names_in_utf8"_s));
     EXPECT_EQ(packer.Item(2).FileSpec(), u"pictures\\M\u00FCller \u20AC \u6771.png"_s);
-    packer.ReadFile(ReferencePath(u"names_in_windows_1252"_s));
+    packer.ReadFile(referencePath(u"names_in_windows_1252"_s));
     EXPECT_EQ(packer.Item(2).FileSpec(), u"pictures\\M\u00FCller \u20AC.png"_s);
 }
 
@@ -237,7 +237,7 @@ TEST_F(PackedFilesTest, VersionsAreComparedAsTexts)
 
 TEST_F(PackedFilesTest, AVersionLengthOf0IsTheLegacyFormWithEntriesFrom14)
 {
-    QByteArray legacy = ReferenceBytes(u"legacy"_s);
+    QByteArray legacy = referenceBytes(u"legacy"_s);
     EXPECT_EQ(packer.ReadFile(packedFile(legacy)), PackedStatus::OlderVersion);
     ASSERT_EQ(packer.Count(), 3);
     // The last two bytes of the header are looked at by nobody.
@@ -251,7 +251,7 @@ TEST_F(PackedFilesTest, AVersionLengthOf0IsTheLegacyFormWithEntriesFrom14)
 
 TEST_F(PackedFilesTest, TheFirstFourBytesAreNeverLookedAt)
 {
-    QByteArray bytes = ReferenceBytes(u"current"_s);
+    QByteArray bytes = referenceBytes(u"current"_s);
     bytes.replace(0, 4, "KVB!");
     EXPECT_EQ(packer.ReadFile(packedFile(bytes)), PackedStatus::SameVersion);
     EXPECT_EQ(packer.Count(), 3);
@@ -266,7 +266,7 @@ TEST_F(PackedFilesTest, ASmallerContentLeavesTheTailOfALongerOldFile)
     packer.setCompressed(true);
     packer.AddFile(u"shop.xml"_s);
     ASSERT_TRUE(packer.WriteFile(path));
-    const QByteArray bytes = FileBytes(path);
+    const QByteArray bytes = fileBytes(path);
     ASSERT_EQ(bytes.size(), old.size());
     const qsizetype content = 17 + 2 + 2 + 8 + 4 + 4 + packer.Item(1).CompressedSize();
     EXPECT_EQ(bytes.sliced(content), old.sliced(content));
@@ -277,7 +277,7 @@ TEST_F(PackedFilesTest, ASmallerContentLeavesTheTailOfALongerOldFile)
 
 TEST_F(PackedFilesTest, WhereverAFileIsCutItCannotBeReadAndTheEntriesSoFarStay)
 {
-    const QByteArray whole = ReferenceBytes(u"current"_s);
+    const QByteArray whole = referenceBytes(u"current"_s);
     int entriesBefore = 0;
     for (qsizetype size = 0; size < whole.size(); ++size) {
         clsPacker reader(files.folder(), prompts, u"1.2.0"_s);
@@ -310,17 +310,17 @@ TEST_F(PackedFilesTest, APathThatIsEmptyOrLeadsToNoFileIsToldTwice)
 TEST_F(PackedFilesTest, ReadingReplacesWhatWasHeld)
 {
     packer.Add(u"before"_s);
-    packer.ReadFile(ReferencePath(u"current"_s));
+    packer.ReadFile(referencePath(u"current"_s));
     EXPECT_EQ(packer.Count(), 3);
-    EXPECT_EQ(ErrorOf([&] { packer.Item(u"before"_s); }), 5);
-    packer.ReadFile(ReferencePath(u"no_entries"_s));
+    EXPECT_EQ(errorOf([&] { packer.Item(u"before"_s); }), 5);
+    packer.ReadFile(referencePath(u"no_entries"_s));
     EXPECT_EQ(packer.Count(), 0);
     EXPECT_FALSE(packer.Changed());
 }
 
 TEST_F(PackedFilesTest, ANameThatOccursTwiceLeavesTheFirst)
 {
-    EXPECT_EQ(packer.ReadFile(ReferencePath(u"name_twice"_s)), PackedStatus::CannotRead);
+    EXPECT_EQ(packer.ReadFile(referencePath(u"name_twice"_s)), PackedStatus::CannotRead);
     EXPECT_EQ(packer.Item(u"pictures\\a"_s).ToString(), u"first"_s);
 }
 
@@ -331,10 +331,10 @@ TEST_F(PackedFilesTest, LengthsThatAreNotThereTakeNoMemory)
         // In a process of its own, whose peak no other test has raised.
         const pid_t child = fork();
         if (child == 0) {
-            const qint64 before = PeakOfMemory();
-            packer.ReadFile(ReferencePath(name));
+            const qint64 before = peakOfMemory();
+            packer.ReadFile(referencePath(name));
             packer.setCompressed(!packer.Compressed());
-            _exit(PeakOfMemory() - before < 100'000'000 ? 0 : 1);
+            _exit(peakOfMemory() - before < 100'000'000 ? 0 : 1);
         }
         int status = 0;
         EXPECT_EQ(waitpid(child, &status, 0), child);

@@ -23,7 +23,7 @@ protected:
         WriteFile(files.path(u"countries.txt"_s), "Norway");
     }
 
-    QMap<QString, QByteArray> onDisk() const { return FilesBelow(files.folder().path()); }
+    QMap<QString, QByteArray> onDisk() const { return filesBelow(files.folder().path()); }
 
     const QMap<QString, QByteArray> oldShop = {
         {u"shop.xml"_s, "<old/>"},
@@ -31,15 +31,15 @@ protected:
         {u"templates/old.html"_s, "old page"},
         {u"countries.txt"_s, "Norway"},
     };
-    const QMap<QString, QByteArray> referenceShop = {
-        {u"shop.xml"_s, ReferenceShop()},
-        {u"pictures/cup.png"_s, ReferencePicture()},
-        {u"templates/main.html"_s, ReferencePage()},
+    const QMap<QString, QByteArray> restoredShop = {
+        {u"shop.xml"_s, referenceShop()},
+        {u"pictures/cup.png"_s, referencePicture()},
+        {u"templates/main.html"_s, referencePage()},
         {u"countries.txt"_s, "Norway"},
     };
     const QMap<QString, QByteArray> referenceShopWithOldTemplates = {
-        {u"shop.xml"_s, ReferenceShop()},
-        {u"pictures/cup.png"_s, ReferencePicture()},
+        {u"shop.xml"_s, referenceShop()},
+        {u"pictures/cup.png"_s, referencePicture()},
         {u"templates/old.html"_s, "old page"},
         {u"countries.txt"_s, "Norway"},
     };
@@ -52,8 +52,8 @@ TEST_F(RestoreTest, TheSameVersionRestoresEverythingAndLeavesNoOldFileBehind)
     for (const QString& name : {u"current"_s, u"stored"_s, u"raw_entry_among_deflated"_s, u"stale_tail"_s}) {
         SCOPED_TRACE(name.toStdString());
         WriteFile(files.path(u"pictures/old.png"_s), "old picture");
-        EXPECT_TRUE(packer.Restore(ReferencePath(name)));
-        EXPECT_EQ(onDisk(), referenceShop);
+        EXPECT_TRUE(packer.Restore(referencePath(name)));
+        EXPECT_EQ(onDisk(), restoredShop);
     }
 }
 
@@ -62,14 +62,14 @@ TEST_F(RestoreTest, AnOlderVersionKeepsTheTemplatesOfTheInstallation)
     for (const QString& name : {u"older"_s, u"legacy"_s, u"version_1_10_0"_s}) {
         SCOPED_TRACE(name.toStdString());
         WriteFile(files.path(u"pictures/old.png"_s), "old picture");
-        EXPECT_TRUE(packer.Restore(ReferencePath(name)));
+        EXPECT_TRUE(packer.Restore(referencePath(name)));
         EXPECT_EQ(onDisk(), referenceShopWithOldTemplates);
     }
 }
 
 TEST_F(RestoreTest, ANewerVersionRestoresNothing)
 {
-    const QString path = ReferencePath(u"newer"_s);
+    const QString path = referencePath(u"newer"_s);
     prompts.expectMessage(u"Restoring canceled"_s,
                           u"File version is newer than the version of application.\r\n"_s + path, PromptIcon::Warning);
     EXPECT_FALSE(packer.Restore(path));
@@ -81,11 +81,11 @@ TEST_F(RestoreTest, OlderAndNewerAreThoseOfTheTexts)
 {
     // 1.10.0 is newer than 1.9.0, but its text is not.
     clsPacker program190(files.folder(), prompts, u"1.9.0"_s);
-    EXPECT_TRUE(program190.Restore(ReferencePath(u"version_1_10_0"_s)));
+    EXPECT_TRUE(program190.Restore(referencePath(u"version_1_10_0"_s)));
     EXPECT_EQ(onDisk(), referenceShopWithOldTemplates);
     // 1.2.0 is older than 1.10.0, but its text is not.
     clsPacker program1100(files.folder(), prompts, u"1.10.0"_s);
-    const QString path = ReferencePath(u"current"_s);
+    const QString path = referencePath(u"current"_s);
     prompts.expectMessage(u"Restoring canceled"_s,
                           u"File version is newer than the version of application.\r\n"_s + path, PromptIcon::Warning);
     EXPECT_FALSE(program1100.Restore(path));
@@ -99,7 +99,7 @@ TEST_F(RestoreTest, WhatCannotBeReadTouchesNothing)
           u"size_past_the_end"_s, u"path_past_the_end"_s, u"version_past_the_end"_s, u"name_twice"_s, u"text"_s,
           u"no such file"_s}) {
         SCOPED_TRACE(name.toStdString());
-        const QString path = ReferencePath(name);
+        const QString path = referencePath(name);
         prompts.expectMessage(u"Restoring"_s, u"File restore failure.\r\n"_s + path, PromptIcon::Critical);
         EXPECT_FALSE(packer.Restore(path));
         EXPECT_EQ(onDisk(), oldShop);
@@ -112,51 +112,51 @@ TEST_F(RestoreTest, WhatCannotBeReadTouchesNothing)
 
 TEST_F(RestoreTest, EntriesOfOtherPathsAreIgnored)
 {
-    EXPECT_TRUE(packer.Restore(ReferencePath(u"foreign_paths"_s)));
-    const QMap<QString, QByteArray> expected = {{u"shop.xml"_s, ReferenceShop()}, {u"countries.txt"_s, "Norway"}};
+    EXPECT_TRUE(packer.Restore(referencePath(u"foreign_paths"_s)));
+    const QMap<QString, QByteArray> expected = {{u"shop.xml"_s, referenceShop()}, {u"countries.txt"_s, "Norway"}};
     EXPECT_EQ(onDisk(), expected);
 }
 
 TEST_F(RestoreTest, TheShopsNameIsComparedExactly)
 {
-    EXPECT_TRUE(packer.Restore(ReferencePath(u"shop_in_capitals"_s)));
+    EXPECT_TRUE(packer.Restore(referencePath(u"shop_in_capitals"_s)));
     const QMap<QString, QByteArray> expected = {{u"countries.txt"_s, "Norway"}};
     EXPECT_EQ(onDisk(), expected);
 }
 
 TEST_F(RestoreTest, OfAPathBelowPicturesTheLastNameCounts)
 {
-    EXPECT_TRUE(packer.Restore(ReferencePath(u"folders_below_pictures"_s)));
-    EXPECT_EQ(onDisk().value(u"pictures/cup.png"_s), ReferencePicture());
+    EXPECT_TRUE(packer.Restore(referencePath(u"folders_below_pictures"_s)));
+    EXPECT_EQ(onDisk().value(u"pictures/cup.png"_s), referencePicture());
     EXPECT_EQ(onDisk().size(), 3);
 }
 
 TEST_F(RestoreTest, NamesOutsideAsciiComeBack)
 {
-    EXPECT_TRUE(packer.Restore(ReferencePath(u"names_in_utf8"_s)));
-    EXPECT_EQ(onDisk().value(u"pictures/M\u00FCller \u20AC \u6771.png"_s), ReferencePicture());
-    EXPECT_TRUE(packer.Restore(ReferencePath(u"names_in_windows_1252"_s)));
-    EXPECT_EQ(onDisk().value(u"pictures/M\u00FCller \u20AC.png"_s), ReferencePicture());
+    EXPECT_TRUE(packer.Restore(referencePath(u"names_in_utf8"_s)));
+    EXPECT_EQ(onDisk().value(u"pictures/M\u00FCller \u20AC \u6771.png"_s), referencePicture());
+    EXPECT_TRUE(packer.Restore(referencePath(u"names_in_windows_1252"_s)));
+    EXPECT_EQ(onDisk().value(u"pictures/M\u00FCller \u20AC.png"_s), referencePicture());
     EXPECT_EQ(onDisk().size(), 3);
 }
 
 TEST_F(RestoreTest, AnEntryThatCannotBeInflatedIsWrittenDeflatedWithoutAWord)
 {
-    EXPECT_TRUE(packer.Restore(ReferencePath(u"not_inflatable"_s)));
+    EXPECT_TRUE(packer.Restore(referencePath(u"not_inflatable"_s)));
     EXPECT_EQ(onDisk().value(u"shop.xml"_s), "not a stream");
     EXPECT_TRUE(QFile::exists(files.path(u"pictures/empty"_s)));
-    EXPECT_TRUE(packer.Restore(ReferencePath(u"too_long_for_its_room"_s)));
+    EXPECT_TRUE(packer.Restore(referencePath(u"too_long_for_its_room"_s)));
     EXPECT_TRUE(onDisk().value(u"shop.xml"_s).startsWith("\x78\x9C"));
-    EXPECT_TRUE(packer.Restore(ReferencePath(u"longer_than_told"_s)));
+    EXPECT_TRUE(packer.Restore(referencePath(u"longer_than_told"_s)));
     EXPECT_EQ(onDisk().value(u"shop.xml"_s), QByteArray(62, 'x'));
     EXPECT_EQ(onDisk().value(u"pictures/a"_s), QByteArray(164, 'y'));
-    EXPECT_TRUE(packer.Restore(ReferencePath(u"promises_gigabytes"_s)));
+    EXPECT_TRUE(packer.Restore(referencePath(u"promises_gigabytes"_s)));
     EXPECT_EQ(onDisk().value(u"pictures/big"_s), QByteArray(100000, '\0'));
 }
 
 TEST_F(RestoreTest, AFileWithoutEntriesLeavesAnEmptyShop)
 {
-    EXPECT_TRUE(packer.Restore(ReferencePath(u"no_entries"_s)));
+    EXPECT_TRUE(packer.Restore(referencePath(u"no_entries"_s)));
     const QMap<QString, QByteArray> expected = {{u"countries.txt"_s, "Norway"}};
     EXPECT_EQ(onDisk(), expected);
 }
@@ -178,12 +178,12 @@ TEST_F(RestoreTest, EmptyingAFolderTakesEveryFileAndNoSubFolder)
     ASSERT_TRUE(QFile::remove(files.path(u"shop.xml"_s)));
     ASSERT_TRUE(QFile::link(outside.filePath(u"new"_s), files.path(u"shop.xml"_s)));
 
-    EXPECT_TRUE(packer.Restore(ReferencePath(u"current"_s)));
-    QMap<QString, QByteArray> expected = referenceShop;
+    EXPECT_TRUE(packer.Restore(referencePath(u"current"_s)));
+    QMap<QString, QByteArray> expected = restoredShop;
     expected.insert(u"pictures/deep/cup.png"_s, "deep");
     EXPECT_EQ(onDisk(), expected);
     const QMap<QString, QByteArray> untouched = {{u"kept"_s, "kept"}};
-    EXPECT_EQ(FilesBelow(outside.path()), untouched);
+    EXPECT_EQ(filesBelow(outside.path()), untouched);
 }
 
 TEST_F(RestoreTest, FoldersThatAreMissingAreMade)
@@ -191,8 +191,8 @@ TEST_F(RestoreTest, FoldersThatAreMissingAreMade)
     ASSERT_TRUE(QDir(files.path(u"pictures"_s)).removeRecursively());
     ASSERT_TRUE(QDir(files.path(u"templates"_s)).removeRecursively());
     ASSERT_TRUE(QFile::remove(files.path(u"shop.xml"_s)));
-    EXPECT_TRUE(packer.Restore(ReferencePath(u"current"_s)));
-    EXPECT_EQ(onDisk(), referenceShop);
+    EXPECT_TRUE(packer.Restore(referencePath(u"current"_s)));
+    EXPECT_EQ(onDisk(), restoredShop);
 }
 
 TEST_F(RestoreTest, AShopFileThatCannotBeRemovedStopsItWhenTheFoldersAreEmpty)
@@ -201,13 +201,13 @@ TEST_F(RestoreTest, AShopFileThatCannotBeRemovedStopsItWhenTheFoldersAreEmpty)
     QDir().mkpath(files.path(u"shop.xml"_s));
     WriteFile(files.path(u"shop.xml/inside"_s), "x");
     prompts.expectMessage(u"Restoring canceled"_s, u"Can't remove shop.xml"_s, PromptIcon::Critical);
-    EXPECT_FALSE(packer.Restore(ReferencePath(u"older"_s)));
+    EXPECT_FALSE(packer.Restore(referencePath(u"older"_s)));
     QMap<QString, QByteArray> expected = {
         {u"shop.xml/inside"_s, "x"}, {u"templates/old.html"_s, "old page"}, {u"countries.txt"_s, "Norway"}};
     EXPECT_EQ(onDisk(), expected);
 
     prompts.expectMessage(u"Restoring canceled"_s, u"Can't remove shop.xml"_s, PromptIcon::Critical);
-    EXPECT_FALSE(packer.Restore(ReferencePath(u"current"_s)));
+    EXPECT_FALSE(packer.Restore(referencePath(u"current"_s)));
     expected.remove(u"templates/old.html"_s);
     EXPECT_EQ(onDisk(), expected);
     EXPECT_TRUE(QDir(files.path(u"pictures"_s)).exists());
@@ -216,8 +216,8 @@ TEST_F(RestoreTest, AShopFileThatCannotBeRemovedStopsItWhenTheFoldersAreEmpty)
 TEST_F(RestoreTest, TheContainerStaysDeflated)
 {
     // So that the memory taken is that of the packed file, not that of the whole shop.
-    EXPECT_TRUE(packer.Restore(ReferencePath(u"current"_s)));
+    EXPECT_TRUE(packer.Restore(referencePath(u"current"_s)));
     ASSERT_EQ(packer.Count(), 3);
     EXPECT_TRUE(packer.Item(1).Compressed());
-    EXPECT_EQ(packer.Item(1).ToString(), QString::fromLatin1(ReferenceShop()));
+    EXPECT_EQ(packer.Item(1).ToString(), QString::fromLatin1(referenceShop()));
 }

@@ -14,20 +14,20 @@ using RoundTripTest = BackUpTest;
 TEST_F(RoundTripTest, AShopWith2000PicturesComesBackByteForByte)
 {
     QMap<QString, QByteArray> shop;
-    shop.insert(u"shop.xml"_s, ReferenceShop() + QByteArray(300000, ' '));
+    shop.insert(u"shop.xml"_s, referenceShop() + QByteArray(300000, ' '));
     for (int i = 0; i < 2000; ++i) {
         // Most pictures do not deflate, some do; lengths from 1 byte on, on both sides of a block of zlib's.
         const qsizetype size = i == 0 ? 1 : i * 37 % 20011;
         const QString name = u"pictures/picture %1 \u00FC.png"_s.arg(i);
-        shop.insert(name, i % 10 == 0 ? QByteArray(size + 1, 'p') : Noise(size + 1, static_cast<quint32>(i)));
+        shop.insert(name, i % 10 == 0 ? QByteArray(size + 1, 'p') : noise(size + 1, static_cast<quint32>(i)));
     }
     for (int i = 0; i < 12; ++i) {
-        shop.insert(u"templates/page%1.html"_s.arg(i), ReferencePage() + QByteArray::number(i));
+        shop.insert(u"templates/page%1.html"_s.arg(i), referencePage() + QByteArray::number(i));
     }
     for (auto file = shop.cbegin(); file != shop.cend(); ++file) {
         WriteFile(files.path(file.key()), file.value());
     }
-    ASSERT_EQ(FilesBelow(files.folder().path()), shop);
+    ASSERT_EQ(filesBelow(files.folder().path()), shop);
 
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     QString name = u"big"_s;
@@ -36,7 +36,7 @@ TEST_F(RoundTripTest, AShopWith2000PicturesComesBackByteForByte)
     const QString elsewhere = files.path(u"big.kvb"_s);
     ASSERT_TRUE(QFile::rename(files.path(u"backups/big.kvb"_s), elsewhere));
     QDir().rmdir(files.path(u"backups"_s));
-    const QByteArray packed = FileBytes(elsewhere);
+    const QByteArray packed = fileBytes(elsewhere);
 
     // The shop goes on living: files change, go and come.
     WriteFile(files.path(u"shop.xml"_s), "changed");
@@ -49,10 +49,10 @@ TEST_F(RoundTripTest, AShopWith2000PicturesComesBackByteForByte)
 
     clsPacker restorer(files.folder(), prompts, u"1.2.0"_s);
     ASSERT_TRUE(restorer.Restore(elsewhere));
-    EXPECT_EQ(FileBytes(elsewhere), packed);
+    EXPECT_EQ(fileBytes(elsewhere), packed);
     ASSERT_TRUE(QFile::remove(elsewhere));
     // Not EXPECT_EQ, which would print the shop.
-    const QMap<QString, QByteArray> restored = FilesBelow(files.folder().path());
+    const QMap<QString, QByteArray> restored = filesBelow(files.folder().path());
     EXPECT_EQ(restored.keys(), shop.keys());
     EXPECT_TRUE(restored == shop);
 }

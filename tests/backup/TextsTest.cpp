@@ -31,14 +31,14 @@ protected:
         RecordingPrompts scene;
         scene.answerText(u"Backing up"_s, u"Enter file name"_s, name);
         expect(boxes, scene);
-        BackUpFromMenu({folder, scene, u"The program"_s});
+        backUpFromMenu({folder, scene, u"The program"_s});
     }
     bool restore(const QString& file, const std::vector<Box>& boxes)
     {
         RecordingPrompts scene;
         scene.answerFile(file);
         expect(boxes, scene);
-        return RestoreFromMenu({folder, scene, u"The program"_s});
+        return restoreFromMenu({folder, scene, u"The program"_s});
     }
     void makeFreshShop()
     {
@@ -103,7 +103,7 @@ TEST_F(BackUpTexts, OfARestoreAreTheSystemsOwn)
 {
     backUp(u"may"_s, {completed});
     const QString packed = files.path(u"backups/may.kvb"_s);
-    const QByteArray bytes = FileBytes(packed);
+    const QByteArray bytes = fileBytes(packed);
     QByteArray newer = bytes;
     newer[10] = '9'; // the first digit of the version
     const Box failed{u"Error"_s, u"Restore backup is failed"_s, PromptIcon::Critical};
@@ -145,7 +145,7 @@ TEST_F(BackUpTexts, OfARestoreAreTheSystemsOwn)
         const bool works = row.boxes.size() == 1;
         EXPECT_EQ(restore(packed, row.boxes), works);
         if (!row.shopStays) {
-            EXPECT_EQ(FileBytes(shop), works ? ReferenceShop() : "changed");
+            EXPECT_EQ(fileBytes(shop), works ? referenceShop() : "changed");
         }
     }
 }

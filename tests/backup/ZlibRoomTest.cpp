@@ -50,7 +50,7 @@ protected:
 
     clsFileData& loaded(qsizetype size)
     {
-        WriteFile(files.path(u"shop.xml"_s), Noise(size, 1));
+        WriteFile(files.path(u"shop.xml"_s), noise(size, 1));
         packer.Clear();
         EXPECT_EQ(packer.AddFile(u"shop.xml"_s), AddFileResult::Added);
         return packer.Item(1);
@@ -123,5 +123,5 @@ TEST_F(ZlibRoomTest, WhatDoesNotFitIsStoredRawInAFileWhoseHeaderSaysDeflated)
     EXPECT_EQ(packer.AddFile(u"templates\\main.html"_s), AddFileResult::Added);
     EXPECT_EQ(packer.Item(2).ErrorCode(), -5);
     ASSERT_TRUE(packer.WriteFile(files.path(u"out"_s)));
-    EXPECT_EQ(FileBytes(files.path(u"out"_s)), ReferenceBytes(u"raw_entry_among_deflated"_s));
+    EXPECT_EQ(fileBytes(files.path(u"out"_s)), referenceBytes(u"raw_entry_among_deflated"_s));
 }

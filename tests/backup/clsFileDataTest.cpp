@@ -61,7 +61,7 @@ protected:
         QFile::remove(path);
         PackedStream stream(path, PackedStream::Mode::Write);
         EXPECT_TRUE(entry.WriteToPackedFile(stream));
-        return FileBytes(path);
+        return fileBytes(path);
     }
 
     QByteArray putOut()
@@ -70,7 +70,7 @@ protected:
         QFile::remove(path);
         PackedStream stream(path, PackedStream::Mode::Write);
         entry.PutDataToFile(stream);
-        return FileBytes(path);
+        return fileBytes(path);
     }
 
     clsFileData entry{files.folder()};
@@ -132,14 +132,14 @@ TEST_F(FileDataTest, SizesForPeopleAreBytesUpTo1023AndKilobytesFrom1024)
         {1, u"1 byte"_s},
         {2, u"2 bytes"_s},
         {1023, u"1023 bytes"_s},
-        {1024, Localised(u"1. Kb"_s) + u"."_s},
-        {1074, Localised(u"1. Kb"_s) + u"."_s},  // 1.0488
-        {1076, Localised(u"1.1 Kb"_s) + u"."_s}, // 1.0508
-        {1280, Localised(u"1.3 Kb"_s) + u"."_s}, // 1.25, a half goes up
-        {1536, Localised(u"1.5 Kb"_s) + u"."_s},
-        {2047, Localised(u"2. Kb"_s) + u"."_s},
-        {1048576, Localised(u"1024. Kb"_s) + u"."_s},
-        {2147483647, Localised(u"2097152. Kb"_s) + u"."_s},
+        {1024, localised(u"1. Kb"_s) + u"."_s},
+        {1074, localised(u"1. Kb"_s) + u"."_s},  // 1.0488
+        {1076, localised(u"1.1 Kb"_s) + u"."_s}, // 1.0508
+        {1280, localised(u"1.3 Kb"_s) + u"."_s}, // 1.25, a half goes up
+        {1536, localised(u"1.5 Kb"_s) + u"."_s},
+        {2047, localised(u"2. Kb"_s) + u"."_s},
+        {1048576, localised(u"1024. Kb"_s) + u"."_s},
+        {2147483647, localised(u"2097152. Kb"_s) + u"."_s},
     };
     for (const auto& expected : cases) {
         // A deflated entry tells any size it likes.
@@ -154,7 +154,7 @@ TEST_F(FileDataTest, TheDeflatedSizeOfAStoredEntryIsNotAvailable)
     EXPECT_EQ(entry.SizeString(), u"5 bytes"_s);
     EXPECT_EQ(entry.CompressedSizeString(), u"n/a"_s);
     ASSERT_TRUE(readFrom(entryBytes("a", -1, 5, 1536, QByteArray(1536, 'x'))));
-    EXPECT_EQ(entry.CompressedSizeString(), QString(Localised(u"1.5 Kb"_s) + u"."_s));
+    EXPECT_EQ(entry.CompressedSizeString(), QString(localised(u"1.5 Kb"_s) + u"."_s));
 }
 
 TEST_F(FileDataTest, LoadReadsAFileOfTheApplicationFolder)
@@ -170,7 +170,7 @@ TEST_F(FileDataTest, LoadReadsAFileOfTheApplicationFolder)
 
 TEST_F(FileDataTest, LoadDeflatesWhenAskedTo)
 {
-    const QByteArray plain = ReferencePage();
+    const QByteArray plain = referencePage();
     WriteFile(files.path(u"shop.xml"_s), plain);
     ASSERT_TRUE(entry.Load(u"shop.xml"_s, true));
     EXPECT_TRUE(entry.Compressed());
@@ -200,7 +200,7 @@ TEST_F(FileDataTest, AFileTooLargeForItsSizeFieldCannotBeLoaded)
 
 TEST_F(FileDataTest, AnIncompressibleFileIsStoredDeflatedAndLarger)
 {
-    const QByteArray plain = Noise(1000, 1);
+    const QByteArray plain = noise(1000, 1);
     WriteFile(files.path(u"noise"_s), plain);
     ASSERT_TRUE(entry.Load(u"noise"_s, true));
     EXPECT_TRUE(entry.Compressed());
@@ -211,7 +211,7 @@ TEST_F(FileDataTest, AnIncompressibleFileIsStoredDeflatedAndLarger)
 
 TEST_F(FileDataTest, ChangingCompressedDeflatesAndInflatesTheBytesInMemory)
 {
-    const QByteArray plain = ReferencePage();
+    const QByteArray plain = referencePage();
     WriteFile(files.path(u"a"_s), plain);
     ASSERT_TRUE(entry.Load(u"a"_s, false));
     entry.setCompressed(true);
@@ -273,7 +273,7 @@ TEST_F(FileDataTest, ASizeThatIsTooLargeDoesNoHarm)
 
 TEST_F(FileDataTest, WhatCannotBeInflatedStaysAsItIs)
 {
-    const QByteArray stream = deflated(ReferencePage());
+    const QByteArray stream = deflated(referencePage());
     QByteArray damaged = stream;
     damaged[damaged.size() - 1] ^= 1; // the checksum at the end
     const struct
@@ -302,7 +302,7 @@ TEST_F(FileDataTest, WhatCannotBeInflatedStaysAsItIs)
 
 TEST_F(FileDataTest, PuttingOutInflatesTheEntryItself)
 {
-    const QByteArray plain = ReferencePage();
+    const QByteArray plain = referencePage();
     ASSERT_TRUE(readFrom(deflatedEntry("a", plain, 1000)));
     EXPECT_EQ(putOut(), plain);
     EXPECT_FALSE(entry.Compressed());
@@ -321,7 +321,7 @@ TEST_F(FileDataTest, DataIsPutAtTheFilesPosition)
         stream.write("ab");
         entry.PutDataToFile(stream);
     }
-    EXPECT_EQ(FileBytes(path), "abplain789");
+    EXPECT_EQ(fileBytes(path), "abplain789");
 }
 
 TEST_F(FileDataTest, TheTextOfAnEntryHasOneCharacterForEachByte)
@@ -336,9 +336,9 @@ TEST_F(FileDataTest, TheTextOfAnEntryHasOneCharacterForEachByte)
 
 TEST_F(FileDataTest, AnEntryThatCannotBeReadChangesNothing)
 {
-    const QByteArray good = deflatedEntry("name", ReferencePage(), 900);
+    const QByteArray good = deflatedEntry("name", referencePage(), 900);
     ASSERT_TRUE(readFrom(good));
-    const QByteArray next = deflatedEntry("other", ReferencePicture(), 768);
+    const QByteArray next = deflatedEntry("other", referencePicture(), 768);
     for (qsizetype size = 0; size < next.size(); ++size) {
         EXPECT_FALSE(readFrom(next.first(size))) << size;
         EXPECT_EQ(written(), good);
@@ -359,8 +359,8 @@ TEST_F(FileDataTest, APathTooLongForItsLengthFieldCannotBeWritten)
     PackedStream stream(path, PackedStream::Mode::Write);
     entry.setKey(QString(65535, u'x'));
     EXPECT_TRUE(entry.WriteToPackedFile(stream));
-    EXPECT_EQ(FileBytes(path).size(), 65535 + 12);
+    EXPECT_EQ(fileBytes(path).size(), 65535 + 12);
     entry.setKey(QString(32768, u'\u00FC')); // 65,536 bytes
     EXPECT_FALSE(entry.WriteToPackedFile(stream));
-    EXPECT_EQ(FileBytes(path).size(), 65535 + 12);
+    EXPECT_EQ(fileBytes(path).size(), 65535 + 12);
 }

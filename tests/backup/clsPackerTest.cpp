@@ -35,10 +35,10 @@ TEST_F(PackerTest, EntriesAreFoundByPositionAndByKeyWithoutRegardToCase)
     EXPECT_EQ(&packer.Item(1), &first);
     EXPECT_EQ(&packer.Item(u"PICTURES\\CUP.PNG"_s), &first);
     EXPECT_EQ(&packer.Item(2), &second);
-    EXPECT_EQ(ErrorOf([&] { packer.Add(u"SHOP.XML"_s); }), 457);
-    EXPECT_EQ(ErrorOf([&] { packer.Item(0); }), 9);
-    EXPECT_EQ(ErrorOf([&] { packer.Item(3); }), 9);
-    EXPECT_EQ(ErrorOf([&] { packer.Item(u"gone"_s); }), 5);
+    EXPECT_EQ(errorOf([&] { packer.Add(u"SHOP.XML"_s); }), 457);
+    EXPECT_EQ(errorOf([&] { packer.Item(0); }), 9);
+    EXPECT_EQ(errorOf([&] { packer.Item(3); }), 9);
+    EXPECT_EQ(errorOf([&] { packer.Item(u"gone"_s); }), 5);
     EXPECT_EQ(packer.Count(), 2);
     EXPECT_EQ(takeEvents(), QStringList());
 }
@@ -53,15 +53,15 @@ TEST_F(PackerTest, RemovingTakesOneEntryOut)
     packer.Remove(1);
     EXPECT_EQ(packer.Count(), 1);
     EXPECT_EQ(packer.Item(1).Key(), u"c"_s);
-    EXPECT_EQ(ErrorOf([&] { packer.Remove(u"a"_s); }), 5);
-    EXPECT_EQ(ErrorOf([&] { packer.Remove(2); }), 9);
+    EXPECT_EQ(errorOf([&] { packer.Remove(u"a"_s); }), 5);
+    EXPECT_EQ(errorOf([&] { packer.Remove(2); }), 9);
 }
 
 TEST_F(PackerTest, WhatChangesTheContentsSetsChanged)
 {
     useReferenceShop();
     const auto changedBy = [this](const auto& work) {
-        EXPECT_EQ(packer.ReadFile(ReferencePath(u"current"_s)), PackedStatus::SameVersion);
+        EXPECT_EQ(packer.ReadFile(referencePath(u"current"_s)), PackedStatus::SameVersion);
         EXPECT_FALSE(packer.Changed());
         work();
         return packer.Changed();
@@ -121,7 +121,7 @@ TEST_F(PackerTest, AddingAPathThatIsPresentLeavesTheFirstEntryInPlace)
     EXPECT_EQ(takeEvents(), QStringList{u"Working(True)"_s});
     EXPECT_EQ(packer.AddFile(u"Shop.XML"_s), AddFileResult::AlreadyPresent);
     EXPECT_EQ(packer.Count(), 1);
-    EXPECT_EQ(packer.Item(1).ToString(), QString::fromLatin1(ReferenceShop()));
+    EXPECT_EQ(packer.Item(1).ToString(), QString::fromLatin1(referenceShop()));
     EXPECT_EQ(packer.Item(1).FileSpec(), u"shop.xml"_s);
 }
 
@@ -167,12 +167,12 @@ TEST_F(PackerTest, ChangingCompressedChangesEveryEntry)
     packer.setCompressed(false);
     EXPECT_EQ(takeEvents(), workingOnly);
     EXPECT_FALSE(packer.Item(1).Compressed() || packer.Item(2).Compressed());
-    EXPECT_EQ(packer.Item(2).Size(), ReferencePage().size());
+    EXPECT_EQ(packer.Item(2).Size(), referencePage().size());
 }
 
 TEST_F(PackerTest, ThePackersValueChangesAlsoWhenAnEntryCannotFollow)
 {
-    packer.ReadFile(ReferencePath(u"not_inflatable"_s));
+    packer.ReadFile(referencePath(u"not_inflatable"_s));
     packer.setCompressed(false);
     EXPECT_FALSE(packer.Compressed());
     EXPECT_TRUE(packer.Item(1).Compressed());
@@ -220,7 +220,7 @@ TEST_F(PackerTest, AnEmptyPathMeansTheStoredOneWhichAWriteDoesNotChange)
     EXPECT_EQ(packer.FileSpec, files.path(u"stored.kvb"_s));
     EXPECT_FALSE(QFile::exists(files.path(u"stored.kvb"_s)));
     EXPECT_TRUE(packer.WriteFile());
-    EXPECT_EQ(FileBytes(files.path(u"stored.kvb"_s)), FileBytes(files.path(u"other.kvb"_s)));
+    EXPECT_EQ(fileBytes(files.path(u"stored.kvb"_s)), fileBytes(files.path(u"other.kvb"_s)));
 
     clsPacker reader(files.folder(), prompts, u"1.2.0"_s);
     reader.FileSpec = files.path(u"other.kvb"_s);
@@ -275,7 +275,7 @@ TEST_F(PackerTest, TheVersionIsTheProgramsUnlessToldOtherwise)
     clsPacker own(files.folder(), prompts);
     own.AddFile(u"shop.xml"_s);
     ASSERT_TRUE(own.WriteFile(files.path(u"out.kvb"_s)));
-    const QByteArray bytes = FileBytes(files.path(u"out.kvb"_s));
-    const QByteArray version = ProgramVersion().toLatin1();
+    const QByteArray bytes = fileBytes(files.path(u"out.kvb"_s));
+    const QByteArray version = programVersion().toLatin1();
     EXPECT_EQ(bytes.mid(8, 2 + version.size()), QByteArray(1, static_cast<char>(version.size())) + '\0' + version);
 }

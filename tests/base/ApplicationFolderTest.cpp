@@ -42,6 +42,6 @@ TEST(ApplicationFolder, APictureNameThatLeadsOutIsLikeAFileThatIsNotThere)
                              QString(u"a.png"_s + QChar(0)),
                              u"a/"_s};
     for (const QString& name : names) {
-        EXPECT_EQ(ErrorOf([&] { folder.pictureFile(name); }), 53) << name.toStdString();
+        EXPECT_EQ(errorOf([&] { folder.pictureFile(name); }), 53) << name.toStdString();
     }
 }

@@ -18,9 +18,9 @@ bool isGerman()
 
 TEST(Dates, LocalTextIsTheShortFormWithAYearOfFourDigits)
 {
-    EXPECT_EQ(LocalDateText(QDate(2004, 2, 3)), isGerman() ? u"03.02.2004"_s : u"2/3/2004"_s);
-    EXPECT_EQ(LocalDateText(QDate(1900, 12, 31)), isGerman() ? u"31.12.1900"_s : u"12/31/1900"_s);
-    EXPECT_EQ(LocalDateText(QDate(5100, 1, 1)), isGerman() ? u"01.01.5100"_s : u"1/1/5100"_s);
+    EXPECT_EQ(localDateText(QDate(2004, 2, 3)), isGerman() ? u"03.02.2004"_s : u"2/3/2004"_s);
+    EXPECT_EQ(localDateText(QDate(1900, 12, 31)), isGerman() ? u"31.12.1900"_s : u"12/31/1900"_s);
+    EXPECT_EQ(localDateText(QDate(5100, 1, 1)), isGerman() ? u"01.01.5100"_s : u"1/1/5100"_s);
 }
 
 TEST(Dates, LocalTextReadsBackAsTheSameDateInEveryLocale)
@@ -34,9 +34,9 @@ TEST(Dates, LocalTextReadsBackAsTheSameDateInEveryLocale)
     for (const QLocale& locale : locales) {
         QLocale::setDefault(locale);
         for (const QDate& date : dates) {
-            const QString text = LocalDateText(date);
+            const QString text = localDateText(date);
             QDate back;
-            EXPECT_EQ(ErrorOf([&] { back = DateFromLocalText(text); }), 0) << locale.name().toStdString();
+            EXPECT_EQ(errorOf([&] { back = dateFromLocalText(text); }), 0) << locale.name().toStdString();
             EXPECT_EQ(back, date) << locale.name().toStdString() << ' ' << text.toStdString();
         }
     }
@@ -47,7 +47,7 @@ TEST(Dates, TheLocaleWithoutACountryWritesItsDatesInNumbers)
 {
     const QLocale before;
     QLocale::setDefault(QLocale::c());
-    EXPECT_EQ(LocalDateText(QDate(2004, 2, 3)), u"2004-02-03"_s);
+    EXPECT_EQ(localDateText(QDate(2004, 2, 3)), u"2004-02-03"_s);
     QLocale::setDefault(before);
 }
 
@@ -62,20 +62,20 @@ TEST(Dates, WhatIsNoDateOfTheLocalFormIsATypeMismatch)
                                 u"03.02.0099"_s, u"00.02.2004"_s,  u"03.02.20045"_s, u"29.02.2003"_s, u"03..2004"_s,
                                 u"-3.02.2004"_s, u"03.02.-004"_s,  u"2004.02.03"_s,  u"03.02.2004x"_s};
     for (const QString& text : isGerman() ? german : english) {
-        EXPECT_EQ(ErrorOf([&] { DateFromLocalText(text); }), 13) << text.toStdString();
+        EXPECT_EQ(errorOf([&] { dateFromLocalText(text); }), 13) << text.toStdString();
     }
 }
 
 TEST(Dates, ALeapDayIsADate)
 {
-    EXPECT_EQ(DateFromLocalText(isGerman() ? u"29.02.2004"_s : u"2/29/2004"_s), QDate(2004, 2, 29));
+    EXPECT_EQ(dateFromLocalText(isGerman() ? u"29.02.2004"_s : u"2/29/2004"_s), QDate(2004, 2, 29));
 }
 
 TEST(Dates, TheShopFileHasDayMonthAndYearBetweenPoints)
 {
-    EXPECT_EQ(ShopFileDateText(QDate(2004, 2, 3)), u"03.02.2004"_s);
-    EXPECT_EQ(ShopFileDateText(QDate(100, 11, 30)), u"30.11.0100"_s);
-    EXPECT_EQ(ShopFileDateText(QDate(5100, 1, 1)), u"01.01.5100"_s);
+    EXPECT_EQ(shopFileDateText(QDate(2004, 2, 3)), u"03.02.2004"_s);
+    EXPECT_EQ(shopFileDateText(QDate(100, 11, 30)), u"30.11.0100"_s);
+    EXPECT_EQ(shopFileDateText(QDate(5100, 1, 1)), u"01.01.5100"_s);
 }
 
 TEST(Clock, TheSystemsClockTellsTheCurrentDay)

@@ -31,7 +31,7 @@ TEST(DelimitedFields, EndAtCommasAndLineEnds)
         {u"\u00D6sterreich"_s, {u"\u00D6sterreich"_s}},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(DelimitedFields(row.text), row.fields) << row.text.toStdString();
+        EXPECT_EQ(delimitedFields(row.text), row.fields) << row.text.toStdString();
     }
 }
 

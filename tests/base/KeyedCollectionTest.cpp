@@ -50,34 +50,34 @@ TEST(KeyedCollection, APositionThatIsNotThereIsOutOfRange)
 {
     KeyedCollection<QString> collection = letters();
     for (const int index : {0, -1, 5, std::numeric_limits<int>::max(), std::numeric_limits<int>::min()}) {
-        EXPECT_EQ(ErrorOf([&] { collection.Item(index); }), 9) << index;
-        EXPECT_EQ(ErrorOf([&] { std::as_const(collection).Item(index); }), 9) << index;
-        EXPECT_EQ(ErrorOf([&] { collection.Remove(index); }), 9) << index;
+        EXPECT_EQ(errorOf([&] { collection.Item(index); }), 9) << index;
+        EXPECT_EQ(errorOf([&] { std::as_const(collection).Item(index); }), 9) << index;
+        EXPECT_EQ(errorOf([&] { collection.Remove(index); }), 9) << index;
     }
-    EXPECT_EQ(ErrorOf([&] { KeyedCollection<int>().Item(1); }), 9);
+    EXPECT_EQ(errorOf([&] { KeyedCollection<int>().Item(1); }), 9);
 }
 
 TEST(KeyedCollection, AKeyThatIsNotThereIsAnInvalidArgument)
 {
     KeyedCollection<QString> collection = letters();
     for (const QString& key : {u"x"_s, u""_s, u"ID4"_s, u"b"_s}) {
-        EXPECT_EQ(ErrorOf([&] { collection.Item(key); }), 5);
-        EXPECT_EQ(ErrorOf([&] { collection.Remove(key); }), 5);
-        EXPECT_FALSE(collection.HasKey(key));
-        EXPECT_EQ(collection.IndexOf(key), 0);
+        EXPECT_EQ(errorOf([&] { collection.Item(key); }), 5);
+        EXPECT_EQ(errorOf([&] { collection.Remove(key); }), 5);
+        EXPECT_FALSE(collection.hasKey(key));
+        EXPECT_EQ(collection.indexOf(key), 0);
     }
-    EXPECT_FALSE(KeyedCollection<int>().HasKey(u"a"_s));
+    EXPECT_FALSE(KeyedCollection<int>().hasKey(u"a"_s));
 }
 
 TEST(KeyedCollection, AKeyAddedTwiceIsAnErrorAndChangesNothing)
 {
     KeyedCollection<QString> collection = letters();
     for (const QString& key : {u"ka"_s, u"KA"_s, u"id3"_s}) {
-        EXPECT_EQ(ErrorOf([&] { collection.Add(u"new"_s, key); }), 457);
+        EXPECT_EQ(errorOf([&] { collection.Add(u"new"_s, key); }), 457);
     }
     EXPECT_EQ(itemsOf(collection), itemsOf(letters()));
     collection.Add(u"e"_s, u"ke"_s);
-    EXPECT_EQ(collection.IndexOf(u"ke"_s), 5);
+    EXPECT_EQ(collection.indexOf(u"ke"_s), 5);
 }
 
 TEST(KeyedCollection, KeysAreComparedWithoutRegardToCase)
@@ -106,7 +106,7 @@ TEST(KeyedCollection, KeysAreComparedWithoutRegardToCase)
                 collection.Add(i, u"other"_s + QString::number(i));
             }
             collection.Add(-1, one.key);
-            ASSERT_TRUE(collection.HasKey(one.other)) << one.key.toStdString();
+            ASSERT_TRUE(collection.hasKey(one.other)) << one.key.toStdString();
             EXPECT_EQ(collection.Item(one.other), -1);
             EXPECT_EQ(one.key.compare(one.other, Qt::CaseInsensitive), 0);
         }
@@ -140,7 +140,7 @@ TEST(KeyedCollection, KeysThatLookAlikeAreDifferentKeys)
                             u"strasse"_s};
     KeyedCollection<QString> collection;
     for (const QString& key : keys) {
-        EXPECT_EQ(ErrorOf([&] { collection.Add(key, key); }), 0) << key.toStdString();
+        EXPECT_EQ(errorOf([&] { collection.Add(key, key); }), 0) << key.toStdString();
     }
     for (const QString& key : keys) {
         EXPECT_EQ(collection.Item(key), key);
@@ -152,7 +152,7 @@ TEST(KeyedCollection, AnyLetterMeetsItsOtherCaseAsQStringComparesThem)
     KeyedCollection<QString> collection;
     for (int unit = 1; unit < 0xD800; ++unit) {
         const QString key{QChar(static_cast<char16_t>(unit))};
-        const QString found = collection.HasKey(key) ? collection.Item(key) : QString();
+        const QString found = collection.hasKey(key) ? collection.Item(key) : QString();
         if (found.isNull()) {
             collection.Add(key, key);
         } else {
@@ -160,7 +160,7 @@ TEST(KeyedCollection, AnyLetterMeetsItsOtherCaseAsQStringComparesThem)
         }
         for (const QString& other : {key.toUpper(), key.toLower()}) {
             if (other.compare(key, Qt::CaseInsensitive) == 0) {
-                ASSERT_TRUE(collection.HasKey(other)) << unit;
+                ASSERT_TRUE(collection.hasKey(other)) << unit;
             }
         }
     }
@@ -171,14 +171,14 @@ TEST(KeyedCollection, RemovingMovesTheItemsBehindUp)
     KeyedCollection<QString> collection = letters();
     collection.Remove(2);
     EXPECT_EQ(itemsOf(collection), (QStringList{u"a"_s, u"c"_s, u"d"_s}));
-    EXPECT_EQ(collection.IndexOf(u"ID3"_s), 2);
-    EXPECT_EQ(collection.IndexOf(u"kd"_s), 3);
+    EXPECT_EQ(collection.indexOf(u"ID3"_s), 2);
+    EXPECT_EQ(collection.indexOf(u"kd"_s), 3);
     collection.Remove(u"KA"_s);
     EXPECT_EQ(itemsOf(collection), (QStringList{u"c"_s, u"d"_s}));
-    EXPECT_FALSE(collection.HasKey(u"ka"_s));
+    EXPECT_FALSE(collection.hasKey(u"ka"_s));
     EXPECT_EQ(collection.Item(u"kd"_s), u"d"_s);
     collection.Add(u"again"_s, u"ka"_s);
-    EXPECT_EQ(collection.IndexOf(u"ka"_s), 3);
+    EXPECT_EQ(collection.indexOf(u"ka"_s), 3);
 }
 
 TEST(KeyedCollection, ClearForgetsItemsAndKeys)
@@ -186,9 +186,9 @@ TEST(KeyedCollection, ClearForgetsItemsAndKeys)
     KeyedCollection<QString> collection = letters();
     collection.Clear();
     EXPECT_TRUE(collection.isEmpty());
-    EXPECT_FALSE(collection.HasKey(u"ka"_s));
+    EXPECT_FALSE(collection.hasKey(u"ka"_s));
     collection.Add(u"new"_s, u"ka"_s);
-    EXPECT_EQ(collection.IndexOf(u"ka"_s), 1);
+    EXPECT_EQ(collection.indexOf(u"ka"_s), 1);
 }
 
 TEST(KeyedCollection, ACopyIsIndependentOfItsSource)
@@ -198,14 +198,14 @@ TEST(KeyedCollection, ACopyIsIndependentOfItsSource)
     copy.Remove(u"ka"_s);
     copy.Add(u"e"_s, u"ke"_s);
     EXPECT_EQ(itemsOf(source), itemsOf(letters()));
-    EXPECT_TRUE(source.HasKey(u"ka"_s));
-    EXPECT_FALSE(source.HasKey(u"ke"_s));
+    EXPECT_TRUE(source.hasKey(u"ka"_s));
+    EXPECT_FALSE(source.hasKey(u"ke"_s));
     source = copy;
     EXPECT_EQ(source.Item(u"ke"_s), u"e"_s);
     const KeyedCollection<QString>& itself = source;
     source = itself;
     EXPECT_EQ(source.Count(), 4);
-    EXPECT_EQ(source.IndexOf(u"ke"_s), 4);
+    EXPECT_EQ(source.indexOf(u"ke"_s), 4);
 }
 
 TEST(KeyedCollection, AMovedCollectionKeepsItsKeys)
@@ -216,7 +216,7 @@ TEST(KeyedCollection, AMovedCollectionKeepsItsKeys)
     KeyedCollection<QString> assigned;
     assigned.Add(u"old"_s, u"old"_s);
     assigned = std::move(moved);
-    EXPECT_FALSE(assigned.HasKey(u"old"_s));
+    EXPECT_FALSE(assigned.hasKey(u"old"_s));
     EXPECT_EQ(assigned.Item(u"id3"_s), u"c"_s);
 }
 
@@ -243,7 +243,7 @@ TEST(KeyedCollection, BehavesAsAListAndAMapOfFoldedKeysWould)
             at = list[i].first.compare(key, Qt::CaseInsensitive) == 0 ? i : at;
         }
         const QString asked = random() % 2 == 0 ? key : key.toLower();
-        ASSERT_EQ(collection.IndexOf(asked), at + 1);
+        ASSERT_EQ(collection.indexOf(asked), at + 1);
         if (random() % 3 == 0 && !list.isEmpty()) {
             const int victim = static_cast<int>(random() % static_cast<unsigned int>(list.size()));
             list.removeAt(victim);
@@ -252,7 +252,7 @@ TEST(KeyedCollection, BehavesAsAListAndAMapOfFoldedKeysWould)
             list.append({QString(), step});
             collection.Add(step);
         } else if (at >= 0) {
-            ASSERT_EQ(ErrorOf([&] { collection.Add(step, asked); }), 457);
+            ASSERT_EQ(errorOf([&] { collection.Add(step, asked); }), 457);
             ASSERT_EQ(collection.Item(asked), list[at].second);
         } else {
             list.append({key, step});

@@ -29,9 +29,9 @@ bool worksWithSmallBlocks()
 TEST(LargePages, ChangeNothingOfABlock)
 {
     std::vector<char> block(static_cast<std::size_t>(9 * megabyte), 'x');
-    UseLargePages(block.data(), static_cast<qsizetype>(block.size()));
-    UseLargePages(block.data(), 1);
-    UseLargePages(block.data(), 0);
+    useLargePages(block.data(), static_cast<qsizetype>(block.size()));
+    useLargePages(block.data(), 1);
+    useLargePages(block.data(), 0);
     EXPECT_EQ(std::count(block.begin(), block.end(), 'x'), 9 * megabyte);
 }
 

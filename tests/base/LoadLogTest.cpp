@@ -12,9 +12,9 @@ TEST(LoadLog, EveryMessageIsAQuotedLine)
     const TemporaryShopFolder shop;
     LoadLog log(shop.folder());
     log.WriteLoadLog(u"Countries loaded"_s);
-    EXPECT_EQ(FileBytes(shop.path(u"load.log"_s)), "\"Countries loaded\"\r\n");
+    EXPECT_EQ(fileBytes(shop.path(u"load.log"_s)), "\"Countries loaded\"\r\n");
     log.WriteLoadLog(u"MainForm loaded"_s);
-    EXPECT_EQ(FileBytes(shop.path(u"load.log"_s)), "\"Countries loaded\"\r\n\"MainForm loaded\"\r\n");
+    EXPECT_EQ(fileBytes(shop.path(u"load.log"_s)), "\"Countries loaded\"\r\n\"MainForm loaded\"\r\n");
 }
 
 TEST(LoadLog, AMessageOfBlanksStandsInQuotesToo)
@@ -23,14 +23,14 @@ TEST(LoadLog, AMessageOfBlanksStandsInQuotesToo)
     LoadLog log(shop.folder());
     log.WriteLoadLog(u"   "_s);
     log.WriteLoadLog(QString());
-    EXPECT_EQ(FileBytes(shop.path(u"load.log"_s)), "\"   \"\r\n\"\"\r\n");
+    EXPECT_EQ(fileBytes(shop.path(u"load.log"_s)), "\"   \"\r\n\"\"\r\n");
 }
 
 TEST(LoadLog, AMessageIsWrittenInUtf8)
 {
     const TemporaryShopFolder shop;
     LoadLog(shop.folder()).WriteLoadLog(u"M\u00FCll \"\u20AC\""_s);
-    EXPECT_EQ(FileBytes(shop.path(u"load.log"_s)), "\"M\xC3\xBCll \"\xE2\x82\xAC\"\"\r\n");
+    EXPECT_EQ(fileBytes(shop.path(u"load.log"_s)), "\"M\xC3\xBCll \"\xE2\x82\xAC\"\"\r\n");
 }
 
 TEST(LoadLog, AResetForgetsTheLastSession)
@@ -42,7 +42,7 @@ TEST(LoadLog, AResetForgetsTheLastSession)
     log.reset();
     EXPECT_FALSE(QFile::exists(shop.path(u"load.log"_s)));
     log.WriteLoadLog(u"second"_s);
-    EXPECT_EQ(FileBytes(shop.path(u"load.log"_s)), "\"second\"\r\n");
+    EXPECT_EQ(fileBytes(shop.path(u"load.log"_s)), "\"second\"\r\n");
 }
 
 TEST(LoadLog, ALogThatCannotBeDeletedIsNoErrorButOneThatCannotBeAppendedToIs)
@@ -51,13 +51,13 @@ TEST(LoadLog, ALogThatCannotBeDeletedIsNoErrorButOneThatCannotBeAppendedToIs)
     QDir().mkdir(shop.path(u"load.log"_s));
     WriteFile(shop.path(u"load.log/keeps"_s), "the folder");
     LoadLog log(shop.folder());
-    EXPECT_EQ(ErrorOf([&] { log.reset(); }), 0);
-    EXPECT_EQ(ErrorOf([&] { log.WriteLoadLog(u"x"_s); }), 75);
+    EXPECT_EQ(errorOf([&] { log.reset(); }), 0);
+    EXPECT_EQ(errorOf([&] { log.WriteLoadLog(u"x"_s); }), 75);
 }
 
 TEST(LoadLog, ALogInAFolderThatIsGoneIsAnError)
 {
     const TemporaryShopFolder shop;
     LoadLog log(ApplicationFolder(shop.path(u"gone"_s)));
-    EXPECT_EQ(ErrorOf([&] { log.WriteLoadLog(u"x"_s); }), 75);
+    EXPECT_EQ(errorOf([&] { log.WriteLoadLog(u"x"_s); }), 75);
 }

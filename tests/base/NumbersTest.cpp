@@ -18,7 +18,7 @@ QString withGroups(const QString& text)
 {
     QString result;
     for (const QChar letter : text) {
-        result += letter == u'.' ? DecimalSeparator() : letter == u',' ? QLocale().groupSeparator() : QString(letter);
+        result += letter == u'.' ? decimalSeparator() : letter == u',' ? QLocale().groupSeparator() : QString(letter);
     }
     return result;
 }
@@ -47,7 +47,7 @@ float singleFromBits(std::uint32_t bits)
 
 TEST(Numbers, TheDecimalSeparatorIsTheLocalesOwn)
 {
-    EXPECT_EQ(DecimalSeparator(), QLocale().language() == QLocale::German ? u","_s : u"."_s);
+    EXPECT_EQ(decimalSeparator(), QLocale().language() == QLocale::German ? u","_s : u"."_s);
 }
 
 TEST(Numbers, NumberTextsAreReadByTheLocale)
@@ -83,7 +83,7 @@ TEST(Numbers, NumberTextsAreReadByTheLocale)
         {u"\t 12.5 \r\n"_s, 12.5},
     };
     for (const Case& one : cases) {
-        EXPECT_EQ(NumberFromText(withGroups(one.text)), one.number) << one.text.toStdString();
+        EXPECT_EQ(numberFromText(withGroups(one.text)), one.number) << one.text.toStdString();
     }
 }
 
@@ -96,22 +96,22 @@ TEST(Numbers, WhatIsNoNumberIsATypeMismatch)
                              u"nan"_s,        u"NaN"_s,      u"."_s,        u"-"_s,       u"1E2.5"_s,     u"12%"_s,
                              u"12\u00A0kg"_s, u"$5"_s,       u"5-"_s,       u"(5)"_s};
     for (const QString& text : texts) {
-        EXPECT_EQ(ErrorOf([&] { NumberFromText(withGroups(text)); }), 13) << text.toStdString();
+        EXPECT_EQ(errorOf([&] { numberFromText(withGroups(text)); }), 13) << text.toStdString();
     }
-    EXPECT_EQ(ErrorOf([] { NumberFromText(QString(u"1"_s + QChar(0) + u"2"_s)); }), 13);
+    EXPECT_EQ(errorOf([] { numberFromText(QString(u"1"_s + QChar(0) + u"2"_s)); }), 13);
 }
 
 TEST(Numbers, ADecimalNumberOfAnotherLocaleIsNeverAHundredTimesAsLarge)
 {
-    const QString other = QString(u"12.50"_s).replace(u'.', DecimalSeparator() == u"."_s ? u',' : u'.');
-    EXPECT_EQ(ErrorOf([&] { NumberFromText(other); }), 13);
+    const QString other = QString(u"12.50"_s).replace(u'.', decimalSeparator() == u"."_s ? u',' : u'.');
+    EXPECT_EQ(errorOf([&] { numberFromText(other); }), 13);
 }
 
 TEST(Numbers, ANumberTextOutOfRangeIsAnOverflow)
 {
-    EXPECT_EQ(ErrorOf([] { NumberFromText(u"1E999"_s); }), 6);
-    EXPECT_EQ(ErrorOf([] { NumberFromText(u"-1E999"_s); }), 6);
-    EXPECT_EQ(ErrorOf([] { NumberFromText(QString(400, u'9')); }), 6);
+    EXPECT_EQ(errorOf([] { numberFromText(u"1E999"_s); }), 6);
+    EXPECT_EQ(errorOf([] { numberFromText(u"-1E999"_s); }), 6);
+    EXPECT_EQ(errorOf([] { numberFromText(QString(400, u'9')); }), 6);
 }
 
 TEST(Numbers, ThePlainScanReadsWhatItCanAndStops)
@@ -137,7 +137,7 @@ TEST(Numbers, ThePlainScanReadsWhatItCanAndStops)
         EXPECT_EQ(Val(one.text), one.number) << one.text.toStdString();
     }
     EXPECT_FALSE(std::signbit(Val(u"-"_s)));
-    EXPECT_EQ(ErrorOf([] { Val(QString(400, u'9')); }), 6);
+    EXPECT_EQ(errorOf([] { Val(QString(400, u'9')); }), 6);
     EXPECT_EQ(Val(u"0."_s + QString(400, u'0') + u"1"_s), 0);
 }
 
@@ -179,7 +179,7 @@ TEST(Numbers, NumbersAreWrittenWithAtMostFifteenDigitsInTheShortestForm)
         {5e-324, u"4.94065645841247E-324"_s},
     };
     for (const Case& one : cases) {
-        EXPECT_EQ(NumberToText(one.number), Localised(one.text));
+        EXPECT_EQ(numberToText(one.number), localised(one.text));
     }
 }
 
@@ -213,23 +213,23 @@ TEST(Numbers, SinglesAreWrittenWithAtMostSevenDigitsInTheShortestForm)
         {1234.567F, u"1234.567"_s},
     };
     for (const Case& one : cases) {
-        EXPECT_EQ(SingleToText(one.number), Localised(one.text));
+        EXPECT_EQ(singleToText(one.number), localised(one.text));
     }
 }
 
 TEST(Numbers, TheShortestTextOfASingleReadsBackAsTheSameSingle)
 {
-    EXPECT_EQ(SingleToShortestText(0.1F), Localised(u"0.1"_s));
-    EXPECT_EQ(SingleToShortestText(0), u"0"_s);
-    EXPECT_EQ(SingleToShortestText(16777216), u"16777216"_s);
-    EXPECT_EQ(SingleToShortestText(1234567.9F), Localised(u"1234567.9"_s));
-    EXPECT_EQ(SingleToShortestText(0.1F + 0.1F + 0.1F), Localised(u"0.3"_s));
-    EXPECT_EQ(SingleToShortestText(1e20F), u"1E+20"_s);
+    EXPECT_EQ(singleToShortestText(0.1F), localised(u"0.1"_s));
+    EXPECT_EQ(singleToShortestText(0), u"0"_s);
+    EXPECT_EQ(singleToShortestText(16777216), u"16777216"_s);
+    EXPECT_EQ(singleToShortestText(1234567.9F), localised(u"1234567.9"_s));
+    EXPECT_EQ(singleToShortestText(0.1F + 0.1F + 0.1F), localised(u"0.3"_s));
+    EXPECT_EQ(singleToShortestText(1e20F), u"1E+20"_s);
     std::mt19937 random(20); // NOLINT(cert-msc51-cpp): the same numbers every time
     for (int i = 0; i < 20000; ++i) {
         const float number = singleFromBits(static_cast<std::uint32_t>(random()));
         if (std::isfinite(number)) {
-            EXPECT_EQ(static_cast<float>(NumberFromText(SingleToShortestText(number))), number);
+            EXPECT_EQ(static_cast<float>(numberFromText(singleToShortestText(number))), number);
         }
     }
 }
@@ -242,9 +242,9 @@ TEST(Numbers, NumberTextsReadBackInEveryLocale)
     for (const QLocale& locale : locales) {
         const ScopedLocale scoped(locale);
         for (const double number : numbers) {
-            const QString text = NumberToText(number);
+            const QString text = numberToText(number);
             double back = std::numeric_limits<double>::quiet_NaN();
-            EXPECT_EQ(ErrorOf([&] { back = NumberFromText(text); }), 0) << locale.name().toStdString();
+            EXPECT_EQ(errorOf([&] { back = numberFromText(text); }), 0) << locale.name().toStdString();
             EXPECT_EQ(back, number) << locale.name().toStdString() << ' ' << text.toStdString();
         }
     }
@@ -292,7 +292,7 @@ TEST(Numbers, TwoDecimalsAreRoundedHalfAwayFromZeroOnTheDecimalText)
         {1e300, u"1"_s + QString(300, u'0') + u".00"_s},
     };
     for (const Case& one : cases) {
-        EXPECT_EQ(FormatTwoDecimals(one.number), Localised(one.text));
+        EXPECT_EQ(formatTwoDecimals(one.number), localised(one.text));
     }
 }
 
@@ -300,9 +300,9 @@ TEST(Numbers, EveryHalfCentIsRoundedAway)
 {
     for (int thousandths = 5; thousandths < 100000; thousandths += 10) {
         const int cents = (thousandths + 5) / 10;
-        const QString expected = (cents >= 100 ? QString::number(cents / 100) : QString()) + DecimalSeparator() +
+        const QString expected = (cents >= 100 ? QString::number(cents / 100) : QString()) + decimalSeparator() +
                                  QString::number(cents % 100).rightJustified(2, u'0');
-        ASSERT_EQ(FormatTwoDecimals(thousandths / 1000.0), expected) << thousandths;
+        ASSERT_EQ(formatTwoDecimals(thousandths / 1000.0), expected) << thousandths;
     }
 }
 
@@ -311,9 +311,9 @@ TEST(Numbers, NoTextSaysAnInfiniteNumber)
     constexpr double infinite = std::numeric_limits<double>::infinity();
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
     for (const double number : {infinite, -infinite, none}) {
-        EXPECT_EQ(ErrorOf([=] { NumberToText(number); }), 6);
-        EXPECT_EQ(ErrorOf([=] { FormatTwoDecimals(number); }), 6);
-        EXPECT_EQ(ErrorOf([=] { SingleToText(static_cast<float>(number)); }), 6);
-        EXPECT_EQ(ErrorOf([=] { SingleToShortestText(static_cast<float>(number)); }), 6);
+        EXPECT_EQ(errorOf([=] { numberToText(number); }), 6);
+        EXPECT_EQ(errorOf([=] { formatTwoDecimals(number); }), 6);
+        EXPECT_EQ(errorOf([=] { singleToText(static_cast<float>(number)); }), 6);
+        EXPECT_EQ(errorOf([=] { singleToShortestText(static_cast<float>(number)); }), 6);
     }
 }

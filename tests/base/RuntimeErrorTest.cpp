@@ -35,5 +35,5 @@ TEST(RuntimeError, ADescriptionOfItsOwnTakesTheUsualOnesPlace)
 
 TEST(ProgramVersion, IsMajorMinorAndRevisionJoinedByPoints)
 {
-    EXPECT_EQ(ProgramVersion(), u"1.2.0"_s);
+    EXPECT_EQ(programVersion(), u"1.2.0"_s);
 }

@@ -53,47 +53,47 @@ TEST_F(XMLUtils, TheTextOfANodeIsAllTextBelowItAsItStands)
     for (const Case& one : cases) {
         const pugi::xml_node node = root(one.xml);
         EXPECT_TRUE(node) << one.xml.toStdString();
-        EXPECT_EQ(NodeText(node), one.text) << one.xml.toStdString();
+        EXPECT_EQ(nodeText(node), one.text) << one.xml.toStdString();
     }
-    EXPECT_EQ(NodeText(pugi::xml_node()), u""_s);
+    EXPECT_EQ(nodeText(pugi::xml_node()), u""_s);
 }
 
 TEST_F(XMLUtils, TheTextOfATextNodeIsItsOwn)
 {
     const pugi::xml_node node = root("<a><b>x</b>tail</a>");
-    EXPECT_EQ(NodeText(node.last_child()), u"tail"_s);
-    EXPECT_EQ(NodeText(node.first_child()), u"x"_s);
+    EXPECT_EQ(nodeText(node.last_child()), u"tail"_s);
+    EXPECT_EQ(nodeText(node.first_child()), u"x"_s);
 }
 
 TEST_F(XMLUtils, TheFirstDescendantIsFoundAtAnyDepthInDocumentOrder)
 {
     const pugi::xml_node node = root("<a><b><d>deep</d></b><d>shallow</d><c>text<e/>tail</c></a>");
-    EXPECT_EQ(NodeText(FirstDescendant(node, "d")), u"deep"_s);
-    EXPECT_EQ(FirstDescendant(node, "e").parent().name(), std::string("c"));
-    EXPECT_FALSE(FirstDescendant(node, "x"));
-    EXPECT_FALSE(FirstDescendant(node, "D"));
-    EXPECT_FALSE(FirstDescendant(pugi::xml_node(), "a"));
+    EXPECT_EQ(nodeText(firstDescendant(node, "d")), u"deep"_s);
+    EXPECT_EQ(firstDescendant(node, "e").parent().name(), std::string("c"));
+    EXPECT_FALSE(firstDescendant(node, "x"));
+    EXPECT_FALSE(firstDescendant(node, "D"));
+    EXPECT_FALSE(firstDescendant(pugi::xml_node(), "a"));
 }
 
 TEST_F(XMLUtils, AnElementIsNoDescendantOfItselfNorAreItsNeighbours)
 {
     const pugi::xml_node node = root("<a><b><c/></b><d/></a>");
-    EXPECT_FALSE(FirstDescendant(node, "a"));
-    EXPECT_FALSE(FirstDescendant(node.child("b"), "d"));
-    EXPECT_FALSE(FirstDescendant(node.child("d"), "b"));
+    EXPECT_FALSE(firstDescendant(node, "a"));
+    EXPECT_FALSE(firstDescendant(node.child("b"), "d"));
+    EXPECT_FALSE(firstDescendant(node.child("d"), "b"));
 }
 
 TEST_F(XMLUtils, NodesFollowEachOtherInDocumentOrder)
 {
     const pugi::xml_node node = root("<a><b><c/></b><d>x<e/></d><f/></a>");
     QByteArray names;
-    for (pugi::xml_node at = NextNode(node, node); at; at = NextNode(at, node)) {
+    for (pugi::xml_node at = nextNode(node, node); at; at = nextNode(at, node)) {
         names += at.name();
     }
     EXPECT_EQ(names, "bcdef");
     names.clear();
     const pugi::xml_node top = node.child("b");
-    for (pugi::xml_node at = NextNode(top, top); at; at = NextNode(at, top)) {
+    for (pugi::xml_node at = nextNode(top, top); at; at = nextNode(at, top)) {
         names += at.name();
     }
     EXPECT_EQ(names, "c");
@@ -118,7 +118,7 @@ TEST_F(XMLUtils, AnElementIsAppendedWithItsText)
     AddChildElement(shop, "Code", u"<7>"_s);
     EXPECT_EQ(name.name(), std::string("Name"));
     EXPECT_EQ(name.parent(), shop);
-    EXPECT_EQ(XmlToBytes(document), "<Shop><Name>Fish &amp; \xE2\x82\xAC</Name><Code>&lt;7&gt;</Code></Shop>");
+    EXPECT_EQ(xmlToBytes(document), "<Shop><Name>Fish &amp; \xE2\x82\xAC</Name><Code>&lt;7&gt;</Code></Shop>");
 }
 
 TEST_F(XMLUtils, TheMarkerMakesAnElementWithoutTextAndOnlyTheExactOne)
@@ -127,11 +127,11 @@ TEST_F(XMLUtils, TheMarkerMakesAnElementWithoutTextAndOnlyTheExactOne)
     pugi::xml_node shop = AddChildElement(document, "Shop", u"HUERAGA"_s);
     EXPECT_FALSE(shop.first_child());
     EXPECT_FALSE(AddChildElement(shop, "a", u"HUERAGA"_s).first_child());
-    EXPECT_EQ(NodeText(AddChildElement(shop, "b", u"hueraga"_s)), u"hueraga"_s);
-    EXPECT_EQ(NodeText(AddChildElement(shop, "c", u"HUERAGA "_s)), u"HUERAGA "_s);
-    EXPECT_EQ(NodeText(AddChildElement(shop, "d", u""_s)), u""_s);
+    EXPECT_EQ(nodeText(AddChildElement(shop, "b", u"hueraga"_s)), u"hueraga"_s);
+    EXPECT_EQ(nodeText(AddChildElement(shop, "c", u"HUERAGA "_s)), u"HUERAGA "_s);
+    EXPECT_EQ(nodeText(AddChildElement(shop, "d", u""_s)), u""_s);
     EXPECT_TRUE(shop.child("d").first_child()) << "an empty value is an empty text";
-    EXPECT_EQ(XmlToBytes(document), "<Shop><a/><b>hueraga</b><c>HUERAGA </c><d></d></Shop>");
+    EXPECT_EQ(xmlToBytes(document), "<Shop><a/><b>hueraga</b><c>HUERAGA </c><d></d></Shop>");
 }
 
 TEST_F(XMLUtils, CharactersThatXmlCannotHoldAreLeftOut)
@@ -149,15 +149,15 @@ TEST_F(XMLUtils, CharactersThatXmlCannotHoldAreLeftOut)
     pugi::xml_document document;
     const pugi::xml_node node = AddChildElement(document, "a", text);
     const QString kept = u"a\t\n\rbcd\U0001F600\u0085\uFFFDe"_s;
-    EXPECT_EQ(NodeText(node), kept);
-    EXPECT_EQ(NodeText(root(XmlToBytes(document))), kept);
+    EXPECT_EQ(nodeText(node), kept);
+    EXPECT_EQ(nodeText(root(xmlToBytes(document))), kept);
 }
 
 TEST_F(XMLUtils, AZeroCharacterDoesNotCutTheTextOff)
 {
     pugi::xml_document document;
     AddChildElement(document, "a", QString(u"before"_s + QChar(0) + u"after"_s));
-    EXPECT_EQ(XmlToBytes(document), "<a>beforeafter</a>");
+    EXPECT_EQ(xmlToBytes(document), "<a>beforeafter</a>");
 }
 
 TEST_F(XMLUtils, TextsOfAnyLengthAreWritten)
@@ -166,8 +166,8 @@ TEST_F(XMLUtils, TextsOfAnyLengthAreWritten)
         for (const QString& letter : {u"x"_s, u"\u00FC"_s, u"<"_s}) {
             pugi::xml_document document;
             const QString text = letter.repeated(length);
-            EXPECT_EQ(NodeText(AddChildElement(document, "a", text)), text);
-            EXPECT_EQ(NodeText(root(XmlToBytes(document))), text);
+            EXPECT_EQ(nodeText(AddChildElement(document, "a", text)), text);
+            EXPECT_EQ(nodeText(root(xmlToBytes(document))), text);
         }
     }
 }
@@ -200,7 +200,7 @@ TEST(Colours, ATextWithoutThreePairsOfHexDigitsIsATypeMismatch)
 {
     for (const QString& text :
          {u""_s, u"#"_s, u"#12345"_s, u"#FFF"_s, u"#12345G"_s, u"red"_s, u"#12 456"_s, u"#-12345"_s, u"######"_s}) {
-        EXPECT_EQ(ErrorOf([&] { ColorFromHex(text); }), 13) << text.toStdString();
+        EXPECT_EQ(errorOf([&] { ColorFromHex(text); }), 13) << text.toStdString();
     }
 }
 

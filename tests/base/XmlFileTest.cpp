@@ -21,7 +21,7 @@ QString rootText(const QByteArray& bytes)
     XmlFile file;
     file.parse(bytes);
     const pugi::xml_node root = file.document().document_element();
-    return root ? NodeText(root) : u"no document"_s;
+    return root ? nodeText(root) : u"no document"_s;
 }
 
 QByteArray utf16(const QString& text, bool bigEndian)
@@ -274,7 +274,7 @@ TEST(XmlFile, NoMutationOfADocumentIsMoreThanADocumentOrNone)
             const pugi::xml_node root = file.document().first_child();
             ASSERT_EQ(root.type(), pugi::node_element) << document.toStdString();
             ASSERT_FALSE(root.next_sibling()) << document.toStdString();
-            ASSERT_EQ(rootText(XmlToBytes(file.document())), NodeText(root)) << document.toStdString();
+            ASSERT_EQ(rootText(xmlToBytes(file.document())), nodeText(root)) << document.toStdString();
         }
     }
     EXPECT_GT(read, 100);
@@ -308,14 +308,14 @@ TEST(XmlFile, OnlyElementsAndTextsAreNodes)
         names += child.name();
     }
     EXPECT_EQ(names, "bc");
-    EXPECT_EQ(NodeText(root.child("c")), u" "_s);
+    EXPECT_EQ(nodeText(root.child("c")), u" "_s);
 }
 
 TEST(XmlFile, AnIndentedFileReadsLikeARawOne)
 {
     XmlFile indented;
     indented.parse("<T>\r\n\t<S>\r\n\t\t<N> x </N>\r\n\t\t<E></E>\r\n\t</S>\r\n</T>\r\n");
-    EXPECT_EQ(XmlToBytes(indented.document()), "<T><S><N> x </N><E/></S></T>");
+    EXPECT_EQ(xmlToBytes(indented.document()), "<T><S><N> x </N><E/></S></T>");
 }
 
 TEST(XmlFile, AFileThatIsMissingOrNoFileIsAnEmptyDocument)
@@ -353,7 +353,7 @@ TEST(XmlFile, BytesThatOthersHoldAreLeftAlone)
     const QByteArray kept(bytes.constData(), bytes.size());
     XmlFile file;
     file.parse(bytes);
-    EXPECT_EQ(NodeText(file.document().document_element()), u"<one>"_s);
+    EXPECT_EQ(nodeText(file.document().document_element()), u"<one>"_s);
     EXPECT_EQ(bytes, kept);
 }
 
@@ -374,9 +374,9 @@ TEST(XmlFile, ADocumentOfAMillionLevelsIsNoDanger)
     const pugi::xml_node root = file.document().document_element();
     ASSERT_TRUE(root);
     EXPECT_EQ(GetNodeText(root, "b", QString()), u"deep"_s);
-    EXPECT_EQ(NodeText(root), u"deep"_s);
-    EXPECT_FALSE(FirstDescendant(root, "x"));
-    EXPECT_EQ(XmlToBytes(file.document()), bytes);
+    EXPECT_EQ(nodeText(root), u"deep"_s);
+    EXPECT_FALSE(firstDescendant(root, "x"));
+    EXPECT_EQ(xmlToBytes(file.document()), bytes);
     file.parse("<a/>");
     EXPECT_TRUE(isEmptyAfterParsing(QByteArray("<a>").repeated(levels)));
 }

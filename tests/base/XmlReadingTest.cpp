@@ -45,9 +45,9 @@ TEST_F(XmlReading, OneWalkFindsWhatASearchForEachNameFinds)
     for (const QByteArray& xml : documents()) {
         const pugi::xml_node root = parse(xml);
         std::array<pugi::xml_node, names.size()> hits;
-        FindFirstDescendants(root, names, hits);
+        findFirstDescendants(root, names, hits);
         for (std::size_t i = 0; i < names.size(); ++i) {
-            EXPECT_TRUE(hits[i] == FirstDescendant(root, names[i])) << xml.toStdString() << " " << names[i];
+            EXPECT_TRUE(hits[i] == firstDescendant(root, names[i])) << xml.toStdString() << " " << names[i];
         }
     }
 }
@@ -56,7 +56,7 @@ TEST_F(XmlReading, AWalkStaysBelowItsElement)
 {
     const pugi::xml_node root = parse("<R><X><A>1</A></X><B>2</B></R>");
     std::array<pugi::xml_node, names.size()> hits;
-    FindFirstDescendants(root.first_child(), names, hits);
+    findFirstDescendants(root.first_child(), names, hits);
     EXPECT_TRUE(hits[0]);
     EXPECT_FALSE(hits[1]);
 }
@@ -70,15 +70,15 @@ TEST_F(XmlReading, AGatheredElementAnswersLikeASearchInIt)
         std::array<FlatElements::Place, names.size()> hits{};
         flat.findFirst(0, hits);
         for (std::size_t i = 0; i < names.size(); ++i) {
-            const pugi::xml_node found = FirstDescendant(root, names[i]);
+            const pugi::xml_node found = firstDescendant(root, names[i]);
             ASSERT_EQ(hits[i] == FlatElements::none, !found) << xml.toStdString() << " " << names[i];
-            EXPECT_EQ(flat.text(hits[i], u"default"_s), TextOr(found, u"default"_s));
+            EXPECT_EQ(flat.text(hits[i], u"default"_s), textOr(found, u"default"_s));
             if (found) {
                 EXPECT_TRUE(flat.node(hits[i]) == found);
                 std::array<FlatElements::Place, names.size()> below{};
                 flat.findFirst(hits[i], below);
                 for (std::size_t j = 0; j < names.size(); ++j) {
-                    EXPECT_EQ(flat.text(below[j]), TextOr(FirstDescendant(found, names[j]), QString()));
+                    EXPECT_EQ(flat.text(below[j]), textOr(firstDescendant(found, names[j]), QString()));
                 }
             }
         }
@@ -89,8 +89,8 @@ TEST_F(XmlReading, AllElementsOfANameAreFoundInOrder)
 {
     const pugi::xml_node root = parse("<R><A>1</A><X><A>2<A>3</A></A></X><B/><A>4</A></R>");
     QStringList texts;
-    for (const pugi::xml_node& found : AllDescendants(root, "A")) {
-        texts.append(NodeText(found));
+    for (const pugi::xml_node& found : allDescendants(root, "A")) {
+        texts.append(nodeText(found));
     }
     EXPECT_EQ(texts, (QStringList{u"1"_s, u"23"_s, u"3"_s, u"4"_s}));
 
@@ -109,11 +109,11 @@ TEST_F(XmlReading, NumberedNamesAreFoundByTheirExactNumber)
 {
     const pugi::xml_node root = parse("<R><Cost2>two</Cost2><Cost02>no</Cost02><Cost>no</Cost><Cost4>beyond</Cost4>"
                                       "<X><Cost1>one</Cost1></X><Cost2>second</Cost2><Cost-1/><Cost99999999999/></R>");
-    const std::vector<pugi::xml_node> found = FindNumberedDescendants(root, "Cost", 1, 3);
+    const std::vector<pugi::xml_node> found = findNumberedDescendants(root, "Cost", 1, 3);
     ASSERT_EQ(found.size(), 3U);
-    EXPECT_EQ(TextOr(found[0], u"none"_s), u"one"_s);
-    EXPECT_EQ(TextOr(found[1], u"none"_s), u"two"_s);
-    EXPECT_EQ(TextOr(found[2], u"none"_s), u"none"_s);
+    EXPECT_EQ(textOr(found[0], u"none"_s), u"one"_s);
+    EXPECT_EQ(textOr(found[1], u"none"_s), u"two"_s);
+    EXPECT_EQ(textOr(found[2], u"none"_s), u"none"_s);
 
     FlatElements flat(names);
     flat.gather(root);
@@ -126,18 +126,18 @@ TEST_F(XmlReading, NumberedNamesAreFoundByTheirExactNumber)
 
 TEST_F(XmlReading, ATextIsAChildNodeWhereverTheParserPutIt)
 {
-    EXPECT_EQ(ChildTexts(parse("<R/>")).size(), 0U);
-    EXPECT_EQ(ChildTexts(parse("<R>one</R>")), (std::vector<QString>{u"one"_s}));
-    EXPECT_EQ(ChildTexts(parse("<R>one<A>t<B>wo</B></A>three<C/></R>")),
+    EXPECT_EQ(childTexts(parse("<R/>")).size(), 0U);
+    EXPECT_EQ(childTexts(parse("<R>one</R>")), (std::vector<QString>{u"one"_s}));
+    EXPECT_EQ(childTexts(parse("<R>one<A>t<B>wo</B></A>three<C/></R>")),
               (std::vector<QString>{u"one"_s, u"two"_s, u"three"_s, QString()}));
 }
 
 TEST_F(XmlReading, TheFirstChildOfEachChild)
 {
     using Texts = std::vector<std::optional<QString>>;
-    EXPECT_EQ(FirstGrandchildTexts(parse("<R/>")), Texts());
-    EXPECT_EQ(FirstGrandchildTexts(parse("<R>text</R>")), (Texts{std::nullopt}));
-    EXPECT_EQ(FirstGrandchildTexts(parse("<R><A><B>one</B><C>no</C></A><A/><A>two<B>no</B></A>text</R>")),
+    EXPECT_EQ(firstGrandchildTexts(parse("<R/>")), Texts());
+    EXPECT_EQ(firstGrandchildTexts(parse("<R>text</R>")), (Texts{std::nullopt}));
+    EXPECT_EQ(firstGrandchildTexts(parse("<R><A><B>one</B><C>no</C></A><A/><A>two<B>no</B></A>text</R>")),
               (Texts{u"one"_s, std::nullopt, u"two"_s, std::nullopt}));
 }
 
@@ -147,8 +147,8 @@ TEST_F(XmlReading, DeepNestingNeedsNoStack)
     const pugi::xml_node root =
         parse(QByteArray("<X>").repeated(depth) + "<C>deep</C>" + QByteArray("</X>").repeated(depth));
     std::array<pugi::xml_node, names.size()> hits;
-    FindFirstDescendants(root, names, hits);
-    EXPECT_EQ(TextOr(hits[2], QString()), u"deep"_s);
+    findFirstDescendants(root, names, hits);
+    EXPECT_EQ(textOr(hits[2], QString()), u"deep"_s);
     FlatElements flat(names);
     flat.gather(root);
     std::array<FlatElements::Place, names.size()> places{};

@@ -11,18 +11,18 @@ TEST(XmlWriting, WrittenBytesHaveNoDeclarationAndNoWhiteSpaceOfTheirOwn)
 {
     pugi::xml_document document;
     AddChildElement(AddChildElement(document, "Tarnwick", u"HUERAGA"_s), "Shop", u"\u00FC"_s);
-    EXPECT_EQ(XmlToBytes(document), "<Tarnwick><Shop>\xC3\xBC</Shop></Tarnwick>");
-    EXPECT_EQ(XmlToBytes(pugi::xml_document()), QByteArray());
+    EXPECT_EQ(xmlToBytes(document), "<Tarnwick><Shop>\xC3\xBC</Shop></Tarnwick>");
+    EXPECT_EQ(xmlToBytes(pugi::xml_document()), QByteArray());
 }
 
 TEST(XmlWriting, ACarriageReturnIsWrittenAsAReference)
 {
     pugi::xml_document document;
     AddChildElement(document, "a", u"one\r\ntwo\r"_s);
-    EXPECT_EQ(XmlToBytes(document), "<a>one&#13;\ntwo&#13;</a>");
+    EXPECT_EQ(xmlToBytes(document), "<a>one&#13;\ntwo&#13;</a>");
     XmlFile section;
     section.parse("<a>x<![CDATA[<\r\n]]>y</a>");
-    EXPECT_EQ(XmlToBytes(section.document()), "<a>x&lt;&#13;\ny</a>");
+    EXPECT_EQ(xmlToBytes(section.document()), "<a>x&lt;&#13;\ny</a>");
 }
 
 TEST(XmlWriting, EveryTextSurvivesARoundTrip)
@@ -44,14 +44,14 @@ TEST(XmlWriting, EveryTextSurvivesARoundTrip)
         texts << text;
         AddChildElement(root, "t", text);
     }
-    const QByteArray bytes = XmlToBytes(document);
+    const QByteArray bytes = xmlToBytes(document);
     XmlFile file;
     file.parse(bytes);
     qsizetype at = 0;
     for (const pugi::xml_node& child : file.document().document_element().children()) {
-        ASSERT_EQ(NodeText(child), texts.at(at++));
+        ASSERT_EQ(nodeText(child), texts.at(at++));
     }
     EXPECT_EQ(at, texts.size());
     // A text that is empty is written as an empty text and reads as none; all else is the same bytes again.
-    EXPECT_EQ(XmlToBytes(file.document()), QByteArray(bytes).replace("<t></t>", "<t/>"));
+    EXPECT_EQ(xmlToBytes(file.document()), QByteArray(bytes).replace("<t></t>", "<t/>"));
 }

@@ -15,7 +15,7 @@ TEST(Corpus, EverySeedKeepsThePromisesOfItsTarget)
         SCOPED_TRACE(seed.toStdString());
         std::printf("%s\n", qPrintable(seed));
         std::fflush(stdout);
-        const QByteArray bytes = FileBytes(corpus.filePath(seed));
+        const QByteArray bytes = fileBytes(corpus.filePath(seed));
         EXPECT_EQ(LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.constData()),
                                          static_cast<std::size_t>(bytes.size())),
                   0);

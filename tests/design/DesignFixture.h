@@ -34,12 +34,12 @@ protected:
     {
         pugi::xml_document document;
         object.ToXML(document.append_child(tag));
-        return XmlToBytes(document);
+        return xmlToBytes(document);
     }
 
     QStringList logLines() const
     {
-        QStringList lines = QString::fromUtf8(FileBytes(folder.loadLogFile())).split(QStringLiteral("\r\n"));
+        QStringList lines = QString::fromUtf8(fileBytes(folder.loadLogFile())).split(QStringLiteral("\r\n"));
         lines.removeLast();
         return lines;
     }

@@ -14,10 +14,10 @@ TEST(DesignOptions, ThereAre93WithNamesOfTheirOwnAndEachStandsAtItsNumber)
 {
     QSet<QString> names;
     int number = 0;
-    for (const DesignOptionRow& row : DesignOptionTable()) {
+    for (const DesignOptionRow& row : designOptionTable()) {
         EXPECT_EQ(static_cast<int>(row.option), number++);
         EXPECT_EQ(row.name, QString::fromLatin1(row.element));
-        EXPECT_EQ(DesignOptionByName(row.name), row.option);
+        EXPECT_EQ(designOptionByName(row.name), row.option);
         names.insert(row.name);
     }
     EXPECT_EQ(names.size(), 93);
@@ -44,7 +44,7 @@ TEST(DesignOptions, EachGroupHasItsCountAndItsPrefix)
         {DesignGroup::CustomPages, 1, u"CustomPages_"_s},
     };
     for (const Row& row : rows) {
-        const auto options = DesignOptionsOf(row.group);
+        const auto options = designOptionsOf(row.group);
         EXPECT_EQ(options.size(), row.count) << row.prefix.toStdString();
         for (const DesignOptionRow& option : options) {
             EXPECT_TRUE(option.name.startsWith(row.prefix)) << option.name.toStdString();
@@ -64,7 +64,7 @@ TEST(DesignOptions, DefaultsAreNoWithTheKnownExceptions)
                                  u"CartPage_IncludePrice"_s,      u"CartPage_IncludeRelated"_s,
                                  u"CartPage_IncludeShipping"_s,   u"CartPage_IncludeTaxes"_s};
     const QSet<QString> zero = {u"Category_Limit_Desc"_s, u"SearchPage_Limit_Desc"_s, u"CartPage_Limit_Desc"_s};
-    for (const DesignOptionRow& row : DesignOptionTable()) {
+    for (const DesignOptionRow& row : designOptionTable()) {
         const QString expected = empty.contains(row.name) ? QString() : zero.contains(row.name) ? u"0"_s : u"No"_s;
         EXPECT_EQ(row.defaultText, expected) << row.name.toStdString();
     }
@@ -72,10 +72,10 @@ TEST(DesignOptions, DefaultsAreNoWithTheKnownExceptions)
 
 TEST(DesignOptions, NamesAreFoundByExactCaseAndMisspelledOnesStayMisspelled)
 {
-    EXPECT_EQ(DesignOptionByName(u"Header_ShowSoppingCartButton"), DesignOption::Header_ShowSoppingCartButton);
-    EXPECT_FALSE(DesignOptionByName(u"Header_ShowShoppingCartButton"));
-    EXPECT_FALSE(DesignOptionByName(u"footer_showmenu"));
-    EXPECT_FALSE(DesignOptionByName(u""));
+    EXPECT_EQ(designOptionByName(u"Header_ShowSoppingCartButton"), DesignOption::Header_ShowSoppingCartButton);
+    EXPECT_FALSE(designOptionByName(u"Header_ShowShoppingCartButton"));
+    EXPECT_FALSE(designOptionByName(u"footer_showmenu"));
+    EXPECT_FALSE(designOptionByName(u""));
 }
 
 TEST(DesignOptions, ALimitIsA16BitWholeNumberOrZero)
@@ -95,10 +95,10 @@ TEST(DesignOptions, ALimitIsA16BitWholeNumberOrZero)
         {QString(), u"0"_s},
         {u" "_s, u"0"_s},
         {u"1e2"_s, u"100"_s},
-        {Localised(u"3.5"_s), u"4"_s},
-        {Localised(u"2.5"_s), u"2"_s},
-        {Localised(u"2.4"_s), u"2"_s},
-        {Localised(u"32767.5"_s), u"0"_s},
+        {localised(u"3.5"_s), u"4"_s},
+        {localised(u"2.5"_s), u"2"_s},
+        {localised(u"2.4"_s), u"2"_s},
+        {localised(u"32767.5"_s), u"0"_s},
         {u"5 words"_s, u"0"_s},
     };
     for (const auto& [text, limit] : rows) {

@@ -32,7 +32,7 @@ TEST_F(ShopDesigns, MakingOneIsLogged)
 
 TEST_F(ShopDesigns, ANewOneHasEmptyOptionsAndEmptySlots)
 {
-    for (const DesignOptionRow& row : DesignOptionTable()) {
+    for (const DesignOptionRow& row : designOptionTable()) {
         EXPECT_EQ(design.Option(row.option), QString()) << row.element;
         EXPECT_FALSE(design.isOn(row.option));
     }
@@ -63,7 +63,7 @@ TEST_F(ShopDesigns, EverySlotAndSelectionHasItsTag)
     };
     ASSERT_EQ(images.size(), static_cast<qsizetype>(ImageSlotCount));
     for (const auto& [slot, tag] : images) {
-        EXPECT_EQ(TagOf(slot), tag);
+        EXPECT_EQ(tagOf(slot), tag);
         EXPECT_EQ(design.Image(slot)->Tag, tag);
     }
     const QList<std::pair<PageSelection, QString>> pages = {
@@ -75,18 +75,18 @@ TEST_F(ShopDesigns, EverySlotAndSelectionHasItsTag)
     };
     ASSERT_EQ(pages.size(), static_cast<qsizetype>(PageSelectionCount));
     for (const auto& [selection, tag] : pages) {
-        EXPECT_EQ(TagOf(selection), tag);
+        EXPECT_EQ(tagOf(selection), tag);
         EXPECT_EQ(design.Pages(selection)->Tag, tag);
     }
 }
 
 TEST_F(ShopDesigns, AnElementWithoutChildrenGivesTheDefaultOfEveryOption)
 {
-    for (const DesignOptionRow& row : DesignOptionTable()) {
+    for (const DesignOptionRow& row : designOptionTable()) {
         design.setOption(row.option, u"12"_s);
     }
     design.FromXML(element("<ShopDesign/>"));
-    for (const DesignOptionRow& row : DesignOptionTable()) {
+    for (const DesignOptionRow& row : designOptionTable()) {
         EXPECT_EQ(design.Option(row.option), row.defaultText) << row.element;
     }
     EXPECT_EQ(design.Option(DesignOption::Category_PageHeader), u"No"_s);
@@ -114,7 +114,7 @@ TEST_F(ShopDesigns, ReadingIsLoggedStepByStep)
 TEST_F(ShopDesigns, TheElementHasItsChildrenInTheOrderOfTheFormat)
 {
     QStringList expected;
-    for (const DesignOptionRow& row : DesignOptionTable()) {
+    for (const DesignOptionRow& row : designOptionTable()) {
         if (row.group != DesignGroup::CustomPages) {
             expected.append(row.name);
         }
@@ -148,18 +148,18 @@ TEST_F(ShopDesigns, TheElementHasItsChildrenInTheOrderOfTheFormat)
 
 TEST_F(ShopDesigns, EveryOptionIsWrittenAndReadBackAndTheHeadersStandTwiceWithOneValue)
 {
-    for (const DesignOptionRow& row : DesignOptionTable()) {
+    for (const DesignOptionRow& row : designOptionTable()) {
         design.setOption(row.option, row.name.endsWith(u"_Limit_Desc"_s) ? QString::number(static_cast<int>(row.option))
                                                                          : u"value of "_s + row.name);
     }
     const QByteArray xml = written(design, "ShopDesign");
-    for (const DesignOptionRow& row : DesignOptionTable()) {
+    for (const DesignOptionRow& row : designOptionTable()) {
         const QByteArray whole = '<' + row.name.toUtf8() + '>' + design.Option(row.option).toUtf8() + "</";
         EXPECT_EQ(xml.count(whole), row.group == DesignGroup::Header ? 2 : 1) << row.element;
     }
     ShopDesignClass read(services);
     read.FromXML(element(xml));
-    for (const DesignOptionRow& row : DesignOptionTable()) {
+    for (const DesignOptionRow& row : designOptionTable()) {
         EXPECT_EQ(read.Option(row.option), design.Option(row.option)) << row.element;
     }
     EXPECT_EQ(written(read, "ShopDesign"), xml);
@@ -258,24 +258,24 @@ TEST_F(ShopDesigns, SelectionsAndSlotsAreReadInAnOrderThatIsNotTheOneOfWriting)
     const auto withWidth = [](const QByteArray& tag, const QByteArray& width) {
         return '<' + tag + "><SelectionType>Image</SelectionType><Width>" + width + "</Width></" + tag + '>';
     };
-    const auto errorOf = [&](const QByteArray& one, const QByteArray& other) {
-        const int error = ErrorOf([&] { design.FromXML(element("<ShopDesign>" + one + other + "</ShopDesign>")); });
-        EXPECT_EQ(ErrorOf([&] { design.FromXML(element("<ShopDesign>" + other + one + "</ShopDesign>")); }), error);
+    const auto firstError = [&](const QByteArray& one, const QByteArray& other) {
+        const int error = errorOf([&] { design.FromXML(element("<ShopDesign>" + one + other + "</ShopDesign>")); });
+        EXPECT_EQ(errorOf([&] { design.FromXML(element("<ShopDesign>" + other + one + "</ShopDesign>")); }), error);
         return error;
     };
     for (qsizetype i = 1; i < selections.size(); ++i) {
         const QByteArray& first = selections[i - 1];
         const QByteArray& second = selections[i];
-        EXPECT_EQ(errorOf(rowWithoutName(first), nameTwice(second)), 91) << second.toStdString();
-        EXPECT_EQ(errorOf(nameTwice(first), rowWithoutName(second)), 457) << second.toStdString();
+        EXPECT_EQ(firstError(rowWithoutName(first), nameTwice(second)), 91) << second.toStdString();
+        EXPECT_EQ(firstError(nameTwice(first), rowWithoutName(second)), 457) << second.toStdString();
     }
     for (qsizetype i = 1; i < slotTags.size(); ++i) {
         const QByteArray& first = slotTags[i - 1];
         const QByteArray& second = slotTags[i];
-        EXPECT_EQ(errorOf(withWidth(first, "wide"), withWidth(second, "40000")), 13) << second.toStdString();
-        EXPECT_EQ(errorOf(withWidth(first, "40000"), withWidth(second, "wide")), 6) << second.toStdString();
+        EXPECT_EQ(firstError(withWidth(first, "wide"), withWidth(second, "40000")), 13) << second.toStdString();
+        EXPECT_EQ(firstError(withWidth(first, "40000"), withWidth(second, "wide")), 6) << second.toStdString();
     }
-    EXPECT_EQ(errorOf(rowWithoutName(selections.last()), withWidth(slotTags.first(), "wide")), 91);
+    EXPECT_EQ(firstError(rowWithoutName(selections.last()), withWidth(slotTags.first(), "wide")), 91);
 }
 
 TEST_F(ShopDesigns, EverySlotAndSelectionIsWrittenAndReadBack)
@@ -294,11 +294,11 @@ TEST_F(ShopDesigns, EverySlotAndSelectionIsWrittenAndReadBack)
     read.FromXML(element(xml));
     for (std::size_t i = 0; i < ImageSlotCount; ++i) {
         const auto slot = static_cast<ImageSlot>(i);
-        EXPECT_EQ(read.Image(slot)->TextValue, TagOf(slot) + u" text"_s);
+        EXPECT_EQ(read.Image(slot)->TextValue, tagOf(slot) + u" text"_s);
     }
     for (std::size_t i = 0; i < PageSelectionCount; ++i) {
         const auto selection = static_cast<PageSelection>(i);
-        EXPECT_EQ(read.Pages(selection)->selectedPages().Item(1), TagOf(selection) + u" page"_s);
+        EXPECT_EQ(read.Pages(selection)->selectedPages().Item(1), tagOf(selection) + u" page"_s);
     }
 }
 

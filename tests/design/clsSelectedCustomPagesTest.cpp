@@ -20,7 +20,7 @@ protected:
 
     int read(const QByteArray& xml)
     {
-        return ErrorOf([&] { selection.FromXML(element(xml)); });
+        return errorOf([&] { selection.FromXML(element(xml)); });
     }
 
     clsSelectedCustomPages selection{services, u"MENU"_s};
@@ -39,7 +39,7 @@ TEST_F(SelectedCustomPages, NamesKeepTheirOrderAndEachIsItsOwnKey)
 TEST_F(SelectedCustomPages, ANameCannotStandTwice)
 {
     selection.Add(u"About"_s);
-    EXPECT_EQ(ErrorOf([&] { selection.Add(u"About"_s); }), 457);
+    EXPECT_EQ(errorOf([&] { selection.Add(u"About"_s); }), 457);
     EXPECT_EQ(names(), QStringList{u"About"_s});
 }
 

@@ -134,7 +134,7 @@ TEST_F(SelectedImage, TheFirstElementAtAnyDepthCounts)
 TEST_F(SelectedImage, ASizeOfAnImageSlotThatIsNoNumberIsError13AndOneThatIsTooLargeError6)
 {
     const auto read = [&](const QByteArray& width) {
-        return ErrorOf([&] {
+        return errorOf([&] {
             image.FromXML(element("<D><HEADER_LOGO><SelectionType>Image</SelectionType><Width>" + width +
                                   "</Width></HEADER_LOGO></D>"));
         });
@@ -160,15 +160,15 @@ TEST_F(SelectedImage, AnEmptyTagShowsABoxAndLeavesTheSlot)
 TEST_F(SelectedImage, AFileThatIsGoneStopsGettersAndWriting)
 {
     image.imageFileName = u"gone.png"_s;
-    EXPECT_EQ(ErrorOf([&] { image.WidthBmp(); }), 53);
-    EXPECT_EQ(ErrorOf([&] { image.HeightBmp(); }), 53);
-    EXPECT_EQ(ErrorOf([&] { written(image); }), 53);
+    EXPECT_EQ(errorOf([&] { image.WidthBmp(); }), 53);
+    EXPECT_EQ(errorOf([&] { image.HeightBmp(); }), 53);
+    EXPECT_EQ(errorOf([&] { written(image); }), 53);
     // One known size protects its getter, both protect the writing.
     image.setWidthBmp(3);
     EXPECT_EQ(image.WidthBmp(), 3);
-    EXPECT_EQ(ErrorOf([&] { written(image); }), 53);
+    EXPECT_EQ(errorOf([&] { written(image); }), 53);
     image.setHeightBmp(4);
-    EXPECT_EQ(ErrorOf([&] { written(image); }), 0);
+    EXPECT_EQ(errorOf([&] { written(image); }), 0);
 }
 
 TEST_F(SelectedImage, WritingReadsBothSizesWhenOneIsNotKnown)

@@ -35,11 +35,13 @@ QVariant BrowserDriver::script(const QString& javaScript)
     const QPointer<QEventLoop> waiting = &loop;
     m_driven->page()->runJavaScript(javaScript, [result, waiting](const QVariant& value) {
         *result = value;
-        if (waiting != nullptr)
+        if (waiting != nullptr) {
             waiting->quit();
+        }
     });
-    if (!result->has_value())
+    if (!result->has_value()) {
         loop.exec();
+    }
     EXPECT_TRUE(result->has_value()) << "no answer to: " << javaScript.toStdString();
     return result->value_or(QVariant());
 }

@@ -29,13 +29,15 @@ void BrowserTest::openEmptyShop()
     session = std::make_unique<ShopSession>(files.folder(), prompts, clock);
     session->shop = std::make_shared<ShopClass>(session->services);
     session->shop->name = u"Corner Shop"_s;
-    for (const char* empty : {"menu", "header", "footer", "checkout"})
+    for (const char* empty : {"menu", "header", "footer", "checkout"}) {
         writeTemplate(QString::fromLatin1(empty), "");
+    }
     writeTemplate(u"layout"_s, "<!DOCTYPE html><html><body><!--:main_part:--></body></html>");
     writeTemplate(u"main"_s, "<h1><!--:shop_name:--></h1><!--:Main_ShopDescription:-->");
     writeTemplate(u"custompage"_s, "<main><!--:page_text:--></main>");
-    for (const char* plain : {"category", "product", "search", "cart"})
+    for (const char* plain : {"category", "product", "search", "cart"}) {
         writeTemplate(QString::fromLatin1(plain), "<h1>"_ba + plain + " <!--:name:--></h1>");
+    }
     openPreview();
 }
 

@@ -164,7 +164,7 @@ void Day::importProducts()
 void Day::editPricesAndDiscounts()
 {
     clickNode(keyOf(u"Candle 7"_s));
-    type("ProductPriceTxt", Localised(u"12.50"_s));
+    type("ProductPriceTxt", localised(u"12.50"_s));
     submit();
     click("ProductDiscountSBtn");
     press("NoDiscountOpt");
@@ -264,20 +264,20 @@ void Day::walkThePreview()
     visitor.type(u"form.buy input[name=quantity]"_s, u"2"_s);
     visitor.clickToNewPage(u"form.buy [type=submit]"_s);
     ASSERT_EQ(window->session().Cart->Count(), 1);
-    EXPECT_EQ(window->session().Cart->Item(1)->SelectedPrice(), Localised(u"12.5"_s));
+    EXPECT_EQ(window->session().Cart->Item(1)->SelectedPrice(), localised(u"12.5"_s));
     const auto amountIn = [this](const QString& selector) {
         return visitor.textOf(selector).simplified().replace(u'\u00A0', u' ');
     };
     EXPECT_EQ(amountIn(u".cart-sum strong"_s), u"25 "_s + shop().shop_currency);
     visitor.clickToNewPage(u".cart-sum a[href*=checkout]"_s);
     // The checkout's sum takes no quantities; this is meant.
-    EXPECT_EQ(amountIn(u".summary .total strong"_s), Localised(u"12.5"_s) + u' ' + shop().shop_currency);
+    EXPECT_EQ(amountIn(u".summary .total strong"_s), localised(u"12.5"_s) + u' ' + shop().shop_currency);
 }
 
 void Day::saveAndBackUp()
 {
     click("SaveShopSBtn");
-    const QByteArray saved = FileBytes(files.path(u"shop.xml"_s));
+    const QByteArray saved = fileBytes(files.path(u"shop.xml"_s));
     EXPECT_TRUE(saved.contains("Candle 200"));
     EXPECT_TRUE(saved.contains("Größe der Lichter"));
     prompts.answerText(u"Backing up"_s, u"Enter file name"_s, u"evening"_s);
@@ -299,7 +299,7 @@ void Day::publish()
     click("UploadShopSBtn");
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     for (const char* file : {"shop.xml", "pictures/lantern.png", "pictures/logo.png", "templates/footer.html"}) {
-        EXPECT_TRUE(FileBytes(server.path(QLatin1String(file))) == FileBytes(files.path(QLatin1String(file)))) << file;
+        EXPECT_TRUE(fileBytes(server.path(QLatin1String(file))) == fileBytes(files.path(QLatin1String(file)))) << file;
     }
 }
 
@@ -309,7 +309,7 @@ void Day::spoilAndRestore()
     clickNode(u"ID_SHOP"_s);
     type("ShopNameTxt", u"Spoilt"_s);
     trigger("mnuSaveShop");
-    EXPECT_TRUE(FileBytes(files.path(u"shop.xml"_s)).contains("Spoilt"));
+    EXPECT_TRUE(fileBytes(files.path(u"shop.xml"_s)).contains("Spoilt"));
     QFile::remove(files.path(u"pictures/lantern.png"_s));
 
     prompts.answerFile(files.path(u"backups/evening.kvb"_s));

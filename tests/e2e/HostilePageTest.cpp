@@ -78,8 +78,9 @@ TEST_F(HostilePageTest, OnlyPicturesUnderThePicturesFolderAreShown)
         {"a file address outside", u"file://"_s + files.path(u"outside.png"_s), "failed"},
         {"a device", u"/dev/zero"_s, "failed"},
     };
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         EXPECT_EQ(outcome(u"img"_s, u"src"_s, row.address), QString::fromLatin1(row.outcome)) << row.name;
+    }
 }
 
 TEST_F(HostilePageTest, AScriptReadsNoFile)
@@ -87,8 +88,9 @@ TEST_F(HostilePageTest, AScriptReadsNoFile)
     show(u"<body><p id=p>page</p>"_s);
     for (const QString& address : {files.path(u"secret.txt"_s), pictures + u"notes.txt"_s, pictures + u"page.html"_s,
                                    u"file://"_s + files.path(u"secret.txt"_s), u"/etc/passwd"_s,
-                                   u"file:///etc/passwd"_s, u"tarnwick-preview:/etc/passwd"_s})
+                                   u"file:///etc/passwd"_s, u"tarnwick-preview:/etc/passwd"_s}) {
         EXPECT_EQ(readByScript(address), u"failed"_s) << address.toStdString();
+    }
     EXPECT_EQ(outcome(u"script"_s, u"src"_s, u"file://"_s + files.path(u"secret.txt"_s)), u"failed"_s);
     EXPECT_EQ(outcome(u"script"_s, u"src"_s, files.path(u"secret.txt"_s)), u"failed"_s);
 }

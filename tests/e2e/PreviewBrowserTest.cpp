@@ -66,8 +66,9 @@ TEST_F(PreviewBrowserTest, ADocumentOfTenMillionLettersIsShown)
 {
     QString text = u"<!DOCTYPE html><body><p id=first>first</p>"_s;
     const QString paragraph = u"<p>"_s + u"A line of a very long page, with ümlauts. "_s.repeated(100) + u"</p>"_s;
-    while (text.size() < 10'000'000)
+    while (text.size() < 10'000'000) {
         text += paragraph;
+    }
     show(text + u"<p id=last>last</p>"_s);
     EXPECT_EQ(textOf(u"#first"_s), u"first"_s);
     EXPECT_EQ(textOf(u"#last"_s), u"last"_s);
@@ -256,8 +257,9 @@ TEST_F(PreviewBrowserTest, TheRightButtonOpensNoMenu)
     click(u"#p"_s, Qt::RightButton);
     pause(200);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-    for (const QWidget* widget : QApplication::topLevelWidgets())
+    for (const QWidget* widget : QApplication::topLevelWidgets()) {
         EXPECT_FALSE(widget->inherits("QMenu") && widget->isVisible());
+    }
 }
 
 TEST_F(PreviewBrowserTest, AFailureInAnActionReachesTheErrorHandlerAndLeavesThePage)

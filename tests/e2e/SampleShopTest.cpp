@@ -25,8 +25,9 @@ protected:
     {
         for (const CatalogueObject& object : session->objects.items()) {
             const auto* product = std::get_if<std::shared_ptr<ProductClass>>(&object);
-            if (product != nullptr && (*product)->ForSale && fits(**product))
+            if (product != nullptr && (*product)->ForSale && fits(**product)) {
                 return *product;
+            }
         }
         ADD_FAILURE() << "the sample shop has no such product";
         return nullptr;
@@ -64,8 +65,9 @@ protected:
     void chooseEntry(const QString& selector, int steps)
     {
         script(u"document.querySelector('%1').focus()"_s.arg(selector));
-        for (int i = 0; i < steps; ++i)
+        for (int i = 0; i < steps; ++i) {
             QTest::keyClick(browser->view()->focusProxy(), Qt::Key_Down);
+        }
         waitUntil(u"document.querySelector('%1').selectedIndex == %2"_s.arg(selector).arg(steps));
     }
     // Texts of the page without the kinds of blanks that it is set with.
@@ -85,13 +87,16 @@ protected:
         QStringList pages = {u"MAINPAGE"_s, u"ACTION=shopcart.php"_s, u"?ACTION=checkout.php"_s,
                              u"?ACTION=search.php&where=0&what=a"_s};
         for (const CatalogueObject& object : session->objects.items()) {
-            if (const auto* category = std::get_if<std::shared_ptr<CategoryClass>>(&object))
+            if (const auto* category = std::get_if<std::shared_ptr<CategoryClass>>(&object)) {
                 pages << u"ACTION=category.php&id="_s + (*category)->id;
-            if (const auto* product = std::get_if<std::shared_ptr<ProductClass>>(&object))
+            }
+            if (const auto* product = std::get_if<std::shared_ptr<ProductClass>>(&object)) {
                 pages << u"ACTION=product.php&id="_s + (*product)->id;
+            }
         }
-        for (const auto& page : session->shop->CustomPages)
+        for (const auto& page : session->shop->CustomPages) {
             pages << u"ACTION=custompage.php&name="_s + page->pageName;
+        }
         return pages;
     }
 };
@@ -150,18 +155,18 @@ TEST_F(SampleShopTest, AProductIsAddedToTheCartWithAQuantity)
 TEST_F(SampleShopTest, APriceWithADecimalReachesTheCart)
 {
     const auto product = productWithOnePrice();
-    product->Price()->Value = Localised(u"12.50"_s);
+    product->Price()->Value = localised(u"12.50"_s);
     product->Price()->Discount()->Status = DiscountStatus::No;
     addToCart(*product);
     ASSERT_EQ(session->Cart->Count(), 1);
-    EXPECT_EQ(session->Cart->Item(1)->SelectedPrice(), Localised(u"12.5"_s));
+    EXPECT_EQ(session->Cart->Item(1)->SelectedPrice(), localised(u"12.5"_s));
     type(u".cart-line input[name=quantity][type=number]"_s, u"4"_s);
     clickToNewPage(u".cart-line form [type=submit]"_s);
     EXPECT_EQ(session->Cart->Item(1)->Quantity, u"4"_s);
     EXPECT_EQ(plainTextOf(u".cart-sum strong"_s), withCurrency(u"50"_s));
-    product->Price()->Value = Localised(u"12.55"_s);
+    product->Price()->Value = localised(u"12.55"_s);
     goTo(u"ACTION=shopcart.php"_s);
-    EXPECT_EQ(plainTextOf(u".cart-sum strong"_s), withCurrency(Localised(u"50.2"_s)));
+    EXPECT_EQ(plainTextOf(u".cart-sum strong"_s), withCurrency(localised(u"50.2"_s)));
 }
 
 TEST_F(SampleShopTest, AChosenVariantIsAddedToTheCart)
@@ -221,14 +226,14 @@ TEST_F(SampleShopTest, TheCheckoutIsRecalculatedWithATaxAndACharge)
     for (const char* percent : {"19", "7.5"}) {
         clsTax tax;
         tax.TaxName = u"Tax"_s;
-        tax.setPercent(Localised(QString::fromLatin1(percent)));
+        tax.setPercent(localised(QString::fromLatin1(percent)));
         tax.IsChecked = true;
         session->shop->Taxes.Add(tax);
     }
     for (const char* cost : {"4.90", "9"}) {
         clsCharge charge;
         charge.Destination = u"Anywhere"_s;
-        charge.Cost = Localised(QString::fromLatin1(cost));
+        charge.Cost = localised(QString::fromLatin1(cost));
         charge.IsChecked = true;
         session->shop->Charges.Add(charge);
     }
@@ -242,7 +247,7 @@ TEST_F(SampleShopTest, TheCheckoutIsRecalculatedWithATaxAndACharge)
     clickToNewPage(u".summary form [type=submit]"_s);
     EXPECT_EQ(session->Cart->tax, 7.5F);
     EXPECT_EQ(session->Cart->Charge, 4.9F);
-    EXPECT_EQ(plainTextOf(u".summary .total strong"_s), withCurrency(Localised(u"112.4"_s)));
+    EXPECT_EQ(plainTextOf(u".summary .total strong"_s), withCurrency(localised(u"112.4"_s)));
 
     // Without a choice both are nothing again.
     clickToNewPage(u".summary form [type=submit]"_s);

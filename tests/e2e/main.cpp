@@ -24,8 +24,9 @@ void prepareEnvironment(const QString& home)
     qputenv("QT_QUICK_BACKEND", "software");
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS",
             "--disable-gpu --log-level=3 --host-resolver-rules=\"MAP * ~NOTFOUND , EXCLUDE 127.0.0.1\"");
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
 }
 
 } // namespace

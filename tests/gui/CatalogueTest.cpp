@@ -126,7 +126,7 @@ TEST_F(Catalogue, TakesANewRootCategory)
     EXPECT_EQ(panelName(), u"CategoryGeneralPnl"_s);
     EXPECT_TRUE(isShown("CategoryToolbar"));
     EXPECT_EQ(category("10")->parentCategory.lock(), nullptr);
-    EXPECT_TRUE(window->session().shop->Discount()->Childs().HasKey(u"10"_s));
+    EXPECT_TRUE(window->session().shop->Discount()->Childs().hasKey(u"10"_s));
 }
 
 TEST_F(Catalogue, TakesANewCategoryBelowACategory)
@@ -136,7 +136,7 @@ TEST_F(Catalogue, TakesANewCategoryBelowACategory)
     EXPECT_EQ(selected()->parent->key, u"ID2"_s);
     EXPECT_EQ(category("10")->parentCategory.lock(), category("2"));
     EXPECT_EQ(category("10")->ParentDiscount.lock(), category("2")->Discount());
-    EXPECT_TRUE(category("2")->Discount()->Childs().HasKey(u"10"_s));
+    EXPECT_TRUE(category("2")->Discount()->Childs().hasKey(u"10"_s));
     // Behind its siblings, whatever their kind.
     EXPECT_EQ(selected()->parent->children.back().get(), selected());
     EXPECT_EQ(selected()->parent->children.size(), 3U);
@@ -150,8 +150,8 @@ TEST_F(Catalogue, TakesANewProduct)
     EXPECT_EQ(selected()->text, u"New Product"_s);
     EXPECT_EQ(panelName(), u"ProductGeneralPnl"_s);
     EXPECT_TRUE(isShown("ProductToolbar"));
-    EXPECT_TRUE(category("3")->products.HasKey(u"ID10"_s));
-    EXPECT_FALSE(category("3")->Discount()->Childs().HasKey(u"10"_s));
+    EXPECT_TRUE(category("3")->products.hasKey(u"ID10"_s));
+    EXPECT_FALSE(category("3")->Discount()->Childs().hasKey(u"10"_s));
     const auto& product = window->session().objects.Product(u"10"_s);
     EXPECT_EQ(product->Price()->Discount()->ParentDependDiscounts, category("3")->Discount()->DependedDiscounts());
 }
@@ -163,13 +163,13 @@ TEST_F(Catalogue, LandsOnTheCategoryWhenAProductIsRemoved)
     click("RemoveProductSBtn");
     EXPECT_EQ(selected()->key, u"ID2"_s);
     EXPECT_EQ(panelName(), u"CategoryGeneralPnl"_s);
-    EXPECT_FALSE(category("2")->products.HasKey(u"ID4"_s));
-    EXPECT_TRUE(window->session().objects.HasKey(u"ID4"_s)); // meant
+    EXPECT_FALSE(category("2")->products.hasKey(u"ID4"_s));
+    EXPECT_TRUE(window->session().objects.hasKey(u"ID4"_s)); // meant
 }
 
 TEST_F(Catalogue, LandsOnTheShopWhenItsLastCategoryIsRemoved)
 {
-    ASSERT_TRUE(window->session().shop->Discount()->Childs().HasKey(u"2"_s));
+    ASSERT_TRUE(window->session().shop->Discount()->Childs().hasKey(u"2"_s));
     clickNode(u"ID2"_s);
     prompts.answerYesNo(warning, u"Are you sure you want to remove this category"_s, true);
     click("RemoveCategorySBtn");
@@ -177,15 +177,15 @@ TEST_F(Catalogue, LandsOnTheShopWhenItsLastCategoryIsRemoved)
     EXPECT_EQ(panelName(), u"ShopGeneralPnl"_s);
     EXPECT_TRUE(isShown("ShopToolbar"));
     EXPECT_TRUE(window->session().shop->categories.isEmpty());
-    EXPECT_FALSE(window->session().shop->Discount()->Childs().HasKey(u"2"_s));
+    EXPECT_FALSE(window->session().shop->Discount()->Childs().hasKey(u"2"_s));
     for (const char* key : {"ID2", "ID3", "ID4"}) {
-        EXPECT_FALSE(window->session().objects.HasKey(QLatin1String(key))) << key;
+        EXPECT_FALSE(window->session().objects.hasKey(QLatin1String(key))) << key;
     }
 }
 
 TEST_F(Catalogue, LandsOnTheCategoryAboveWhenACategoryBelowItIsRemoved)
 {
-    ASSERT_TRUE(category("2")->Discount()->Childs().HasKey(u"3"_s));
+    ASSERT_TRUE(category("2")->Discount()->Childs().hasKey(u"3"_s));
     clickNode(u"ID3"_s);
     prompts.answerYesNo(warning, u"Are you sure you want to remove this category"_s, true);
     click("RemoveCategorySBtn");
@@ -195,9 +195,9 @@ TEST_F(Catalogue, LandsOnTheCategoryAboveWhenACategoryBelowItIsRemoved)
     EXPECT_TRUE(isShown("CategoryToolbar"));
     EXPECT_EQ(find<QLineEdit>("CategoryNameTxt")->text(), u"Tea"_s);
     EXPECT_TRUE(category("2")->categories.isEmpty());
-    EXPECT_FALSE(category("2")->Discount()->Childs().HasKey(u"3"_s));
-    EXPECT_FALSE(window->session().objects.HasKey(u"ID3"_s));
-    EXPECT_TRUE(window->session().objects.HasKey(u"ID4"_s));
+    EXPECT_FALSE(category("2")->Discount()->Childs().hasKey(u"3"_s));
+    EXPECT_FALSE(window->session().objects.hasKey(u"ID3"_s));
+    EXPECT_TRUE(window->session().objects.hasKey(u"ID4"_s));
 }
 
 TEST_F(Catalogue, SavesNothingWhenARemovalIsRefusedAndKeepsThePanelBound)
@@ -239,7 +239,7 @@ TEST_F(Catalogue, StaysAsItIsWhenARemovalIsRefused)
     EXPECT_EQ(selected()->key, u"ID4"_s);
     EXPECT_EQ(panelName(), u"ProductGeneralPnl"_s);
     EXPECT_TRUE(isShown("ProductGeneralPnl"));
-    EXPECT_TRUE(category("2")->products.HasKey(u"ID4"_s));
+    EXPECT_TRUE(category("2")->products.hasKey(u"ID4"_s));
 }
 
 TEST_F(Catalogue, NamesADuplicateOfAProductACopy)

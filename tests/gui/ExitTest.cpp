@@ -25,17 +25,17 @@ TEST_F(Exit, WithYesSavesAndCloses)
     find<QLineEdit>("ShopNameTxt")->setText(u"Moss"_s);
     prompts.answerYesNoCancel(title, question, PromptAnswer::Yes);
     EXPECT_TRUE(window->close());
-    EXPECT_TRUE(FileBytes(files.path(u"shop.xml"_s)).contains("<Name>Moss</Name>"));
+    EXPECT_TRUE(fileBytes(files.path(u"shop.xml"_s)).contains("<Name>Moss</Name>"));
     EXPECT_EQ(window->session().Cart, nullptr);
 }
 
 TEST_F(Exit, WithNoClosesAndSavesNothing)
 {
-    const QByteArray before = FileBytes(files.path(u"shop.xml"_s));
+    const QByteArray before = fileBytes(files.path(u"shop.xml"_s));
     window->session().shop->name = u"Moss"_s;
     prompts.answerYesNoCancel(title, question, PromptAnswer::No);
     EXPECT_TRUE(window->close());
-    EXPECT_EQ(FileBytes(files.path(u"shop.xml"_s)), before);
+    EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), before);
     EXPECT_EQ(window->session().Cart, nullptr);
 }
 

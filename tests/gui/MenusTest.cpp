@@ -143,14 +143,14 @@ TEST_F(Menus, ShowTheUploadWithoutAQuestion)
 
 TEST_F(Menus, CloseThePanelAndAskBeforeTheUploadOfTheButton)
 {
-    const QByteArray before = FileBytes(files.path(u"shop.xml"_s));
+    const QByteArray before = fileBytes(files.path(u"shop.xml"_s));
     prompts.answerYesNo(u"Ambrel eCommerce Software"_s, u"Do you want save changes?"_s, false);
     const UploadWatch watch(*window);
     click("UploadShopSBtn");
     EXPECT_EQ(watch.title, u"Uploading"_s);
     EXPECT_FALSE(watch.panelWasOpen);
     EXPECT_EQ(window->VisibleFrame, nullptr);
-    EXPECT_EQ(FileBytes(files.path(u"shop.xml"_s)), before);
+    EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), before);
 }
 
 // Notes at each question whether a panel is open.
@@ -187,7 +187,7 @@ TEST_F(Menus, CloseThePanelAheadOfTheQuestionOfTheUploadButton)
 
 TEST_F(Menus, SaveBeforeTheUploadWhenTheAnswerIsYes)
 {
-    const QByteArray before = FileBytes(files.path(u"shop.xml"_s));
+    const QByteArray before = fileBytes(files.path(u"shop.xml"_s));
     prompts.answerYesNo(u"Ambrel eCommerce Software"_s, u"Do you want save changes?"_s, true);
     window->session().shop->name = u"Moss"_s;
     window->ShowFrame(nullptr, 0);
@@ -198,14 +198,14 @@ TEST_F(Menus, SaveBeforeTheUploadWhenTheAnswerIsYes)
     QObject::connect(&watch, &QTimer::timeout, window.get(), [&] {
         if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
             watch.stop();
-            saved = FileBytes(files.path(u"shop.xml"_s)).contains("Moss");
+            saved = fileBytes(files.path(u"shop.xml"_s)).contains("Moss");
             dialog->reject();
         }
     });
     watch.start(20);
     click("UploadShopSBtn");
     EXPECT_TRUE(saved);
-    EXPECT_NE(FileBytes(files.path(u"shop.xml"_s)), before);
+    EXPECT_NE(fileBytes(files.path(u"shop.xml"_s)), before);
 }
 
 TEST_F(Menus, AskForANameOfABackupAndMakeIt)

@@ -227,7 +227,7 @@ TEST_F(Keyboard, AloneMakesACategoryWithAProductAndSavesThem)
     typeOver(u"80"_s);
 
     takeEntry(Qt::Key_S, Qt::Key_S);
-    const QByteArray saved = FileBytes(files.path(u"shop.xml"_s));
+    const QByteArray saved = fileBytes(files.path(u"shop.xml"_s));
     EXPECT_TRUE(saved.contains("<Name>Kettles</Name>"));
     EXPECT_TRUE(saved.contains("<Name>Copper kettle</Name>"));
 

@@ -27,7 +27,7 @@ protected:
     // Types a name into the shop's general panel, which is open after the start.
     void typeShopName(const QString& name) { find<QLineEdit>("ShopNameTxt")->setText(name); }
 
-    QByteArray savedShop() const { return FileBytes(files.path(u"shop.xml"_s)); }
+    QByteArray savedShop() const { return fileBytes(files.path(u"shop.xml"_s)); }
 };
 
 TEST_F(SaveShop, ShowsItsFrameForAtLeastThreeTenthsOfASecond)

@@ -82,7 +82,7 @@ TEST_F(StartUp, WithoutCountriesFailsAheadOfAnyWindow)
 {
     useShop(smallShop);
     QFile::remove(files.path(u"countries.txt"_s));
-    EXPECT_EQ(ErrorOf([&] { start(); }), 53);
+    EXPECT_EQ(errorOf([&] { start(); }), 53);
     EXPECT_EQ(window, nullptr);
     EXPECT_EQ(logLines(), QStringList{u"Start Function LoadCountries"_s});
 }
@@ -91,7 +91,7 @@ TEST_F(StartUp, WithACountryTwiceFailsAheadOfAnyWindow)
 {
     useShop(smallShop);
     WriteFile(files.path(u"countries.txt"_s), "Norway\r\nChad\r\nnorway\r\n");
-    EXPECT_EQ(ErrorOf([&] { start(); }), 457);
+    EXPECT_EQ(errorOf([&] { start(); }), 457);
     EXPECT_EQ(window, nullptr);
 }
 
@@ -99,7 +99,7 @@ TEST_F(StartUp, WithALogThatCannotBeWrittenFails)
 {
     useShop(smallShop);
     ASSERT_TRUE(QDir(files.folder().path()).mkdir(u"load.log"_s));
-    EXPECT_EQ(ErrorOf([&] { start(); }), 75);
+    EXPECT_EQ(errorOf([&] { start(); }), 75);
     EXPECT_EQ(window, nullptr);
 }
 
@@ -131,7 +131,7 @@ TEST_P(StartUpOnBadShopFile, ShowsTheSameBoxAndGoesOn)
     start();
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(window->session().shop->name, QString());
-    EXPECT_EQ(FileBytes(files.path(u"shop.xml"_s)), QByteArray(GetParam()));
+    EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), QByteArray(GetParam()));
 }
 
 INSTANTIATE_TEST_SUITE_P(All, StartUpOnBadShopFile,
@@ -181,7 +181,7 @@ TEST_F(StartUp, RewritesAFileOfAnotherVersionAheadOfTheWindow)
     const qsizetype mismatch = lines.indexOf(u"Version not mutched"_s);
     ASSERT_GE(mismatch, 0);
     EXPECT_LT(mismatch, lines.indexOf(u"MainForm shown"_s));
-    const QByteArray saved = FileBytes(files.path(u"shop.xml"_s));
+    const QByteArray saved = fileBytes(files.path(u"shop.xml"_s));
     EXPECT_TRUE(saved.startsWith("<Tarnwick><Shop><Version>1.2.0</Version>")) << saved.left(80).toStdString();
     EXPECT_TRUE(find("SaveProgressFrame")->isHidden());
     EXPECT_EQ(find<QProgressBar>("SaveProgressBar")->value(), 100); // it ran, though nobody could see it
@@ -190,9 +190,9 @@ TEST_F(StartUp, RewritesAFileOfAnotherVersionAheadOfTheWindow)
 TEST_F(StartUp, LeavesAFileOfItsOwnVersionAlone)
 {
     useShop(smallShop);
-    const QByteArray before = FileBytes(files.path(u"shop.xml"_s));
+    const QByteArray before = fileBytes(files.path(u"shop.xml"_s));
     start();
-    EXPECT_EQ(FileBytes(files.path(u"shop.xml"_s)), before);
+    EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), before);
 }
 
 TEST_F(StartUp, WithABrokenTemplateGoesOnWithTheTemplatesAheadOfIt)
@@ -201,9 +201,9 @@ TEST_F(StartUp, WithABrokenTemplateGoesOnWithTheTemplatesAheadOfIt)
     WriteFile(files.path(u"templates/menu.html"_s), "<!--:if:x=1:-->");
     start();
     EXPECT_FALSE(logLines().contains(u"End parseTemplates"_s));
-    EXPECT_TRUE(window->CurrentTemplatesSet().templates.HasKey(u"footer"_s));
-    EXPECT_FALSE(window->CurrentTemplatesSet().templates.HasKey(u"menu"_s));
-    EXPECT_FALSE(window->CurrentTemplatesSet().templates.HasKey(u"category"_s));
+    EXPECT_TRUE(window->CurrentTemplatesSet().templates.hasKey(u"footer"_s));
+    EXPECT_FALSE(window->CurrentTemplatesSet().templates.hasKey(u"menu"_s));
+    EXPECT_FALSE(window->CurrentTemplatesSet().templates.hasKey(u"category"_s));
     EXPECT_EQ(window->WorkMode, MainForm::CatalogueMode);
 }
 

@@ -75,7 +75,7 @@ TEST_F(TemplateVersions, AreCheckedForAllTwelve)
 
 TEST_F(TemplateVersions, OfAMissingTemplateAreAnError)
 {
-    EXPECT_EQ(ErrorOf([&] { CheckTemplateVersion(u"main"_s, files.folder(), prompts, close); }), 53);
+    EXPECT_EQ(errorOf([&] { CheckTemplateVersion(u"main"_s, files.folder(), prompts, close); }), 53);
 }
 
 } // namespace

@@ -15,7 +15,7 @@ protected:
 
     int import(QStringList fields)
     {
-        return ErrorOf([&] { session.shop->ImportCategory(fields); });
+        return errorOf([&] { session.shop->ImportCategory(fields); });
     }
 };
 
@@ -34,7 +34,7 @@ TEST_F(CatalogueImports, AProductLandsInARootCategoryMadeForIt)
     EXPECT_EQ(product->shop, nullptr);
     EXPECT_EQ(product->category.lock(), category);
     EXPECT_EQ(product->ShippingStatus, u"Weight"_s);
-    EXPECT_FALSE(category->Discount()->Childs().HasKey(u"102"_s));
+    EXPECT_FALSE(category->Discount()->Childs().hasKey(u"102"_s));
     EXPECT_EQ(session.objects.Category(u"101"_s), category);
     EXPECT_EQ(session.objects.Product(u"102"_s), product);
 }

@@ -20,7 +20,7 @@ protected:
 
 TEST_F(CatalogueNodes, ANewRootCategoryHasNoParent)
 {
-    const auto category = NewCategory(shop(), nullptr);
+    const auto category = newCategory(shop(), nullptr);
     EXPECT_EQ(category->name, u"New Category"_s);
     EXPECT_EQ(category->id, u"101"_s);
     EXPECT_EQ(category->shop, session.shop.get());
@@ -33,7 +33,7 @@ TEST_F(CatalogueNodes, ANewRootCategoryHasNoParent)
 TEST_F(CatalogueNodes, ANewSubCategoryInheritsFromItsParentsDiscount)
 {
     const auto parent = rootCategory();
-    const auto category = NewCategory(shop(), parent);
+    const auto category = newCategory(shop(), parent);
     EXPECT_EQ(category->parentCategory.lock(), parent);
     EXPECT_EQ(category->ParentDiscount.lock(), parent->Discount());
     EXPECT_EQ(parent->categories.Item(u"ID101"_s), category);
@@ -44,10 +44,10 @@ TEST_F(CatalogueNodes, ANewCategoryBelowTheDeepestLevelIsError28AndChangesNothin
 {
     auto deepest = rootCategory();
     while (deepest->Level() < MaximumCategoryLevel) {
-        deepest = NewCategory(shop(), deepest);
+        deepest = newCategory(shop(), deepest);
     }
     const QString highest = shop().MaxProductId;
-    EXPECT_EQ(ErrorOf([&] { NewCategory(shop(), deepest); }), 28);
+    EXPECT_EQ(errorOf([&] { newCategory(shop(), deepest); }), 28);
     EXPECT_EQ(shop().MaxProductId, highest);
     EXPECT_EQ(deepest->categories.Count(), 0);
 }
@@ -55,7 +55,7 @@ TEST_F(CatalogueNodes, ANewCategoryBelowTheDeepestLevelIsError28AndChangesNothin
 TEST_F(CatalogueNodes, ANewProductGetsTheCategorysOwnBandsAndIsNotInItsDiscount)
 {
     const auto category = rootCategory();
-    const auto product = NewProduct(shop(), category);
+    const auto product = newProduct(shop(), category);
     EXPECT_EQ(product->name, u"New Product"_s);
     EXPECT_EQ(product->id, u"101"_s);
     EXPECT_EQ(product->shop, session.shop.get());
@@ -63,35 +63,35 @@ TEST_F(CatalogueNodes, ANewProductGetsTheCategorysOwnBandsAndIsNotInItsDiscount)
     EXPECT_EQ(product->ShippingStatus, u"Weight"_s);
     EXPECT_EQ(product->Price()->Discount()->ParentDependDiscounts, category->Discount()->DependedDiscounts());
     EXPECT_EQ(category->products.Item(u"ID101"_s), product);
-    EXPECT_FALSE(category->Discount()->Childs().HasKey(u"101"_s));
+    EXPECT_FALSE(category->Discount()->Childs().hasKey(u"101"_s));
 }
 
 TEST_F(CatalogueNodes, CategoriesAndProductsShareOneCounter)
 {
-    EXPECT_EQ(NewCategory(shop(), nullptr)->id, u"101"_s);
-    EXPECT_EQ(NewProduct(shop(), rootCategory())->id, u"102"_s);
-    EXPECT_EQ(NewCategory(shop(), rootCategory())->id, u"103"_s);
+    EXPECT_EQ(newCategory(shop(), nullptr)->id, u"101"_s);
+    EXPECT_EQ(newProduct(shop(), rootCategory())->id, u"102"_s);
+    EXPECT_EQ(newCategory(shop(), rootCategory())->id, u"103"_s);
 }
 
 TEST_F(CatalogueNodes, ADuplicateBearsTheNameWithCopyBehindItAndStandsInTheSameCategory)
 {
     const auto source = firstProduct();
     source->setRelatedIds({u"4"_s});
-    const auto copy = DuplicateProduct(shop(), *source);
+    const auto copy = duplicateProduct(shop(), *source);
     EXPECT_EQ(copy->name, u"P5 copy"_s);
     EXPECT_EQ(copy->id, u"101"_s);
     EXPECT_EQ(copy->shop, source->shop);
     EXPECT_EQ(copy->category.lock(), rootCategory());
     EXPECT_EQ(copy->related, source->related);
     EXPECT_EQ(rootCategory()->products.Item(u"ID101"_s), copy);
-    EXPECT_FALSE(rootCategory()->Discount()->Childs().HasKey(u"101"_s));
-    EXPECT_EQ(DuplicateProduct(shop(), *copy)->name, u"P5 copy copy"_s);
+    EXPECT_FALSE(rootCategory()->Discount()->Childs().hasKey(u"101"_s));
+    EXPECT_EQ(duplicateProduct(shop(), *copy)->name, u"P5 copy copy"_s);
 }
 
 TEST_F(CatalogueNodes, ARemovedProductStaysInObjectsCollection)
 {
     const auto product = firstProduct();
-    RemoveProduct(*product);
+    removeProduct(*product);
     EXPECT_EQ(rootCategory()->products.Count(), 0);
     EXPECT_EQ(session.objects.Product(u"5"_s), product);
 }
@@ -100,12 +100,12 @@ TEST_F(CatalogueNodes, ARemovedCategoryLeavesParentDiscountAndObjectsCollection)
 {
     const auto parent = rootCategory();
     const auto category = parent->categories.Item(1);
-    RemoveCategory(shop(), category);
+    removeCategory(shop(), category);
     EXPECT_EQ(parent->categories.Count(), 0);
-    EXPECT_FALSE(parent->Discount()->Childs().HasKey(u"3"_s));
-    EXPECT_FALSE(session.objects.HasKey(u"ID3"_s));
-    EXPECT_FALSE(session.objects.HasKey(u"ID4"_s));
-    RemoveCategory(shop(), parent);
+    EXPECT_FALSE(parent->Discount()->Childs().hasKey(u"3"_s));
+    EXPECT_FALSE(session.objects.hasKey(u"ID3"_s));
+    EXPECT_FALSE(session.objects.hasKey(u"ID4"_s));
+    removeCategory(shop(), parent);
     EXPECT_EQ(shop().categories.Count(), 0);
     EXPECT_EQ(shop().Discount()->Childs().Count(), 0);
     EXPECT_EQ(session.objects.items().Count(), 1);
@@ -114,18 +114,18 @@ TEST_F(CatalogueNodes, ARemovedCategoryLeavesParentDiscountAndObjectsCollection)
 TEST_F(CatalogueNodes, AProductRemovedBeforeItsCategoryStillFindsIt)
 {
     const auto product = firstProduct();
-    RemoveProduct(*product);
-    RemoveCategory(shop(), rootCategory());
+    removeProduct(*product);
+    removeCategory(shop(), rootCategory());
     ASSERT_NE(product->category.lock(), nullptr);
     EXPECT_EQ(product->category.lock()->name, u"C2"_s);
 }
 
 TEST_F(CatalogueNodes, IdsAreNeverUsedAgain)
 {
-    const auto category = NewCategory(shop(), nullptr);
+    const auto category = newCategory(shop(), nullptr);
     session.callbacks.AddCategoryToTheTree(nullptr, category);
-    RemoveCategory(shop(), category);
-    EXPECT_EQ(NewCategory(shop(), nullptr)->id, u"102"_s);
+    removeCategory(shop(), category);
+    EXPECT_EQ(newCategory(shop(), nullptr)->id, u"102"_s);
 }
 
 } // namespace

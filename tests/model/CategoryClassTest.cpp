@@ -52,7 +52,7 @@ TEST_F(Categories, MoreProductsThanA16BitCountCanSayIsError6)
     }
     EXPECT_EQ(top.GetProductCount(), 32767);
     two->products.Add(product);
-    EXPECT_EQ(ErrorOf([&] { top.GetProductCount(); }), 6);
+    EXPECT_EQ(errorOf([&] { top.GetProductCount(); }), 6);
     // The shop's count is a wider number.
     ShopClass shop(session.services);
     shop.categories.Add(one, u"ID1"_s);
@@ -68,14 +68,14 @@ TEST_F(Categories, RemovingWhatIsBelowEmptiesObjectsCollectionAndNothingElse)
     session.registerShop();
     rootCategory()->RemoveChilds();
     for (const QString& gone : {u"ID3"_s, u"ID4"_s, u"ID5"_s}) {
-        EXPECT_FALSE(session.objects.HasKey(gone)) << gone.toStdString();
+        EXPECT_FALSE(session.objects.hasKey(gone)) << gone.toStdString();
     }
     for (const QString& there : {u"ID_SHOP"_s, u"ID2"_s, u"ID6"_s, u"ID7"_s}) {
-        EXPECT_TRUE(session.objects.HasKey(there)) << there.toStdString();
+        EXPECT_TRUE(session.objects.hasKey(there)) << there.toStdString();
     }
     EXPECT_EQ(rootCategory()->categories.Count(), 1);
     EXPECT_EQ(rootCategory()->products.Count(), 1);
-    EXPECT_EQ(ErrorOf([&] { rootCategory()->RemoveChilds(); }), 5);
+    EXPECT_EQ(errorOf([&] { rootCategory()->RemoveChilds(); }), 5);
 }
 
 TEST_F(Categories, ReadingSetsOwnerParentAndDiscounts)

@@ -27,9 +27,9 @@ private:
 
 TEST(NormalizeDecimals, EverySeparatorBecomesTheUsers)
 {
-    EXPECT_EQ(NormalizeDecimal(u"12,50"_s), Localised(u"12.50"_s));
-    EXPECT_EQ(NormalizeDecimal(u"12.50"_s), Localised(u"12.50"_s));
-    EXPECT_EQ(NormalizeDecimal(u"1,2.3"_s), Localised(u"1.2.3"_s));
+    EXPECT_EQ(NormalizeDecimal(u"12,50"_s), localised(u"12.50"_s));
+    EXPECT_EQ(NormalizeDecimal(u"12.50"_s), localised(u"12.50"_s));
+    EXPECT_EQ(NormalizeDecimal(u"1,2.3"_s), localised(u"1.2.3"_s));
     EXPECT_EQ(NormalizeDecimal(u"abc"_s), u"abc"_s);
     EXPECT_EQ(NormalizeDecimal(QString()), QString());
 }
@@ -47,8 +47,8 @@ TEST(NormalizeDecimals, BothDirections)
 TEST(NormalizeDecimals, WithAnotherSeparatorTheTextStays)
 {
     const OtherLocale arabic(u"ar_EG"_s);
-    ASSERT_NE(DecimalSeparator(), u"."_s);
-    ASSERT_NE(DecimalSeparator(), u","_s);
+    ASSERT_NE(decimalSeparator(), u"."_s);
+    ASSERT_NE(decimalSeparator(), u","_s);
     EXPECT_EQ(NormalizeDecimal(u"12,50"_s), u"12,50"_s);
     EXPECT_EQ(NormalizeDecimal(u"12.50"_s), u"12.50"_s);
 }
@@ -88,34 +88,34 @@ TEST(DateTexts, AFileDateBecomesLocalTextByThreeStepsThatClip)
         {QString(), {}},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(DateTextToLocal(row.text), row.date.isValid() ? LocalDateText(row.date) : QString())
+        EXPECT_EQ(DateTextToLocal(row.text), row.date.isValid() ? localDateText(row.date) : QString())
             << row.text.toStdString();
     }
 }
 
 TEST(DateTexts, ALocalDateBecomesAFileDateAndAnEmptyOneStaysEmpty)
 {
-    EXPECT_EQ(LocalToDateText(LocalDateText({2024, 5, 3})), u"03.05.2024"_s);
-    EXPECT_EQ(LocalToDateText(QString()), QString());
-    EXPECT_EQ(ErrorOf([] { LocalToDateText(u"tomorrow"_s); }), 13);
+    EXPECT_EQ(localToDateText(localDateText({2024, 5, 3})), u"03.05.2024"_s);
+    EXPECT_EQ(localToDateText(QString()), QString());
+    EXPECT_EQ(errorOf([] { localToDateText(u"tomorrow"_s); }), 13);
 }
 
 TEST(DateTexts, BothEndsCountAndEmptyOnesAreOpen)
 {
     const QDate today(2024, 5, 15);
-    const QString before = LocalDateText(today.addDays(-1));
-    const QString same = LocalDateText(today);
-    const QString after = LocalDateText(today.addDays(1));
-    EXPECT_TRUE(DateIsBetween(today, QString(), QString()));
-    EXPECT_TRUE(DateIsBetween(today, same, same));
-    EXPECT_TRUE(DateIsBetween(today, before, after));
-    EXPECT_FALSE(DateIsBetween(today, after, QString()));
-    EXPECT_FALSE(DateIsBetween(today, QString(), before));
-    EXPECT_FALSE(DateIsBetween(QDate(1899, 12, 31), QString(), QString()));
-    EXPECT_TRUE(DateIsBetween(QDate(5100, 1, 1), QString(), QString()));
-    EXPECT_FALSE(DateIsBetween(QDate(5100, 1, 2), QString(), QString()));
-    EXPECT_EQ(ErrorOf([&] { DateIsBetween(today, u"x"_s, QString()); }), 13);
-    EXPECT_EQ(ErrorOf([&] { DateIsBetween(today, QString(), u"x"_s); }), 13);
+    const QString before = localDateText(today.addDays(-1));
+    const QString same = localDateText(today);
+    const QString after = localDateText(today.addDays(1));
+    EXPECT_TRUE(dateIsBetween(today, QString(), QString()));
+    EXPECT_TRUE(dateIsBetween(today, same, same));
+    EXPECT_TRUE(dateIsBetween(today, before, after));
+    EXPECT_FALSE(dateIsBetween(today, after, QString()));
+    EXPECT_FALSE(dateIsBetween(today, QString(), before));
+    EXPECT_FALSE(dateIsBetween(QDate(1899, 12, 31), QString(), QString()));
+    EXPECT_TRUE(dateIsBetween(QDate(5100, 1, 1), QString(), QString()));
+    EXPECT_FALSE(dateIsBetween(QDate(5100, 1, 2), QString(), QString()));
+    EXPECT_EQ(errorOf([&] { dateIsBetween(today, u"x"_s, QString()); }), 13);
+    EXPECT_EQ(errorOf([&] { dateIsBetween(today, QString(), u"x"_s); }), 13);
 }
 
 TEST(NewPrices, ThePriceIsLoweredAndRoundedToTwoDecimalsInShortestForm)
@@ -133,23 +133,23 @@ TEST(NewPrices, ThePriceIsLoweredAndRoundedToTwoDecimalsInShortestForm)
         {u"0.01"_s, u"50"_s, u"0.01"_s}, {u"-5"_s, u"10"_s, u"-4.5"_s},      {u"1000000"_s, u"1"_s, u"990000"_s},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(CalculateNewPrice(Localised(row.price), Localised(row.percent)), Localised(row.result))
+        EXPECT_EQ(CalculateNewPrice(localised(row.price), localised(row.percent)), localised(row.result))
             << row.price.toStdString() << " at " << row.percent.toStdString();
     }
 }
 
 TEST(NewPrices, WhatIsNoNumberIsError13AndWhatIsTooLargeError6)
 {
-    EXPECT_EQ(ErrorOf([] { CalculateNewPrice(u"x"_s, u"10"_s); }), 13);
-    EXPECT_EQ(ErrorOf([] { CalculateNewPrice(u"10"_s, u"x"_s); }), 13);
-    EXPECT_EQ(ErrorOf([] { CalculateNewPrice(u" "_s, u"10"_s); }), 13);
-    EXPECT_EQ(ErrorOf([] { CalculateNewPrice(u"1e308"_s, u"-900"_s); }), 6);
+    EXPECT_EQ(errorOf([] { CalculateNewPrice(u"x"_s, u"10"_s); }), 13);
+    EXPECT_EQ(errorOf([] { CalculateNewPrice(u"10"_s, u"x"_s); }), 13);
+    EXPECT_EQ(errorOf([] { CalculateNewPrice(u" "_s, u"10"_s); }), 13);
+    EXPECT_EQ(errorOf([] { CalculateNewPrice(u"1e308"_s, u"-900"_s); }), 6);
 }
 
 TEST(NewPrices, AForeignSeparatorIsNoNumber)
 {
-    const QString foreign = DecimalSeparator() == u"."_s ? u"12,50"_s : u"12.50"_s;
-    EXPECT_EQ(ErrorOf([&] { CalculateNewPrice(foreign, QString()); }), 13);
+    const QString foreign = decimalSeparator() == u"."_s ? u"12,50"_s : u"12.50"_s;
+    EXPECT_EQ(errorOf([&] { CalculateNewPrice(foreign, QString()); }), 13);
 }
 
 TEST(StatusWords, EachNumberHasItsWordAndBack)
@@ -165,10 +165,10 @@ TEST(StatusWords, EachNumberHasItsWordAndBack)
 TEST(StatusWords, AnythingElseIsError94)
 {
     for (const QString& word : {u"1"_s, u"no"_s, u"TOALL"_s, u" No"_s, QString()}) {
-        EXPECT_EQ(ErrorOf([&] { StatusFromWord(word); }), 94) << word.toStdString();
+        EXPECT_EQ(errorOf([&] { StatusFromWord(word); }), 94) << word.toStdString();
     }
-    EXPECT_EQ(ErrorOf([] { StatusToWord(0); }), 94);
-    EXPECT_EQ(ErrorOf([] { StatusToWord(6); }), 94);
+    EXPECT_EQ(errorOf([] { StatusToWord(0); }), 94);
+    EXPECT_EQ(errorOf([] { StatusToWord(6); }), 94);
 }
 
 } // namespace

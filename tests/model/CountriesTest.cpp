@@ -10,7 +10,7 @@ protected:
     int loadCountries(const QByteArray& bytes)
     {
         WriteFile(session.folder.countriesFile(), bytes);
-        return ErrorOf([this] { EXPECT_TRUE(session.LoadCountries()); });
+        return errorOf([this] { EXPECT_TRUE(session.LoadCountries()); });
     }
 };
 
@@ -40,7 +40,7 @@ TEST_F(Countries, BlanksAheadEmptyLinesAndTheLastLineEndMakeNoName)
 
 TEST_F(Countries, AMissingFileIsError53)
 {
-    EXPECT_EQ(ErrorOf([this] { session.LoadCountries(); }), 53);
+    EXPECT_EQ(errorOf([this] { session.LoadCountries(); }), 53);
 }
 
 TEST_F(Countries, ACountryThatStandsTwiceIsError457)

@@ -92,7 +92,7 @@ public:
 
     void design(const ShopDesignClass& design)
     {
-        for (const DesignOptionRow& row : DesignOptionTable()) {
+        for (const DesignOptionRow& row : designOptionTable()) {
             add(row.name, design.Option(row.option));
         }
         for (std::size_t i = 0; i < ImageSlotCount; ++i) {
@@ -131,7 +131,7 @@ private:
 
 } // namespace
 
-QStringList Described(ShopClass& shop)
+QStringList described(ShopClass& shop)
 {
     Describer describer;
     for (const QString& text : {shop.name, shop.Description, shop.shop_currency, shop.Version, shop.MaxProductId}) {

@@ -6,4 +6,4 @@
 #include <QStringList>
 
 // Every member of the shop that its file holds, one a line. It does not go through the writer.
-QStringList Described(ShopClass& shop);
+QStringList described(ShopClass& shop);

@@ -12,12 +12,12 @@ TEST_F(Objects, BeforeItIsMadeEveryUseIsError91)
 {
     ObjectsCollection& objects = session.objects;
     EXPECT_FALSE(objects.isCreated());
-    EXPECT_EQ(ErrorOf([&] { objects.Item(u"ID2"_s); }), 91);
-    EXPECT_EQ(ErrorOf([&] { objects.HasKey(u"ID2"_s); }), 91);
-    EXPECT_EQ(ErrorOf([&] { objects.Product(u"2"_s); }), 91);
-    EXPECT_EQ(ErrorOf([&] { objects.Remove(u"ID2"_s); }), 91);
-    EXPECT_EQ(ErrorOf([&] { objects.Add(CatalogueObject(), u"ID2"_s); }), 91);
-    EXPECT_EQ(ErrorOf([&] { objects.items(); }), 91);
+    EXPECT_EQ(errorOf([&] { objects.Item(u"ID2"_s); }), 91);
+    EXPECT_EQ(errorOf([&] { objects.hasKey(u"ID2"_s); }), 91);
+    EXPECT_EQ(errorOf([&] { objects.Product(u"2"_s); }), 91);
+    EXPECT_EQ(errorOf([&] { objects.Remove(u"ID2"_s); }), 91);
+    EXPECT_EQ(errorOf([&] { objects.Add(CatalogueObject(), u"ID2"_s); }), 91);
+    EXPECT_EQ(errorOf([&] { objects.items(); }), 91);
     objects.create();
     EXPECT_EQ(objects.items().Count(), 0);
 }
@@ -45,18 +45,18 @@ TEST_F(Objects, NodesAreFoundByIdAndKind)
     session.registerShop();
     EXPECT_EQ(session.objects.Category(u"2"_s), rootCategory());
     EXPECT_EQ(session.objects.Product(u"5"_s), firstProduct());
-    EXPECT_EQ(ErrorOf([&] { session.objects.Product(u"2"_s); }), 13);
-    EXPECT_EQ(ErrorOf([&] { session.objects.Category(u"5"_s); }), 13);
-    EXPECT_EQ(ErrorOf([&] { session.objects.Category(u"_SHOP"_s); }), 13);
-    EXPECT_EQ(ErrorOf([&] { session.objects.Product(u"99"_s); }), 5);
-    EXPECT_EQ(NodeKey(u"2"_s), u"ID2"_s);
-    EXPECT_EQ(ShopNodeKey(), u"ID_SHOP"_s);
+    EXPECT_EQ(errorOf([&] { session.objects.Product(u"2"_s); }), 13);
+    EXPECT_EQ(errorOf([&] { session.objects.Category(u"5"_s); }), 13);
+    EXPECT_EQ(errorOf([&] { session.objects.Category(u"_SHOP"_s); }), 13);
+    EXPECT_EQ(errorOf([&] { session.objects.Product(u"99"_s); }), 5);
+    EXPECT_EQ(nodeKey(u"2"_s), u"ID2"_s);
+    EXPECT_EQ(shopNodeKey(), u"ID_SHOP"_s);
 }
 
 TEST_F(Objects, AnIdInTwoParentsIsError457WhenTheTreeIsBuilt)
 {
     ASSERT_EQ(load(shopFile(category("2", product("5", "")) + category("3", product("5", "")))), 0);
-    EXPECT_EQ(ErrorOf([&] { session.registerShop(); }), 457);
+    EXPECT_EQ(errorOf([&] { session.registerShop(); }), 457);
 }
 
 TEST_F(Objects, BuildingTheTreeAgainMakesTheCollectionNew)

@@ -59,13 +59,13 @@ QString RandomShop::uniqueText()
 
 QString RandomShop::decimal()
 {
-    return Localised(u"%1.%2"_s.arg(number(0, 999)).arg(number(1, 99), 2, 10, QChar(u'0')));
+    return localised(u"%1.%2"_s.arg(number(0, 999)).arg(number(1, 99), 2, 10, QChar(u'0')));
 }
 
 // A 29 February does not come back, so there is none.
 QString RandomShop::date()
 {
-    return chance(40) ? QString() : LocalDateText(QDate(number(1900, 5100), number(1, 12), number(1, 28)));
+    return chance(40) ? QString() : localDateText(QDate(number(1900, 5100), number(1, 12), number(1, 28)));
 }
 
 void RandomShop::fillDiscount(clsDiscount& discount, bool hasBands)
@@ -135,7 +135,7 @@ void RandomShop::fillCategory(ShopSession& session, const std::shared_ptr<Catego
         child->parentCategory = category;
         fillCategory(session, child, level + 1);
         category->Discount()->AddChildDiscount(child->Discount(), child->id);
-        category->categories.Add(child, NodeKey(child->id));
+        category->categories.Add(child, nodeKey(child->id));
     }
     for (int i = number(0, 3); i > 0; --i) {
         const auto product = std::make_shared<ProductClass>(session.services);
@@ -143,7 +143,7 @@ void RandomShop::fillCategory(ShopSession& session, const std::shared_ptr<Catego
         product->category = category;
         fillProduct(session, *product);
         category->Discount()->AddChildDiscount(product->Price()->Discount(), product->id);
-        category->products.Add(product, NodeKey(product->id));
+        category->products.Add(product, nodeKey(product->id));
     }
 }
 
@@ -193,7 +193,7 @@ void RandomShop::fillTables(ShopClass& shop)
 
 void RandomShop::fillDesign(ShopDesignClass& design)
 {
-    for (const DesignOptionRow& row : DesignOptionTable()) {
+    for (const DesignOptionRow& row : designOptionTable()) {
         design.setOption(row.option, text());
     }
     for (std::size_t i = 0; i < ImageSlotCount; ++i) {
@@ -226,7 +226,7 @@ void RandomShop::fill(ShopSession& session)
     for (int i = number(0, 3); i > 0; --i) {
         const auto category = std::make_shared<CategoryClass>(session.services);
         fillCategory(session, category, 1);
-        shop.categories.Add(category, NodeKey(category->id));
+        shop.categories.Add(category, nodeKey(category->id));
         shop.Discount()->AddChildDiscount(category->Discount(), category->id);
     }
     for (int i = number(0, 3); i > 0; --i) {
@@ -236,7 +236,7 @@ void RandomShop::fill(ShopSession& session)
                                 &style->IsUndcelined, &style->IsLineThrugh}) {
             *member = text();
         }
-        shop.CSSs.Add(style, NodeKey(style->CSSName));
+        shop.CSSs.Add(style, nodeKey(style->CSSName));
         const auto page = std::make_shared<CustomPageClass>();
         page->pageName = uniqueText();
         page->ImageName = text();

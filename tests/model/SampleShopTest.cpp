@@ -41,14 +41,14 @@ protected:
         QStringList lines;
         const pugi::xml_node root = file.document().first_child();
         int depth = 0;
-        for (pugi::xml_node at = root; at; at = NextNode(at, root)) {
+        for (pugi::xml_node at = root; at; at = nextNode(at, root)) {
             depth = 0;
             for (pugi::xml_node above = at; above != root; above = above.parent()) {
                 ++depth;
             }
             const bool isLeaf = !at.first_child();
             const QString name = QString::fromUtf8(at.name());
-            const QString text = isLeaf ? NodeText(at) : QString();
+            const QString text = isLeaf ? nodeText(at) : QString();
             lines.append(QString::number(depth) + u' ' + name + u' ' +
                          (isNumber(name) ? NormalizeDecimal(text) : text));
         }
@@ -67,11 +67,11 @@ TEST_F(SampleShop, ItLoadsAndItsTreeIsBuilt)
 
 TEST_F(SampleShop, ASaveKeepsEveryElementAndText)
 {
-    const QStringList before = outline(FileBytes(session.folder.shopFile()));
+    const QStringList before = outline(fileBytes(session.folder.shopFile()));
     ASSERT_GT(before.size(), 500);
     ASSERT_TRUE(session.loadShop());
     session.writeShopFile();
-    const QStringList after = outline(FileBytes(session.folder.shopFile()));
+    const QStringList after = outline(fileBytes(session.folder.shopFile()));
     ASSERT_EQ(after.size(), before.size());
     for (qsizetype i = 0; i < before.size(); ++i) {
         ASSERT_EQ(after[i], before[i]) << "element " << i;
@@ -82,10 +82,10 @@ TEST_F(SampleShop, ASaveIsTheSameEveryTime)
 {
     ASSERT_TRUE(session.loadShop());
     session.writeShopFile();
-    const QByteArray first = FileBytes(session.folder.shopFile());
+    const QByteArray first = fileBytes(session.folder.shopFile());
     ASSERT_TRUE(session.loadShop());
     session.writeShopFile();
-    EXPECT_EQ(FileBytes(session.folder.shopFile()), first);
+    EXPECT_EQ(fileBytes(session.folder.shopFile()), first);
 }
 
 } // namespace

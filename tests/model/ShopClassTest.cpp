@@ -51,19 +51,19 @@ TEST_F(Shops, IdsCountUpFromTwo)
 TEST_F(Shops, BehindTheLargestIdComesError6AndNothingIsStored)
 {
     shop.MaxProductId = u"2147483647"_s;
-    EXPECT_EQ(ErrorOf([&] { shop.getNextProductId(); }), 6);
+    EXPECT_EQ(errorOf([&] { shop.getNextProductId(); }), 6);
     EXPECT_EQ(shop.MaxProductId, u"2147483647"_s);
     shop.MaxProductId = u"2147483646"_s;
     EXPECT_EQ(shop.getNextProductId(), u"2147483647"_s);
     shop.MaxProductId = u"9999999999"_s;
-    EXPECT_EQ(ErrorOf([&] { shop.getNextProductId(); }), 6);
+    EXPECT_EQ(errorOf([&] { shop.getNextProductId(); }), 6);
 }
 
 TEST_F(Shops, ACounterThatIsNoNumberIsError13)
 {
     for (const QString& text : {u"many"_s, QString(), u"12x"_s}) {
         shop.MaxProductId = text;
-        EXPECT_EQ(ErrorOf([&] { shop.getNextProductId(); }), 13) << text.toStdString();
+        EXPECT_EQ(errorOf([&] { shop.getNextProductId(); }), 13) << text.toStdString();
         EXPECT_EQ(shop.MaxProductId, text);
     }
 }
@@ -72,7 +72,7 @@ TEST_F(Shops, ACountryCannotStandTwice)
 {
     shop.SelectedCountries = std::make_shared<TextCollection>();
     shop.SelectedCountries->Add(u"Chad"_s, u"Chad"_s);
-    EXPECT_EQ(ErrorOf([&] { shop.SelectedCountries->Add(u"Chad"_s, u"Chad"_s); }), 457);
+    EXPECT_EQ(errorOf([&] { shop.SelectedCountries->Add(u"Chad"_s, u"Chad"_s); }), 457);
 }
 
 } // namespace

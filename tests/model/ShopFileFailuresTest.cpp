@@ -135,13 +135,13 @@ TEST_F(ShopFileFailures, SavingAShopWhoseLoadFailedIsError91AndTheFileStays)
     WriteFile(session.folder.shopFile(), file);
     prompts.expectMessage(title, noShop, PromptIcon::None);
     session.loadShop();
-    EXPECT_EQ(ErrorOf([this] { session.writeShopFile(); }), 91);
-    EXPECT_EQ(FileBytes(session.folder.shopFile()), file);
+    EXPECT_EQ(errorOf([this] { session.writeShopFile(); }), 91);
+    EXPECT_EQ(fileBytes(session.folder.shopFile()), file);
 }
 
 TEST_F(ShopFileFailures, SavingWithoutAShopIsError91)
 {
-    EXPECT_EQ(ErrorOf([this] { session.writeShopFile(); }), 91);
+    EXPECT_EQ(errorOf([this] { session.writeShopFile(); }), 91);
     EXPECT_FALSE(QFile::exists(session.folder.shopFile()));
 }
 
@@ -150,8 +150,8 @@ TEST_F(ShopFileFailures, APictureThatIsGoneLeavesTheOldFileWhole)
     const QByteArray file = shopFile(category("2", product("3", "<Picture>gone.png</Picture>")));
     ASSERT_EQ(load(file), 0);
     session.shop->name = u"changed"_s;
-    EXPECT_EQ(ErrorOf([this] { session.writeShopFile(); }), 53);
-    EXPECT_EQ(FileBytes(session.folder.shopFile()), file);
+    EXPECT_EQ(errorOf([this] { session.writeShopFile(); }), 53);
+    EXPECT_EQ(fileBytes(session.folder.shopFile()), file);
 }
 
 TEST_F(ShopFileFailures, ADateThatIsNoDateStopsASaveAndLeavesTheOldFileWhole)
@@ -159,8 +159,8 @@ TEST_F(ShopFileFailures, ADateThatIsNoDateStopsASaveAndLeavesTheOldFileWhole)
     const QByteArray file = shopFile("");
     ASSERT_EQ(load(file), 0);
     session.shop->Discount()->DateFrom = u"soon"_s;
-    EXPECT_EQ(ErrorOf([this] { session.writeShopFile(); }), 13);
-    EXPECT_EQ(FileBytes(session.folder.shopFile()), file);
+    EXPECT_EQ(errorOf([this] { session.writeShopFile(); }), 13);
+    EXPECT_EQ(fileBytes(session.folder.shopFile()), file);
 }
 
 // Allows files of that many bytes for the length of a test.
@@ -196,14 +196,14 @@ TEST_F(ShopFileFailures, NoRoomLeavesTheOldFileWhole)
     int error = 0;
     {
         const FileSizeLimit limit(64UL * 1024);
-        error = ErrorOf([this] { session.writeShopFile(); });
+        error = errorOf([this] { session.writeShopFile(); });
     }
     EXPECT_TRUE(error == 61 || error == 57) << error;
-    EXPECT_EQ(FileBytes(session.folder.shopFile()), file);
+    EXPECT_EQ(fileBytes(session.folder.shopFile()), file);
     EXPECT_EQ(QDir(session.folder.path()).entryList({u"shop*"_s}, QDir::Files), QStringList{u"shop.xml"_s});
     // With room again the same shop is saved.
     session.writeShopFile();
-    EXPECT_GT(FileBytes(session.folder.shopFile()).size(), 500'000);
+    EXPECT_GT(fileBytes(session.folder.shopFile()).size(), 500'000);
 }
 
 TEST_F(ShopFileFailures, AFolderThatIsGoneIsARunTimeError)
@@ -211,7 +211,7 @@ TEST_F(ShopFileFailures, AFolderThatIsGoneIsARunTimeError)
     ASSERT_EQ(load(shopFile("")), 0);
     QFile::remove(session.folder.shopFile());
     ASSERT_TRUE(QDir().mkpath(session.folder.shopFile() + u"/in the way"_s));
-    EXPECT_NE(ErrorOf([this] { session.writeShopFile(); }), 0);
+    EXPECT_NE(errorOf([this] { session.writeShopFile(); }), 0);
 }
 
 } // namespace

@@ -74,7 +74,7 @@ TEST_F(ShopFileLoad, AFileOfThisVersionIsNotRewritten)
 {
     const QByteArray file = shopFile("<Unknown>kept as long as nothing is saved</Unknown>");
     ASSERT_EQ(load(file), 0);
-    EXPECT_EQ(FileBytes(session.folder.shopFile()), file);
+    EXPECT_EQ(fileBytes(session.folder.shopFile()), file);
     EXPECT_EQ(session.LoadedShopVersion, u"1.2.0"_s);
     EXPECT_EQ(session.shop->Version, u"1.2.0"_s);
 }
@@ -85,7 +85,7 @@ TEST_F(ShopFileLoad, AFileOfAnyOtherVersionIsRewrittenAtOnce)
         const QByteArray file = shopFile("<Unknown/>", version);
         ASSERT_EQ(load(file), 0);
         EXPECT_EQ(session.LoadedShopVersion, QString::fromUtf8(version));
-        const QByteArray bytes = FileBytes(session.folder.shopFile());
+        const QByteArray bytes = fileBytes(session.folder.shopFile());
         EXPECT_TRUE(bytes.startsWith("<Tarnwick><Shop><Version>1.2.0</Version>")) << version.toStdString();
         EXPECT_FALSE(bytes.contains("Unknown"));
         const QStringList lines = logLines();
@@ -104,7 +104,7 @@ TEST_F(ShopFileLoad, AFileWithoutAVersionCountsAsAnOldOneAndIsRewritten)
     EXPECT_EQ(session.shop->Version, u"1.2.0"_s);
     EXPECT_EQ(firstProduct()->related, QStringList{QString()});
     EXPECT_EQ(rootCategory()->products.Item(2)->related, (QStringList{u"7"_s, u"8"_s, QString()}));
-    const QByteArray bytes = FileBytes(session.folder.shopFile());
+    const QByteArray bytes = fileBytes(session.folder.shopFile());
     EXPECT_TRUE(bytes.startsWith("<Tarnwick><Shop><Version>1.2.0</Version>"));
     EXPECT_TRUE(bytes.contains("<Related/></Product>"));
 }

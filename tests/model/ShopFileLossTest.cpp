@@ -26,7 +26,7 @@ protected:
         session.writeShopFile();
         session.loadShop();
     }
-    QByteArray file() { return FileBytes(session.folder.shopFile()); }
+    QByteArray file() { return fileBytes(session.folder.shopFile()); }
 };
 
 TEST_F(ShopFileLoss, APriceOfAVariantComesBackAsTheScannedNumber)
@@ -34,24 +34,24 @@ TEST_F(ShopFileLoss, APriceOfAVariantComesBackAsTheScannedNumber)
     const QList<std::pair<QString, QString>> rows = {
         {u"12"_s, u"12"_s}, {u"007"_s, u"7"_s}, {QString(), u"0"_s}, {u"from 5"_s, u"0"_s}, {u"5 each"_s, u"5"_s}};
     for (const auto& [stored, read] : rows) {
-        firstProduct()->Price()->ClearMultiPrices();
+        firstProduct()->Price()->clearMultiPrices();
         firstProduct()->Price()->AddMultiPrice()->Value = stored;
         saveAndLoad();
         EXPECT_EQ(firstProduct()->Price()->GetMultiPrice(1)->Value, read) << stored.toStdString();
     }
-    firstProduct()->Price()->GetMultiPrice(1)->Value = Localised(u"12.50"_s);
+    firstProduct()->Price()->GetMultiPrice(1)->Value = localised(u"12.50"_s);
     saveAndLoad();
-    EXPECT_EQ(firstProduct()->Price()->GetMultiPrice(1)->Value, DecimalSeparator() == u"."_s ? u"12.5"_s : u"12"_s);
+    EXPECT_EQ(firstProduct()->Price()->GetMultiPrice(1)->Value, decimalSeparator() == u"."_s ? u"12.5"_s : u"12"_s);
 }
 
 TEST_F(ShopFileLoss, A29FebruaryComesBackAsThe28th)
 {
-    session.shop->Discount()->DateFrom = LocalDateText({2024, 2, 29});
+    session.shop->Discount()->DateFrom = localDateText({2024, 2, 29});
     saveAndLoad();
     EXPECT_TRUE(file().contains("<DateFrom>29.02.2024</DateFrom>"));
-    EXPECT_EQ(session.shop->Discount()->DateFrom, LocalDateText({2024, 2, 28}));
+    EXPECT_EQ(session.shop->Discount()->DateFrom, localDateText({2024, 2, 28}));
     saveAndLoad();
-    EXPECT_EQ(session.shop->Discount()->DateFrom, LocalDateText({2024, 2, 28}));
+    EXPECT_EQ(session.shop->Discount()->DateFrom, localDateText({2024, 2, 28}));
 }
 
 TEST_F(ShopFileLoss, TheSizeOfASlotThatIsNoImageIsForgotten)
@@ -165,8 +165,8 @@ TEST_F(ShopFileLoss, NumbersComeBackWithTheUsersSeparator)
     firstProduct()->Price()->Value = u"1,5"_s;
     firstProduct()->Weight = u"2.5"_s;
     saveAndLoad();
-    EXPECT_EQ(firstProduct()->Price()->Value, Localised(u"1.5"_s));
-    EXPECT_EQ(firstProduct()->Weight, Localised(u"2.5"_s));
+    EXPECT_EQ(firstProduct()->Price()->Value, localised(u"1.5"_s));
+    EXPECT_EQ(firstProduct()->Weight, localised(u"2.5"_s));
 }
 
 TEST_F(ShopFileLoss, CharactersThatXmlCannotHoldAreLeftOut)

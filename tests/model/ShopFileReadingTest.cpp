@@ -56,7 +56,7 @@ TEST_F(ShopFileReading, EveryValueOfTheShopHasItsElementAndItsDefault)
         {discountElement + "<DateTo>%1</DateTo></ShopDiscount>", [&] { return discount().DateTo; }, QString(),
          "in 2020", QString()},
         {discountElement + "<ApplyToAll>%1</ApplyToAll></ShopDiscount>", [&] { return discount().ApplyToWhole(); },
-         QString(), "7,5", Localised(u"7.5"_s)},
+         QString(), "7,5", localised(u"7.5"_s)},
         {discountElement + "%1</ShopDiscount>", [&] { return discount().ApplyToWhole(); }, QString(), "", u"0"_s},
     };
     session.callbacks.SaveShop = [] {};
@@ -91,7 +91,7 @@ TEST_F(ShopFileReading, EveryValueOfACategoryHasItsElementAndItsDefault)
          day},
         {"<Discount><DateTo>%1</DateTo></Discount>", [&] { return discount().DateTo; }, QString(), "07.03.2020", day},
         {"<Discount><ApplyToAll>%1</ApplyToAll></Discount>", [&] { return discount().ApplyToWhole(); }, QString(),
-         "7,5", Localised(u"7.5"_s)},
+         "7,5", localised(u"7.5"_s)},
         {"<Discount>%1</Discount>", [&] { return discount().ApplyToWhole(); }, QString(), "", u"0"_s},
     };
     for (const ValueRow& row : rows) {
@@ -112,7 +112,7 @@ TEST_F(ShopFileReading, EveryValueOfAProductHasItsElementAndItsDefault)
     };
     const auto cost = [this] {
         const auto& costs = *firstProduct()->ShippingCosts();
-        return costs.HasKey(u"Post"_s) ? costs.Item(u"Post"_s) : u"none"_s;
+        return costs.hasKey(u"Post"_s) ? costs.Item(u"Post"_s) : u"none"_s;
     };
     const auto tax = [this](int index) {
         const auto& taxes = *firstProduct()->Taxes();
@@ -128,9 +128,9 @@ TEST_F(ShopFileReading, EveryValueOfAProductHasItsElementAndItsDefault)
         {"<ForSale>%1</ForSale>", [&] { return word(node().ForSale); }, u"true"_s, "False", u"false"_s},
         {"<ForSale>%1</ForSale>", [&] { return word(node().ForSale); }, u"true"_s, "0", u"false"_s},
         {"<ForSale>%1</ForSale>", [&] { return word(node().ForSale); }, u"true"_s, "-1", u"true"_s},
-        {"<ForSale>%1</ForSale>", [&] { return word(node().ForSale); }, u"true"_s, Localised(u"0.0"_s).toUtf8(),
+        {"<ForSale>%1</ForSale>", [&] { return word(node().ForSale); }, u"true"_s, localised(u"0.0"_s).toUtf8(),
          u"false"_s},
-        {"<ForSale>%1</ForSale>", [&] { return word(node().ForSale); }, u"true"_s, Localised(u"0.5"_s).toUtf8(),
+        {"<ForSale>%1</ForSale>", [&] { return word(node().ForSale); }, u"true"_s, localised(u"0.5"_s).toUtf8(),
          u"true"_s},
         {"<Unit>%1</Unit>", [&] { return node().Unit; }, QString(), "u", u"u"_s},
         {"<Link>%1</Link>", [&] { return node().LINK; }, QString(), "l", u"l"_s},
@@ -146,7 +146,7 @@ TEST_F(ShopFileReading, EveryValueOfAProductHasItsElementAndItsDefault)
          day},
         {"<Discount><DateTo>%1</DateTo></Discount>", [&] { return discount().DateTo; }, QString(), "07.03.2020", day},
         {"<Discount><Specific>%1</Specific></Discount>", [&] { return discount().Specific(); }, QString(), "7,5",
-         Localised(u"7.5"_s)},
+         localised(u"7.5"_s)},
         {"<Discount>%1</Discount>", [&] { return discount().Specific(); }, QString(), "", u"0"_s},
         // Without its element a product keeps what a new one has; an empty element gives the reader's default.
         {"<Shipping>%1</Shipping>", [&] { return node().ShippingStatus; }, u"Weight"_s, "", u"No"_s},
@@ -162,7 +162,7 @@ TEST_F(ShopFileReading, EveryValueOfAProductHasItsElementAndItsDefault)
         {"<MultiplePrice><MPrice>%1</MPrice></MultiplePrice>", [&] { return variant(&clsMultiPrice::Description); },
          u"none"_s, "4", QString()},
         {"<MultiplePrice><MPrice>%1</MPrice></MultiplePrice>", [&] { return variant(&clsMultiPrice::Value); },
-         u"none"_s, "12.50", Localised(u"12.5"_s)},
+         u"none"_s, "12.50", localised(u"12.5"_s)},
         {"<MultiplePrice><MPrice>%1</MPrice></MultiplePrice>", [&] { return variant(&clsMultiPrice::Value); },
          u"none"_s, "12,50", u"12"_s},
         {"<MultiplePrice><MPrice>%1</MPrice></MultiplePrice>", [&] { return variant(&clsMultiPrice::Value); },
@@ -275,7 +275,7 @@ TEST_F(ShopFileReading, TaxesAndCharges)
     const ShopClass& shop = *session.shop;
     ASSERT_EQ(shop.Taxes.Count(), 2);
     EXPECT_EQ(shop.Taxes.Item(1).TaxName, u"VAT"_s);
-    EXPECT_EQ(shop.Taxes.Item(1).Percent(), Localised(u"7.5"_s));
+    EXPECT_EQ(shop.Taxes.Item(1).Percent(), localised(u"7.5"_s));
     EXPECT_TRUE(shop.Taxes.Item(1).IsChecked);
     EXPECT_EQ(shop.Taxes.Item(2).TaxName, QString());
     EXPECT_EQ(shop.Taxes.Item(2).Percent(), QString());

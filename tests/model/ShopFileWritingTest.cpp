@@ -58,12 +58,12 @@ QByteArray wholeShop(const QByteArray& design)
 QByteArray designOf(ShopSession& session)
 {
     ShopDesignClass design(session.designServices);
-    for (const DesignOptionRow& row : DesignOptionTable()) {
+    for (const DesignOptionRow& row : designOptionTable()) {
         design.setOption(row.option, row.defaultText);
     }
     pugi::xml_document document;
     design.ToXML(document.append_child("ShopDesign"));
-    return XmlToBytes(document);
+    return xmlToBytes(document);
 }
 
 TEST_F(ShopFileWriting, AWholeShopIsWrittenAsItWasRead)
@@ -125,7 +125,7 @@ TEST_F(ShopFileWriting, ColumnsAreCountedFromTheFirstFrame)
     // A frame with some costs, but fewer than the first, has none to give.
     shop.ShippingCosts->Item(3).Remove(3);
     shop.ShippingCosts->Item(3).Remove(2);
-    EXPECT_EQ(ErrorOf([&] { saved(); }), 9);
+    EXPECT_EQ(errorOf([&] { saved(); }), 9);
 }
 
 TEST_F(ShopFileWriting, AProductWithoutShippingTypesHasStatusAndWeightOnly)
@@ -142,12 +142,12 @@ TEST_F(ShopFileWriting, ACostOfATypeThatAProductLacksIsWrittenEmptyAndReadBackEm
         load(shopFile("<ShopShipping><Type><Name>Post</Name></Type><Type><Name>Bike</Name></Type></ShopShipping>" +
                       category("2", product("3", "")))),
         0);
-    EXPECT_FALSE(firstProduct()->ShippingCosts()->HasKey(u"Post"_s));
+    EXPECT_FALSE(firstProduct()->ShippingCosts()->hasKey(u"Post"_s));
     firstProduct()->ShippingCosts()->Add(u"4"_s, u"Bike"_s);
     const QByteArray bytes = saved();
     EXPECT_TRUE(bytes.contains("<ShippingCost1></ShippingCost1><ShippingCost2>4</ShippingCost2>"));
     ASSERT_EQ(load(bytes), 0);
-    ASSERT_TRUE(firstProduct()->ShippingCosts()->HasKey(u"Post"_s));
+    ASSERT_TRUE(firstProduct()->ShippingCosts()->hasKey(u"Post"_s));
     EXPECT_EQ(firstProduct()->ShippingCosts()->Item(u"Post"_s), QString());
 }
 
@@ -168,13 +168,13 @@ TEST_F(ShopFileWriting, NumbersAreWrittenWithTheUsersSeparator)
     for (const char* element : {"<ApplyToAll>1.5<", "<From>1.5<", "<To>2.5<", "<Percent>3.5<", "<From>0.5<", "<To>1.5<",
                                 "<Cost1>2.5<", "<Percent>7.5<", "<Cost>8.5<", "<Price>9.5<", "<Specific>4.5<",
                                 "<Weight>5.5<", "<ShippingCost1>6.5<", "<MPrice>7.25<"}) {
-        EXPECT_TRUE(bytes.contains(Localised(QString::fromLatin1(element)).toUtf8())) << element;
+        EXPECT_TRUE(bytes.contains(localised(QString::fromLatin1(element)).toUtf8())) << element;
     }
 }
 
 TEST_F(ShopFileWriting, WithACommaLocaleAPriceIsWrittenAsItStandsAndAVariantComesBackCutAtTheComma)
 {
-    if (Localised(u"."_s) != u","_s) {
+    if (localised(u"."_s) != u","_s) {
         // The same rule where the point separates: nothing is cut.
         ASSERT_EQ(load(shopFile(category("2", product("3", "<MultiplePrice><MPrice>12.50</MPrice></MultiplePrice>")))),
                   0);
@@ -210,7 +210,7 @@ TEST_F(ShopFileWriting, ThePictureOfANodeIsMeasuredWhenItsSizeIsNotKnown)
               0);
     EXPECT_TRUE(saved().contains("<Picture>gone.png</Picture><Width>3</Width><Height>4</Height>"));
     rootCategory()->selectedImage()->setHeightBmp(0);
-    EXPECT_EQ(ErrorOf([&] { saved(); }), 53);
+    EXPECT_EQ(errorOf([&] { saved(); }), 53);
 }
 
 TEST_F(ShopFileWriting, TextsKeepBlanksLineEndsAndEveryLetter)

@@ -36,14 +36,14 @@ protected:
     int load(const QByteArray& xml)
     {
         WriteFile(session.folder.shopFile(), xml);
-        return ErrorOf([this] { session.loadShop(); });
+        return errorOf([this] { session.loadShop(); });
     }
 
     // Saves the shop and gives the bytes of the file.
     QByteArray saved()
     {
         session.writeShopFile();
-        return FileBytes(session.folder.shopFile());
+        return fileBytes(session.folder.shopFile());
     }
 
     // The bytes of what an object writes into an element of that name.
@@ -52,7 +52,7 @@ protected:
     {
         pugi::xml_document document;
         object.ToXML(document.append_child(tag));
-        return XmlToBytes(document);
+        return xmlToBytes(document);
     }
 
     std::shared_ptr<CategoryClass> rootCategory(int index = 1) { return session.shop->categories.Item(index); }
@@ -63,7 +63,7 @@ protected:
     {
         QStringList lines;
         for (const QString& line :
-             QString::fromUtf8(FileBytes(session.folder.loadLogFile())).split(QStringLiteral("\r\n"))) {
+             QString::fromUtf8(fileBytes(session.folder.loadLogFile())).split(QStringLiteral("\r\n"))) {
             if (!line.isEmpty()) {
                 lines.append(line.sliced(1, line.size() - 2));
             }

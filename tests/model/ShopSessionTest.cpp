@@ -15,13 +15,13 @@ TEST_F(Sessions, ANewOneHasNothingYet)
     EXPECT_FALSE(session.objects.isCreated());
     EXPECT_TRUE(session.CountriesCollection.isEmpty());
     EXPECT_EQ(session.LoadedShopVersion, QString());
-    EXPECT_EQ(ErrorOf([this] { CurrentShop(session.services); }), 91);
+    EXPECT_EQ(errorOf([this] { currentShop(session.services); }), 91);
 }
 
 TEST_F(Sessions, TheServicesAreThoseOfTheSession)
 {
     ASSERT_EQ(load(shopFile("")), 0);
-    EXPECT_EQ(&CurrentShop(session.services), session.shop.get());
+    EXPECT_EQ(&currentShop(session.services), session.shop.get());
     EXPECT_EQ(&session.services.objects, &session.objects);
     EXPECT_EQ(&session.services.design.log, &session.log);
     EXPECT_EQ(&session.services.clock, &clock);
@@ -32,7 +32,7 @@ TEST_F(Sessions, ItsOwnSaveWritesTheFile)
     ASSERT_EQ(load(shopFile("")), 0);
     session.shop->name = u"changed"_s;
     session.callbacks.SaveShop();
-    EXPECT_TRUE(FileBytes(session.folder.shopFile()).contains("<Name>changed</Name>"));
+    EXPECT_TRUE(fileBytes(session.folder.shopFile()).contains("<Name>changed</Name>"));
 }
 
 TEST_F(Sessions, NodesOfTheSessionAreEnteredWithAllTheirContents)
@@ -41,7 +41,7 @@ TEST_F(Sessions, NodesOfTheSessionAreEnteredWithAllTheirContents)
     session.objects.create();
     session.registerCategory(rootCategory());
     EXPECT_EQ(session.objects.items().Count(), 4);
-    EXPECT_EQ(ErrorOf([this] { session.registerProduct(firstProduct()); }), 457);
+    EXPECT_EQ(errorOf([this] { session.registerProduct(firstProduct()); }), 457);
 }
 
 TEST_F(Sessions, TwoSessionsDoNotKnowOfEachOther)

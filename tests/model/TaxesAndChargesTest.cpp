@@ -21,9 +21,9 @@ TEST(Taxes, ThePercentageIsReadInTheUsersForm)
 {
     clsTax tax;
     tax.setPercent(u"7,5"_s);
-    EXPECT_EQ(tax.Percent(), Localised(u"7.5"_s));
+    EXPECT_EQ(tax.Percent(), localised(u"7.5"_s));
     tax.setPercent(u"7.5"_s);
-    EXPECT_EQ(tax.Percent(), Localised(u"7.5"_s));
+    EXPECT_EQ(tax.Percent(), localised(u"7.5"_s));
 }
 
 template <class Row>

@@ -33,8 +33,8 @@ TEST_F(Carts, ANewCartIsEmpty)
 {
     EXPECT_EQ(cart().Count(), 0);
     EXPECT_EQ(cart().TotalCost(), u"0"_s);
-    EXPECT_EQ(ErrorOf([&] { cart().Item(1); }), 9);
-    EXPECT_EQ(ErrorOf([&] { cart().Item(u"310"_s); }), 5);
+    EXPECT_EQ(errorOf([&] { cart().Item(1); }), 9);
+    EXPECT_EQ(errorOf([&] { cart().Item(u"310"_s); }), 5);
 }
 
 TEST_F(Carts, ALineIsKeptUnderIdAndPrice)
@@ -64,10 +64,10 @@ TEST_F(Carts, TheSameProductAtTheSamePriceAddsUp)
     ASSERT_EQ(cart().Count(), 1);
     EXPECT_EQ(cart().Item(1)->Quantity, u"3"_s);
     add(u"3"_s, u"10"_s, u"1.5 pieces"_s);
-    EXPECT_EQ(cart().Item(1)->Quantity, Localised(u"4.5"_s));
+    EXPECT_EQ(cart().Item(1)->Quantity, localised(u"4.5"_s));
     add(u"3"_s, u"10"_s, u"many"_s);
     // The sum was written with the user's separator, and the plain scan stops at a comma.
-    EXPECT_EQ(cart().Item(1)->Quantity, Localised(u"4.5"_s) == u"4.5"_s ? u"4.5"_s : u"4"_s);
+    EXPECT_EQ(cart().Item(1)->Quantity, localised(u"4.5"_s) == u"4.5"_s ? u"4.5"_s : u"4"_s);
 }
 
 TEST_F(Carts, AnotherPriceMakesAnotherLine)
@@ -82,7 +82,7 @@ TEST_F(Carts, AProductThatHasGoneCannotBeAdded)
 {
     const auto product = session.objects.Product(u"3"_s);
     session.objects.Remove(u"ID3"_s);
-    EXPECT_EQ(ErrorOf([&] { cart().AddNewProduct(u"3"_s, u"P3"_s, product, u"10"_s, u"1"_s); }), 5);
+    EXPECT_EQ(errorOf([&] { cart().AddNewProduct(u"3"_s, u"P3"_s, product, u"10"_s, u"1"_s); }), 5);
     EXPECT_EQ(cart().Count(), 0);
 }
 
@@ -113,7 +113,7 @@ TEST_F(Carts, APriceNameIsThatOfTheMatchingVariant)
     // Without a match the last answer stays.
     cart().Item(1)->setSelectedPrice(u"77"_s);
     EXPECT_EQ(cart().Item(1)->PriceName(), u"large"_s);
-    session.objects.Product(u"4"_s)->Price()->ClearMultiPrices();
+    session.objects.Product(u"4"_s)->Price()->clearMultiPrices();
     EXPECT_EQ(cart().Item(1)->PriceName(), QString());
 }
 
@@ -132,14 +132,14 @@ TEST_F(Carts, TheTotalTakesPricesWithoutQuantitiesThenTaxThenCharge)
     cart().tax = 10;
     cart().Charge = 5;
     EXPECT_EQ(cart().TotalCost(), u"16"_s);
-    add(u"4"_s, Localised(u"0.1"_s), u"1"_s);
-    EXPECT_EQ(cart().TotalCost(), Localised(u"16.11"_s));
+    add(u"4"_s, localised(u"0.1"_s), u"1"_s);
+    EXPECT_EQ(cart().TotalCost(), localised(u"16.11"_s));
 }
 
 TEST_F(Carts, TheTotalIsComputedInSingles)
 {
     cart().tax = 0;
-    add(u"3"_s, Localised(u"16777216"_s), u"1"_s);
+    add(u"3"_s, localised(u"16777216"_s), u"1"_s);
     add(u"3"_s, u"1"_s, u"1"_s);
     // A single has no place for the 1 behind so large a number.
     EXPECT_EQ(cart().TotalCost(), u"16777216"_s);
@@ -148,17 +148,17 @@ TEST_F(Carts, TheTotalIsComputedInSingles)
 TEST_F(Carts, TaxIsAddedInSinglesToo)
 {
     // In doubles the two totals would be 1320987.625 and 1469135.75, which are other singles.
-    add(u"3"_s, Localised(u"1234567.89"_s), u"1"_s);
+    add(u"3"_s, localised(u"1234567.89"_s), u"1"_s);
     cart().tax = 7;
-    EXPECT_EQ(cart().TotalCost(), Localised(u"1320987.8"_s));
+    EXPECT_EQ(cart().TotalCost(), localised(u"1320987.8"_s));
     cart().tax = 19;
-    EXPECT_EQ(cart().TotalCost(), Localised(u"1469135.9"_s));
+    EXPECT_EQ(cart().TotalCost(), localised(u"1469135.9"_s));
 }
 
 TEST_F(Carts, TheTotalNeedsNumbers)
 {
     add(u"3"_s, u"ten"_s, u"1"_s);
-    EXPECT_EQ(ErrorOf([&] { cart().TotalCost(); }), 13);
+    EXPECT_EQ(errorOf([&] { cart().TotalCost(); }), 13);
 }
 
 TEST_F(Carts, ClearingKeepsTaxAndCharge)
@@ -210,7 +210,7 @@ TEST_F(Carts, EmptyingIsNotDoneOnNo)
 
 TEST_F(Carts, EmptyingWithoutACartIsError91)
 {
-    EXPECT_EQ(ErrorOf([&] { ConfirmEmptyCart(nullptr, prompts); }), 91);
+    EXPECT_EQ(errorOf([&] { ConfirmEmptyCart(nullptr, prompts); }), 91);
 }
 
 } // namespace

@@ -23,7 +23,7 @@ protected:
     }
 
     std::shared_ptr<clsDiscount> make() { return std::make_shared<clsDiscount>(clock); }
-    QString day(int offset) const { return LocalDateText(clock.day.addDays(offset)); }
+    QString day(int offset) const { return localDateText(clock.day.addDays(offset)); }
     void push() { shop->SendDiscountToChilds(shop->DateFrom, shop->DateTo); }
     void setToAll(clsDiscount& discount, const QString& percent)
     {
@@ -56,25 +56,25 @@ TEST_F(Discounts, PercentagesAreReadInTheUsersForm)
 {
     shop->setSpecific(u"7,5"_s);
     shop->setApplyToWhole(u"2.5"_s);
-    EXPECT_EQ(shop->Specific(), Localised(u"7.5"_s));
-    EXPECT_EQ(shop->ApplyToWhole(), Localised(u"2.5"_s));
+    EXPECT_EQ(shop->Specific(), localised(u"7.5"_s));
+    EXPECT_EQ(shop->ApplyToWhole(), localised(u"2.5"_s));
 }
 
 TEST_F(Discounts, BandsAreStoredAndReadInTheUsersForm)
 {
     clsDependedDiscounts bands;
     clsDependedDiscount& band = bands.Add(u"1,5"_s, u"2.5"_s, u"3,5"_s);
-    EXPECT_EQ(band.PriceFrom(), Localised(u"1.5"_s));
-    EXPECT_EQ(band.PriceTo(), Localised(u"2.5"_s));
-    EXPECT_EQ(band.Value(), Localised(u"3.5"_s));
+    EXPECT_EQ(band.PriceFrom(), localised(u"1.5"_s));
+    EXPECT_EQ(band.PriceTo(), localised(u"2.5"_s));
+    EXPECT_EQ(band.Value(), localised(u"3.5"_s));
     band.setValue(u"4,5"_s);
-    EXPECT_EQ(bands.Item(1).Value(), Localised(u"4.5"_s));
+    EXPECT_EQ(bands.Item(1).Value(), localised(u"4.5"_s));
     bands.Add(u"1"_s, u"2"_s, u"3"_s, u"key"_s);
-    EXPECT_EQ(ErrorOf([&] { bands.Add(u"1"_s, u"2"_s, u"3"_s, u"KEY"_s); }), 457);
+    EXPECT_EQ(errorOf([&] { bands.Add(u"1"_s, u"2"_s, u"3"_s, u"KEY"_s); }), 457);
     EXPECT_EQ(bands.Count(), 2);
     bands.Remove(1);
     EXPECT_EQ(bands.Item(1).PriceFrom(), u"1"_s);
-    EXPECT_EQ(ErrorOf([&] { bands.Item(2); }), 9);
+    EXPECT_EQ(errorOf([&] { bands.Item(2); }), 9);
     bands.Clear();
     EXPECT_EQ(bands.Count(), 0);
 }
@@ -134,8 +134,8 @@ TEST_F(Discounts, BothLimitsOfABandAreExclusive)
     push();
     EXPECT_EQ(product->Value(u"10"_s), QString());
     EXPECT_EQ(product->Value(u"100"_s), QString());
-    EXPECT_EQ(product->Value(Localised(u"10.01"_s)), u"5"_s);
-    EXPECT_EQ(product->Value(Localised(u"99.99"_s)), u"5"_s);
+    EXPECT_EQ(product->Value(localised(u"10.01"_s)), u"5"_s);
+    EXPECT_EQ(product->Value(localised(u"99.99"_s)), u"5"_s);
     EXPECT_EQ(product->Value(u"9"_s), QString());
 }
 
@@ -163,11 +163,11 @@ TEST_F(Discounts, WalkingBandsNeedsNumbers)
     auto bands = std::make_shared<clsDependedDiscounts>();
     bands->Add(u"10"_s, u"100"_s, u"5"_s);
     product->ParentDependDiscounts = bands;
-    EXPECT_EQ(ErrorOf([&] { product->Value(u"x"_s); }), 13);
-    EXPECT_EQ(ErrorOf([&] { product->Value(QString()); }), 13);
+    EXPECT_EQ(errorOf([&] { product->Value(u"x"_s); }), 13);
+    EXPECT_EQ(errorOf([&] { product->Value(QString()); }), 13);
     bands->Add(QString(), u"x"_s, u"5"_s);
     EXPECT_EQ(product->Value(u"50"_s), u"5"_s); // the bad row is not reached
-    EXPECT_EQ(ErrorOf([&] { product->Value(u"500"_s); }), 13);
+    EXPECT_EQ(errorOf([&] { product->Value(u"500"_s); }), 13);
 }
 
 TEST_F(Discounts, ACategoryNoShieldsItsProducts)
@@ -306,11 +306,11 @@ TEST_F(Discounts, ASpecificPercentageCountsWithinItsDatesOnly)
 {
     product->Status = DiscountStatus::Specific;
     product->setSpecific(u"12,5"_s);
-    EXPECT_EQ(product->Value(u"50"_s), Localised(u"12.5"_s));
+    EXPECT_EQ(product->Value(u"50"_s), localised(u"12.5"_s));
     product->DateFrom = day(1);
     EXPECT_EQ(product->Value(u"50"_s), QString());
     clock.day = clock.day.addDays(1);
-    EXPECT_EQ(product->Value(u"50"_s), Localised(u"12.5"_s));
+    EXPECT_EQ(product->Value(u"50"_s), localised(u"12.5"_s));
 }
 
 TEST_F(Discounts, InheritedDiscountsDoNotNoticeMidnight)
@@ -337,11 +337,11 @@ TEST_F(Discounts, ADateThatIsNoDateIsError13)
 {
     setToAll(*shop, u"10"_s);
     shop->DateFrom = u"soon"_s;
-    EXPECT_EQ(ErrorOf([&] { push(); }), 13);
+    EXPECT_EQ(errorOf([&] { push(); }), 13);
     product->DateTo = u"later"_s;
-    EXPECT_EQ(ErrorOf([&] { product->Value(u"50"_s); }), 13);
+    EXPECT_EQ(errorOf([&] { product->Value(u"50"_s); }), 13);
     shop->Status = DiscountStatus::No;
-    EXPECT_EQ(ErrorOf([&] { shop->SendDiscountToChilds(u"soon"_s, QString()); }), 13);
+    EXPECT_EQ(errorOf([&] { shop->SendDiscountToChilds(u"soon"_s, QString()); }), 13);
 }
 
 TEST_F(Discounts, ThePushMakesEachLevelTheParentOfTheNext)
@@ -363,11 +363,11 @@ TEST_F(Discounts, SettingAParentRunsDownTheTree)
 TEST_F(Discounts, ChildrenAreKeptUnderTheirKeys)
 {
     EXPECT_EQ(shop->Childs().Item(u"2"_s), category);
-    EXPECT_EQ(ErrorOf([&] { shop->AddChildDiscount(make(), u"2"_s); }), 457);
+    EXPECT_EQ(errorOf([&] { shop->AddChildDiscount(make(), u"2"_s); }), 457);
     shop->RemoveChildDiscount(u"2"_s);
     EXPECT_EQ(shop->Childs().Count(), 0);
-    EXPECT_EQ(ErrorOf([&] { shop->RemoveChildDiscount(u"2"_s); }), 5);
-    EXPECT_EQ(ErrorOf([&] { product->RemoveChildDiscount(u"2"_s); }), 5);
+    EXPECT_EQ(errorOf([&] { shop->RemoveChildDiscount(u"2"_s); }), 5);
+    EXPECT_EQ(errorOf([&] { product->RemoveChildDiscount(u"2"_s); }), 5);
 }
 
 TEST_F(Discounts, AClonedOneHasDatesInheritSpecificAndStatusAndNothingElse)

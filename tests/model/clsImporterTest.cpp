@@ -62,7 +62,7 @@ protected:
     {
         const QString path = session.folder.path() + u"/products.txt"_s;
         WriteFile(path, bytes);
-        return ErrorOf([&] { clsImporter(session).Import(path); });
+        return errorOf([&] { clsImporter(session).Import(path); });
     }
 
     QStringList productNames(const CategoryClass& category) const
@@ -121,7 +121,7 @@ TEST_F(Importing, IgnoresFurtherFields)
 
 TEST_F(Importing, OfAMissingFileIsErrorFiftyThree)
 {
-    EXPECT_EQ(ErrorOf([&] { clsImporter(session).Import(session.folder.path() + u"/gone"_s); }), 53);
+    EXPECT_EQ(errorOf([&] { clsImporter(session).Import(session.folder.path() + u"/gone"_s); }), 53);
 }
 
 TEST_F(Importing, ReportsHowFarItIs)

@@ -34,8 +34,8 @@ TEST_F(Prices, ANewOneIsEmpty)
     EXPECT_EQ(price.Selected, QString());
     EXPECT_EQ(price.MultiPriceCount(), 0);
     EXPECT_EQ(price.OldPrice(), QString());
-    EXPECT_EQ(ErrorOf([&] { price.GetMultiPrice(1); }), 9);
-    EXPECT_EQ(ErrorOf([&] { price.RemoveMultiPrice(1); }), 9);
+    EXPECT_EQ(errorOf([&] { price.GetMultiPrice(1); }), 9);
+    EXPECT_EQ(errorOf([&] { price.RemoveMultiPrice(1); }), 9);
 }
 
 TEST_F(Prices, TheDiscountIsLookedUpForTheVeryPrice)
@@ -70,7 +70,7 @@ TEST_F(Prices, AllVariantsShareTheDiscount)
 {
     addVariant(u"a"_s, u"1"_s);
     const auto existing = std::make_shared<clsMultiPrice>();
-    EXPECT_EQ(ErrorOf([&] { existing->NewValue(); }), 91);
+    EXPECT_EQ(errorOf([&] { existing->NewValue(); }), 91);
     price.AddExistingMultiPrice(existing);
     EXPECT_EQ(price.GetMultiPrice(1)->Discount, price.Discount());
     EXPECT_EQ(price.GetMultiPrice(2), existing);
@@ -85,8 +85,8 @@ TEST_F(Prices, VariantsAreCountedAndRemovedByTheir1BasedIndex)
     EXPECT_EQ(price.MultiPriceCount(), 3);
     price.RemoveMultiPrice(2);
     EXPECT_EQ(price.GetMultiPrice(2)->Description, u"c"_s);
-    EXPECT_EQ(ErrorOf([&] { price.RemoveMultiPrice(3); }), 9);
-    price.ClearMultiPrices();
+    EXPECT_EQ(errorOf([&] { price.RemoveMultiPrice(3); }), 9);
+    price.clearMultiPrices();
     EXPECT_EQ(price.MultiPriceCount(), 0);
 }
 
@@ -97,7 +97,7 @@ TEST_F(Prices, MoreVariantsThanA16BitCountCanSayIsError6)
     }
     EXPECT_EQ(price.MultiPriceCount(), 32767);
     price.AddMultiPrice();
-    EXPECT_EQ(ErrorOf([&] { price.MultiPriceCount(); }), 6);
+    EXPECT_EQ(errorOf([&] { price.MultiPriceCount(); }), 6);
 }
 
 TEST_F(Prices, AVariantIsFoundByItsDiscountedValueAsText)
@@ -112,7 +112,7 @@ TEST_F(Prices, AVariantIsFoundByItsDiscountedValueAsText)
     price.FindMultiPrice(u"18"_s, value, description);
     EXPECT_EQ(value, u"20"_s);
     EXPECT_EQ(description, u"large"_s);
-    price.FindMultiPrice(Localised(u"18.0"_s), value, description);
+    price.FindMultiPrice(localised(u"18.0"_s), value, description);
     EXPECT_EQ(value, u"77"_s);
     EXPECT_EQ(description, QString());
 }
@@ -133,7 +133,7 @@ TEST_F(Prices, TheOldPriceIsTheValueAndWithVariantsError28)
     price.Value = u"77"_s;
     EXPECT_EQ(price.OldPrice(), u"77"_s);
     price.AddMultiPrice();
-    EXPECT_EQ(ErrorOf([&] { price.OldPrice(); }), 28);
+    EXPECT_EQ(errorOf([&] { price.OldPrice(); }), 28);
 }
 
 TEST_F(Prices, AClonesVariantsPointToTheClonesDiscount)
@@ -159,9 +159,9 @@ TEST_F(Prices, AClonesVariantsPointToTheClonesDiscount)
 
 TEST_F(Prices, WhatIsNoNumberIsError13)
 {
-    EXPECT_EQ(ErrorOf([&] { price.NewPrice(u"ten"_s); }), 13);
+    EXPECT_EQ(errorOf([&] { price.NewPrice(u"ten"_s); }), 13);
     setSpecific(u"ten"_s);
-    EXPECT_EQ(ErrorOf([&] { price.NewPrice(u"10"_s); }), 13);
+    EXPECT_EQ(errorOf([&] { price.NewPrice(u"10"_s); }), 13);
 }
 
 } // namespace

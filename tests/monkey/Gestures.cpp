@@ -53,7 +53,7 @@ void Press(QWidget& widget, const QPoint& place, Qt::MouseButton button)
     }
 }
 
-void PressTwice(QWidget& widget, const QPoint& place)
+void pressTwice(QWidget& widget, const QPoint& place)
 {
     const QPointer<QWidget> kept(&widget);
     Press(widget, place);
@@ -67,7 +67,7 @@ void PressTwice(QWidget& widget, const QPoint& place)
     }
 }
 
-void Drag(QWidget& widget, const QPoint& from, const QPoint& to)
+void drag(QWidget& widget, const QPoint& from, const QPoint& to)
 {
     const QPointer<QWidget> kept(&widget);
     QTest::mousePress(&widget, Qt::LeftButton, {}, from);
@@ -82,20 +82,20 @@ void Drag(QWidget& widget, const QPoint& from, const QPoint& to)
     }
 }
 
-void TurnWheel(QWidget& widget, const QPoint& place, int steps)
+void turnWheel(QWidget& widget, const QPoint& place, int steps)
 {
     QWheelEvent event(place, widget.mapToGlobal(place), {}, QPoint(0, steps * 120), Qt::NoButton, {}, Qt::NoScrollPhase,
                       false);
     send(widget, event);
 }
 
-void AskForContextMenu(QWidget& widget, const QPoint& place)
+void askForContextMenu(QWidget& widget, const QPoint& place)
 {
     QContextMenuEvent event(QContextMenuEvent::Mouse, place, widget.mapToGlobal(place));
     send(widget, event);
 }
 
-void PressKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers, const QString& text)
+void pressKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers, const QString& text)
 {
     const QPointer<QWidget> kept(&widget);
     QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
@@ -106,22 +106,22 @@ void PressKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers, const Q
     }
 }
 
-void TypeText(QWidget& widget, const QString& text)
+void typeText(QWidget& widget, const QString& text)
 {
     const QPointer<QWidget> kept(&widget);
     if (text.size() > longestTyped) {
         QGuiApplication::clipboard()->setText(text);
-        PressKey(widget, Qt::Key_V, Qt::ControlModifier, u"\x16"_s);
+        pressKey(widget, Qt::Key_V, Qt::ControlModifier, u"\x16"_s);
         return;
     }
     for (qsizetype at = 0; at < text.size() && canTake(kept); ++at) {
         const int length = text[at].isHighSurrogate() && at + 1 < text.size() ? 2 : 1;
-        PressKey(widget, 0, {}, text.mid(at, length));
+        pressKey(widget, 0, {}, text.mid(at, length));
         at += length - 1;
     }
 }
 
-void PressClose(QWidget& window)
+void pressClose(QWidget& window)
 {
     const QPointer<QWidget> kept(&window);
     QCloseEvent event;

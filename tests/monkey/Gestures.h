@@ -10,12 +10,12 @@
 QString NameOf(const QWidget& widget);
 
 void Press(QWidget& widget, const QPoint& place, Qt::MouseButton button = Qt::LeftButton);
-void PressTwice(QWidget& widget, const QPoint& place);
-void Drag(QWidget& widget, const QPoint& from, const QPoint& to);
-void TurnWheel(QWidget& widget, const QPoint& place, int steps);
-void AskForContextMenu(QWidget& widget, const QPoint& place);
-void PressKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString& text = {});
+void pressTwice(QWidget& widget, const QPoint& place);
+void drag(QWidget& widget, const QPoint& from, const QPoint& to);
+void turnWheel(QWidget& widget, const QPoint& place, int steps);
+void askForContextMenu(QWidget& widget, const QPoint& place);
+void pressKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString& text = {});
 // Key by key while the widget takes it; long texts by the clipboard.
-void TypeText(QWidget& widget, const QString& text);
+void typeText(QWidget& widget, const QString& text);
 // The frame's button of the desktop.
-void PressClose(QWidget& window);
+void pressClose(QWidget& window);

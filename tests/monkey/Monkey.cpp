@@ -127,7 +127,7 @@ void Monkey::actInDialog(QWidget& dialog)
         Press(*dialog.findChild<QWidget*>(u"OkBtn"_s), QPoint(5, 5));
     } else if (m_dice.chance(7)) {
         Note(u"close "_s + NameOf(dialog));
-        PressClose(dialog);
+        pressClose(dialog);
     } else if (m_dice.chance(10)) {
         pressAnyKey(dialog);
     } else {
@@ -177,7 +177,7 @@ void Monkey::followLink()
         }
     }
     const bool isOdd = links.isEmpty() || m_dice.chance(8);
-    const QString url = isOdd ? OddAddress(m_dice) : m_dice.pick(links);
+    const QString url = isOdd ? oddAddress(m_dice) : m_dice.pick(links);
     Note((isOdd ? u"go to "_s : u"follow "_s) + url.left(200));
     if (PreviewNavigation::judge(url).hasAction) {
         guarded(m_window.errorHandler(), [&] { m_preview.navigation->act(url); });

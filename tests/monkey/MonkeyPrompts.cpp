@@ -29,8 +29,8 @@ PromptAnswer MonkeyPrompts::askYesNoCancel(const QString& /*title*/, const QStri
 
 std::optional<QString> MonkeyPrompts::askText(const QString& /*title*/, const QString& prompt)
 {
-    std::optional<QString> answer = m_dice.chance(10) ? std::nullopt : std::optional(OddText(m_dice));
-    Note(u"  \"%1\": %2"_s.arg(prompt, answer ? Shortened(*answer) : u"cancel"_s));
+    std::optional<QString> answer = m_dice.chance(10) ? std::nullopt : std::optional(oddText(m_dice));
+    Note(u"  \"%1\": %2"_s.arg(prompt, answer ? shortened(*answer) : u"cancel"_s));
     return answer;
 }
 

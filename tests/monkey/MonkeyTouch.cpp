@@ -128,13 +128,13 @@ void Monkey::touch(QWidget& widget)
     const int how = m_dice.below(100);
     if (how < 3) {
         Note(u"context "_s + NameOf(widget));
-        AskForContextMenu(widget, place);
+        askForContextMenu(widget, place);
     } else if (how < 6) {
         Note(u"wheel "_s + NameOf(widget));
-        TurnWheel(widget, place, m_dice.chance(50) ? 1 : -1);
+        turnWheel(widget, place, m_dice.chance(50) ? 1 : -1);
     } else if (how < 9) {
         Note(u"drag "_s + NameOf(widget));
-        Drag(widget, place, QPoint(m_dice.below(1200) - 200, m_dice.below(800) - 100));
+        drag(widget, place, QPoint(m_dice.below(1200) - 200, m_dice.below(800) - 100));
     } else if (qobject_cast<QLineEdit*>(&widget) || qobject_cast<QPlainTextEdit*>(&widget)) {
         touchText(widget);
     } else if (viewOf(widget) && !qobject_cast<QHeaderView*>(&widget) && how < 90) {
@@ -144,7 +144,7 @@ void Monkey::touch(QWidget& widget)
         Press(widget, tabs->tabRect(m_dice.below(tabs->count())).center());
     } else if (how < 14) {
         Note(u"press twice "_s + NameOf(widget));
-        PressTwice(widget, place);
+        pressTwice(widget, place);
     } else {
         const auto* button = qobject_cast<QAbstractButton*>(&widget);
         Note(u"press "_s + NameOf(widget) + (button ? u" \"%1\""_s.arg(button->text()) : QString()));
@@ -155,18 +155,18 @@ void Monkey::touch(QWidget& widget)
 void Monkey::touchText(QWidget& widget)
 {
     const bool isDate = qobject_cast<DateField*>(&widget) && m_dice.chance(80); // else the run would soon be over
-    const QString text = isDate ? LocalDateText(QDate(2026, 1, 1).addDays(m_dice.below(400))) : OddText(m_dice);
-    Note(u"type "_s + NameOf(widget) + u' ' + Shortened(text));
+    const QString text = isDate ? localDateText(QDate(2026, 1, 1).addDays(m_dice.below(400))) : oddText(m_dice);
+    Note(u"type "_s + NameOf(widget) + u' ' + shortened(text));
     const QPointer<QWidget> kept(&widget);
     Press(widget, widget.rect().center());
     if (kept && QApplication::activePopupWidget() == nullptr && m_dice.chance(70)) {
-        PressKey(widget, Qt::Key_A, Qt::ControlModifier, u"\x01"_s);
+        pressKey(widget, Qt::Key_A, Qt::ControlModifier, u"\x01"_s);
     }
     if (kept) {
-        TypeText(widget, text);
+        typeText(widget, text);
     }
     if (kept && m_dice.chance(20)) {
-        PressKey(widget, Qt::Key_Return, {}, u"\r"_s);
+        pressKey(widget, Qt::Key_Return, {}, u"\r"_s);
     }
 }
 
@@ -185,15 +185,15 @@ void Monkey::touchItems(QWidget& widget)
     const QPoint place = view.visualRect(index).center();
     Note(u"item %1, %2 of "_s.arg(index.row()).arg(index.column()) + NameOf(view));
     if (m_dice.chance(15)) {
-        PressTwice(*view.viewport(), place);
+        pressTwice(*view.viewport(), place);
     } else {
         Press(*view.viewport(), place);
     }
     if (QWidget* editor = QApplication::focusWidget();
         editor && m_dice.chance(50) && editor->window() == view.window()) {
-        const QString text = OddText(m_dice);
-        Note(u"  type "_s + Shortened(text));
-        TypeText(*editor, text);
+        const QString text = oddText(m_dice);
+        Note(u"  type "_s + shortened(text));
+        typeText(*editor, text);
     }
 }
 
@@ -217,11 +217,11 @@ void Monkey::touchTree()
     }
     tree.scrollTo(index);
     const QPoint place = tree.visualRect(index).center();
-    Note(u"node "_s + Shortened(index.data().toString()));
+    Note(u"node "_s + shortened(index.data().toString()));
     if (m_dice.chance(15)) {
         Press(*tree.viewport(), place, Qt::RightButton);
     } else if (m_dice.chance(10)) {
-        PressTwice(*tree.viewport(), place);
+        pressTwice(*tree.viewport(), place);
     } else {
         Press(*tree.viewport(), place);
     }
@@ -247,5 +247,5 @@ void Monkey::pressAnyKey(QWidget& root)
     QWidget& target = focus && focus->window() == root.window() && focus->isVisible() ? *focus : root;
     Note(u"key %1 "_s.arg(QKeySequence(QKeyCombination(key.modifiers, static_cast<Qt::Key>(key.key))).toString()) +
          NameOf(target));
-    PressKey(target, key.key, key.modifiers, QString::fromLatin1(key.text));
+    pressKey(target, key.key, key.modifiers, QString::fromLatin1(key.text));
 }

@@ -9,7 +9,7 @@ void Note(const QString& line)
     std::fprintf(stderr, "# %s\n", qPrintable(QString(line).replace(u'\n', u' ').replace(u'\r', u' ')));
 }
 
-QString Shortened(const QString& text)
+QString shortened(const QString& text)
 {
     QString shown = text.left(60);
     for (QChar& letter : shown) {

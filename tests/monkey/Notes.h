@@ -5,4 +5,4 @@
 
 void Note(const QString& line);
 // A text as it fits into a line: control characters and what is too long are cut out.
-QString Shortened(const QString& text);
+QString shortened(const QString& text);

@@ -130,7 +130,7 @@ constexpr std::array addresses{
 
 } // namespace
 
-QString OddText(Dice& dice)
+QString oddText(Dice& dice)
 {
     QString text = QString::fromUtf8(dice.pick(texts));
     switch (dice.below(40)) {
@@ -148,29 +148,29 @@ QString OddText(Dice& dice)
     }
 }
 
-QString OddAddress(Dice& dice)
+QString oddAddress(Dice& dice)
 {
-    const QString id = dice.chance(80) ? QString::number(dice.below(60)) : OddText(dice);
-    const QString first = OddText(dice);
-    const QString second = dice.chance(50) ? QString::number(dice.below(9)) : OddText(dice);
+    const QString id = dice.chance(80) ? QString::number(dice.below(60)) : oddText(dice);
+    const QString first = oddText(dice);
+    const QString second = dice.chance(50) ? QString::number(dice.below(9)) : oddText(dice);
     return u"http://previewmode/"_s + QString::fromUtf8(dice.pick(addresses))
                                           .replace(u"%1"_s, id)
                                           .replace(u"%2"_s, first)
                                           .replace(u"%3"_s, second);
 }
 
-QByteArray OddImportFile(Dice& dice)
+QByteArray oddImportFile(Dice& dice)
 {
     QString lines;
     for (int count = dice.below(30); count >= 0; --count) {
-        QString path = OddText(dice).left(100).remove(u'\n');
+        QString path = oddText(dice).left(100).remove(u'\n');
         for (int levels = dice.below(4); levels > 0; --levels) {
-            path += u'\\' + (dice.chance(50) ? u"Tea"_s : OddText(dice).left(20));
+            path += u'\\' + (dice.chance(50) ? u"Tea"_s : oddText(dice).left(20));
         }
         if (dice.chance(1)) {
             path = u"deep\\"_s.repeated(520);
         }
-        lines += u"%1,\"%2\",%3\n"_s.arg(OddText(dice).left(100), OddText(dice).left(200), path);
+        lines += u"%1,\"%2\",%3\n"_s.arg(oddText(dice).left(100), oddText(dice).left(200), path);
     }
     return dice.chance(80) ? lines.toUtf8() : lines.toLatin1();
 }

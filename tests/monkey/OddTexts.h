@@ -6,10 +6,10 @@
 
 #include <QString>
 
-QString OddText(Dice& dice);
+QString oddText(Dice& dice);
 
 // An address of the preview, with odd parameters.
-QString OddAddress(Dice& dice);
+QString oddAddress(Dice& dice);
 
 // Some lines of an import file, good and bad ones.
-QByteArray OddImportFile(Dice& dice);
+QByteArray oddImportFile(Dice& dice);

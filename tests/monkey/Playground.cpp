@@ -109,7 +109,7 @@ QString Playground::packedFile(Dice& dice) const
         return backup;
     }
     QString cut = m_files + u"cut.kvb"_s;
-    const QByteArray bytes = FileBytes(backup);
+    const QByteArray bytes = fileBytes(backup);
     WriteFile(cut, bytes.first(dice.below(static_cast<int>(bytes.size()) + 1)));
     return cut;
 }
@@ -134,7 +134,7 @@ QString Playground::chosenFile(Dice& dice, const QString& filter)
     }
     if (filter.contains(u".txt"_s)) {
         QString path = m_files + u"products.txt"_s;
-        WriteFile(path, OddImportFile(dice));
+        WriteFile(path, oddImportFile(dice));
         return path;
     }
     return oneOf(dice, m_files);

@@ -44,10 +44,10 @@ public:
                 socket.abort();
                 break;
             case 1:
-                SendAnswer(socket, 200, m_dice.pick(answers));
+                sendAnswer(socket, 200, m_dice.pick(answers));
                 break;
             case 2:
-                SendAnswer(socket, 404, "gone");
+                sendAnswer(socket, 404, "gone");
                 break;
             default:
                 m_shop(socket, request);
@@ -57,7 +57,7 @@ public:
 
 private:
     Dice m_dice; // of its own: when a request comes is not the run's affair
-    Handler m_shop = ShopWithFiles("cup.png|12|20.11.2026\r\n");
+    Handler m_shop = shopWithFiles("cup.png|12|20.11.2026\r\n");
 };
 
 // The program on the run's folder, with one window after another.
@@ -94,7 +94,7 @@ public:
     {
         m_window->findChild<QAction*>(u"mnuSaveShop"_s)->trigger();
         Watchdog::calmDown();
-        return FileBytes(m_playground.folder().shopFile());
+        return fileBytes(m_playground.folder().shopFile());
     }
 
 private:
@@ -110,7 +110,7 @@ private:
 
 } // namespace
 
-int RunMonkey(const QString& folder, std::uint32_t seed, int steps)
+int runMonkey(const QString& folder, std::uint32_t seed, int steps)
 {
     Program program(folder, seed);
     while (steps > 0) {
@@ -120,7 +120,7 @@ int RunMonkey(const QString& folder, std::uint32_t seed, int steps)
     return Done;
 }
 
-int CheckShop(const QString& folder)
+int checkShop(const QString& folder)
 {
     Program program(folder, 1);
     QByteArray former;

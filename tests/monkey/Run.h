@@ -18,6 +18,6 @@ enum RunEnd : int {
 };
 
 // The folder is where the run's files are made.
-int RunMonkey(const QString& folder, std::uint32_t seed, int steps);
+int runMonkey(const QString& folder, std::uint32_t seed, int steps);
 // Opens and saves, again and again, what a run has left behind in that folder.
-int CheckShop(const QString& folder);
+int checkShop(const QString& folder);

@@ -67,7 +67,7 @@ int main(int argc, char** argv)
         applyTheme(application);
         QLocale::setDefault(QLocale(qEnvironmentVariable("TARNWICK_TEST_LOCALE", u"en_US"_s)));
         const QString folder = parser.value(u"folder"_s);
-        return parser.isSet(u"check"_s) ? CheckShop(folder) : RunMonkey(folder, seed, steps);
+        return parser.isSet(u"check"_s) ? checkShop(folder) : runMonkey(folder, seed, steps);
     }
     const QCoreApplication application(argc, argv);
     // Asked for here: the library makes the path when it is first asked, and not for several threads at once.

@@ -54,8 +54,8 @@ TEST_F(CartPageTest, AllVariablesStandInTheOrderOfAdding)
     addToCart(mix, u"12"_s, u"2"_s);
 
     const QString expected =
-        OptionDump({u"CartPage_IncludePageHeader"_s, u"CartPage_PageHeader"_s}) +
-        SlotDump(u"CARTPAGE_CHECKOUT_BUTTON"_s) +
+        optionDump({u"CartPage_IncludePageHeader"_s, u"CartPage_PageHeader"_s}) +
+        slotDump(u"CARTPAGE_CHECKOUT_BUTTON"_s) +
         u"totalcost = 54 (single)\n"
         "products:\n"
         "  row\n"
@@ -65,11 +65,11 @@ TEST_F(CartPageTest, AllVariablesStandInTheOrderOfAdding)
         "    quantity = 3\n"
         "    shop_currency = EUR\n"
         "    cut_count = 1\n"_s +
-        Indented(Indented(ImageDump(u"CARTPAGE_IMAGE"_s, u"TEXT"_s, u"sencha.png"_s, {}, 16, 12))) +
+        indented(indented(imageDump(u"CARTPAGE_IMAGE"_s, u"TEXT"_s, u"sencha.png"_s, {}, 16, 12))) +
         u"    price = 20 (object)\n"
         "    new_price = 10\n"
         "    description = Fresh\n"_s +
-        Indented(Indented(SlotDump(u"CARTPAGE_RECALCULATE_BUTTON"_s) + OptionDump(LineOptionNames))) +
+        indented(indented(slotDump(u"CARTPAGE_RECALCULATE_BUTTON"_s) + optionDump(LineOptionNames))) +
         u"    server = http://previewmode/\n"
         "    hasrelated = \n"
         "    taxes:\n"
@@ -82,11 +82,11 @@ TEST_F(CartPageTest, AllVariablesStandInTheOrderOfAdding)
         "    quantity = 2\n"
         "    shop_currency = EUR\n"
         "    cut_count = 1\n"_s +
-        Indented(Indented(ImageDump(u"CARTPAGE_IMAGE"_s, u"TEXT"_s, {}, {}, 0, 0))) +
+        indented(indented(imageDump(u"CARTPAGE_IMAGE"_s, u"TEXT"_s, {}, {}, 0, 0))) +
         u"    price = 12\n"
         "    new_price = \n"
         "    description = \n"_s +
-        Indented(Indented(SlotDump(u"CARTPAGE_RECALCULATE_BUTTON"_s) + OptionDump(LineOptionNames))) +
+        indented(indented(slotDump(u"CARTPAGE_RECALCULATE_BUTTON"_s) + optionDump(LineOptionNames))) +
         u"    server = http://previewmode/\n"
         "    hasrelated = yes\n"
         "    related:\n"
@@ -105,8 +105,8 @@ TEST_F(CartPageTest, AnEmptyCartHasNothingBehindTheButton)
 {
     markOptions();
     markSlots();
-    EXPECT_EQ(dumpOf(u"cart"_s), OptionDump({u"CartPage_IncludePageHeader"_s, u"CartPage_PageHeader"_s}) +
-                                     SlotDump(u"CARTPAGE_CHECKOUT_BUTTON"_s));
+    EXPECT_EQ(dumpOf(u"cart"_s), optionDump({u"CartPage_IncludePageHeader"_s, u"CartPage_PageHeader"_s}) +
+                                     slotDump(u"CARTPAGE_CHECKOUT_BUTTON"_s));
     addTemplate(u"cart"_s, u"<!--:ifnot:HAS_ITEMS=Yes:-->Your cart is empty<!--:end:HAS_ITEMS:-->"
                            "<!--:if:HAS_ITEMS=:-->never<!--:end:HAS_ITEMS:-->"_s);
     EXPECT_EQ(RenderPage(context, u"cart"_s, {}), u"Your cart is empty"_s);
@@ -132,9 +132,9 @@ TEST_F(CartPageTest, TheTotalIsASingleInItsGeneralForm)
     };
     for (const auto& row : rows) {
         session.Cart->Clear();
-        sencha->Price()->Value = Localised(row.price);
-        addToCart(sencha, u"1"_s, Localised(row.quantity));
-        EXPECT_EQ(page(u"totalcost"_s), Localised(row.total))
+        sencha->Price()->Value = localised(row.price);
+        addToCart(sencha, u"1"_s, localised(row.quantity));
+        EXPECT_EQ(page(u"totalcost"_s), localised(row.total))
             << row.price.toStdString() << " times " << row.quantity.toStdString();
     }
 }
@@ -179,20 +179,20 @@ TEST_F(CartPageTest, ATotalTooLargeForASingleFailsThePage)
 {
     sencha->Price()->Value = u"9"_s + QString(30, u'9');
     addToCart(sencha, u"1"_s, u"1"_s + QString(20, u'0'));
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"cart"_s); }), 6);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"cart"_s); }), 6);
 }
 
 TEST_F(CartPageTest, AQuantityOrPriceThatIsNoNumberFailsThePage)
 {
     addToCart(sencha, u"20"_s, u"two"_s);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"cart"_s); }), 13);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"cart"_s); }), 13);
     session.Cart->Clear();
     addToCart(sencha, u"20"_s, u"1%2C5"_s);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"cart"_s); }), 13);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"cart"_s); }), 13);
     session.Cart->Clear();
     addVariant(*sencha, u"bag"_s, u"8"_s);
     addToCart(sencha, u"free"_s, u"1"_s);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"cart"_s); }), 13);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"cart"_s); }), 13);
 }
 
 TEST_F(CartPageTest, TheDiscountIsAskedForWithTheDiscountedText)
@@ -257,7 +257,7 @@ TEST_F(CartPageTest, AProductWithATaxFailsThePage)
     EXPECT_EQ(line(1, u"hastaxes"_s), QString());
     sencha->Taxes()->Remove(1);
     sencha->Taxes()->Add(u"Y"_s);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"cart"_s); }), 438);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"cart"_s); }), 438);
     // The checkout reads the name as it is called.
     EXPECT_EQ(valueInRow(u"checkout"_s, {}, u"taxes"_s, 1, u"tax_name"_s), u"VAT"_s);
 }
@@ -276,7 +276,7 @@ TEST_F(CartPageTest, AProductWithFewerFlagsThanTheShopHasTaxesFailsThePage)
     addTax(u"Tea tax"_s, u"1"_s);
     addToCart(sencha, u"20"_s, u"1"_s);
     sencha->Taxes()->Add(u"N"_s);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"cart"_s); }), 9);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"cart"_s); }), 9);
 }
 
 TEST_F(CartPageTest, AnImportedProductHasNoShopToAskForTaxes)
@@ -285,7 +285,7 @@ TEST_F(CartPageTest, AnImportedProductHasNoShopToAskForTaxes)
     sencha->shop = nullptr;
     EXPECT_EQ(line(1, u"hastaxes"_s), QString());
     sencha->Taxes()->Add(u"N"_s);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"cart"_s); }), 91);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"cart"_s); }), 91);
 }
 
 TEST_F(CartPageTest, AProductThatWasRemovedButIsStillFoundStaysInTheCart)
@@ -294,7 +294,7 @@ TEST_F(CartPageTest, AProductThatWasRemovedButIsStillFoundStaysInTheCart)
     tea->products.Remove(1);
     EXPECT_EQ(line(1, u"name"_s), u"Sencha"_s);
     session.objects.Remove(u"ID4"_s);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"cart"_s); }), 5);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"cart"_s); }), 5);
 }
 
 } // namespace

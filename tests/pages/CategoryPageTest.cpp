@@ -41,7 +41,7 @@ TEST_F(CategoryPageTest, AllVariablesStandInTheOrderOfAdding)
     mix->setRelatedIds({u"4"_s, u"5"_s});
 
     const QString expected =
-        OptionDump({u"Category_BreadCrumb"_s, u"Category_PageHeader"_s, u"Category_IncludePageHeader"_s}) +
+        optionDump({u"Category_BreadCrumb"_s, u"Category_PageHeader"_s, u"Category_IncludePageHeader"_s}) +
         u"Category_Empty = No\n"
         "categories:\n"
         "  row\n"
@@ -49,14 +49,14 @@ TEST_F(CategoryPageTest, AllVariablesStandInTheOrderOfAdding)
         "    name = Green\n"
         "    description = <b>Leaves</b>\n"
         "    server = http://previewmode/\n"_s +
-        Indented(Indented(OptionDump({u"Category_Description"_s, u"Category_Name"_s, u"Category_Image"_s}) +
-                          ImageDump(u"SUBCATEGORYPAGE_IMAGE"_s, u"TEXT"_s, u"green.png"_s, {}, 32, 24))) +
+        indented(indented(optionDump({u"Category_Description"_s, u"Category_Name"_s, u"Category_Image"_s}) +
+                          imageDump(u"SUBCATEGORYPAGE_IMAGE"_s, u"TEXT"_s, u"green.png"_s, {}, 32, 24))) +
         u"products:\n"
         "  row\n"
         "    id = 4\n"
         "    name = Sencha\n"
         "    ForSale = True (boolean)\n"_s +
-        Indented(Indented(ImageDump(u"CATEGORYPAGE_PRODUCT_IMAGE"_s, u"TEXT"_s, u"sencha.png"_s, {}, 16, 12))) +
+        indented(indented(imageDump(u"CATEGORYPAGE_PRODUCT_IMAGE"_s, u"TEXT"_s, u"sencha.png"_s, {}, 16, 12))) +
         u"    Product_PriceType = Single\n"
         "    price = 20 (object)\n"
         "    new_price = 18\n"
@@ -64,13 +64,13 @@ TEST_F(CategoryPageTest, AllVariablesStandInTheOrderOfAdding)
         "    cut_count = 0\n"
         "    server = http://previewmode/\n"
         "    shop_currency = EUR\n"_s +
-        Indented(Indented(SlotDump(u"CATEGORY_CART_BUTTON"_s) + OptionDump(ProductOptionNames))) +
+        indented(indented(slotDump(u"CATEGORY_CART_BUTTON"_s) + optionDump(ProductOptionNames))) +
         u"    hasrelated = \n"
         "  row\n"
         "    id = 5\n"
         "    name = Mix\n"
         "    ForSale = False (boolean)\n"_s +
-        Indented(Indented(ImageDump(u"CATEGORYPAGE_PRODUCT_IMAGE"_s, u"TEXT"_s, {}, {}, 0, 0))) +
+        indented(indented(imageDump(u"CATEGORYPAGE_PRODUCT_IMAGE"_s, u"TEXT"_s, {}, {}, 0, 0))) +
         u"    Product_PriceType = Multi\n"
         "    MultiplePrice:\n"
         "      row\n"
@@ -96,7 +96,7 @@ TEST_F(CategoryPageTest, AllVariablesStandInTheOrderOfAdding)
         "    cut_count = 0\n"
         "    server = http://previewmode/\n"
         "    shop_currency = EUR\n"_s +
-        Indented(Indented(SlotDump(u"CATEGORY_CART_BUTTON"_s) + OptionDump(ProductOptionNames))) +
+        indented(indented(slotDump(u"CATEGORY_CART_BUTTON"_s) + optionDump(ProductOptionNames))) +
         u"    related:\n"
         "      row\n"
         "        rid = 4\n"
@@ -142,9 +142,9 @@ TEST_F(CategoryPageTest, OneVariantMakesAProductMultiAndIsItsFirstPrice)
     EXPECT_EQ(first(u"price"_s), u"MISSING"_s);
     EXPECT_EQ(first(u"new_price"_s), u"MISSING"_s);
     const Variables vars = variablesOf(u"category"_s, tea);
-    const VariableRows& variants = RowsOf(RowsOf(vars.Item(u"products")).front().Item(u"MultiplePrice"));
+    const VariableRows& variants = rowsOf(rowsOf(vars.Item(u"products")).front().Item(u"MultiplePrice"));
     ASSERT_EQ(variants.size(), 1u);
-    EXPECT_EQ(TextOf(variants.front().Item(u"first_price")), u"1"_s);
+    EXPECT_EQ(textOf(variants.front().Item(u"first_price")), u"1"_s);
 }
 
 TEST_F(CategoryPageTest, EveryProductHasAFirstPriceOfItsOwn)
@@ -177,12 +177,13 @@ TEST_F(CategoryPageTest, ThePriceStandsAsStoredAndTheNewOneOnlyWithADiscount)
     };
     const auto sencha = addProduct(u"4"_s, u"Sencha"_s, {}, tea);
     for (const auto& row : rows) {
-        sencha->Price()->Value = Localised(row.value);
+        sencha->Price()->Value = localised(row.value);
         sencha->Price()->Discount()->Status = DiscountStatus::No;
-        if (!row.percent.isEmpty())
+        if (!row.percent.isEmpty()) {
             setDiscount(*sencha, row.percent);
-        EXPECT_EQ(first(u"price"_s), Localised(row.price)) << row.name;
-        EXPECT_EQ(first(u"new_price"_s), Localised(row.newPrice)) << row.name;
+        }
+        EXPECT_EQ(first(u"price"_s), localised(row.price)) << row.name;
+        EXPECT_EQ(first(u"new_price"_s), localised(row.newPrice)) << row.name;
     }
 }
 
@@ -200,7 +201,7 @@ TEST_F(CategoryPageTest, TheDiscountIsAskedForWithTheUndiscountedPrice)
 TEST_F(CategoryPageTest, APriceThatIsNoNumberFailsThePage)
 {
     addProduct(u"4"_s, u"Sencha"_s, u"a lot"_s, tea);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"category"_s, tea); }), 13);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"category"_s, tea); }), 13);
 }
 
 TEST_F(CategoryPageTest, TheNewPriceOfAVariantIsEmptyWithoutADiscount)
@@ -259,16 +260,16 @@ TEST_F(CategoryPageTest, ADescriptionTooLongToCutFailsThePage)
     sencha->Description = QString(32767, u'x') + u" end"_s;
     EXPECT_EQ(first(u"description"_s).size(), 32771);
     design().setOption(DesignOption::Category_Limit_Desc, u"1"_s);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"category"_s, tea); }), 6);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"category"_s, tea); }), 6);
 }
 
 TEST_F(CategoryPageTest, ARelatedProductThatIsGoneFailsThePage)
 {
     const auto sencha = addProduct(u"4"_s, u"Sencha"_s, u"20"_s, tea);
     sencha->setRelatedIds({u"99"_s});
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"category"_s, tea); }), 5);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"category"_s, tea); }), 5);
     sencha->setRelatedIds({u"2"_s}); // a category
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"category"_s, tea); }), 13);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"category"_s, tea); }), 13);
 }
 
 TEST_F(CategoryPageTest, ARelatedProductShowsTheNameThatItHasNow)
@@ -312,7 +313,7 @@ TEST_F(CategoryPageTest, ACategoryWithoutPictureHasAnEmptyPath)
 TEST_F(CategoryPageTest, APictureNameWithAColonFailsThePageOfTheCategory)
 {
     setPicture(*tea->selectedImage(), u"http://elsewhere/tea.png"_s, 1, 1);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"category"_s, tea); }), 438);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"category"_s, tea); }), 438);
     // The main page shows the same picture by another road and does not mind.
     EXPECT_EQ(valueInRow(u"main"_s, session.shop, u"categories"_s, 1, u"MAINPAGE_IMAGE_FILENAME"_s),
               u"http://elsewhere/tea.png"_s);
@@ -321,22 +322,22 @@ TEST_F(CategoryPageTest, APictureNameWithAColonFailsThePageOfTheCategory)
 TEST_F(CategoryPageTest, APictureThatIsGoneFailsThePageWhenItsSizeIsNotKnown)
 {
     addProduct(u"4"_s, u"Sencha"_s, u"20"_s, tea)->selectedImage()->imageFileName = u"gone.png"_s;
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"category"_s, tea); }), 53);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"category"_s, tea); }), 53);
 }
 
 TEST_F(CategoryPageTest, ABrokenButtonPictureDoesNotMatterWithoutProducts)
 {
     design().Image(ImageSlot::CategoryCartButton)->imageFileName = u"gone.png"_s;
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"category"_s, tea); }), 0);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"category"_s, tea); }), 0);
     addProduct(u"4"_s, u"Sencha"_s, u"20"_s, tea);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"category"_s, tea); }), 53);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"category"_s, tea); }), 53);
 }
 
 TEST_F(CategoryPageTest, ThePageNeedsACategory)
 {
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"category"_s); }), 91);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"category"_s, session.shop); }), 13);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"category"_s, std::shared_ptr<CategoryClass>()); }), 91);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"category"_s); }), 91);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"category"_s, session.shop); }), 13);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"category"_s, std::shared_ptr<CategoryClass>()); }), 91);
 }
 
 } // namespace

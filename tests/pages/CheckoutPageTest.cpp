@@ -36,21 +36,21 @@ TEST_F(CheckoutPageTest, AllVariablesStandInTheOrderOfAdding)
     addTax(u"Old VAT"_s, u"16"_s, false);
     addTax(u"Tea tax"_s, u"1.5"_s, true);
     addCharge(u"Moon"_s, u"900"_s, false);
-    addCharge(u"Inland"_s, Localised(u"4.90"_s), true);
+    addCharge(u"Inland"_s, localised(u"4.90"_s), true);
     addCharge(u"Europe"_s, u"9"_s, true);
     shop().SelectedCountries = std::make_shared<TextCollection>();
     shop().SelectedCountries->Add(u"Norway"_s, u"Norway"_s);
     shop().SelectedCountries->Add(u"Austria"_s, u"Austria"_s);
     addToCart(addProduct(u"4"_s, u"Sencha"_s, u"20"_s, addCategory(u"2"_s, u"Tea"_s)), u"20"_s, u"3"_s);
 
-    const QString expected = SlotDump(u"BUYINGFORM_MAKEORDER_BUTTON"_s) +
-                             OptionDump({u"BuyingForm_PageHeaderText"_s, u"BuyingForm_IncludeBreadCrumb"_s,
+    const QString expected = slotDump(u"BUYINGFORM_MAKEORDER_BUTTON"_s) +
+                             optionDump({u"BuyingForm_PageHeaderText"_s, u"BuyingForm_IncludeBreadCrumb"_s,
                                          u"BuyingForm_IncludePageHeader"_s}) +
                              u"error = No\n"
                              "shop_name = Corner Shop\n"
                              "price = 20\n"_s +
-                             SlotDump(u"CARTPAGE_RECALCULATE_BUTTON"_s) +
-                             Localised(u"taxes:\n"
+                             slotDump(u"CARTPAGE_RECALCULATE_BUTTON"_s) +
+                             localised(u"taxes:\n"
                                        "  row\n"
                                        "    tax_name = VAT\n"
                                        "    tax_percent = 19\n"
@@ -121,7 +121,7 @@ TEST_F(CheckoutPageTest, ThePageObjectIsNotRead)
 TEST_F(CheckoutPageTest, WithoutACartThePageFails)
 {
     session.Cart.reset();
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"checkout"_s); }), 91);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"checkout"_s); }), 91);
 }
 
 } // namespace

@@ -9,7 +9,7 @@ class MainPageTest : public PagesTest
 protected:
     QString row(const std::shared_ptr<CategoryClass>& category, const QString& key)
     {
-        return valueInRow(u"main"_s, session.shop, u"categories"_s, shop().categories.IndexOf(NodeKey(category->id)),
+        return valueInRow(u"main"_s, session.shop, u"categories"_s, shop().categories.indexOf(nodeKey(category->id)),
                           key);
     }
 };
@@ -44,7 +44,7 @@ TEST_F(MainPageTest, AllVariablesStandInTheOrderOfAdding)
         "    category_id = 2\n"
         "    category_name = Tea\n"
         "    category_description = <b>Leaves</b>\n"_s +
-        Indented(Indented(ImageDump(u"MAINPAGE_IMAGE"_s, u"TEXT"_s, u"tea.png"_s, u"a pot"_s, 64, 48))) +
+        indented(indented(imageDump(u"MAINPAGE_IMAGE"_s, u"TEXT"_s, u"tea.png"_s, u"a pot"_s, 64, 48))) +
         u"    server = http://previewmode/\n"
         "    discount_status = Depend\n"
         "    from_date = from day\n"
@@ -65,7 +65,7 @@ TEST_F(MainPageTest, AllVariablesStandInTheOrderOfAdding)
         "    category_id = 5\n"
         "    category_name = Cups\n"
         "    category_description = \n"_s +
-        Indented(Indented(ImageDump(u"MAINPAGE_IMAGE"_s, u"TEXT"_s, {}, {}, 0, 0))) +
+        indented(indented(imageDump(u"MAINPAGE_IMAGE"_s, u"TEXT"_s, {}, {}, 0, 0))) +
         u"    server = http://previewmode/\n"
         "    discount_status = No\n"
         "    from_date = \n"
@@ -74,7 +74,7 @@ TEST_F(MainPageTest, AllVariablesStandInTheOrderOfAdding)
         "shop_name = Corner Shop\n"
         "Main_ShopDescription = <p>Everything.</p>\n"
         "Main_IncludeShopDescription = <Main_IncludeShopDescription>\n"_s +
-        SlotDump(u"MAIN_SEARCH_BUTTON"_s) +
+        slotDump(u"MAIN_SEARCH_BUTTON"_s) +
         u"MAIN_PAGE_MENU_LIST:\n"
         "  row\n"
         "    name = Home page\n"
@@ -82,17 +82,17 @@ TEST_F(MainPageTest, AllVariablesStandInTheOrderOfAdding)
         "  row\n"
         "    name = About\n"
         "    server = http://previewmode/\n"_s +
-        OptionDump({u"Main_PageHeader"_s, u"Main_IncludePageHeader"_s, u"Main_SearchButton"_s,
+        optionDump({u"Main_PageHeader"_s, u"Main_IncludePageHeader"_s, u"Main_SearchButton"_s,
                     u"Main_SearchTextfield"_s, u"Main_IncludeTopCategories"_s}) +
-        u"Main_IncludeTwoLevel = Yes\n"_s + OptionDump({u"Main_IncludeNavigationMenu"_s});
+        u"Main_IncludeTwoLevel = Yes\n"_s + optionDump({u"Main_IncludeNavigationMenu"_s});
     EXPECT_EQ(dumpOf(u"main"_s, session.shop), expected);
 }
 
 TEST_F(MainPageTest, AShopWithoutCategoriesHasAListWithoutRows)
 {
     const Variables vars = variablesOf(u"main"_s, session.shop);
-    ASSERT_TRUE(vars.Exists(u"categories"));
-    EXPECT_TRUE(RowsOf(vars.Item(u"categories")).empty());
+    ASSERT_TRUE(vars.exists(u"categories"));
+    EXPECT_TRUE(rowsOf(vars.Item(u"categories")).empty());
 }
 
 TEST_F(MainPageTest, WithoutASelectedPageTheMenuListIsMissing)
@@ -108,8 +108,9 @@ TEST_F(MainPageTest, TheSecondLevelNeedsTheWordYesAndSubCategories)
     const auto rowsWithSecondLevel = [&] {
         QString found;
         const Variables vars = variablesOf(u"main"_s, session.shop);
-        for (const Variables& row : RowsOf(vars.Item(u"categories")))
-            found += row.Exists(u"Main_TwoLevel") ? u'x' : u'-';
+        for (const Variables& row : rowsOf(vars.Item(u"categories"))) {
+            found += row.exists(u"Main_TwoLevel") ? u'x' : u'-';
+        }
         return found;
     };
     for (const QString& word : {u"No"_s, u""_s, u"yes"_s, u"YES"_s}) {
@@ -126,8 +127,8 @@ TEST_F(MainPageTest, TheSecondLevelIsOneLevelOnly)
     const auto tea = addCategory(u"2"_s, u"Tea"_s);
     addCategory(u"4"_s, u"Sencha"_s, addCategory(u"3"_s, u"Green"_s, tea));
     const Variables vars = variablesOf(u"main"_s, session.shop);
-    const Variables& row = RowsOf(vars.Item(u"categories")).front();
-    EXPECT_EQ(RowsOf(row.Item(u"Main_TwoLevel")).size(), 1u);
+    const Variables& row = rowsOf(vars.Item(u"categories")).front();
+    EXPECT_EQ(rowsOf(row.Item(u"Main_TwoLevel")).size(), 1u);
 }
 
 TEST_F(MainPageTest, ACategoryWithoutBandsHasNeitherSmallestNorLargestDiscount)
@@ -143,8 +144,8 @@ TEST_F(MainPageTest, OneBandIsBothSmallestAndLargestDiscount)
 {
     const auto tea = addCategory(u"2"_s, u"Tea"_s);
     tea->Discount()->DependedDiscounts()->Add(u"0"_s, u"10"_s, u"2.5"_s);
-    EXPECT_EQ(row(tea, u"min_discount"_s), Localised(u"2.5"_s));
-    EXPECT_EQ(row(tea, u"max_discount"_s), Localised(u"2.5"_s));
+    EXPECT_EQ(row(tea, u"min_discount"_s), localised(u"2.5"_s));
+    EXPECT_EQ(row(tea, u"max_discount"_s), localised(u"2.5"_s));
 }
 
 TEST_F(MainPageTest, BandsCountInStoredOrderAndAreNotSorted)
@@ -166,13 +167,13 @@ TEST_F(MainPageTest, EachStatusHasItsWord)
         EXPECT_EQ(row(tea, u"discount_status"_s), words[status - 1]);
     }
     tea->Discount()->Status = 0;
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"main"_s, session.shop); }), 94);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"main"_s, session.shop); }), 94);
 }
 
 TEST_F(MainPageTest, ThePageNeedsTheShop)
 {
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"main"_s); }), 91);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"main"_s, addCategory(u"2"_s, u"Tea"_s)); }), 13);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"main"_s); }), 91);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"main"_s, addCategory(u"2"_s, u"Tea"_s)); }), 13);
 }
 
 } // namespace

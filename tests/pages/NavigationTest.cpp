@@ -4,8 +4,9 @@ using namespace Qt::StringLiterals;
 
 NavigationTest::NavigationTest()
 {
-    for (const QString& empty : {u"menu"_s, u"footer"_s, u"header"_s})
+    for (const QString& empty : {u"menu"_s, u"footer"_s, u"header"_s}) {
         addTemplate(empty, {});
+    }
     addTemplate(u"checkout"_s, u"form <!--:price:-->"_s);
     addTemplate(u"main"_s, u"main"_s);
     addTemplate(u"category"_s, u"category <!--:category_id:-->"_s);
@@ -24,8 +25,9 @@ NavigationTest::NavigationTest()
 QString NavigationTest::goTo(const QString& url)
 {
     surface.documents.clear();
-    if (PreviewNavigation::judge(url).hasAction)
+    if (PreviewNavigation::judge(url).hasAction) {
         navigation.act(url);
+    }
     return surface.documents.join(u" > "_s);
 }
 
@@ -37,7 +39,8 @@ QString NavigationTest::address(const char* text)
 QString NavigationTest::cartLines()
 {
     QStringList lines;
-    for (const auto& line : *session.Cart)
+    for (const auto& line : *session.Cart) {
         lines << line->Quantity + u'x' + line->id + u'@' + line->SelectedPrice();
+    }
     return lines.join(u' ');
 }

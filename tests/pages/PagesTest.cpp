@@ -23,8 +23,9 @@ const std::array<ImageSlot, ImageSlotCount>& everySlot()
 {
     static const auto table = [] {
         std::array<ImageSlot, ImageSlotCount> every{};
-        for (std::size_t i = 0; i < every.size(); ++i)
+        for (std::size_t i = 0; i < every.size(); ++i) {
             every[i] = static_cast<ImageSlot>(i);
+        }
         return every;
     }();
     return table;
@@ -56,8 +57,8 @@ std::shared_ptr<CategoryClass> PagesTest::addCategory(const QString& id, const Q
     category->id = id;
     category->name = name;
     auto& siblings = parent == nullptr ? shop().categories : parent->categories;
-    siblings.Add(category, NodeKey(id));
-    session.objects.Add(category, NodeKey(id));
+    siblings.Add(category, nodeKey(id));
+    session.objects.Add(category, nodeKey(id));
     return category;
 }
 
@@ -71,8 +72,8 @@ std::shared_ptr<ProductClass> PagesTest::addProduct(const QString& id, const QSt
     product->name = name;
     product->Price()->Value = price;
     product->setRelatedIds({});
-    category->products.Add(product, NodeKey(id));
-    session.objects.Add(product, NodeKey(id));
+    category->products.Add(product, nodeKey(id));
+    session.objects.Add(product, nodeKey(id));
     return product;
 }
 
@@ -105,17 +106,18 @@ void PagesTest::addToCart(const std::shared_ptr<ProductClass>& product, const QS
 
 void PagesTest::markOptions()
 {
-    for (const DesignOptionRow& row : DesignOptionTable())
+    for (const DesignOptionRow& row : designOptionTable()) {
         design().setOption(row.option, u'<' + row.name + u'>');
+    }
 }
 
 void PagesTest::markSlots()
 {
     for (const ImageSlot slot : everySlot()) {
         clsSelectedImage& image = *design().Image(slot);
-        setPicture(image, TagOf(slot).toLower() + u".png"_s, markedWidth(slot), markedHeight(slot));
+        setPicture(image, tagOf(slot).toLower() + u".png"_s, markedWidth(slot), markedHeight(slot));
         image.SelectionType = ImageSelection::Image;
-        image.TextValue = u"text of "_s + TagOf(slot);
+        image.TextValue = u"text of "_s + tagOf(slot);
     }
 }
 
@@ -143,7 +145,7 @@ void PagesTest::setLayout(const QString& text)
 
 Variables PagesTest::variablesOf(const QString& pageName, const PageObject& object)
 {
-    return PageVariables(context, pageName, object);
+    return pageVariables(context, pageName, object);
 }
 
 QString PagesTest::dumpOf(const QString& pageName, const PageObject& object)
@@ -158,26 +160,28 @@ QString PagesTest::dumpOfList(const QString& pageName, const PageObject& object,
 {
     const Variables vars = variablesOf(pageName, object);
     QString text;
-    for (const Variables& row : RowsOf(vars.Item(list)))
+    for (const Variables& row : rowsOf(vars.Item(list))) {
         text += u"row\n"_s + dump(row, 1, RowIndent);
+    }
     return text;
 }
 
 QString PagesTest::valueOf(const QString& pageName, const PageObject& object, const QString& key)
 {
     const Variables vars = variablesOf(pageName, object);
-    return vars.Exists(key) ? TextOf(vars.Item(key)) : u"MISSING"_s;
+    return vars.exists(key) ? textOf(vars.Item(key)) : u"MISSING"_s;
 }
 
 QString PagesTest::valueInRow(const QString& pageName, const PageObject& object, const QString& list, int row,
                               const QString& key)
 {
     const Variables vars = variablesOf(pageName, object);
-    const VariableRows& rows = RowsOf(vars.Item(list));
-    if (row > static_cast<int>(rows.size()))
+    const VariableRows& rows = rowsOf(vars.Item(list));
+    if (row > static_cast<int>(rows.size())) {
         return u"NO SUCH ROW"_s;
+    }
     const Variables& found = rows[static_cast<std::size_t>(row - 1)];
-    return found.Exists(key) ? TextOf(found.Item(key)) : u"MISSING"_s;
+    return found.exists(key) ? textOf(found.Item(key)) : u"MISSING"_s;
 }
 
 QString PagesTest::dump(const Variables& vars, int from, int indent) const
@@ -188,45 +192,48 @@ QString PagesTest::dump(const Variables& vars, int from, int indent) const
         const VariableValue& value = vars.Item(i);
         if (std::holds_alternative<std::shared_ptr<const VariableRows>>(value)) {
             text += blanks + vars.Key(i) + u":\n"_s;
-            for (const Variables& row : RowsOf(value))
+            for (const Variables& row : rowsOf(value)) {
                 text += blanks + u"  row\n"_s + dump(row, 1, indent + 2 * RowIndent);
+            }
         } else {
-            text += blanks + vars.Key(i) + u" = "_s + TextOf(value) + kindOf(value) + u'\n';
+            text += blanks + vars.Key(i) + u" = "_s + textOf(value) + kindOf(value) + u'\n';
         }
     }
     return text.replace(files.folder().path(), u"FOLDER"_s);
 }
 
-QString ImageDump(const QString& key, const QString& type, const QString& file, const QString& text, int width,
+QString imageDump(const QString& key, const QString& type, const QString& file, const QString& text, int width,
                   int height)
 {
     return u"%1_TYPE = %2\n%1_FILENAME = FOLDER/pictures/%3\n%1_TEXT = %4\n%1_WIDTH = %5 (integer)\n%1_HEIGHT = %6 (integer)\n"_s
         .arg(key, type, file, text, QString::number(width), QString::number(height));
 }
 
-QString SlotDump(const QString& key)
+QString slotDump(const QString& key)
 {
     for (const ImageSlot slot : everySlot()) {
-        if (TagOf(slot) == key) {
-            return ImageDump(key, u"IMAGE"_s, key.toLower() + u".png"_s, u"text of "_s + key, markedWidth(slot),
+        if (tagOf(slot) == key) {
+            return imageDump(key, u"IMAGE"_s, key.toLower() + u".png"_s, u"text of "_s + key, markedWidth(slot),
                              markedHeight(slot));
         }
     }
     return u"NO SUCH SLOT\n"_s;
 }
 
-QString OptionDump(const QStringList& names)
+QString optionDump(const QStringList& names)
 {
     QString text;
-    for (const QString& name : names)
+    for (const QString& name : names) {
         text += name + u" = <"_s + name + u">\n"_s;
+    }
     return text;
 }
 
-QString Indented(const QString& lines)
+QString indented(const QString& lines)
 {
     QString text;
-    for (const QString& line : lines.split(u'\n', Qt::SkipEmptyParts))
+    for (const QString& line : lines.split(u'\n', Qt::SkipEmptyParts)) {
         text += u"  "_s + line + u'\n';
+    }
     return text;
 }

@@ -70,11 +70,11 @@ private:
 };
 
 // The five lines of an image in a dump.
-QString ImageDump(const QString& key, const QString& type, const QString& file, const QString& text, int width,
+QString imageDump(const QString& key, const QString& type, const QString& file, const QString& text, int width,
                   int height);
 // The same for a slot that markSlots has marked.
-QString SlotDump(const QString& key);
+QString slotDump(const QString& key);
 // The lines of options that markOptions has marked.
-QString OptionDump(const QStringList& names);
+QString optionDump(const QStringList& names);
 // Two blanks more ahead of every line.
-QString Indented(const QString& lines);
+QString indented(const QString& lines);

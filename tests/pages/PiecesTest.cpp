@@ -31,13 +31,13 @@ TEST_F(PiecesTest, AllVariablesOfTheMenuStandInTheOrderOfAdding)
         "    category_name = Cups\n"
         "    server = http://previewmode/\n"
         "shop_name = Corner Shop\n"_s +
-        SlotDump(u"CARTPAGE_CHECKOUT_BUTTON"_s) + SlotDump(u"MENU_SEARCH_BUTTON"_s) +
-        SlotDump(u"MENU_SHOPPINGCART_BUTTON"_s) +
+        slotDump(u"CARTPAGE_CHECKOUT_BUTTON"_s) + slotDump(u"MENU_SEARCH_BUTTON"_s) +
+        slotDump(u"MENU_SHOPPINGCART_BUTTON"_s) +
         u"LEFT_MENU_MENU_LIST:\n"
         "  row\n"
         "    name = About\n"
         "    server = http://previewmode/\n"_s +
-        OptionDump({u"Menu_TopCategories"_s, u"Menu_SearchButton"_s, u"Menu_SearchTextfield"_s, u"Menu_ShowMenu"_s,
+        optionDump({u"Menu_TopCategories"_s, u"Menu_SearchButton"_s, u"Menu_SearchTextfield"_s, u"Menu_ShowMenu"_s,
                     u"Menu_ProductNames"_s}) +
         u"HAS_ITEMS = Yes\n"
         "products:\n"
@@ -51,7 +51,7 @@ TEST_F(PiecesTest, AllVariablesOfTheMenuStandInTheOrderOfAdding)
         "    id = 5\n"
         "    quantity = 1\n"
         "    server = http://previewmode/\n"_s +
-        OptionDump({u"Menu_CartButton"_s, u"Menu_IncludeHeaderTopCategory"_s, u"Menu_HeaderTopCategoryText"_s});
+        optionDump({u"Menu_CartButton"_s, u"Menu_IncludeHeaderTopCategory"_s, u"Menu_HeaderTopCategoryText"_s});
     EXPECT_EQ(dumpOf(u"menu"_s), expected);
 }
 
@@ -61,12 +61,12 @@ TEST_F(PiecesTest, AllVariablesOfTheHeaderStandInTheOrderOfAdding)
     markSlots();
     design().Pages(PageSelection::HeaderCustomPageSelected)->Add(u"About"_s);
     const QString expected =
-        SlotDump(u"HEADER_LOGO"_s) + SlotDump(u"HEADER_SEARCH_BUTTON"_s) + SlotDump(u"HEADER_SHOPPINGCART_BUTTON"_s) +
+        slotDump(u"HEADER_LOGO"_s) + slotDump(u"HEADER_SEARCH_BUTTON"_s) + slotDump(u"HEADER_SHOPPINGCART_BUTTON"_s) +
         u"HEADER_MENU_LIST:\n"
         "  row\n"
         "    name = About\n"
         "    server = http://previewmode/\n"_s +
-        OptionDump({u"Header_ShowLogo"_s, u"Header_ShowMenu"_s, u"Header_IncludeSearchBoxTextField"_s,
+        optionDump({u"Header_ShowLogo"_s, u"Header_ShowMenu"_s, u"Header_IncludeSearchBoxTextField"_s,
                     u"Header_IncludeSearchBoxButton"_s, u"Header_ShowSoppingCartButton"_s});
     EXPECT_EQ(dumpOf(u"header"_s), expected);
 }
@@ -87,8 +87,8 @@ TEST_F(PiecesTest, TheMenusListsExistWithoutRowsToo)
 {
     const Variables vars = variablesOf(u"menu"_s);
     for (const QString& list : {u"categories"_s, u"products"_s}) {
-        ASSERT_TRUE(vars.Exists(list)) << list.toStdString();
-        EXPECT_TRUE(RowsOf(vars.Item(list)).empty());
+        ASSERT_TRUE(vars.exists(list)) << list.toStdString();
+        EXPECT_TRUE(rowsOf(vars.Item(list)).empty());
     }
 }
 
@@ -113,7 +113,7 @@ TEST_F(PiecesTest, AListOfCustomPagesWithoutSelectionIsMissingAndItsCycleYieldsN
         {u"footer"_s, u"FOOTER_MENU_LIST"_s},
     };
     for (const auto& row : rows) {
-        EXPECT_FALSE(variablesOf(row.page).Exists(row.list)) << row.list.toStdString();
+        EXPECT_FALSE(variablesOf(row.page).exists(row.list)) << row.list.toStdString();
         addTemplate(row.page, u"[<!--:cycle:%1:-->x<!--:end:%1:-->]"_s.arg(row.list));
         EXPECT_EQ(RenderPage(context, row.page, {}), u"[]"_s);
     }
@@ -130,14 +130,15 @@ TEST_F(PiecesTest, TheMenuShowsTheNameThatTheProductHasNow)
 TEST_F(PiecesTest, WithoutACartTheMenuFails)
 {
     session.Cart.reset();
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"menu"_s); }), 91);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"menu"_s); }), 91);
 }
 
 TEST_F(PiecesTest, WithoutAShopNoPieceIsMade)
 {
     session.shop.reset();
-    for (const QString& piece : {u"menu"_s, u"header"_s, u"footer"_s, u"checkout"_s})
-        EXPECT_EQ(ErrorOf([&] { variablesOf(piece); }), 91) << piece.toStdString();
+    for (const QString& piece : {u"menu"_s, u"header"_s, u"footer"_s, u"checkout"_s}) {
+        EXPECT_EQ(errorOf([&] { variablesOf(piece); }), 91) << piece.toStdString();
+    }
 }
 
 } // namespace

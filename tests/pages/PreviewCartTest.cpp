@@ -64,7 +64,7 @@ TEST_F(PreviewCartTest, ThePriceIsTheNumberThatItsTextBeginsWith)
     for (const auto& row : rows) {
         session.Cart->Clear();
         goTo(address("~?addtoshopcart=&product_id=4&price=") + QString::fromLatin1(row.price));
-        EXPECT_EQ(session.Cart->Item(1)->SelectedPrice(), Localised(row.inCart)) << row.price;
+        EXPECT_EQ(session.Cart->Item(1)->SelectedPrice(), localised(row.inCart)) << row.price;
     }
 }
 
@@ -77,7 +77,7 @@ TEST_F(PreviewCartTest, TheCopyInTheCartHasTheChosenPriceAndTheCatalogueHasNot)
 
 TEST_F(PreviewCartTest, AQuantityIsSetAndZeroRemovesTheLine)
 {
-    addToCart(sencha, Localised(u"12.5"_s), u"2"_s);
+    addToCart(sencha, localised(u"12.5"_s), u"2"_s);
     addToCart(mix, u"10"_s, u"1"_s);
     EXPECT_EQ(goTo("~?ACTION=shopcart.php&product_id=4&product_price=12%2C50&quantity=7"), u"cart 7x4 1x5"_s);
     EXPECT_EQ(goTo("~?ACTION=shopcart.php&product_id=4&product_price=12.5&quantity=6"), u"cart 6x4 1x5"_s);
@@ -109,7 +109,7 @@ TEST_F(PreviewCartTest, RecalculationSetsTaxAndCharge)
         session.Cart->tax = 99;
         session.Cart->Charge = 99;
         // A browser escapes a comma of a form.
-        const QString separator = DecimalSeparator() == u"," ? u"%2C"_s : u"."_s;
+        const QString separator = decimalSeparator() == u"," ? u"%2C"_s : u"."_s;
         const QString fields = QString::fromLatin1(row.fields).replace(u'_', separator);
         goTo(address("~?recalculate=1&") + fields + u"&ACTION=checkout.php"_s);
         EXPECT_EQ(session.Cart->tax, row.tax) << row.fields;
@@ -151,9 +151,9 @@ TEST_F(PreviewCartTest, ATaxOrChargeThatIsNoNumberIsAnError)
 {
     for (const char* fields : {"tax=seven", "charge=a", "tax=1.5.5", "tax=7&charge=%20%20x"}) {
         const QString url = address("~?recalculate=1&") + QString::fromLatin1(fields) + u"&ACTION=checkout.php"_s;
-        EXPECT_EQ(ErrorOf([&] { navigation.act(url); }), 13) << fields;
+        EXPECT_EQ(errorOf([&] { navigation.act(url); }), 13) << fields;
     }
-    EXPECT_EQ(ErrorOf([&] { navigation.act(address("~?recalculate=1&tax=1E39&ACTION=checkout.php")); }), 6);
+    EXPECT_EQ(errorOf([&] { navigation.act(address("~?recalculate=1&tax=1E39&ACTION=checkout.php")); }), 6);
     EXPECT_TRUE(surface.documents.isEmpty());
 }
 

@@ -121,8 +121,9 @@ TEST_F(PreviewNavigationTest, WhatIsNotThereIsAnErrorAndShowsNothing)
         {"~ACTION=custompage.php&name=home%20page", 5},
         {"~ACTION=custompage.php&name=Home+page", 5},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(ErrorOf([&] { goTo(row.url); }), row.error) << row.url;
+    for (const auto& row : rows) {
+        EXPECT_EQ(errorOf([&] { goTo(row.url); }), row.error) << row.url;
+    }
     EXPECT_TRUE(surface.documents.isEmpty());
     EXPECT_EQ(session.Cart->Count(), 0);
 }
@@ -151,7 +152,7 @@ TEST_F(PreviewNavigationTest, TheEmptyQueryShowsTheChosenHomePage)
 TEST_F(PreviewNavigationTest, WithoutAChosenHomePageTheEmptyQueryAsksForACustomPage)
 {
     EXPECT_TRUE(PreviewNavigation::judge(address("~")).cancel);
-    EXPECT_EQ(ErrorOf([&] { goTo("~"); }), 5);
+    EXPECT_EQ(errorOf([&] { goTo("~"); }), 5);
     addCustomPage(u"home PAGE"_s, u"mine"_s); // keys ignore case
     EXPECT_EQ(goTo("~"), u"own mine"_s);
 }
@@ -179,7 +180,7 @@ TEST_F(PreviewNavigationTest, ThePreviewOpensWithTheHomePage)
     }
     home.Clear();
     home.Add(u"gone"_s);
-    EXPECT_EQ(ErrorOf([&] { navigation.openPreview(); }), 5);
+    EXPECT_EQ(errorOf([&] { navigation.openPreview(); }), 5);
 }
 
 TEST_F(PreviewNavigationTest, TheSearchLooksAtNamesAndDescriptionsOfProductsOnly)
@@ -199,8 +200,9 @@ TEST_F(PreviewNavigationTest, TheSearchLooksAtNamesAndDescriptionsOfProductsOnly
         {"", u"search [] Sencha Morning Mix"_s},   {"a+b", u"search [a+b]"_s},
         {"s", u"search [s] Sencha Morning Mix"_s},
     };
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         EXPECT_EQ(goTo(address("~?ACTION=search.php&where=0&what=") + QString::fromUtf8(row.what)), row.shown);
+    }
 }
 
 TEST_F(PreviewNavigationTest, ARemovedProductThatIsStillKnownIsStillShown)
@@ -217,13 +219,14 @@ TEST_F(PreviewNavigationTest, RenderingChangesNothingInTheCatalogue)
         shop().SelectedCountries = std::make_shared<TextCollection>();
         const pugi::xml_node root = document.append_child("Shop");
         shop().ToXML(root);
-        return XmlToBytes(document);
+        return xmlToBytes(document);
     };
     const QByteArray before = text();
     for (const char* url :
          {"~MAINPAGE", "~ACTION=category.php&id=2", "~ACTION=product.php&id=4", "~?addtoshopcart=&product_id=4&price=3",
-          "~?ACTION=search.php&what=", "~?ACTION=checkout.php"})
+          "~?ACTION=search.php&what=", "~?ACTION=checkout.php"}) {
         goTo(url);
+    }
     EXPECT_EQ(text(), before);
 }
 
@@ -232,7 +235,7 @@ TEST_F(PreviewNavigationTest, AFailureInRenderingPassesThroughAndKeepsTheOldDocu
     goTo("~MAINPAGE");
     templates.templates.Remove(u"product"_s);
     const QString url = address("~ACTION=product.php&id=4");
-    EXPECT_EQ(ErrorOf([&] { navigation.act(url); }), 5);
+    EXPECT_EQ(errorOf([&] { navigation.act(url); }), 5);
     EXPECT_EQ(surface.documents, QStringList{u"main"_s});
 }
 

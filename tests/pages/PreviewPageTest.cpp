@@ -28,8 +28,9 @@ class PreviewPageTest : public PagesTest
 protected:
     void addTemplates()
     {
-        for (const QString& name : {u"menu"_s, u"footer"_s, u"header"_s, u"checkout"_s, u"cart"_s})
+        for (const QString& name : {u"menu"_s, u"footer"_s, u"header"_s, u"checkout"_s, u"cart"_s}) {
             addTemplate(name, u"<%1>"_s.arg(name));
+        }
         addTemplate(u"main"_s, u"<main <!--:shop_name:-->>"_s);
         setLayout(u"<!--:header:--><!--:main_part:--><!--:menu:--><!--:footer:--><!--:checkout:-->"_s);
     }
@@ -89,8 +90,9 @@ TEST_F(PreviewPageTest, ADefectInTheCheckoutFailsEveryPageAndLeavesTheDocument)
     preview.ShowPreviewPage(u"main"_s, session.shop);
     const QString before = surface.document;
     templates.templates.Remove(u"checkout"_s);
-    for (const QString& name : {u"main"_s, u"cart"_s})
-        EXPECT_EQ(ErrorOf([&] { preview.ShowPreviewPage(name, session.shop); }), 5);
+    for (const QString& name : {u"main"_s, u"cart"_s}) {
+        EXPECT_EQ(errorOf([&] { preview.ShowPreviewPage(name, session.shop); }), 5);
+    }
     EXPECT_EQ(surface.document, before);
     EXPECT_EQ(surface.calls.size(), 1);
 }
@@ -99,7 +101,7 @@ TEST_F(PreviewPageTest, WithoutAFrameNothingIsShown)
 {
     addTemplates();
     templates.layout_template.reset();
-    EXPECT_EQ(ErrorOf([&] { preview.ShowPreviewPage(u"main"_s, session.shop); }), 91);
+    EXPECT_EQ(errorOf([&] { preview.ShowPreviewPage(u"main"_s, session.shop); }), 91);
     EXPECT_TRUE(surface.calls.isEmpty());
 }
 
@@ -111,7 +113,7 @@ TEST_F(PreviewPageTest, ThePageAndItsObjectAreRememberedAlsoWhenItFails)
     EXPECT_EQ(preview.lastPageName(), u"main"_s);
     EXPECT_EQ(std::get<std::shared_ptr<ShopClass>>(preview.lastPageObject()), session.shop);
     const auto tea = addCategory(u"2"_s, u"Tea"_s);
-    EXPECT_EQ(ErrorOf([&] { preview.ShowPreviewPage(u"category"_s, tea); }), 5);
+    EXPECT_EQ(errorOf([&] { preview.ShowPreviewPage(u"category"_s, tea); }), 5);
     EXPECT_EQ(preview.lastPageName(), u"category"_s);
     EXPECT_EQ(std::get<std::shared_ptr<CategoryClass>>(preview.lastPageObject()), tea);
 }

@@ -31,8 +31,9 @@ TEST(PreviewUrl, AParameterIsFoundAsText)
         {"an empty text", u""_s, u"id"_s, u"default"_s},
         {"an escaped and", u"id=a%26b&c=d"_s, u"id"_s, u"a%26b"_s},
     };
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         EXPECT_EQ(GetUrlParam(row.text, row.key, u"default"_s), row.value) << row.name;
+    }
 }
 
 TEST(PreviewUrl, OnlyBlanksAndCommasAreDecodedAndACommaBecomesAPoint)
@@ -51,8 +52,9 @@ TEST(PreviewUrl, OnlyBlanksAndCommasAreDecodedAndACommaBecomesAPoint)
         {u"%%202C"_s, u"% 2C"_s},
         {u""_s, u""_s},
     };
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         EXPECT_EQ(DecodeUrlText(row.text), row.decoded);
+    }
 }
 
 } // namespace

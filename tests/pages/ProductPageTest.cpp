@@ -19,7 +19,7 @@ protected:
                "ForSale = True (boolean)\n"
                "measuring_unit = 100 g\n"
                "product_link = http://maker/\n"_s +
-               ImageDump(u"PRODUCTPAGE_IMAGE"_s, u"TEXT"_s, u"sencha.png"_s, u"a cup"_s, 16, 12) +
+               imageDump(u"PRODUCTPAGE_IMAGE"_s, u"TEXT"_s, u"sencha.png"_s, u"a cup"_s, 16, 12) +
                u"Width = 16 (integer)\n"
                "Height = 12 (integer)\n"_s;
     }
@@ -33,13 +33,13 @@ protected:
 
 QString ProductPageTest::tailDump(const QString& related)
 {
-    return OptionDump(
+    return optionDump(
                {u"ProductPage_IncludePageHeader"_s, u"ProductPage_PageHeader"_s, u"ProductPage_IncludeBreadcrumb"_s,
                 u"ProductPage_IncludeImage"_s, u"ProductPage_IncludeAddToCart"_s, u"ProductPage_IncludeName"_s,
                 u"ProductPage_IncludeDescription"_s, u"ProductPage_IncludePrice"_s, u"ProductPage_IncludeOldPrice"_s,
                 u"ProductPage_IncludeNewPrice"_s, u"ProductPage_IncludeTaxes"_s, u"ProductPage_IncludeShipping"_s,
                 u"ProductPage_IncludeRelated"_s, u"ProductPage_Advanced"_s}) +
-           SlotDump(u"PRODUCT_CART_BUTTON"_s) + related +
+           slotDump(u"PRODUCT_CART_BUTTON"_s) + related +
            u"breadcrumb:\n"
            "  row\n"
            "    name = Tea\n"
@@ -167,19 +167,19 @@ TEST_F(ProductPageTest, AnEmptyPriceIsNotReplacedHere)
     auto bands = std::make_shared<clsDependedDiscounts>();
     bands->Add(u"1"_s, u"2"_s, u"50"_s);
     discount.ParentDependDiscounts = bands;
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"product"_s, sencha); }), 13);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"product"_s, sencha); }), 13);
 }
 
 TEST_F(ProductPageTest, AProductWhoseCategoryIsGoneFailsThePage)
 {
     sencha->category.reset();
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"product"_s, sencha); }), 91);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"product"_s, sencha); }), 91);
 }
 
 TEST_F(ProductPageTest, ThePageNeedsAProduct)
 {
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"product"_s); }), 91);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"product"_s, tea); }), 13);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"product"_s); }), 91);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"product"_s, tea); }), 13);
 }
 
 } // namespace

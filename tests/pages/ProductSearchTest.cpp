@@ -38,8 +38,9 @@ TEST(ProductSearch, AWordIsFoundInUpperCase)
         {u""_s, u""_s, false},
         {u"longer than the text"_s, u"text"_s, false},
     };
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         EXPECT_EQ(isFound(row.what, row.text), row.found) << row.what.toStdString() << " in " << row.text.toStdString();
+    }
 }
 
 TEST(ProductSearch, EveryLetterIsComparedAsItsUpperCase)
@@ -47,8 +48,9 @@ TEST(ProductSearch, EveryLetterIsComparedAsItsUpperCase)
     constexpr char32_t BlockSize = 0x100;
     for (char32_t block = 0; block < 0x110000; block += BlockSize) {
         QString text;
-        for (char32_t letter = block; letter < block + BlockSize; ++letter)
+        for (char32_t letter = block; letter < block + BlockSize; ++letter) {
             text += QString::fromUcs4(&letter, 1);
+        }
         ASSERT_TRUE(isFound(text.toUpper(), text)) << std::hex << static_cast<unsigned>(block);
     }
 }
@@ -62,8 +64,9 @@ TEST(ProductSearch, TheAnswersAreThoseOfThePlainWay)
     std::uniform_int_distribution<int> anyLength(0, 6);
     const auto anyText = [&](int length) {
         QString text;
-        for (int i = 0; i < length; ++i)
+        for (int i = 0; i < length; ++i) {
             text += letters[anyLetter(random)];
+        }
         return text;
     };
     int found = 0;

@@ -19,8 +19,8 @@ TEST_F(RenderPageTest, ACustomPageHasItsTextUnchangedAndNothingElse)
 
 TEST_F(RenderPageTest, ACustomPageNeedsItsObject)
 {
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"custompage"_s); }), 91);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"custompage"_s, session.shop); }), 13);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"custompage"_s); }), 91);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"custompage"_s, session.shop); }), 13);
 }
 
 TEST_F(RenderPageTest, ANameThatIsNoPageHasTheTwoVariablesOfAllPages)
@@ -41,13 +41,13 @@ TEST_F(RenderPageTest, ThePageIsFilledByTheExactNameButTheTemplateIsFoundInAnyCa
 
 TEST_F(RenderPageTest, AnAbsentTemplateFailsThePage)
 {
-    EXPECT_EQ(ErrorOf([&] { RenderPage(context, u"main"_s, session.shop); }), 5);
+    EXPECT_EQ(errorOf([&] { RenderPage(context, u"main"_s, session.shop); }), 5);
 }
 
 TEST_F(RenderPageTest, ATemplateThatUsesAListAsATextFailsThePage)
 {
     addTemplate(u"main"_s, u"<!--:categories:-->"_s);
-    EXPECT_EQ(ErrorOf([&] { RenderPage(context, u"main"_s, session.shop); }), 13);
+    EXPECT_EQ(errorOf([&] { RenderPage(context, u"main"_s, session.shop); }), 13);
 }
 
 } // namespace

@@ -35,8 +35,9 @@ QList<Field> fieldsOf(const QString& form)
     for (const QRegularExpressionMatch& match : pattern.globalMatch(form)) {
         const QString tag = match.captured();
         const QString name = attributeOf(tag, u"name"_s);
-        if (!name.isEmpty())
+        if (!name.isEmpty()) {
             fields << Field{tag, name, attributeOf(tag, u"type"_s)};
+        }
     }
     return fields;
 }
@@ -44,8 +45,9 @@ QList<Field> fieldsOf(const QString& form)
 QStringList namesOf(const QList<Field>& fields)
 {
     QStringList names;
-    for (const Field& field : fields)
+    for (const Field& field : fields) {
         names << field.name;
+    }
     return names;
 }
 
@@ -54,8 +56,9 @@ class SampleTemplatesTest : public PagesTest
 protected:
     SampleTemplatesTest()
     {
-        for (const QString& file : m_folder.entryList({u"*.html"_s, u"*.html.def"_s}, QDir::Files))
-            texts[file] = QString::fromUtf8(FileBytes(m_folder.filePath(file)));
+        for (const QString& file : m_folder.entryList({u"*.html"_s, u"*.html.def"_s}, QDir::Files)) {
+            texts[file] = QString::fromUtf8(fileBytes(m_folder.filePath(file)));
+        }
         EXPECT_EQ(texts.size(), 24);
     }
 
@@ -66,8 +69,9 @@ protected:
                                                 QRegularExpression::DotMatchesEverythingOption);
         QList<std::pair<QString, QString>> found;
         for (auto text = texts.begin(); text != texts.end(); ++text) {
-            for (const QRegularExpressionMatch& match : pattern.globalMatch(text.value()))
+            for (const QRegularExpressionMatch& match : pattern.globalMatch(text.value())) {
                 found.append({text.key(), match.captured()});
+            }
         }
         return found;
     }
@@ -77,8 +81,9 @@ protected:
     {
         static const QRegularExpression pattern(u"<img src=\"[^\"]*/pictures/([^\"]*)\""_s);
         QStringList found;
-        for (const QRegularExpressionMatch& match : pattern.globalMatch(RenderPage(context, pageName, object)))
+        for (const QRegularExpressionMatch& match : pattern.globalMatch(RenderPage(context, pageName, object))) {
             found << match.captured(1);
+        }
         return found;
     }
 
@@ -105,8 +110,9 @@ TEST_F(SampleTemplatesTest, AProductIsBoughtByAHiddenEmptyField)
     for (const auto& [file, form] : forms()) {
         const QList<Field> fields = fieldsOf(form);
         const QStringList names = namesOf(fields);
-        if (!names.contains(u"addtoshopcart"_s) && !names.contains(u"price"_s))
+        if (!names.contains(u"addtoshopcart"_s) && !names.contains(u"price"_s)) {
             continue;
+        }
         ++buying;
         ASSERT_EQ(names, (QStringList{u"addtoshopcart"_s, u"product_id"_s, u"price"_s, u"quantity"_s}))
             << file.toStdString();
@@ -119,8 +125,9 @@ TEST_F(SampleTemplatesTest, AProductIsBoughtByAHiddenEmptyField)
 TEST_F(SampleTemplatesTest, NoLinkBuys)
 {
     const QRegularExpression buying(u"href=\"[^\"]*(addtoshopcart|price=)"_s);
-    for (auto text = texts.begin(); text != texts.end(); ++text)
+    for (auto text = texts.begin(); text != texts.end(); ++text) {
         EXPECT_FALSE(text->contains(buying)) << text.key().toStdString();
+    }
 }
 
 TEST_F(SampleTemplatesTest, TheRecalculationEndsInItsAction)
@@ -128,8 +135,9 @@ TEST_F(SampleTemplatesTest, TheRecalculationEndsInItsAction)
     int recalculations = 0;
     for (const auto& [file, form] : forms()) {
         const QList<Field> fields = fieldsOf(form);
-        if (!namesOf(fields).contains(u"recalculate"_s))
+        if (!namesOf(fields).contains(u"recalculate"_s)) {
             continue;
+        }
         ++recalculations;
         EXPECT_EQ(fields.first().name, u"recalculate"_s) << file.toStdString();
         EXPECT_EQ(fields.last().name, u"ACTION"_s) << file.toStdString();
@@ -149,8 +157,9 @@ TEST_F(SampleTemplatesTest, EveryFileBeginsWithAVersionAndHasWholeLineEnds)
 
 TEST_F(SampleTemplatesTest, APictureIsShownWhenItHasAWidth)
 {
-    for (const DesignOptionRow& row : DesignOptionTable())
+    for (const DesignOptionRow& row : designOptionTable()) {
         design().setOption(row.option, u"Yes"_s);
+    }
     const auto tea = addCategory(u"2"_s, u"Tea"_s);
     const auto green = addCategory(u"3"_s, u"Green"_s, tea);
     addCategory(u"4"_s, u"Black"_s, tea);

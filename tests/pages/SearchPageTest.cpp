@@ -54,9 +54,9 @@ TEST_F(SearchPageTest, AllVariablesStandInTheOrderOfAdding)
         "    Product_PriceType = Single\n"
         "    price = 20 (object)\n"
         "    new_price = 10\n"_s +
-        Indented(Indented(ImageDump(u"CATEGORYPAGE_IMAGE"_s, u"TEXT"_s, u"sencha.png"_s, {}, 16, 12) +
-                          u"description = Fresh\n"_s + SlotDump(u"SEARCHPAGE_SHOPPINGCART_BUTTON"_s) +
-                          OptionDump(ProductOptionNames))) +
+        indented(indented(imageDump(u"CATEGORYPAGE_IMAGE"_s, u"TEXT"_s, u"sencha.png"_s, {}, 16, 12) +
+                          u"description = Fresh\n"_s + slotDump(u"SEARCHPAGE_SHOPPINGCART_BUTTON"_s) +
+                          optionDump(ProductOptionNames))) +
         u"    server = http://previewmode/\n"
         "    hasrelated = \n"
         "  row\n"
@@ -81,8 +81,8 @@ TEST_F(SearchPageTest, AllVariablesStandInTheOrderOfAdding)
         "        SearchPage_IncludeDescription = <SearchPage_IncludeDescription>\n"
         "        Mnew_price = \n"_s +
         priceOptions +
-        Indented(Indented(ImageDump(u"CATEGORYPAGE_IMAGE"_s, u"TEXT"_s, {}, {}, 0, 0) + u"description = \n"_s +
-                          SlotDump(u"SEARCHPAGE_SHOPPINGCART_BUTTON"_s) + OptionDump(ProductOptionNames))) +
+        indented(indented(imageDump(u"CATEGORYPAGE_IMAGE"_s, u"TEXT"_s, {}, {}, 0, 0) + u"description = \n"_s +
+                          slotDump(u"SEARCHPAGE_SHOPPINGCART_BUTTON"_s) + optionDump(ProductOptionNames))) +
         u"    server = http://previewmode/\n"
         "    hasrelated = yes\n"
         "    related:\n"
@@ -92,7 +92,7 @@ TEST_F(SearchPageTest, AllVariablesStandInTheOrderOfAdding)
         "        server = http://previewmode/\n"
         "SEARCH_WORD = tea\n"
         "HAS_ITEMS = Yes\n"_s +
-        OptionDump({u"SearchPage_IncludePageHeader"_s, u"SearchPage_PageHeader"_s});
+        optionDump({u"SearchPage_IncludePageHeader"_s, u"SearchPage_PageHeader"_s});
     EXPECT_EQ(dumpOf(u"search"_s, found(u"tea"_s, {sencha, mix})), expected);
 }
 
@@ -114,13 +114,13 @@ TEST_F(SearchPageTest, ANewPriceOfBandsNeedsAPrice)
     auto bands = std::make_shared<clsDependedDiscounts>();
     bands->Add(u"1"_s, u"2"_s, u"50"_s);
     sencha->Price()->Discount()->ParentDependDiscounts = bands;
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"search"_s, found(u"tea"_s, {sencha})); }), 13);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"search"_s, found(u"tea"_s, {sencha})); }), 13);
 }
 
 TEST_F(SearchPageTest, NothingFoundIsAListWithoutRowsAndTheGuardSaysNo)
 {
     const Variables vars = variablesOf(u"search"_s, found(u"coffee"_s));
-    EXPECT_TRUE(RowsOf(vars.Item(u"products")).empty());
+    EXPECT_TRUE(rowsOf(vars.Item(u"products")).empty());
     addTemplate(u"search"_s, u"<!--:HAS_ITEMS:-->[<!--:if:HAS_ITEMS=Yes:--><!--:cycle:products:-->x"
                              "<!--:end:products:--><!--:end:HAS_ITEMS:-->]"_s);
     EXPECT_EQ(RenderPage(context, u"search"_s, found(u"coffee"_s)), u"No[]"_s);
@@ -128,14 +128,15 @@ TEST_F(SearchPageTest, NothingFoundIsAListWithoutRowsAndTheGuardSaysNo)
 
 TEST_F(SearchPageTest, TheWordStandsAsItWasTyped)
 {
-    for (const QString& word : {u"a+b"_s, u""_s, u"a%20b"_s, u"<b>"_s, u"Größe"_s})
+    for (const QString& word : {u"a+b"_s, u""_s, u"a%20b"_s, u"<b>"_s, u"Größe"_s}) {
         EXPECT_EQ(valueOf(u"search"_s, found(word), u"SEARCH_WORD"_s), word);
+    }
 }
 
 TEST_F(SearchPageTest, ThePageNeedsResults)
 {
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"search"_s); }), 91);
-    EXPECT_EQ(ErrorOf([&] { variablesOf(u"search"_s, sencha); }), 13);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"search"_s); }), 91);
+    EXPECT_EQ(errorOf([&] { variablesOf(u"search"_s, sencha); }), 13);
 }
 
 } // namespace

@@ -72,8 +72,9 @@ TEST_F(TemplateUtils, APictureNameIsAPathUnderThePicturesUnlessItHasAColon)
         {u"C:\\pics\\tea.png"_s, u"C:\\pics\\tea.png"_s},
         {u":"_s, u":"_s},
     };
-    for (const auto& row : rows)
+    for (const auto& row : rows) {
         EXPECT_EQ(FullPicturePath(session.folder, row.name), row.path);
+    }
     EXPECT_TRUE(pictures.startsWith(u'/'));
 }
 
@@ -84,7 +85,7 @@ TEST_F(TemplateUtils, APictureOfACategoryHasAPathOrNoneOrFails)
     category.selectedImage()->imageFileName = u"tea.png"_s;
     EXPECT_EQ(SelectedPicturePath(session.folder, category), session.folder.picturesFolder() + u"tea.png"_s);
     category.selectedImage()->imageFileName = u"C:tea.png"_s;
-    EXPECT_EQ(ErrorOf([&] { SelectedPicturePath(session.folder, category); }), 438);
+    EXPECT_EQ(errorOf([&] { SelectedPicturePath(session.folder, category); }), 438);
 }
 
 TEST_F(TemplateUtils, EverySelectionButAnImageIsGivenOutAsText)
@@ -104,8 +105,8 @@ TEST_F(TemplateUtils, EverySelectionButAnImageIsGivenOutAsText)
         image.TextValue = u"words"_s;
         Variables vars = context.newVariables();
         AddImageVariables(vars, context, image, ImageKeys(u"KEY"));
-        EXPECT_EQ(TextOf(vars.Item(u"KEY_TYPE")), row.type);
-        EXPECT_EQ(TextOf(vars.Item(u"KEY_TEXT")), u"words"_s);
+        EXPECT_EQ(textOf(vars.Item(u"KEY_TYPE")), row.type);
+        EXPECT_EQ(textOf(vars.Item(u"KEY_TEXT")), u"words"_s);
     }
 }
 
@@ -116,12 +117,12 @@ TEST_F(TemplateUtils, ASizeThatIsNotKnownIsReadFromTheFile)
     WriteFile(session.folder.picturesFolder() + image.imageFileName, "P1\n3 2\n0 0 0\n0 0 0\n");
     Variables vars = context.newVariables();
     AddImageVariables(vars, context, image, ImageKeys(u"KEY"));
-    EXPECT_EQ(TextOf(vars.Item(u"KEY_WIDTH")), u"3"_s);
-    EXPECT_EQ(TextOf(vars.Item(u"KEY_HEIGHT")), u"2"_s);
+    EXPECT_EQ(textOf(vars.Item(u"KEY_WIDTH")), u"3"_s);
+    EXPECT_EQ(textOf(vars.Item(u"KEY_HEIGHT")), u"2"_s);
 
     clsSelectedImage gone(session.designServices);
     gone.imageFileName = u"gone.png"_s;
-    EXPECT_EQ(ErrorOf([&] { AddImageVariables(vars, context, gone, ImageKeys(u"GONE")); }), 53);
+    EXPECT_EQ(errorOf([&] { AddImageVariables(vars, context, gone, ImageKeys(u"GONE")); }), 53);
 }
 
 TEST_F(TemplateUtils, AVariableThatIsAddedTwiceFails)
@@ -129,7 +130,7 @@ TEST_F(TemplateUtils, AVariableThatIsAddedTwiceFails)
     clsSelectedImage image(session.designServices);
     Variables vars = context.newVariables();
     vars.Add(u"key_text", u"x"_s);
-    EXPECT_EQ(ErrorOf([&] { AddImageVariables(vars, context, image, ImageKeys(u"KEY")); }), 457);
+    EXPECT_EQ(errorOf([&] { AddImageVariables(vars, context, image, ImageKeys(u"KEY")); }), 457);
 }
 
 } // namespace

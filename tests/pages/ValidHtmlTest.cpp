@@ -71,7 +71,7 @@ protected:
 
     void setEverySwitch(const QString& word)
     {
-        for (const DesignOptionRow& row : DesignOptionTable()) {
+        for (const DesignOptionRow& row : designOptionTable()) {
             if (design().Option(row.option) == "Yes"_L1 || design().Option(row.option) == "No"_L1) {
                 design().setOption(row.option, word);
             }
@@ -177,7 +177,7 @@ TEST_F(ValidHtmlTest, PagesWithTextsInThePlaceOfPicturesAreFreeOfMistakes)
 TEST_F(ValidHtmlTest, AMistakeInATemplateIsFound)
 {
     const QString page = files.path(u"templates/cart.html"_s);
-    WriteFile(page, FileBytes(page).replace("</h1>", ""));
+    WriteFile(page, fileBytes(page).replace("</h1>", ""));
     templates.parseTemplates();
     keepPage(u"?addtoshopcart=&product_id=20&quantity=1&price=76"_s);
     EXPECT_FALSE(complaints().filter(u"missing </h1>"_s).isEmpty());

@@ -23,7 +23,7 @@ TEST(FileListReader, ALineHasNameSizeAndAThirdValue)
     RecordingPrompts prompts;
     ServerFileList list;
     const QString answer = u"1.2.0|cup.png|1204|20.11.2026\r\npot.gif|0|a|b\r\n"_s;
-    ASSERT_TRUE(ReadFileList(answer, u"1.2.0"_s, list, prompts));
+    ASSERT_TRUE(readFileList(answer, u"1.2.0"_s, list, prompts));
     ASSERT_EQ(list.Count(), 2);
     EXPECT_EQ(list.Item(1).fileName, u"cup.png"_s);
     EXPECT_EQ(list.Item(1).size, 1204);
@@ -37,7 +37,7 @@ TEST(FileListReader, TheVersionAndOneBarGiveAnEmptyList)
     RecordingPrompts prompts;
     ServerFileList list;
     list.Add({u"old.png"_s, 1, {}}, u"old.png"_s);
-    EXPECT_TRUE(ReadFileList(u"1.2.0|"_s, u"1.2.0"_s, list, prompts));
+    EXPECT_TRUE(readFileList(u"1.2.0|"_s, u"1.2.0"_s, list, prompts));
     EXPECT_TRUE(list.isEmpty());
 }
 
@@ -46,7 +46,7 @@ TEST(FileListReader, ALastLineWithoutItsEndIsNotRead)
     for (const QString& rest : {u"b.png|7|x"_s, u"b.png|7|x\n"_s, u"b.png|7|x\r"_s, u"what is this"_s}) {
         RecordingPrompts prompts;
         ServerFileList list;
-        EXPECT_TRUE(ReadFileList("1.2.0|a.png|5|x\r\n"_L1 + rest, u"1.2.0"_s, list, prompts)) << rest.toStdString();
+        EXPECT_TRUE(readFileList("1.2.0|a.png|5|x\r\n"_L1 + rest, u"1.2.0"_s, list, prompts)) << rest.toStdString();
         EXPECT_EQ(list.Count(), 1);
     }
 }
@@ -56,7 +56,7 @@ TEST(FileListReader, AnAnswerWithoutABarEndsTheUploadWithoutABox)
     for (const QString& answer : {u""_s, u"1.2.0"_s, u"<html>Not found</html>"_s}) {
         RecordingPrompts prompts;
         ServerFileList list;
-        EXPECT_FALSE(ReadFileList(answer, u"1.2.0"_s, list, prompts)) << answer.toStdString();
+        EXPECT_FALSE(readFileList(answer, u"1.2.0"_s, list, prompts)) << answer.toStdString();
     }
 }
 
@@ -67,7 +67,7 @@ TEST(FileListReader, AVersionThatDiffersInAnyLetterAsksForAnUpgrade)
         RecordingPrompts prompts;
         ServerFileList list;
         prompts.expectMessage(u"Uploading canceled"_s, upgradeText, PromptIcon::Warning);
-        EXPECT_FALSE(ReadFileList(version + "|a.png|5|x\r\n"_L1, u"1.2.0"_s, list, prompts));
+        EXPECT_FALSE(readFileList(version + "|a.png|5|x\r\n"_L1, u"1.2.0"_s, list, prompts));
         EXPECT_TRUE(list.isEmpty());
     }
 }
@@ -105,14 +105,14 @@ TEST(FileListReader, AWrongLineShowsItsErrorAndEndsTheUpload)
         RecordingPrompts prompts;
         ServerFileList list;
         prompts.expectMessage(row.title, row.text, PromptIcon::Warning);
-        EXPECT_FALSE(ReadFileList("1.2.0|"_L1 + row.lines, u"1.2.0"_s, list, prompts));
+        EXPECT_FALSE(readFileList("1.2.0|"_L1 + row.lines, u"1.2.0"_s, list, prompts));
         EXPECT_TRUE(list.isEmpty());
     }
 }
 
 TEST(FileListReader, SizesReachToTheEndsOf32Bits)
 {
-    const ServerFileList list = ParseFileLines(u"a|2147483647|\r\nb|-2147483648|\r\nc|007|\r\n");
+    const ServerFileList list = parseFileLines(u"a|2147483647|\r\nb|-2147483648|\r\nc|007|\r\n");
     EXPECT_EQ(list.Item(u"a"_s).size, 2147483647);
     EXPECT_EQ(list.Item(u"b"_s).size, -2147483647 - 1);
     EXPECT_EQ(list.Item(u"c"_s).size, 7);

@@ -21,22 +21,22 @@ QByteArray fileNameIn(const QByteArray& body)
 
 } // namespace
 
-QByteArray UploadData(const QString& name)
+QByteArray uploadData(const QString& name)
 {
-    return FileBytes(dataFolder + name);
+    return fileBytes(dataFolder + name);
 }
 
-QByteArray ExpectedRequest(const QString& name, const ApplicationFolder& folder)
+QByteArray expectedRequest(const QString& name, const ApplicationFolder& folder)
 {
-    return UploadData("requests/"_L1 + name).replace("@FOLDER@", folder.path().toUtf8());
+    return uploadData("requests/"_L1 + name).replace("@FOLDER@", folder.path().toUtf8());
 }
 
-QStringList ExpectedSequence()
+QStringList expectedSequence()
 {
     return QDir(dataFolder + "requests"_L1).entryList({u"[0-9][0-9]-*.bin"_s}, QDir::Files, QDir::Name);
 }
 
-void CopyFiles(const QString& from, const QString& to)
+void copyFiles(const QString& from, const QString& to)
 {
     QDirIterator entries(from, QDir::Files, QDirIterator::Subdirectories);
     while (entries.hasNext()) {
@@ -47,14 +47,14 @@ void CopyFiles(const QString& from, const QString& to)
     }
 }
 
-void UseSmallShop(const TemporaryShopFolder& files)
+void useSmallShop(const TemporaryShopFolder& files)
 {
-    CopyFiles(dataFolder + "shop/"_L1, files.folder().path() + u'/');
+    copyFiles(dataFolder + "shop/"_L1, files.folder().path() + u'/');
 }
 
-void UseSampleShop(const TemporaryShopFolder& files)
+void useSampleShop(const TemporaryShopFolder& files)
 {
-    CopyFiles(QStringLiteral(TARNWICK_SOURCE_DIR "/app/"), files.folder().path() + u'/');
+    copyFiles(QStringLiteral(TARNWICK_SOURCE_DIR "/app/"), files.folder().path() + u'/');
 }
 
 HttpAnswer Answer(int status, const QByteArray& body)

@@ -10,17 +10,17 @@
 #include <vector>
 
 // The bytes of a file in tests/data/upload.
-QByteArray UploadData(const QString& name);
+QByteArray uploadData(const QString& name);
 // A request's body as it has to be, for an application folder.
-QByteArray ExpectedRequest(const QString& name, const ApplicationFolder& folder);
+QByteArray expectedRequest(const QString& name, const ApplicationFolder& folder);
 // The names of all requests that publishing the small shop to an empty server takes, in order.
-QStringList ExpectedSequence();
+QStringList expectedSequence();
 // Copies all files below a folder into another; a failed test when one cannot be copied.
-void CopyFiles(const QString& from, const QString& to);
+void copyFiles(const QString& from, const QString& to);
 // Copies the small shop of tests/data/upload.
-void UseSmallShop(const TemporaryShopFolder& files);
+void useSmallShop(const TemporaryShopFolder& files);
 // The whole sample shop of the program.
-void UseSampleShop(const TemporaryShopFolder& files);
+void useSampleShop(const TemporaryShopFolder& files);
 
 HttpAnswer Answer(int status, const QByteArray& body);
 HttpAnswer Failure(const QString& description, int number);

@@ -13,23 +13,23 @@ namespace {
 TEST(UploadLog, WithoutAFailureItHasTwoLines)
 {
     const TemporaryShopFolder files;
-    WriteUploadLog(files.folder(), u"jürgen"_s, u"http://shop.test/"_s, std::nullopt);
-    EXPECT_EQ(FileBytes(files.path(u"upload.log"_s)), "j\xC3\xBCrgen\r\nhttp://shop.test/\r\n");
+    writeUploadLog(files.folder(), u"jürgen"_s, u"http://shop.test/"_s, std::nullopt);
+    EXPECT_EQ(fileBytes(files.path(u"upload.log"_s)), "j\xC3\xBCrgen\r\nhttp://shop.test/\r\n");
 }
 
 TEST(UploadLog, AFailureIsItsThirdLine)
 {
     const TemporaryShopFolder files;
     WriteFile(files.path(u"upload.log"_s), QByteArray(500, 'x'));
-    WriteUploadLog(files.folder(), u"anna"_s, u"http://shop.test/"_s, TransferFailure{u"Connection refused"_s, 1});
-    EXPECT_EQ(FileBytes(files.path(u"upload.log"_s)), "anna\r\nhttp://shop.test/\r\nConnection refused|1\r\n");
+    writeUploadLog(files.folder(), u"anna"_s, u"http://shop.test/"_s, TransferFailure{u"Connection refused"_s, 1});
+    EXPECT_EQ(fileBytes(files.path(u"upload.log"_s)), "anna\r\nhttp://shop.test/\r\nConnection refused|1\r\n");
 }
 
 TEST(UploadLog, AFailuresLineEndsDoNotMakeMoreLines)
 {
     const TemporaryShopFolder files;
-    WriteUploadLog(files.folder(), u"anna"_s, u"x"_s, TransferFailure{u"File not found: a\r\nb"_s, 53});
-    EXPECT_EQ(FileBytes(files.path(u"upload.log"_s)), "anna\r\nx\r\nFile not found: a  b|53\r\n");
+    writeUploadLog(files.folder(), u"anna"_s, u"x"_s, TransferFailure{u"File not found: a\r\nb"_s, 53});
+    EXPECT_EQ(fileBytes(files.path(u"upload.log"_s)), "anna\r\nx\r\nFile not found: a  b|53\r\n");
 }
 
 TEST(UploadLog, ItRemembersItsFirstTwoItems)
@@ -59,7 +59,7 @@ TEST(UploadLog, ItRemembersItsFirstTwoItems)
         SCOPED_TRACE(row.what);
         const TemporaryShopFolder files;
         WriteFile(files.path(u"upload.log"_s), row.bytes);
-        const RememberedUpload remembered = ReadUploadLog(files.folder());
+        const RememberedUpload remembered = readUploadLog(files.folder());
         EXPECT_EQ(remembered.login, row.login);
         EXPECT_EQ(remembered.address, row.address);
     }
@@ -68,9 +68,9 @@ TEST(UploadLog, ItRemembersItsFirstTwoItems)
 TEST(UploadLog, WithoutAFileNothingIsRemembered)
 {
     const TemporaryShopFolder files;
-    EXPECT_EQ(ReadUploadLog(files.folder()).login, std::nullopt);
+    EXPECT_EQ(readUploadLog(files.folder()).login, std::nullopt);
     ASSERT_TRUE(QDir(files.folder().path()).mkdir(u"upload.log"_s));
-    EXPECT_EQ(ReadUploadLog(files.folder()).address, std::nullopt);
+    EXPECT_EQ(readUploadLog(files.folder()).address, std::nullopt);
 }
 
 } // namespace

@@ -187,7 +187,7 @@ TEST_F(UploadPlanTest, WithoutAFolderOfPicturesTheWalkFails)
     useShop("<ShopDesign/>");
     ASSERT_TRUE(QDir(files.path(u"pictures"_s)).removeRecursively());
     UploadPlan plan(files.folder(), server);
-    EXPECT_EQ(ErrorOf([&] { plan.walkShopFile(); }), 75);
+    EXPECT_EQ(errorOf([&] { plan.walkShopFile(); }), 75);
 }
 
 TEST_F(UploadPlanTest, AStepIsTheWholeQuotientOf100ByThePicturesAnd19)
@@ -242,7 +242,7 @@ TEST_F(UploadPlanTest, WhatEachRequestCarries)
          "text/html"},
     };
     for (const Row& row : rows) {
-        const UploadPart part = PartOf(row.item, folder);
+        const UploadPart part = partOf(row.item, folder);
         EXPECT_EQ(part.localFile, row.localFile);
         EXPECT_EQ(part.fileName, row.fileName);
         EXPECT_EQ(part.contentType, row.contentType);
@@ -252,8 +252,8 @@ TEST_F(UploadPlanTest, WhatEachRequestCarries)
 TEST_F(UploadPlanTest, APictureNameThatLeadsOutOfItsFolderIsAFileThatIsNotThere)
 {
     for (const QString& name : {u"../shop.xml"_s, u"/etc/passwd"_s, u".."_s, u"a/b.png"_s}) {
-        EXPECT_EQ(ErrorOf([&] {
-                      PartOf({UploadItem::Kind::Picture, name, 1}, files.folder());
+        EXPECT_EQ(errorOf([&] {
+                      partOf({UploadItem::Kind::Picture, name, 1}, files.folder());
                   }),
                   53)
             << name.toStdString();

@@ -29,48 +29,48 @@ TEST(UploadProtocol, TheBaseUrlGetsSchemeAndSlashWhereTheyAreMissing)
         {u""_s, u"http://"_s},
     };
     for (const Row& row : rows) {
-        EXPECT_EQ(NormalizedBaseUrl(row.typed), row.normalized) << row.typed.toStdString();
+        EXPECT_EQ(normalizedBaseUrl(row.typed), row.normalized) << row.typed.toStdString();
     }
 }
 
 TEST(UploadProtocol, TheHeaderSeparatesItsBoundaryByAComma)
 {
-    EXPECT_EQ(RequestContentType(), "multipart/form-data, boundary=AaB03x");
+    EXPECT_EQ(requestContentType(), "multipart/form-data, boundary=AaB03x");
 }
 
 TEST(UploadProtocol, TheListRequestIsTheHeadAloneWithAnOpenBoundary)
 {
-    const QByteArray head = RequestHead(u"anna"_s, u"s3cret"_s, u"1.2.0"_s);
-    EXPECT_EQ(head, ExpectedRequest(u"00-list.bin"_s, folder));
+    const QByteArray head = requestHead(u"anna"_s, u"s3cret"_s, u"1.2.0"_s);
+    EXPECT_EQ(head, expectedRequest(u"00-list.bin"_s, folder));
     EXPECT_TRUE(head.endsWith("\r\n--AaB03x\r\n"));
 }
 
 TEST(UploadProtocol, AFilesBytesComeThroughAsTheyAre)
 {
-    const QByteArray head = RequestHead(u"anna"_s, u"s3cret"_s, u"1.2.0"_s);
-    EXPECT_EQ(UploadBody(head, u"/home/anna/Tarnwick\\pictures\\blue.png"_s, "image/gif",
-                         UploadData(u"shop/pictures/blue.png"_s)),
-              ExpectedRequest(u"03-blue.png.bin"_s, folder));
+    const QByteArray head = requestHead(u"anna"_s, u"s3cret"_s, u"1.2.0"_s);
+    EXPECT_EQ(uploadBody(head, u"/home/anna/Tarnwick\\pictures\\blue.png"_s, "image/gif",
+                         uploadData(u"shop/pictures/blue.png"_s)),
+              expectedRequest(u"03-blue.png.bin"_s, folder));
 }
 
 TEST(UploadProtocol, AFileOfZeroBytesIsAnEmptyLine)
 {
-    const QByteArray head = RequestHead(u"anna"_s, u"s3cret"_s, u"1.2.0"_s);
-    const QByteArray body = UploadBody(head, u"/home/anna/Tarnwick\\pictures\\pot.gif"_s, "image/gif", {});
-    EXPECT_EQ(body, ExpectedRequest(u"04-pot.gif.bin"_s, folder));
+    const QByteArray head = requestHead(u"anna"_s, u"s3cret"_s, u"1.2.0"_s);
+    const QByteArray body = uploadBody(head, u"/home/anna/Tarnwick\\pictures\\pot.gif"_s, "image/gif", {});
+    EXPECT_EQ(body, expectedRequest(u"04-pot.gif.bin"_s, folder));
     EXPECT_TRUE(body.endsWith("Content-Type: image/gif\r\n\r\n\r\n--AaB03x--\r\n"));
 }
 
 TEST(UploadProtocol, ALetterIsOneByteWhereThatCanBe)
 {
-    const QByteArray head = RequestHead(u"jürgen"_s, u"5€"_s, u"1.2.0"_s);
-    EXPECT_EQ(UploadBody(head, u"größe.png"_s, "image/gif", "x"), ExpectedRequest(u"letters.bin"_s, folder));
+    const QByteArray head = requestHead(u"jürgen"_s, u"5€"_s, u"1.2.0"_s);
+    EXPECT_EQ(uploadBody(head, u"größe.png"_s, "image/gif", "x"), expectedRequest(u"letters.bin"_s, folder));
 }
 
 TEST(UploadProtocol, NoLetterIsLostWhereOneByteCannotHoldIt)
 {
-    const QByteArray head = RequestHead(u"анна"_s, u""_s, u"1.2.0"_s);
-    EXPECT_EQ(UploadBody(head, u"чашка.png"_s, "image/gif", "x"), ExpectedRequest(u"wide-letters.bin"_s, folder));
+    const QByteArray head = requestHead(u"анна"_s, u""_s, u"1.2.0"_s);
+    EXPECT_EQ(uploadBody(head, u"чашка.png"_s, "image/gif", "x"), expectedRequest(u"wide-letters.bin"_s, folder));
 }
 
 struct AnswerRow
@@ -121,7 +121,7 @@ TEST(UploadProtocol, AnAnswerIsItsTextOrTheWordError)
         if (!row.title.isEmpty()) {
             prompts.expectMessage(row.title, row.text, PromptIcon::Warning);
         }
-        EXPECT_EQ(ReadAnswer(Answer(row.status, row.body), prompts), row.result);
+        EXPECT_EQ(readAnswer(Answer(row.status, row.body), prompts), row.result);
     }
 }
 
@@ -131,18 +131,18 @@ TEST(UploadProtocol, ABoxShowsTheStartOfAnAnswerThatIsTooLongForIt)
     const QByteArray page(1000000, 'x');
     prompts.expectMessage(u"Error 503"_s, u"Uploading is failed.\r\n"_s + QString(4000, u'x') + u"Error #503\r\n"_s,
                           PromptIcon::Warning);
-    EXPECT_EQ(ReadAnswer(Answer(503, page), prompts).size(), 1000000);
+    EXPECT_EQ(readAnswer(Answer(503, page), prompts).size(), 1000000);
 }
 
 TEST(UploadProtocol, EachLineOfAnAnswerIsReadInItsOwnEncoding)
 {
-    EXPECT_EQ(AnswerText("gr\xC3\xB6\xC3\x9F"
+    EXPECT_EQ(answerText("gr\xC3\xB6\xC3\x9F"
                          "e\r\ngr\xF6\xDF"
                          "e\r\nend"),
               u"größe\r\ngröße\r\nend"_s);
-    EXPECT_EQ(AnswerText(""), u""_s);
-    EXPECT_EQ(AnswerText("\r\n\n"), u"\r\n\n"_s);
-    EXPECT_EQ(AnswerText("\xEF\xBB\xBF"
+    EXPECT_EQ(answerText(""), u""_s);
+    EXPECT_EQ(answerText("\r\n\n"), u"\r\n\n"_s);
+    EXPECT_EQ(answerText("\xEF\xBB\xBF"
                          "1.2.0|"),
               u"1.2.0|"_s);
 }

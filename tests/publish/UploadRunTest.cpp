@@ -20,7 +20,7 @@ const QString unknownErrorText =
 class UploadRunTest : public testing::Test
 {
 protected:
-    UploadRunTest() { UseSmallShop(files); }
+    UploadRunTest() { useSmallShop(files); }
 
     void expectComplete() { prompts.expectMessage(u"Uploading data"_s, u"Complete"_s); }
     // The state after a stop that leaves the screen open and ready.
@@ -31,7 +31,7 @@ protected:
         EXPECT_EQ(screen.closings, 0);
         EXPECT_FALSE(client.isWaiting());
     }
-    QByteArray log() const { return FileBytes(files.path(u"upload.log"_s)); }
+    QByteArray log() const { return fileBytes(files.path(u"upload.log"_s)); }
     // Puts that many pictures into a shop of its own.
     void usePictures(int count)
     {
@@ -56,7 +56,7 @@ TEST_F(UploadRunTest, EveryRequestIsTheExpectedOneByteForByte)
     expectComplete();
     run.start();
     client.answerAll({});
-    const QStringList sequence = ExpectedSequence();
+    const QStringList sequence = expectedSequence();
     ASSERT_EQ(sequence.size(), 20);
     ASSERT_EQ(client.requests.size(), 20U);
     for (qsizetype i = 0; i < sequence.size(); ++i) {
@@ -64,7 +64,7 @@ TEST_F(UploadRunTest, EveryRequestIsTheExpectedOneByteForByte)
         const FakeHttpClient::Request& request = client.requests[static_cast<std::size_t>(i)];
         EXPECT_EQ(request.url, i == 0 ? u"http://shop.test/admin/list.php"_s : u"http://shop.test/admin/upload.php"_s);
         EXPECT_EQ(request.contentType, "multipart/form-data, boundary=AaB03x");
-        EXPECT_EQ(request.body, ExpectedRequest(sequence[i], files.folder()));
+        EXPECT_EQ(request.body, expectedRequest(sequence[i], files.folder()));
     }
     EXPECT_EQ(screen.closings, 1);
     EXPECT_FALSE(run.isTransferring());
@@ -116,7 +116,7 @@ TEST_F(UploadRunTest, FieldsThatChangeDuringATransferAreForTheNextOne)
     screen.typed = {u"http://other.test/"_s, u"eve"_s, u"pw"_s};
     client.answerAll({});
     EXPECT_TRUE(client.requests.back().url.startsWith(u"http://shop.test/"));
-    EXPECT_EQ(client.requests.back().body, ExpectedRequest(u"19-payed_ok.bin"_s, files.folder()));
+    EXPECT_EQ(client.requests.back().body, expectedRequest(u"19-payed_ok.bin"_s, files.folder()));
 }
 
 TEST_F(UploadRunTest, TheBarAdvancesByStepsAndEndsAt100AtMost)
@@ -290,7 +290,7 @@ TEST_F(UploadRunTest, NothingTrapsAFailureOfTheWalk)
 {
     ASSERT_TRUE(QDir(files.path(u"pictures"_s)).removeRecursively());
     run.start();
-    EXPECT_EQ(ErrorOf([this] { client.answer(Answer(200, "1.2.0|")); }), 75);
+    EXPECT_EQ(errorOf([this] { client.answer(Answer(200, "1.2.0|")); }), 75);
     EXPECT_FALSE(QFile::exists(files.path(u"upload.log"_s)));
 }
 

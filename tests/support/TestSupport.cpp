@@ -22,13 +22,13 @@ void PrintTo(const QStringList& list, std::ostream* out)
     *out << '[' << list.join(u" | "_s).toStdString() << ']';
 }
 
-QString Localised(const QString& textWithPoint)
+QString localised(const QString& textWithPoint)
 {
     QString text = textWithPoint;
-    return text.replace(u'.', DecimalSeparator());
+    return text.replace(u'.', decimalSeparator());
 }
 
-QByteArray FileBytes(const QString& path)
+QByteArray fileBytes(const QString& path)
 {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();

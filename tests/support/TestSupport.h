@@ -23,10 +23,10 @@ void PrintTo(const QByteArray& bytes, std::ostream* out);
 void PrintTo(const QStringList& list, std::ostream* out);
 
 // A number text written with a point, in the user's locale: "12.50" is 12,50 where the comma separates.
-QString Localised(const QString& textWithPoint);
+QString localised(const QString& textWithPoint);
 
 // The bytes of a file; a failed test when it cannot be read.
-QByteArray FileBytes(const QString& path);
+QByteArray fileBytes(const QString& path);
 void WriteFile(const QString& path, const QByteArray& bytes);
 
 // A temporary application folder with the sub-folders that an installation has.
@@ -101,7 +101,7 @@ private:
 
 // The number of the run-time error that the work raises, 0 when it raises none.
 template <class Work>
-int ErrorOf(Work&& work)
+int errorOf(Work&& work)
 {
     try {
         work();

@@ -98,7 +98,7 @@ void WindowTest::clickNode(const QString& key)
 
 QStringList WindowTest::logLines() const
 {
-    QStringList lines = QString::fromUtf8(FileBytes(files.folder().loadLogFile())).split(u"\r\n"_s);
+    QStringList lines = QString::fromUtf8(fileBytes(files.folder().loadLogFile())).split(u"\r\n"_s);
     EXPECT_EQ(lines.takeLast(), QString());
     for (QString& line : lines) {
         EXPECT_TRUE(line.size() >= 2 && line.startsWith(u'"') && line.endsWith(u'"')) << line.toStdString();

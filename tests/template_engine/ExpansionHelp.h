@@ -41,7 +41,7 @@ public:
     Variables page;
 };
 
-inline QString Repeated(QStringView text, qsizetype count)
+inline QString repeated(QStringView text, qsizetype count)
 {
     return text.toString().repeated(count);
 }

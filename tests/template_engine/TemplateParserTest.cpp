@@ -10,19 +10,19 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // All elements on one line: type, value, default and body.
-QString Outline(const ElementArray& elements)
+QString outline(const ElementArray& elements)
 {
     QStringList outlines;
-    for (int i = 0; i < UpperBound(elements); ++i) {
+    for (int i = 0; i < upperBound(elements); ++i) {
         const Template_Element& element = *elements[static_cast<std::size_t>(i)];
-        QString outline = u"%1 %2"_s.arg(element.TType).arg(element.Value);
+        QString text = u"%1 %2"_s.arg(element.TType).arg(element.Value);
         if (!element.Default.isEmpty()) {
-            outline += u"="_s + element.Default;
+            text += u"="_s + element.Default;
         }
-        if (UpperBound(element.Template_Parts) >= 0) {
-            outline += u"{"_s + Outline(element.Template_Parts) + u"}"_s;
+        if (upperBound(element.Template_Parts) >= 0) {
+            text += u"{"_s + outline(element.Template_Parts) + u"}"_s;
         }
-        outlines += outline;
+        outlines += text;
     }
     return outlines.join(u", "_s);
 }
@@ -34,7 +34,7 @@ struct Failure
     QString description;
 };
 
-Failure FailureOf(const QString& text)
+Failure failureOf(const QString& text)
 {
     try {
         parse_text(text);
@@ -79,7 +79,7 @@ TEST(TemplateParser, EachKindMakesItsElement)
         {u"a<!--::-->b<!--:x:-->", u"1 a, 1 a<!--::-->b, 2 x"},
     };
     for (const auto& one : cases) {
-        EXPECT_EQ(Outline(parse_text(one.text)), one.outline.toString()) << one.text.toString().toStdString();
+        EXPECT_EQ(outline(parse_text(one.text)), one.outline.toString()) << one.text.toString().toStdString();
     }
 }
 
@@ -88,20 +88,20 @@ TEST(TemplateParser, ATextWithoutContentHasASingleEmptySlot)
     const ElementArray elements = parse_text(u"");
     ASSERT_EQ(elements.size(), 1U);
     EXPECT_EQ(elements[0], nullptr);
-    EXPECT_EQ(UpperBound(elements), 0);
+    EXPECT_EQ(upperBound(elements), 0);
 }
 
 TEST(TemplateParser, ArraysEndInASpareSlot)
 {
     const ElementArray elements = parse_text(u"a<!--:if:x:-->b<!--:y:--><!--:end:x:-->");
-    ASSERT_EQ(UpperBound(elements), 2);
+    ASSERT_EQ(upperBound(elements), 2);
     EXPECT_EQ(elements[2], nullptr);
     const ElementArray& body = elements[1]->Template_Parts;
-    ASSERT_EQ(UpperBound(body), 2);
+    ASSERT_EQ(upperBound(body), 2);
     EXPECT_EQ(body[2], nullptr);
     // Leaves have no body, not even an empty one.
-    EXPECT_EQ(UpperBound(elements[0]->Template_Parts), -1);
-    EXPECT_EQ(UpperBound(body[1]->Template_Parts), -1);
+    EXPECT_EQ(upperBound(elements[0]->Template_Parts), -1);
+    EXPECT_EQ(upperBound(body[1]->Template_Parts), -1);
 }
 
 TEST(TemplateParser, WhatIsNotClosedIsAnInvalidArgumentAtTheTagThatOpensIt)
@@ -130,7 +130,7 @@ TEST(TemplateParser, WhatIsNotClosedIsAnInvalidArgumentAtTheTagThatOpensIt)
         {u"<!--:if:x:-->12<!--:if:y:-->34<!--:-->5<!--:end:y:--><!--:end:x:-->", 30},
     };
     for (const auto& one : cases) {
-        const Failure failure = FailureOf(one.text.toString());
+        const Failure failure = failureOf(one.text.toString());
         EXPECT_EQ(failure.number, 5) << one.text.toString().toStdString();
         EXPECT_EQ(failure.position, one.position) << one.text.toString().toStdString();
     }
@@ -138,56 +138,56 @@ TEST(TemplateParser, WhatIsNotClosedIsAnInvalidArgumentAtTheTagThatOpensIt)
 
 TEST(TemplateParser, TheFailureNamesTheBlockThatIsNotClosed)
 {
-    EXPECT_TRUE(FailureOf(u"<!--:cycle:products=1:-->"_s).description.contains(u"\"products\""_s));
-    EXPECT_TRUE(FailureOf(u"<!--:cycle:%1:-->"_s).description.contains(u"\"%1\""_s));
+    EXPECT_TRUE(failureOf(u"<!--:cycle:products=1:-->"_s).description.contains(u"\"products\""_s));
+    EXPECT_TRUE(failureOf(u"<!--:cycle:%1:-->"_s).description.contains(u"\"%1\""_s));
 }
 
 TEST(TemplateParser, ATagMayEndAtTheLastPositionAndNoFurther)
 {
     const QString tag = u"<!--:x=1:-->"_s;
-    const QString room = Repeated(u".", 32767 - tag.size());
-    EXPECT_EQ(FailureOf(room + tag).number, 0);
-    EXPECT_EQ(FailureOf(room + tag + u"text behind it"_s).number, 0);
-    EXPECT_EQ(FailureOf(room + u"."_s + tag).number, 6);
-    EXPECT_EQ(FailureOf(room + u"."_s + tag).position, 32767 - tag.size() + 1);
+    const QString room = repeated(u".", 32767 - tag.size());
+    EXPECT_EQ(failureOf(room + tag).number, 0);
+    EXPECT_EQ(failureOf(room + tag + u"text behind it"_s).number, 0);
+    EXPECT_EQ(failureOf(room + u"."_s + tag).number, 6);
+    EXPECT_EQ(failureOf(room + u"."_s + tag).position, 32767 - tag.size() + 1);
     // A tag without an element counts alike.
-    EXPECT_EQ(FailureOf(Repeated(u".", 32767 - 14) + u"<!--:static:-->"_s).number, 6);
-    EXPECT_EQ(FailureOf(Repeated(u".", 32767 - 8) + u"<!--::-->"_s).number, 6);
-    EXPECT_EQ(FailureOf(Repeated(u".", 32767 - 9) + u"<!--::-->"_s).number, 0);
+    EXPECT_EQ(failureOf(repeated(u".", 32767 - 14) + u"<!--:static:-->"_s).number, 6);
+    EXPECT_EQ(failureOf(repeated(u".", 32767 - 8) + u"<!--::-->"_s).number, 6);
+    EXPECT_EQ(failureOf(repeated(u".", 32767 - 9) + u"<!--::-->"_s).number, 0);
 }
 
 TEST(TemplateParser, ABlockMayEndAtTheLastPositionAndNoFurther)
 {
     const QString opening = u"<!--:if:x:-->"_s;
     const QString closing = u"<!--:end:x:-->"_s;
-    const QString body = Repeated(u".", 32767 - opening.size() - closing.size());
-    EXPECT_EQ(FailureOf(opening + body + closing).number, 0);
-    EXPECT_EQ(FailureOf(opening + body + closing + u"text behind it"_s).number, 0);
-    EXPECT_EQ(FailureOf(opening + body + u"."_s + closing).number, 6);
-    EXPECT_EQ(FailureOf(u"."_s + opening + body + closing).position, 1);
-    EXPECT_EQ(FailureOf(opening + Repeated(u".", 40000) + closing).number, 6);
+    const QString body = repeated(u".", 32767 - opening.size() - closing.size());
+    EXPECT_EQ(failureOf(opening + body + closing).number, 0);
+    EXPECT_EQ(failureOf(opening + body + closing + u"text behind it"_s).number, 0);
+    EXPECT_EQ(failureOf(opening + body + u"."_s + closing).number, 6);
+    EXPECT_EQ(failureOf(u"."_s + opening + body + closing).position, 1);
+    EXPECT_EQ(failureOf(opening + repeated(u".", 40000) + closing).number, 6);
 }
 
 TEST(TemplateParser, AMarkPastTheLastPositionIsAnOverflowEvenWhenNothingClosesIt)
 {
-    EXPECT_EQ(FailureOf(Repeated(u".", 32767) + u"<!--:x"_s).number, 6);
-    EXPECT_EQ(FailureOf(Repeated(u".", 32766) + u"<!--:x"_s).number, 5);
+    EXPECT_EQ(failureOf(repeated(u".", 32767) + u"<!--:x"_s).number, 6);
+    EXPECT_EQ(failureOf(repeated(u".", 32766) + u"<!--:x"_s).number, 5);
 }
 
 TEST(TemplateParser, LiteralTextMayBeOfAnyLength)
 {
-    const QString text = Repeated(u"0123456789", 10000);
-    EXPECT_EQ(Outline(parse_text(text)), u"1 "_s + text);
-    EXPECT_EQ(Outline(parse_text(u"<!--:x:-->"_s + text)), u"2 x, 1 "_s + text);
+    const QString text = repeated(u"0123456789", 10000);
+    EXPECT_EQ(outline(parse_text(text)), u"1 "_s + text);
+    EXPECT_EQ(outline(parse_text(u"<!--:x:-->"_s + text)), u"2 x, 1 "_s + text);
 }
 
 TEST(TemplateParser, TheLimitCountsSixteenBitUnits)
 {
     const QString tag = u"<!--:x:-->"_s;
     // A character past the first plane is two units.
-    const QString pairs = Repeated(u"\U0001F600", 16378);
-    EXPECT_EQ(FailureOf(pairs + u"."_s + tag).number, 0);
-    EXPECT_EQ(FailureOf(pairs + u".."_s + tag).number, 6);
+    const QString pairs = repeated(u"\U0001F600", 16378);
+    EXPECT_EQ(failureOf(pairs + u"."_s + tag).number, 0);
+    EXPECT_EQ(failureOf(pairs + u".."_s + tag).number, 6);
 }
 
 TEST(TemplateParser, ABodyCountsFromItsOwnStart)
@@ -197,13 +197,13 @@ TEST(TemplateParser, ABodyCountsFromItsOwnStart)
     const QString closing = u"<!--:end:x:-->"_s;
     const QString inner = u"<!--:y=1:-->"_s;
     const QString text =
-        opening + Repeated(u".", 32767 - opening.size() - inner.size() - closing.size()) + inner + closing;
+        opening + repeated(u".", 32767 - opening.size() - inner.size() - closing.size()) + inner + closing;
     ASSERT_EQ(text.size(), 32767);
-    EXPECT_EQ(FailureOf(text).number, 0);
+    EXPECT_EQ(failureOf(text).number, 0);
 }
 
 TEST(TemplateParser, ATextFullOfOpeningMarksEndsSoon)
 {
-    EXPECT_EQ(FailureOf(Repeated(u"<!--:", 200000)).number, 5);
-    EXPECT_EQ(FailureOf(u"<!--:if:x:-->"_s + Repeated(u"<!--:end:", 200000)).number, 5);
+    EXPECT_EQ(failureOf(repeated(u"<!--:", 200000)).number, 5);
+    EXPECT_EQ(failureOf(u"<!--:if:x:-->"_s + repeated(u"<!--:end:", 200000)).number, 5);
 }

@@ -192,7 +192,7 @@ INSTANTIATE_TEST_SUITE_P(Language, GoldenTemplates, testing::ValuesIn(Goldens));
 TEST(Template, ASingleHasTheUsersDecimalSeparator)
 {
     const GoldenPage page;
-    EXPECT_EQ(page.expand(u"<!--:price:-->"), Localised(u"12.5"_s));
+    EXPECT_EQ(page.expand(u"<!--:price:-->"), localised(u"12.5"_s));
 }
 
 TEST(Template, IntegersOfAllSizesArePlain)
@@ -225,8 +225,8 @@ TEST(Template, ASingleIsComparedByItsText)
 {
     const GoldenPage page;
     const QString text = u"<!--:if:price=%1:-->yes<!--:end:price:-->"_s;
-    EXPECT_EQ(page.expand(text.arg(Localised(u"12.5"_s))), u"yes"_s);
-    EXPECT_EQ(page.expand(text.arg(Localised(u"12.50"_s))), u""_s);
+    EXPECT_EQ(page.expand(text.arg(localised(u"12.5"_s))), u"yes"_s);
+    EXPECT_EQ(page.expand(text.arg(localised(u"12.50"_s))), u""_s);
 }
 
 TEST(Template, OneParsedTemplateServesManyExpansions)
@@ -257,10 +257,10 @@ TEST(Template, AFailedParseLeavesTheOldPartsInPlace)
     const TryOut tryOut;
     Template page = tryOut.parsed(u"old <!--:x=1:-->");
     page.template_text = u"new <!--:x"_s;
-    EXPECT_EQ(ErrorOf([&] { page.Parse(); }), 5);
+    EXPECT_EQ(errorOf([&] { page.Parse(); }), 5);
     EXPECT_EQ(page.template_text, u"new <!--:x"_s);
     EXPECT_EQ(page.Get_String(tryOut.page), u"old 1"_s);
-    EXPECT_EQ(UpperBound(page.parts()), 2);
+    EXPECT_EQ(upperBound(page.parts()), 2);
 }
 
 TEST(Template, ATemplateThatWasNeverParsedGivesNothing)
@@ -269,7 +269,7 @@ TEST(Template, ATemplateThatWasNeverParsedGivesNothing)
     Template page(tryOut.names);
     page.template_text = u"text"_s;
     EXPECT_EQ(page.Get_String(tryOut.page), u""_s);
-    EXPECT_EQ(UpperBound(page.parts()), -1);
+    EXPECT_EQ(upperBound(page.parts()), -1);
 }
 
 TEST(Template, ItemExistsAsksWithoutRegardToCase)
@@ -302,7 +302,7 @@ TEST(Template, AWrongKindOfValueIsATypeMismatch)
         {u"<!--:if:nothing=1:--><!--:products:--><!--:end:nothing:-->", 0},
     };
     for (const auto& one : cases) {
-        EXPECT_EQ(ErrorOf([&] { page.expand(one.text); }), one.error) << one.text.toString().toStdString();
+        EXPECT_EQ(errorOf([&] { page.expand(one.text); }), one.error) << one.text.toString().toStdString();
     }
 }
 
@@ -313,7 +313,7 @@ TEST(Template, AFailureInALaterRowLeavesTheTemplateUsable)
     rows.emplace_back(tryOut.names).Add(u"x", VariableRows());
     tryOut.page.Add(u"rows", std::move(rows));
     const Template page = tryOut.parsed(u"<!--:cycle:rows:--><!--:x:--><!--:end:rows:-->");
-    EXPECT_EQ(ErrorOf([&] { page.Get_String(tryOut.page); }), 13);
+    EXPECT_EQ(errorOf([&] { page.Get_String(tryOut.page); }), 13);
     EXPECT_EQ(page.Get_String(Variables(tryOut.names)), u""_s);
 }
 
@@ -343,7 +343,7 @@ TEST(Template, APageGrowsAsLongAsItHasTo)
         expected += u"<li>"_s + number + u"</li>"_s;
     }
     tryOut.page.Add(u"rows", std::move(rows));
-    const QString longText = Repeated(u"0123456789", 20000);
+    const QString longText = repeated(u"0123456789", 20000);
     tryOut.page.Add(u"long", longText);
     EXPECT_EQ(tryOut.expand(u"<!--:cycle:rows:--><li><!--:id:--></li><!--:end:rows:--><!--:long:-->"),
               expected + longText);

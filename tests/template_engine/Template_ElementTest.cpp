@@ -11,28 +11,28 @@ TEST(Template_Element, ANewElementIsEmpty)
     EXPECT_EQ(element.Value, u""_s);
     EXPECT_EQ(element.TType, 0);
     EXPECT_EQ(element.Default, u""_s);
-    EXPECT_EQ(UpperBound(element.Template_Parts), -1);
+    EXPECT_EQ(upperBound(element.Template_Parts), -1);
 }
 
 TEST(Template_Element, ReDimSubElementsSetsTheUpperBoundAndEmptiesAllSlots)
 {
     Template_Element element;
     element.ReDimSubElements(2);
-    ASSERT_EQ(UpperBound(element.Template_Parts), 2);
+    ASSERT_EQ(upperBound(element.Template_Parts), 2);
     element.Template_Parts[0] = std::make_shared<Template_Element>();
     element.ReDimSubElements(1);
-    ASSERT_EQ(UpperBound(element.Template_Parts), 1);
+    ASSERT_EQ(upperBound(element.Template_Parts), 1);
     EXPECT_EQ(element.Template_Parts[0], nullptr);
     element.ReDimSubElements(0);
-    EXPECT_EQ(UpperBound(element.Template_Parts), 0);
-    EXPECT_EQ(ErrorOf([&] { element.ReDimSubElements(-1); }), 9);
+    EXPECT_EQ(upperBound(element.Template_Parts), 0);
+    EXPECT_EQ(errorOf([&] { element.ReDimSubElements(-1); }), 9);
 }
 
 TEST(Template_Element, AddPartsTakesAllButTheSpareSlotByReference)
 {
     const ElementArray parts = parse_text(u"a<!--:x:-->");
     Template_Element element;
-    element.ReDimSubElements(UpperBound(parts));
+    element.ReDimSubElements(upperBound(parts));
     element.addParts(parts);
     EXPECT_EQ(element.Template_Parts, parts);
     parts[0]->Value = u"changed"_s;
@@ -43,12 +43,12 @@ TEST(Template_Element, AddPartsNeedsRoom)
 {
     const ElementArray parts = parse_text(u"a<!--:x:-->b<!--:y:-->");
     Template_Element element;
-    EXPECT_EQ(ErrorOf([&] { element.addParts(parts); }), 9);
+    EXPECT_EQ(errorOf([&] { element.addParts(parts); }), 9);
     element.ReDimSubElements(2);
-    EXPECT_EQ(ErrorOf([&] { element.addParts(parts); }), 9);
+    EXPECT_EQ(errorOf([&] { element.addParts(parts); }), 9);
     element.ReDimSubElements(3);
-    EXPECT_EQ(ErrorOf([&] { element.addParts(parts); }), 0);
-    EXPECT_EQ(ErrorOf([&] { Template_Element().addParts(ElementArray()); }), 0);
+    EXPECT_EQ(errorOf([&] { element.addParts(parts); }), 0);
+    EXPECT_EQ(errorOf([&] { Template_Element().addParts(ElementArray()); }), 0);
 }
 
 TEST(Template_Element, TheDumpEndsEachLineByACarriageReturnAndIndentsTheBodyByThree)

@@ -29,14 +29,14 @@ protected:
     }
     void remove(const QString& page) { QFile::remove(shop.path(u"templates/"_s + page + u".html"_s)); }
 
-    QString logged() const { return QString::fromUtf8(FileBytes(shop.folder().loadLogFile())); }
+    QString logged() const { return QString::fromUtf8(fileBytes(shop.folder().loadLogFile())); }
 
     // The keys of all templates that are there.
     QStringList present() const
     {
         QStringList keys;
         for (const QString& page : Pages) {
-            if (set.templates.HasKey(page)) {
+            if (set.templates.hasKey(page)) {
                 keys += page;
             }
         }
@@ -86,7 +86,7 @@ TEST_F(TemplatesSet, TheFrameAndTheTenPagesAreReadAndParsed)
     }
     ASSERT_NE(set.layout_template, nullptr);
     EXPECT_EQ(expand(*set.layout_template), u"<!--1.2.0-->\rlayout -\r"_s);
-    EXPECT_FALSE(set.templates.HasKey(u"layout"_s));
+    EXPECT_FALSE(set.templates.hasKey(u"layout"_s));
     EXPECT_EQ(logged(), u"\"Start parseTemplates\"\r\n\"End parseTemplates\"\r\n"_s);
 }
 
@@ -96,7 +96,7 @@ TEST_F(TemplatesSet, OtherFilesOfTheFolderAreNotRead)
     write(u"main.html.def"_s, "<!--:");
     set.parseTemplates();
     EXPECT_EQ(present(), Pages);
-    EXPECT_FALSE(set.templates.HasKey(u"buying"_s));
+    EXPECT_FALSE(set.templates.hasKey(u"buying"_s));
 }
 
 TEST_F(TemplatesSet, AMissingPageEndsTheReadingSilentlyAndKeepsWhatWasRead)
@@ -183,13 +183,13 @@ TEST_F(TemplatesSet, AReloadThatFailsLeavesThePageAbsent)
 {
     set.parseTemplates();
     write(u"main"_s, "<!--:if:x:-->");
-    EXPECT_EQ(ErrorOf([&] { set.ReLoad(u"main"_s, u"main"_s); }), 5);
-    EXPECT_FALSE(set.templates.HasKey(u"main"_s));
+    EXPECT_EQ(errorOf([&] { set.ReLoad(u"main"_s, u"main"_s); }), 5);
+    EXPECT_FALSE(set.templates.hasKey(u"main"_s));
     remove(u"cart"_s);
-    EXPECT_EQ(ErrorOf([&] { set.ReLoad(u"cart"_s, u"cart"_s); }), 53);
-    EXPECT_FALSE(set.templates.HasKey(u"cart"_s));
+    EXPECT_EQ(errorOf([&] { set.ReLoad(u"cart"_s, u"cart"_s); }), 53);
+    EXPECT_FALSE(set.templates.hasKey(u"cart"_s));
     write(u"menu"_s, QByteArray(40000, '.') + "<!--:x:-->");
-    EXPECT_EQ(ErrorOf([&] { set.ReLoad(u"menu"_s, u"menu"_s); }), 6);
+    EXPECT_EQ(errorOf([&] { set.ReLoad(u"menu"_s, u"menu"_s); }), 6);
     EXPECT_EQ(set.templates.Count(), 7);
 
     write(u"main"_s, "well again");
@@ -234,7 +234,7 @@ TEST_F(TemplatesSet, AnEmptyFileIsAnEmptyTemplate)
     write(u"main"_s, "");
     set.ReLoad(u"main"_s, u"main"_s);
     const Template& page = *set.templates.Item(u"main"_s);
-    EXPECT_EQ(UpperBound(page.parts()), 0);
+    EXPECT_EQ(upperBound(page.parts()), 0);
     EXPECT_EQ(expand(page), u""_s);
 }
 
@@ -257,6 +257,6 @@ TEST_F(TemplatesSet, TheEncodingOfEachFileIsKnown)
     set.ReLoad(u"main"_s, u"main"_s);
     EXPECT_EQ(set.encodingOf(u"main"_s), TextEncoding::Utf8);
     write(u"main"_s, "\xE9<!--:");
-    EXPECT_EQ(ErrorOf([&] { set.ReLoad(u"main"_s, u"main"_s); }), 5);
+    EXPECT_EQ(errorOf([&] { set.ReLoad(u"main"_s, u"main"_s); }), 5);
     EXPECT_EQ(set.encodingOf(u"main"_s), TextEncoding::Windows1252);
 }

@@ -8,7 +8,7 @@ namespace {
 
 constexpr QStringView Tags = u"<[^>]*>";
 
-QString Cut(const QString& text, int count)
+QString cut(const QString& text, int count)
 {
     clsRegExp expression;
     expression.setPattern(Tags.toString());
@@ -110,43 +110,43 @@ TEST(clsRegExp, WordsAreCountedByTheBlanksBehindThem)
         {u"<b>one</b> two", 0, u" one  two"},
     };
     for (const auto& one : cases) {
-        EXPECT_EQ(Cut(one.text.toString(), one.count), one.result.toString()) << one.text.toString().toStdString();
+        EXPECT_EQ(cut(one.text.toString(), one.count), one.result.toString()) << one.text.toString().toStdString();
     }
 }
 
 TEST(clsRegExp, ABlankThatIsLookedAtPastTheLastPositionIsAnOverflow)
 {
     const QString word(32766, u'x');
-    EXPECT_EQ(ErrorOf([&] { EXPECT_EQ(Cut(word + u" y"_s, 1), word); }), 0);
-    EXPECT_EQ(ErrorOf([&] { Cut(word + u"x y"_s, 1); }), 6);
+    EXPECT_EQ(errorOf([&] { EXPECT_EQ(cut(word + u" y"_s, 1), word); }), 0);
+    EXPECT_EQ(errorOf([&] { cut(word + u"x y"_s, 1); }), 6);
     // Blanks behind the cut, or none at all, do no harm; and without a count nothing is walked.
-    EXPECT_EQ(Cut(u"a "_s + word + u"x y"_s, 1), u"a"_s);
-    EXPECT_EQ(ErrorOf([&] { Cut(u"a "_s + word + u"x y"_s, 2); }), 6);
-    EXPECT_EQ(Cut(word + word, 1), word + word);
-    EXPECT_EQ(Cut(word + word + u" y"_s, 0), word + word + u" y"_s);
-    EXPECT_EQ(Cut(word + word + u" y"_s, -1), word + word + u" y"_s);
+    EXPECT_EQ(cut(u"a "_s + word + u"x y"_s, 1), u"a"_s);
+    EXPECT_EQ(errorOf([&] { cut(u"a "_s + word + u"x y"_s, 2); }), 6);
+    EXPECT_EQ(cut(word + word, 1), word + word);
+    EXPECT_EQ(cut(word + word + u" y"_s, 0), word + word + u" y"_s);
+    EXPECT_EQ(cut(word + word + u" y"_s, -1), word + word + u" y"_s);
 }
 
 TEST(clsRegExp, BrokenSurrogatePairsDoNotKeepTagsFromBeingReplaced)
 {
-    EXPECT_EQ(Cut(QString(QChar(0xD800)) + u"<b>x"_s, 0), QString(QChar(0xD800)) + u" x"_s);
+    EXPECT_EQ(cut(QString(QChar(0xD800)) + u"<b>x"_s, 0), QString(QChar(0xD800)) + u" x"_s);
 }
 
 TEST(clsRegExp, ATextFullOfTagStartsEndsSoon)
 {
     const QString text(2'000'000, u'<');
-    EXPECT_EQ(Cut(text, 0), text);
+    EXPECT_EQ(cut(text, 0), text);
 }
 
 TEST(clsRegExp, ExecuteGivesNothingAndFailsOnlyForAPatternThatIsNone)
 {
     clsRegExp expression;
     expression.setPattern(u"a(b)"_s);
-    EXPECT_EQ(ErrorOf([&] { expression.Execute(u"xabx"_s); }), 0);
-    EXPECT_EQ(ErrorOf([&] { expression.Execute(u"none"_s); }), 0);
+    EXPECT_EQ(errorOf([&] { expression.Execute(u"xabx"_s); }), 0);
+    EXPECT_EQ(errorOf([&] { expression.Execute(u"none"_s); }), 0);
     expression.setPattern(u"a(b"_s);
-    EXPECT_EQ(ErrorOf([&] { expression.Execute(u"xabx"_s); }), 5);
-    EXPECT_EQ(ErrorOf([&] { expression.Replace(u"xabx"_s, u""_s, 0); }), 5);
+    EXPECT_EQ(errorOf([&] { expression.Execute(u"xabx"_s); }), 5);
+    EXPECT_EQ(errorOf([&] { expression.Replace(u"xabx"_s, u""_s, 0); }), 5);
     expression.setPattern(u"b"_s);
     EXPECT_EQ(expression.Replace(u"xabx"_s, u""_s, 0), u"xax"_s);
 }

@@ -7,36 +7,37 @@
 #include "model/CommonFunctions.h"
 #include "model/ShopSession.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Name, caption, status; whether it uses the percentage, the bands, what is inherited, the dates.
 constexpr DiscountOption options[] = {
-    {"NoDiscountOpt", QT_TR_NOOP("NO DISCOUNT"), DiscountStatus::No, false, false, false, false},
-    {"ApplyOpt", QT_TR_NOOP("APPLY TO ALL CATEGORY (%)"), DiscountStatus::ToAll, true, false, false, true},
-    {"DependOpt", QT_TR_NOOP("DEPEND ON PRODUCT PRICE"), DiscountStatus::Depend, false, true, false, true},
+    {"NoDiscountOpt", "NO DISCOUNT", DiscountStatus::No, false, false, false, false},
+    {"ApplyOpt", "APPLY TO ALL CATEGORY (%)", DiscountStatus::ToAll, true, false, false, true},
+    {"DependOpt", "DEPEND ON PRODUCT PRICE", DiscountStatus::Depend, false, true, false, true},
     // Two blanks stand in this caption.
-    {"InheritOpt", QT_TR_NOOP("INHERIT FROM  SHOP, CATEGORY, SUBCATEGORY"), DiscountStatus::Inherit, false, false, true,
-     false},
+    {"InheritOpt", "INHERIT FROM  SHOP, CATEGORY, SUBCATEGORY", DiscountStatus::Inherit, false, false, true, false},
 };
 
 } // namespace
 
 CategoryDiscountPanel::CategoryDiscountPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
 {
-    auto* frame = new PanelFrame(tr("Category discount properties"), this);
+    auto* frame = new PanelFrame(u"Category discount properties"_s, this);
     m_editor = new DiscountEditor(host, options, DiscountEditor::Percent::ApplyToWhole, frame);
     frame->addButtons(host);
 }
 
 void CategoryDiscountPanel::SetActiveObject(const CatalogueObject& object)
 {
-    m_category = ObjectOf<CategoryClass>(object);
+    m_category = objectOf<CategoryClass>(object);
     if (!m_category) {
         return;
     }
     // The lines of the cart hold prices that were worked out with the discounts as they are.
     m_editor->setEditable(ConfirmEmptyCart(m_host.session().Cart.get(), m_host.session().prompts));
-    m_editor->fill(*m_category->Discount(), InheritedText(*m_category->Discount()));
+    m_editor->fill(*m_category->Discount(), inheritedText(*m_category->Discount()));
 }
 
 void CategoryDiscountPanel::SaveActiveObject()

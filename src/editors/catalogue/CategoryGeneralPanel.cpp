@@ -12,19 +12,21 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 CategoryGeneralPanel::CategoryGeneralPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
 {
-    auto* frame = new PanelFrame(tr("Category general properties"), this);
+    auto* frame = new PanelFrame(u"Category general properties"_s, this);
     IdLbl = named(new QLabel(frame), "IdLbl", QString());
     CategoryNameTxt = textField(frame);
     CategoryDescriptionTxt = new TextArea(frame);
-    BrowseImageControl1 = named(new BrowseImageControl(host, frame), "BrowseImageControl1", tr("Picture"));
+    BrowseImageControl1 = named(new BrowseImageControl(host, frame), "BrowseImageControl1", u"Picture"_s);
 
-    QFormLayout* form = frame->addForm(tr("The category"), true);
+    QFormLayout* form = frame->addForm(u"The category"_s, true);
     form->addRow(IdLbl);
-    addField(form, tr("Name"), CategoryNameTxt, "CategoryNameTxt");
-    addField(form, tr("Description"), CategoryDescriptionTxt, "CategoryDescriptionTxt");
-    frame->addColumn(tr("Picture"))->addWidget(BrowseImageControl1);
+    addField(form, u"Name"_s, CategoryNameTxt, "CategoryNameTxt");
+    addField(form, u"Description"_s, CategoryDescriptionTxt, "CategoryDescriptionTxt");
+    frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);
     frame->addButtons(host);
 
     connect(CategoryNameTxt, &QLineEdit::textEdited, this,
@@ -33,11 +35,11 @@ CategoryGeneralPanel::CategoryGeneralPanel(PanelHost& host, QWidget* parent) : P
 
 void CategoryGeneralPanel::SetActiveObject(const CatalogueObject& object)
 {
-    m_category = ObjectOf<CategoryClass>(object);
+    m_category = objectOf<CategoryClass>(object);
     if (!m_category) {
         return;
     }
-    IdLbl->setText(tr("ID = %1").arg(m_category->id));
+    IdLbl->setText(u"ID = %1"_s.arg(m_category->id));
     CategoryNameTxt->setText(m_category->name);
     CategoryDescriptionTxt->fill(m_category->Description);
     BrowseImageControl1->setSelectedImage(m_category->selectedImage());

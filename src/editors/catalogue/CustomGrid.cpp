@@ -43,9 +43,9 @@ enum UseRole { CheckedRole = Qt::UserRole, ModelIndexRole };
 
 CustomGrid::CustomGrid(PanelHost& host, QWidget* parent)
     : QWidget(parent),
-      BaseGrd(named(new QTableWidget(this), "BaseGrd", tr("Table"))),
-      ForGridTxt(named(new QLineEdit(BaseGrd->viewport()), "ForGridTxt", tr("Text of the cell"))),
-      AddItemButtonLbl(new LinkLabel("AddItemButtonLbl", tr("Add item"), this)),
+      BaseGrd(named(new QTableWidget(this), "BaseGrd", u"Table"_s)),
+      ForGridTxt(named(new QLineEdit(BaseGrd->viewport()), "ForGridTxt", u"Text of the cell"_s)),
+      AddItemButtonLbl(new LinkLabel("AddItemButtonLbl", u"Add item"_s, this)),
       m_host(host)
 {
     BaseGrd->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -204,8 +204,8 @@ void CustomGrid::setLink(int row)
 void CustomGrid::setUse(int row, bool isChecked, int modelIndex)
 {
     auto* cell = new QTableWidgetItem;
-    cell->setData(Qt::DecorationRole, UsePicture(isChecked, *this));
-    cell->setData(Qt::AccessibleTextRole, isChecked ? tr("In use") : tr("Not in use"));
+    cell->setData(Qt::DecorationRole, usePicture(isChecked, *this));
+    cell->setData(Qt::AccessibleTextRole, isChecked ? u"In use"_s : u"Not in use"_s);
     cell->setData(CheckedRole, isChecked);
     cell->setData(ModelIndexRole, modelIndex);
     BaseGrd->setItem(row, useColumn, cell);

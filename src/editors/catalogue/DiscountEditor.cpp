@@ -52,10 +52,10 @@ DiscountEditor::DiscountEditor(PanelHost& host, std::span<const DiscountOption> 
 
 void DiscountEditor::makeOptions(PanelFrame* frame)
 {
-    QVBoxLayout* column = frame->addColumn(tr("Discount"));
+    QVBoxLayout* column = frame->addColumn(u"Discount"_s);
     for (std::size_t i = 0; i < m_options.size(); ++i) {
         const DiscountOption& option = m_options[i];
-        const QString caption = tr(option.caption);
+        const QString caption = QString::fromLatin1(option.caption);
         auto* button = named(new QRadioButton(caption, frame), option.name, caption);
         m_buttons->addButton(button, static_cast<int>(i));
         auto* row = new QHBoxLayout;
@@ -64,13 +64,13 @@ void DiscountEditor::makeOptions(PanelFrame* frame)
         if (option.usesPercent) {
             const bool isSpecific = m_percent == Percent::Specific;
             m_percentBox = named(new NumericBox(NumericBox::Takes::NormalisedNumber, frame),
-                                 isSpecific ? "SpecificTxt" : "ApplyTxt", tr("Percent"));
+                                 isSpecific ? "SpecificTxt" : "ApplyTxt", u"Percent"_s);
             m_percentBox->setFixedWidth(90);
             row->addWidget(m_percentBox);
         }
         row->addStretch(1);
         if (option.usesInherit) {
-            lblInherit = named(new QLabel(frame), "lblInherit", tr("What is inherited"));
+            lblInherit = named(new QLabel(frame), "lblInherit", u"What is inherited"_s);
             lblInherit->setWordWrap(true);
             lblInherit->setTextFormat(Qt::PlainText);
             lblInherit->setIndent(24); // under the caption of its option
@@ -82,21 +82,21 @@ void DiscountEditor::makeOptions(PanelFrame* frame)
 void DiscountEditor::makeDates(PanelFrame* frame)
 {
     DateMV = new MonthCalendar(m_host.session().clock, frame);
-    QFormLayout* form = frame->addForm(tr("Valid from and to, both days included"));
+    QFormLayout* form = frame->addForm(u"Valid from and to, both days included"_s);
     DateFromTxt = new DateField(*DateMV, frame);
     DateToTxt = new DateField(*DateMV, frame);
-    addField(form, tr("First day"), DateFromTxt, "DateFromTxt");
-    addField(form, tr("Last day"), DateToTxt, "DateToTxt");
+    addField(form, u"First day"_s, DateFromTxt, "DateFromTxt");
+    addField(form, u"Last day"_s, DateToTxt, "DateToTxt");
     for (DateField* field : {DateFromTxt, DateToTxt}) {
         field->setFixedWidth(140);
-        field->setPlaceholderText(tr("open"));
+        field->setPlaceholderText(u"open"_s);
     }
 }
 
 void DiscountEditor::makeBands(PanelFrame* frame)
 {
-    DiscountGrd = named(new CustomGrid(m_host, frame), "DiscountGrd", tr("Discount by product price"));
-    QVBoxLayout* column = frame->addColumn(tr("Discount by product price"), true);
+    DiscountGrd = named(new CustomGrid(m_host, frame), "DiscountGrd", u"Discount by product price"_s);
+    QVBoxLayout* column = frame->addColumn(u"Discount by product price"_s, true);
     column->addWidget(DiscountGrd, 1);
     m_bandsGroup = column->parentWidget();
 }
@@ -213,24 +213,24 @@ namespace {
 
 QString percentText(const QString& percent)
 {
-    return percent.isEmpty() ? QObject::tr("Nothing is inherited at present.")
-                             : QObject::tr("Inherited discount: %1 %").arg(percent);
+    return percent.isEmpty() ? u"Nothing is inherited at present."_s
+                             : u"Inherited discount: %1 %"_s.arg(percent);
 }
 
 } // namespace
 
-QString InheritedText(const clsDiscount& discount)
+QString inheritedText(const clsDiscount& discount)
 {
     if (discount.Status != DiscountStatus::Inherit) {
         return {};
     }
     if (discount.ParentDependDiscounts) {
-        return QObject::tr("Inherited discount: it depends on the product's price.");
+        return u"Inherited discount: it depends on the product's price."_s;
     }
     return percentText(discount.Inherit);
 }
 
-QString InheritedText(const clsDiscount& discount, const QString& price)
+QString inheritedText(const clsDiscount& discount, const QString& price)
 {
     if (discount.Status != DiscountStatus::Inherit) {
         return {};
@@ -242,6 +242,6 @@ QString InheritedText(const clsDiscount& discount, const QString& price)
         return percentText(discount.Value(price.isEmpty() ? u"0"_s : price));
     } catch (const RuntimeError&) {
         // The words of a label are no reason to end the program.
-        return QObject::tr("The inherited discount depends on the price, which cannot be read as a number.");
+        return u"The inherited discount depends on the price, which cannot be read as a number."_s;
     }
 }

@@ -79,5 +79,5 @@ private:
 
 // What a discount inherits, in words; empty for a status other than "Inherit". With bands a price (a number text) picks
 // the percentage; without a price, at a category, the bands are named as such.
-QString InheritedText(const clsDiscount& discount);
-QString InheritedText(const clsDiscount& discount, const QString& price);
+QString inheritedText(const clsDiscount& discount);
+QString inheritedText(const clsDiscount& discount, const QString& price);

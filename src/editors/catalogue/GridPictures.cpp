@@ -33,7 +33,7 @@ protected:
 } // namespace
 
 // The application's cache of pixmaps holds the two.
-QPixmap UsePicture(bool isChecked, const QWidget& grid)
+QPixmap usePicture(bool isChecked, const QWidget& grid)
 {
     const QString file = isChecked ? u":/icons/check_on.svg"_s : u":/icons/check_off.svg"_s;
     const QString key = u"CustomGrid%1@%2"_s.arg(file).arg(grid.devicePixelRatioF());

@@ -8,7 +8,7 @@ class QObject;
 class QWidget;
 
 // The checked or the unchecked box, for the resolution of the grid's screen. All grids share the two.
-QPixmap UsePicture(bool isChecked, const QWidget& grid);
+QPixmap usePicture(bool isChecked, const QWidget& grid);
 
 // Puts a picture into the middle of its cell, and greys the links too in a grid that is not in use. The parent owns it.
 QAbstractItemDelegate* newGridDelegate(QObject* parent);

@@ -1,6 +1,6 @@
 #include "editors/catalogue/GridTexts.h"
 
-std::shared_ptr<TextCollection> Rekeyed(const TextCollection& texts, const char* prefix)
+std::shared_ptr<TextCollection> rekeyed(const TextCollection& texts, const char* prefix)
 {
     auto keyed = std::make_shared<TextCollection>();
     for (const QString& text : texts) {

@@ -6,4 +6,4 @@
 #include <memory>
 
 // The same texts under the prefix and the row's number from 0: "from0", "from1", ...
-std::shared_ptr<TextCollection> Rekeyed(const TextCollection& texts, const char* prefix);
+std::shared_ptr<TextCollection> rekeyed(const TextCollection& texts, const char* prefix);

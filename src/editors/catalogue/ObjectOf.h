@@ -8,7 +8,7 @@
 
 // The object as one of that class; none when it is of another.
 template <class Class>
-std::shared_ptr<Class> ObjectOf(const CatalogueObject& object)
+std::shared_ptr<Class> objectOf(const CatalogueObject& object)
 {
     const auto* held = std::get_if<std::shared_ptr<Class>>(&object);
     return held ? *held : nullptr;

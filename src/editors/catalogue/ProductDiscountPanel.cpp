@@ -7,36 +7,37 @@
 #include "model/CommonFunctions.h"
 #include "model/ShopSession.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Name, caption, status; whether it uses the percentage, the bands, what is inherited, the dates.
 constexpr DiscountOption options[] = {
-    {"NoDiscountOpt", QT_TR_NOOP("NO DISCOUNT"), DiscountStatus::No, false, false, false, false},
-    {"SpecificOpt", QT_TR_NOOP("SPECIFIC DISCOUNT (%)"), DiscountStatus::Specific, true, false, false, true},
+    {"NoDiscountOpt", "NO DISCOUNT", DiscountStatus::No, false, false, false, false},
+    {"SpecificOpt", "SPECIFIC DISCOUNT (%)", DiscountStatus::Specific, true, false, false, true},
     // Two blanks stand in this caption.
-    {"InheritOpt", QT_TR_NOOP("INHERIT FROM  SHOP, CATEGORY, SUBCATEGORY"), DiscountStatus::Inherit, false, false, true,
-     false},
+    {"InheritOpt", "INHERIT FROM  SHOP, CATEGORY, SUBCATEGORY", DiscountStatus::Inherit, false, false, true, false},
 };
 
 } // namespace
 
 ProductDiscountPanel::ProductDiscountPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
 {
-    auto* frame = new PanelFrame(tr("Product discount properties"), this);
+    auto* frame = new PanelFrame(u"Product discount properties"_s, this);
     m_editor = new DiscountEditor(host, options, DiscountEditor::Percent::Specific, frame);
     frame->addButtons(host);
 }
 
 void ProductDiscountPanel::SetActiveObject(const CatalogueObject& object)
 {
-    m_product = ObjectOf<ProductClass>(object);
+    m_product = objectOf<ProductClass>(object);
     if (!m_product) {
         return;
     }
     // The lines of the cart hold prices that were worked out with the discounts as they are.
     m_editor->setEditable(ConfirmEmptyCart(m_host.session().Cart.get(), m_host.session().prompts));
     clsPrice& price = *m_product->Price();
-    m_editor->fill(*price.Discount(), InheritedText(*price.Discount(), price.Value));
+    m_editor->fill(*price.Discount(), inheritedText(*price.Discount(), price.Value));
 }
 
 void ProductDiscountPanel::SaveActiveObject()

@@ -18,26 +18,26 @@ using namespace Qt::StringLiterals;
 
 ProductGeneralPanel::ProductGeneralPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
 {
-    auto* frame = new PanelFrame(tr("Product general properties"), this);
+    auto* frame = new PanelFrame(u"Product general properties"_s, this);
     IdLbl = named(new QLabel(frame), "IdLbl", QString());
     ProductNameTxt = textField(frame);
     ProductDescriptionTxt = new TextArea(frame);
     ProductCodeTxt = textField(frame);
     ProductPriceTxt = new NumericBox(NumericBox::Takes::Number, frame);
-    chkForSale = named(new QCheckBox(tr("For sale"), frame), "chkForSale", tr("For sale"));
+    chkForSale = named(new QCheckBox(u"For sale"_s, frame), "chkForSale", u"For sale"_s);
     ProductUnitTxt = textField(frame);
     ProductLinkTxt = textField(frame);
-    BrowseImageControl1 = named(new BrowseImageControl(host, frame), "BrowseImageControl1", tr("Picture"));
+    BrowseImageControl1 = named(new BrowseImageControl(host, frame), "BrowseImageControl1", u"Picture"_s);
 
-    QFormLayout* form = frame->addForm(tr("The product"), true);
+    QFormLayout* form = frame->addForm(u"The product"_s, true);
     form->addRow(IdLbl);
-    addField(form, tr("Name"), ProductNameTxt, "ProductNameTxt");
-    addField(form, tr("Description"), ProductDescriptionTxt, "ProductDescriptionTxt");
-    addField(form, tr("Code"), ProductCodeTxt, "ProductCodeTxt");
+    addField(form, u"Name"_s, ProductNameTxt, "ProductNameTxt");
+    addField(form, u"Description"_s, ProductDescriptionTxt, "ProductDescriptionTxt");
+    addField(form, u"Code"_s, ProductCodeTxt, "ProductCodeTxt");
     addPriceRow(form);
-    addField(form, tr("Unit"), ProductUnitTxt, "ProductUnitTxt");
-    addField(form, tr("Link"), ProductLinkTxt, "ProductLinkTxt");
-    frame->addColumn(tr("Picture"))->addWidget(BrowseImageControl1);
+    addField(form, u"Unit"_s, ProductUnitTxt, "ProductUnitTxt");
+    addField(form, u"Link"_s, ProductLinkTxt, "ProductLinkTxt");
+    frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);
     frame->addButtons(host);
 
     connect(ProductNameTxt, &QLineEdit::textEdited, this,
@@ -46,9 +46,9 @@ ProductGeneralPanel::ProductGeneralPanel(PanelHost& host, QWidget* parent) : Pan
 
 void ProductGeneralPanel::addPriceRow(QFormLayout* form)
 {
-    named(ProductPriceTxt, "ProductPriceTxt", tr("Price"));
+    named(ProductPriceTxt, "ProductPriceTxt", u"Price"_s);
     ProductPriceTxt->setFixedWidth(140);
-    auto* caption = new QLabel(tr("Price"), form->parentWidget());
+    auto* caption = new QLabel(u"Price"_s, form->parentWidget());
     caption->setBuddy(ProductPriceTxt);
     auto* row = new QHBoxLayout;
     row->setSpacing(18);
@@ -60,11 +60,11 @@ void ProductGeneralPanel::addPriceRow(QFormLayout* form)
 
 void ProductGeneralPanel::SetActiveObject(const CatalogueObject& object)
 {
-    m_product = ObjectOf<ProductClass>(object);
+    m_product = objectOf<ProductClass>(object);
     if (!m_product) {
         return;
     }
-    IdLbl->setText(tr("ID = %1").arg(m_product->id));
+    IdLbl->setText(u"ID = %1"_s.arg(m_product->id));
     ProductNameTxt->setText(m_product->name);
     ProductDescriptionTxt->fill(m_product->Description);
     ProductCodeTxt->setText(m_product->Code);

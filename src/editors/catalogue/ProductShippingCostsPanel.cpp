@@ -28,9 +28,9 @@ struct ShippingOption
 enum Option { NoCharges, ByWeight, Individual };
 
 constexpr std::array shippingOptions = {
-    ShippingOption{"NoChargesOpt", QT_TR_NOOP("No shipping charges"), "No"_L1},
-    ShippingOption{"ByWeightOpt", QT_TR_NOOP("By weight"), "Weight"_L1},
-    ShippingOption{"IndividualOpt", QT_TR_NOOP("Costs of its own"), "Individual"_L1},
+    ShippingOption{"NoChargesOpt", "No shipping charges", "No"_L1},
+    ShippingOption{"ByWeightOpt", "By weight", "Weight"_L1},
+    ShippingOption{"IndividualOpt", "Costs of its own", "Individual"_L1},
 };
 
 } // namespace
@@ -38,19 +38,19 @@ constexpr std::array shippingOptions = {
 ProductShippingCostsPanel::ProductShippingCostsPanel(PanelHost& host, QWidget* parent)
     : Panel(parent), m_host(host), m_options(new QButtonGroup(this))
 {
-    auto* frame = new PanelFrame(tr("Shipping costs"), this);
-    QVBoxLayout* choice = frame->addColumn(tr("How shipping is charged"));
+    auto* frame = new PanelFrame(u"Shipping costs"_s, this);
+    QVBoxLayout* choice = frame->addColumn(u"How shipping is charged"_s);
     for (const ShippingOption& option : shippingOptions) {
-        const QString caption = tr(option.caption);
+        const QString caption = QString::fromLatin1(option.caption);
         auto* button = named(new QRadioButton(caption, frame), option.name, caption);
         m_options->addButton(button, static_cast<int>(m_options->buttons().size()));
         choice->addWidget(button);
     }
     WeightTxt = new NumericBox(NumericBox::Takes::Number, frame);
-    QFormLayout* weight = frame->addForm(tr("Weight"));
-    addField(weight, tr("Weight (kg)"), WeightTxt, "WeightTxt");
+    QFormLayout* weight = frame->addForm(u"Weight"_s);
+    addField(weight, u"Weight (kg)"_s, WeightTxt, "WeightTxt");
     WeightTxt->setFixedWidth(140);
-    m_costForm = frame->addForm(tr("Costs by shipping type"));
+    m_costForm = frame->addForm(u"Costs by shipping type"_s);
     addPair();
 
     connect(m_options, &QButtonGroup::idToggled, this, &ProductShippingCostsPanel::applyOption);
@@ -93,7 +93,7 @@ void ProductShippingCostsPanel::fillCosts()
 
 void ProductShippingCostsPanel::SetActiveObject(const CatalogueObject& object)
 {
-    m_product = ObjectOf<ProductClass>(object);
+    m_product = objectOf<ProductClass>(object);
     if (!m_product) {
         return;
     }
@@ -123,7 +123,7 @@ void ProductShippingCostsPanel::SaveActiveObject()
         if (m_costForm->parentWidget()->isHidden()) {
             break; // the shop has no types
         }
-        if (costs.HasKey(type)) {
+        if (costs.hasKey(type)) {
             costs.Add(cost); // a second type of the same name
         } else {
             costs.Add(cost, type);

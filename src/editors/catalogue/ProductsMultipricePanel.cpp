@@ -13,15 +13,15 @@ using namespace Qt::StringLiterals;
 
 ProductsMultipricePanel::ProductsMultipricePanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
 {
-    auto* frame = new PanelFrame(tr("Multiple prices"), this);
-    MultipriceGrd = named(new CustomGrid(host, frame), "MultipriceGrd", tr("Multiple prices"));
-    frame->addColumn(tr("Prices of the product's variants"), true)->addWidget(MultipriceGrd, 1);
+    auto* frame = new PanelFrame(u"Multiple prices"_s, this);
+    MultipriceGrd = named(new CustomGrid(host, frame), "MultipriceGrd", u"Multiple prices"_s);
+    frame->addColumn(u"Prices of the product's variants"_s, true)->addWidget(MultipriceGrd, 1);
     frame->addButtons(host);
 }
 
 void ProductsMultipricePanel::SetActiveObject(const CatalogueObject& object)
 {
-    m_product = ObjectOf<ProductClass>(object);
+    m_product = objectOf<ProductClass>(object);
     if (!m_product) {
         return;
     }
@@ -42,7 +42,7 @@ void ProductsMultipricePanel::SaveActiveObject()
         return;
     }
     clsPrice& price = *m_product->Price();
-    price.ClearMultiPrices();
+    price.clearMultiPrices();
     const CustomGrid::Columns columns = MultipriceGrd->GetData();
     for (int row = 1; columns[0] && row <= columns[0]->Count(); ++row) {
         const std::shared_ptr<clsMultiPrice> variant = price.AddMultiPrice();

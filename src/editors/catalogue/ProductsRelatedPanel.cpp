@@ -38,8 +38,8 @@ ProductsRelatedPanel::ProductsRelatedPanel(PanelHost& host, QWidget* parent)
       m_nodes(new CatalogueTreeModel(this)),
       m_related(new RelatedProducts([this](const QString& id) { return nameOf(id); }, this))
 {
-    auto* frame = new PanelFrame(tr("Related products"), this);
-    AllProductsTree = named(new QTreeView(frame), "AllProductsTree", tr("All products"));
+    auto* frame = new PanelFrame(u"Related products"_s, this);
+    AllProductsTree = named(new QTreeView(frame), "AllProductsTree", u"All products"_s);
     AllProductsTree->setHeaderHidden(true);
     AllProductsTree->setUniformRowHeights(true);
     AllProductsTree->setMinimumWidth(180);
@@ -55,26 +55,26 @@ ProductsRelatedPanel::ProductsRelatedPanel(PanelHost& host, QWidget* parent)
         colours.setColor(group, QPalette::Highlight, ground.darker(190));
     }
     AllProductsTree->setPalette(colours);
-    auto* ToRelatedLbl = new LinkLabel("ToRelatedLbl", tr("Add >"), frame);
-    auto* FromRelatedLbl = new LinkLabel("FromRelatedLbl", tr("< Remove"), frame);
-    RelatedProductsLst = named(new QListView(frame), "RelatedProductsLst", tr("Related to this product"));
+    auto* ToRelatedLbl = new LinkLabel("ToRelatedLbl", u"Add >"_s, frame);
+    auto* FromRelatedLbl = new LinkLabel("FromRelatedLbl", u"< Remove"_s, frame);
+    RelatedProductsLst = named(new QListView(frame), "RelatedProductsLst", u"Related to this product"_s);
     RelatedProductsLst->setUniformItemSizes(true);
     RelatedProductsLst->setSpacing(1);
     RelatedProductsLst->setMinimumWidth(140);
     RelatedProductsLst->setModel(m_related);
 
     auto* grid = new QGridLayout;
-    grid->addWidget(captionOf(AllProductsTree, tr("All products")), 0, 0);
+    grid->addWidget(captionOf(AllProductsTree, u"All products"_s), 0, 0);
     grid->addWidget(AllProductsTree, 1, 0, 4, 1);
     grid->addWidget(ToRelatedLbl, 2, 1);
     grid->addWidget(FromRelatedLbl, 3, 1);
-    grid->addWidget(captionOf(RelatedProductsLst, tr("Related to this product")), 0, 2);
+    grid->addWidget(captionOf(RelatedProductsLst, u"Related to this product"_s), 0, 2);
     grid->addWidget(RelatedProductsLst, 1, 2, 4, 1);
     grid->setRowStretch(1, 1);
     grid->setRowStretch(4, 1);
     grid->setColumnStretch(0, 1);
     grid->setColumnStretch(2, 1);
-    frame->addColumn(tr("What the product's page recommends"), true)->addLayout(grid, 1);
+    frame->addColumn(u"What the product's page recommends"_s, true)->addLayout(grid, 1);
     frame->addButtons(host);
 
     connect(ToRelatedLbl, &LinkLabel::clicked, this,
@@ -84,11 +84,11 @@ ProductsRelatedPanel::ProductsRelatedPanel(PanelHost& host, QWidget* parent)
 
 void ProductsRelatedPanel::SetActiveObject(const CatalogueObject& object)
 {
-    m_product = ObjectOf<ProductClass>(object);
+    m_product = objectOf<ProductClass>(object);
     if (!m_product) {
         return;
     }
-    QString key = NodeKey({});
+    QString key = nodeKey({});
     const auto isGone = [this, &key, prefix = key.size()](const QString& id) {
         key.truncate(prefix);
         key += id; // without a text of its own for each of them
@@ -106,14 +106,14 @@ void ProductsRelatedPanel::SetActiveObject(const CatalogueObject& object)
 const ProductClass* ProductsRelatedPanel::productUnder(const QString& key) const
 {
     const KeyedCollection<CatalogueObject>& objects = m_host.session().objects.items();
-    const int index = objects.IndexOf(key);
+    const int index = objects.indexOf(key);
     const auto* product = index == 0 ? nullptr : std::get_if<std::shared_ptr<ProductClass>>(&objects.Item(index));
     return product ? product->get() : nullptr;
 }
 
 QString ProductsRelatedPanel::nameOf(const QString& id) const
 {
-    const ProductClass* product = productUnder(NodeKey(id));
+    const ProductClass* product = productUnder(nodeKey(id));
     return product ? product->name : QString();
 }
 
@@ -121,7 +121,7 @@ void ProductsRelatedPanel::fillTree()
 {
     const ShopClass& shop = *m_host.session().shop;
     m_nodes->beginBuild();
-    TreeNode* root = m_nodes->addNode(nullptr, ShopNodeKey(), shop.name, TreeImage::Closed);
+    TreeNode* root = m_nodes->addNode(nullptr, shopNodeKey(), shop.name, TreeImage::Closed);
     for (const std::shared_ptr<CategoryClass>& category : shop.categories) {
         addCategory(root, *category);
     }
@@ -131,7 +131,7 @@ void ProductsRelatedPanel::fillTree()
 
 void ProductsRelatedPanel::addCategory(TreeNode* parent, const CategoryClass& category)
 {
-    TreeNode* node = m_nodes->addNode(parent, NodeKey(category.id), category.name, TreeImage::Closed);
+    TreeNode* node = m_nodes->addNode(parent, nodeKey(category.id), category.name, TreeImage::Closed);
     for (const std::shared_ptr<CategoryClass>& below : category.categories) {
         addCategory(node, *below);
     }

@@ -7,27 +7,29 @@
 #include "model/CommonFunctions.h"
 #include "model/ShopSession.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Name, caption, status; whether it uses the percentage, the bands, what is inherited, the dates.
 constexpr DiscountOption options[] = {
-    {"NoDiscountOpt", QT_TR_NOOP("NO DISCOUNT"), DiscountStatus::No, false, false, false, false},
-    {"ApplyOpt", QT_TR_NOOP("APPLY TO ALL SHOP (%)"), DiscountStatus::ToAll, true, false, false, true},
-    {"DependOpt", QT_TR_NOOP("DEPEND ON PRODUCT PRICE"), DiscountStatus::Depend, false, true, false, true},
+    {"NoDiscountOpt", "NO DISCOUNT", DiscountStatus::No, false, false, false, false},
+    {"ApplyOpt", "APPLY TO ALL SHOP (%)", DiscountStatus::ToAll, true, false, false, true},
+    {"DependOpt", "DEPEND ON PRODUCT PRICE", DiscountStatus::Depend, false, true, false, true},
 };
 
 } // namespace
 
 ShopDiscountPanel::ShopDiscountPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
 {
-    auto* frame = new PanelFrame(tr("Shop discount properties"), this);
+    auto* frame = new PanelFrame(u"Shop discount properties"_s, this);
     m_editor = new DiscountEditor(host, options, DiscountEditor::Percent::ApplyToWhole, frame);
     frame->addButtons(host);
 }
 
 void ShopDiscountPanel::SetActiveObject(const CatalogueObject& object)
 {
-    m_shop = ObjectOf<ShopClass>(object);
+    m_shop = objectOf<ShopClass>(object);
     if (!m_shop) {
         return;
     }

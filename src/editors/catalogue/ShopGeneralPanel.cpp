@@ -13,23 +13,25 @@
 #include <QListWidget>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 ShopGeneralPanel::ShopGeneralPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
 {
-    auto* frame = new PanelFrame(tr("Shop general properties"), this);
+    auto* frame = new PanelFrame(u"Shop general properties"_s, this);
     IdLbl = named(new QLabel(frame), "IdLbl", QString());
     ShopNameTxt = textField(frame);
     txtCurrency = textField(frame);
     ShopDescriptionTxt = new TextArea(frame);
-    lstCountries = named(new QListWidget(frame), "lstCountries", tr("Countries that the shop delivers to"));
-    auto* lblCheckAll = new LinkLabel("lblCheckAll", tr("Check all"), frame);
-    auto* lblClearAll = new LinkLabel("lblClearAll", tr("Clear all"), frame);
+    lstCountries = named(new QListWidget(frame), "lstCountries", u"Countries that the shop delivers to"_s);
+    auto* lblCheckAll = new LinkLabel("lblCheckAll", u"Check all"_s, frame);
+    auto* lblClearAll = new LinkLabel("lblClearAll", u"Clear all"_s, frame);
 
-    QFormLayout* form = frame->addForm(tr("The shop"));
+    QFormLayout* form = frame->addForm(u"The shop"_s);
     form->addRow(IdLbl);
-    addField(form, tr("Name"), ShopNameTxt, "ShopNameTxt");
-    addField(form, tr("Currency"), txtCurrency, "txtCurrency");
-    addField(form, tr("Description"), ShopDescriptionTxt, "ShopDescriptionTxt");
-    QVBoxLayout* countries = frame->addColumn(tr("Countries that the shop delivers to"), true);
+    addField(form, u"Name"_s, ShopNameTxt, "ShopNameTxt");
+    addField(form, u"Currency"_s, txtCurrency, "txtCurrency");
+    addField(form, u"Description"_s, ShopDescriptionTxt, "ShopDescriptionTxt");
+    QVBoxLayout* countries = frame->addColumn(u"Countries that the shop delivers to"_s, true);
     lstCountries->setMinimumHeight(120);
     lstCountries->setSpacing(2);
     countries->addWidget(lstCountries, 1);
@@ -55,18 +57,18 @@ void ShopGeneralPanel::checkAll(Qt::CheckState state)
 
 void ShopGeneralPanel::SetActiveObject(const CatalogueObject& object)
 {
-    m_shop = ObjectOf<ShopClass>(object);
+    m_shop = objectOf<ShopClass>(object);
     if (!m_shop) {
         return;
     }
-    IdLbl->setText(tr("Max ID = %1").arg(m_shop->MaxProductId));
+    IdLbl->setText(u"Max ID = %1"_s.arg(m_shop->MaxProductId));
     ShopNameTxt->setText(m_shop->name);
     txtCurrency->setText(m_shop->shop_currency);
     ShopDescriptionTxt->fill(m_shop->Description);
     lstCountries->clear();
     for (const QString& country : m_host.session().CountriesCollection) {
         auto* entry = new QListWidgetItem(country, lstCountries);
-        const bool isSelected = m_shop->SelectedCountries && m_shop->SelectedCountries->HasKey(country);
+        const bool isSelected = m_shop->SelectedCountries && m_shop->SelectedCountries->hasKey(country);
         entry->setCheckState(isSelected ? Qt::Checked : Qt::Unchecked);
     }
 }

@@ -42,14 +42,14 @@ std::shared_ptr<KeyedCollection<TextCollection>> costsByFrame(const CustomGrid::
 
 ShopShippingCostsPanel::ShopShippingCostsPanel(PanelHost& host, QWidget* parent) : Panel(parent)
 {
-    auto* frame = new PanelFrame(tr("Shipping costs"), this);
-    ShippingGrd = named(new CustomGrid(host, frame), "ShippingGrd", tr("Shipping costs by weight"));
-    frame->addColumn(tr("Costs by weight and shipping type"), true)->addWidget(ShippingGrd, 1);
+    auto* frame = new PanelFrame(u"Shipping costs"_s, this);
+    ShippingGrd = named(new CustomGrid(host, frame), "ShippingGrd", u"Shipping costs by weight"_s);
+    frame->addColumn(u"Costs by weight and shipping type"_s, true)->addWidget(ShippingGrd, 1);
 }
 
 void ShopShippingCostsPanel::SetActiveObject(const CatalogueObject& object)
 {
-    m_shop = ObjectOf<ShopClass>(object);
+    m_shop = objectOf<ShopClass>(object);
     if (!m_shop) {
         return;
     }
@@ -73,8 +73,8 @@ void ShopShippingCostsPanel::SaveActiveObject()
     }
     const CustomGrid::Columns columns = ShippingGrd->GetData();
     const bool hasRows = columns[0] != nullptr;
-    m_shop->ShippingCostFrameFrom = hasRows ? Rekeyed(*columns[0], "from") : nullptr;
-    m_shop->ShippingCostFrameTo = hasRows ? Rekeyed(*columns[1], "to") : nullptr;
+    m_shop->ShippingCostFrameFrom = hasRows ? rekeyed(*columns[0], "from") : nullptr;
+    m_shop->ShippingCostFrameTo = hasRows ? rekeyed(*columns[1], "to") : nullptr;
     m_shop->ShippingCosts = hasRows ? costsByFrame(columns) : nullptr;
 }
 

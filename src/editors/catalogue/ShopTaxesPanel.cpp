@@ -28,16 +28,16 @@ CustomGrid::Columns columnsOf(const KeyedCollection<clsTax>& taxes)
 
 ShopTaxesPanel::ShopTaxesPanel(PanelHost& host, QWidget* parent) : Panel(parent)
 {
-    auto* frame = new PanelFrame(tr("Taxes"), this);
-    optNoTax = named(new QRadioButton(tr("No taxes"), frame), "optNoTax", tr("No taxes"));
+    auto* frame = new PanelFrame(u"Taxes"_s, this);
+    optNoTax = named(new QRadioButton(u"No taxes"_s, frame), "optNoTax", u"No taxes"_s);
     optSelectTax =
-        named(new QRadioButton(tr("Taxes of the list below"), frame), "optSelectTax", tr("Taxes of the list below"));
-    TaxGrd = named(new CustomGrid(host, frame), "TaxGrd", tr("Taxes"));
+        named(new QRadioButton(u"Taxes of the list below"_s, frame), "optSelectTax", u"Taxes of the list below"_s);
+    TaxGrd = named(new CustomGrid(host, frame), "TaxGrd", u"Taxes"_s);
 
-    QVBoxLayout* choice = frame->addColumn(tr("Use of taxes"));
+    QVBoxLayout* choice = frame->addColumn(u"Use of taxes"_s);
     choice->addWidget(optNoTax);
     choice->addWidget(optSelectTax);
-    frame->addColumn(tr("Taxes"), true)->addWidget(TaxGrd, 1);
+    frame->addColumn(u"Taxes"_s, true)->addWidget(TaxGrd, 1);
     frame->addButtons(host);
 
     connect(optSelectTax, &QRadioButton::toggled, TaxGrd, &CustomGrid::setEnabled);
@@ -46,7 +46,7 @@ ShopTaxesPanel::ShopTaxesPanel(PanelHost& host, QWidget* parent) : Panel(parent)
 
 void ShopTaxesPanel::SetActiveObject(const CatalogueObject& object)
 {
-    m_shop = ObjectOf<ShopClass>(object);
+    m_shop = objectOf<ShopClass>(object);
     if (!m_shop) {
         return;
     }

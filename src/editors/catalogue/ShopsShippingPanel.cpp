@@ -12,14 +12,14 @@ using namespace Qt::StringLiterals;
 
 ShopsShippingPanel::ShopsShippingPanel(PanelHost& host, QWidget* parent) : Panel(parent)
 {
-    auto* frame = new PanelFrame(tr("Shipping types"), this);
-    ShippingGrd = named(new CustomGrid(host, frame), "ShippingGrd", tr("Shipping types"));
-    frame->addColumn(tr("Ways in which the shop delivers"), true)->addWidget(ShippingGrd, 1);
+    auto* frame = new PanelFrame(u"Shipping types"_s, this);
+    ShippingGrd = named(new CustomGrid(host, frame), "ShippingGrd", u"Shipping types"_s);
+    frame->addColumn(u"Ways in which the shop delivers"_s, true)->addWidget(ShippingGrd, 1);
 }
 
 void ShopsShippingPanel::SetActiveObject(const CatalogueObject& object)
 {
-    m_shop = ObjectOf<ShopClass>(object);
+    m_shop = objectOf<ShopClass>(object);
     if (m_shop) {
         ShippingGrd->Init({u"Shipping Type"_s, u"Description"_s},
                           {m_shop->ShippingTypeName, m_shop->ShippingTypeDescription});
@@ -33,8 +33,8 @@ void ShopsShippingPanel::SaveActiveObject()
     }
     const CustomGrid::Columns columns = ShippingGrd->GetData();
     const bool hasRows = columns[0] != nullptr;
-    m_shop->ShippingTypeName = hasRows ? Rekeyed(*columns[0], "ship_name") : nullptr;
-    m_shop->ShippingTypeDescription = hasRows ? Rekeyed(*columns[1], "ship_desc") : nullptr;
+    m_shop->ShippingTypeName = hasRows ? rekeyed(*columns[0], "ship_name") : nullptr;
+    m_shop->ShippingTypeDescription = hasRows ? rekeyed(*columns[1], "ship_desc") : nullptr;
 }
 
 void ShopsShippingPanel::ClearActiveObject()

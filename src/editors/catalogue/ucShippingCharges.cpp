@@ -8,18 +8,20 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 ucShippingCharges::ucShippingCharges(PanelHost& host, QWidget* parent) : Panel(parent)
 {
-    auto* frame = new PanelFrame(tr("Shipping charges"), this);
-    cmbNoCharges = named(new QRadioButton(tr("No shipping charges"), frame), "cmbNoCharges", tr("No shipping charges"));
-    cmbSelectCharges = named(new QRadioButton(tr("Charges of the list below"), frame), "cmbSelectCharges",
-                             tr("Charges of the list below"));
-    gridCharges = named(new CustomGrid(host, frame), "gridCharges", tr("Shipping charges"));
+    auto* frame = new PanelFrame(u"Shipping charges"_s, this);
+    cmbNoCharges = named(new QRadioButton(u"No shipping charges"_s, frame), "cmbNoCharges", u"No shipping charges"_s);
+    cmbSelectCharges = named(new QRadioButton(u"Charges of the list below"_s, frame), "cmbSelectCharges",
+                             u"Charges of the list below"_s);
+    gridCharges = named(new CustomGrid(host, frame), "gridCharges", u"Shipping charges"_s);
 
-    QVBoxLayout* choice = frame->addColumn(tr("Use of shipping charges"));
+    QVBoxLayout* choice = frame->addColumn(u"Use of shipping charges"_s);
     choice->addWidget(cmbNoCharges);
     choice->addWidget(cmbSelectCharges);
-    frame->addColumn(tr("Charges by destination"), true)->addWidget(gridCharges, 1);
+    frame->addColumn(u"Charges by destination"_s, true)->addWidget(gridCharges, 1);
     frame->addButtons(host);
 
     connect(cmbSelectCharges, &QRadioButton::toggled, gridCharges, &CustomGrid::setEnabled);
@@ -28,7 +30,7 @@ ucShippingCharges::ucShippingCharges(PanelHost& host, QWidget* parent) : Panel(p
 
 void ucShippingCharges::SetActiveObject(const CatalogueObject& object)
 {
-    m_shop = ObjectOf<ShopClass>(object);
+    m_shop = objectOf<ShopClass>(object);
     if (!m_shop) {
         return;
     }

@@ -14,11 +14,11 @@ BrowseButtonImageControl::BrowseButtonImageControl(PanelHost& host, QWidget* par
     : QWidget(parent),
       m_host(host),
       ImagePB(new PictureBox(u"Invalid picture"_s, this)),
-      BrowseBtnLbl(new LinkLabel("BrowseBtnLbl", tr("Browse..."), this)),
-      DeleteBtnLbl(new LinkLabel("DeleteBtnLbl", tr("Delete"), this))
+      BrowseBtnLbl(new LinkLabel("BrowseBtnLbl", u"Browse..."_s, this)),
+      DeleteBtnLbl(new LinkLabel("DeleteBtnLbl", u"Delete"_s, this))
 {
     ImagePB->setObjectName(u"ImagePB"_s);
-    ImagePB->setAccessibleName(tr("Picture"));
+    ImagePB->setAccessibleName(u"Picture"_s);
     auto* links = new QVBoxLayout;
     links->addWidget(BrowseBtnLbl);
     links->addWidget(DeleteBtnLbl);
@@ -49,7 +49,7 @@ void BrowseButtonImageControl::setImageFileName(const QString& name)
 
 void BrowseButtonImageControl::browse()
 {
-    const QString chosen = m_host.session().prompts.chooseFile(QString(), PictureFileFilter());
+    const QString chosen = m_host.session().prompts.chooseFile(QString(), pictureFileFilter());
     if (!chosen.isEmpty()) {
         setImageFileName(chosen);
     }

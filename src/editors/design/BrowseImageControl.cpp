@@ -19,7 +19,7 @@ namespace {
 // An empty box counts as 0.
 qint16 pixelsIn(const QString& text)
 {
-    return text.isEmpty() ? qint16{0} : Int16FromText(text);
+    return text.isEmpty() ? qint16{0} : int16FromText(text);
 }
 
 NumericBox* sizeBox(const char* name, QLabel* label, QWidget* parent)
@@ -36,12 +36,12 @@ BrowseImageControl::BrowseImageControl(PanelHost& host, QWidget* parent)
     : QWidget(parent),
       m_host(host),
       TitleLbl(named(new QLabel(this), "TitleLbl", QString())),
-      ImagePB(named(new PictureBox(u"Invalid Picture"_s, this), "ImagePB", tr("Picture"))),
-      BrowseBtnLbl(new LinkLabel("BrowseBtnLbl", tr("Browse..."), this)),
-      DeleteBtnLbl(new LinkLabel("DeleteBtnLbl", tr("Delete"), this)),
-      WidthLbl(named(new QLabel(tr("Width (pixels)"), this), "WidthLbl", QString())),
+      ImagePB(named(new PictureBox(u"Invalid Picture"_s, this), "ImagePB", u"Picture"_s)),
+      BrowseBtnLbl(new LinkLabel("BrowseBtnLbl", u"Browse..."_s, this)),
+      DeleteBtnLbl(new LinkLabel("DeleteBtnLbl", u"Delete"_s, this)),
+      WidthLbl(named(new QLabel(u"Width (pixels)"_s, this), "WidthLbl", QString())),
       txtWidth(sizeBox("txtWidth", WidthLbl, this)),
-      HeightLbl(named(new QLabel(tr("Height (pixels)"), this), "HeightLbl", QString())),
+      HeightLbl(named(new QLabel(u"Height (pixels)"_s, this), "HeightLbl", QString())),
       txtHeight(sizeBox("txtHeight", HeightLbl, this))
 {
     auto* grid = new QGridLayout(this);

@@ -16,7 +16,7 @@ CSSManagementForm::CSSManagementForm(PanelHost& host, QWidget* parent)
     setObjectName(u"CSSManagementForm"_s);
     setAttribute(Qt::WA_DeleteOnClose);
     FontAndColorEditorPanel1->setObjectName(u"FontAndColorEditorPanel1"_s);
-    const DialogButtons buttons = MakeDialogButtons(this);
+    const DialogButtons buttons = makeDialogButtons(this);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 16, 16, 16);
     column->setSpacing(14);
@@ -39,10 +39,10 @@ void CSSManagementForm::openOn(const std::shared_ptr<CSSClass>& style, const QSt
     open();
 }
 
-std::shared_ptr<CSSClass> StyleNamed(ShopClass& shop, const QString& styleName)
+std::shared_ptr<CSSClass> styleNamed(ShopClass& shop, const QString& styleName)
 {
     const QString key = u"ID"_s + styleName;
-    if (!shop.CSSs.HasKey(key)) {
+    if (!shop.CSSs.hasKey(key)) {
         auto style = std::make_shared<CSSClass>();
         style->CSSName = styleName;
         shop.CSSs.Add(style, key);
@@ -52,7 +52,7 @@ std::shared_ptr<CSSClass> StyleNamed(ShopClass& shop, const QString& styleName)
 
 CSSManagementForm* OpenStyle(PanelHost& host, QWidget* parent, const QString& title, const QString& styleName)
 {
-    const std::shared_ptr<CSSClass> style = StyleNamed(*host.session().shop, styleName);
+    const std::shared_ptr<CSSClass> style = styleNamed(*host.session().shop, styleName);
     auto* form = new CSSManagementForm(host, parent->window());
     form->openOn(style, title);
     return form;

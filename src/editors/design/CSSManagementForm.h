@@ -29,7 +29,7 @@ private:
 };
 
 // The shop's style of that name. One that is missing is made, with nothing but its name and a new style's two colours.
-std::shared_ptr<CSSClass> StyleNamed(ShopClass& shop, const QString& styleName);
+std::shared_ptr<CSSClass> styleNamed(ShopClass& shop, const QString& styleName);
 
 // Opens the style of that name of the session's shop under that title, on the window of the parent. A style that is
 // missing is made first and stays, whatever button closes the dialog. The dialog's finished signal tells its end.

@@ -16,7 +16,7 @@ QPixmap emptySwatch(qreal pixelRatio)
 
 } // namespace
 
-QColor ColourOf(const QString& text)
+QColor colourOf(const QString& text)
 {
     bool isNumber = false;
     const uint number = text.toUInt(&isNumber);
@@ -27,13 +27,13 @@ QColor ColourOf(const QString& text)
     return QColor(text);
 }
 
-int ColourNumberOf(const QString& text)
+int colourNumberOf(const QString& text)
 {
-    const QColor colour = ColourOf(text);
+    const QColor colour = colourOf(text);
     return colour.isValid() ? colour.red() | (colour.green() << 8) | (colour.blue() << 16) : 0;
 }
 
-QPixmap ColourSwatch(const QColor& colour, const QColor& edge, qreal pixelRatio)
+QPixmap colourSwatch(const QColor& colour, const QColor& edge, qreal pixelRatio)
 {
     QPixmap swatch = emptySwatch(pixelRatio);
     QPainter painter(&swatch);
@@ -43,9 +43,9 @@ QPixmap ColourSwatch(const QColor& colour, const QColor& edge, qreal pixelRatio)
     return swatch;
 }
 
-QPixmap StyleSwatch(const QColor& text, const QColor& background, qreal pixelRatio)
+QPixmap styleSwatch(const QColor& text, const QColor& background, qreal pixelRatio)
 {
-    QPixmap swatch = ColourSwatch(background, Qt::gray, pixelRatio);
+    QPixmap swatch = colourSwatch(background, Qt::gray, pixelRatio);
     QPainter painter(&swatch);
     QFont font = painter.font();
     font.setPixelSize(swatchSize - 4);

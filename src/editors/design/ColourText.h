@@ -8,16 +8,16 @@
 #include <QString>
 
 // An invalid colour when the text stands for none.
-QColor ColourOf(const QString& text);
+QColor colourOf(const QString& text);
 
 // The colour number (red in the low byte) of a text; 0, which is black, when it stands for none.
-int ColourNumberOf(const QString& text);
+int colourNumberOf(const QString& text);
 
 // What a swatch takes as an icon: the square, and the room that keeps it from the text beside it.
 inline constexpr QSize SwatchIconSize(22, 16);
 
 // A small square of one colour, as the icon of a button. An invalid colour leaves it empty, but for its edge.
-QPixmap ColourSwatch(const QColor& colour, const QColor& edge, qreal pixelRatio);
+QPixmap colourSwatch(const QColor& colour, const QColor& edge, qreal pixelRatio);
 
 // A letter in the text colour on the background of a style.
-QPixmap StyleSwatch(const QColor& text, const QColor& background, qreal pixelRatio);
+QPixmap styleSwatch(const QColor& text, const QColor& background, qreal pixelRatio);

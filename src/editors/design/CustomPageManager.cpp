@@ -24,7 +24,7 @@ namespace {
 QString freeName(const ShopClass& shop)
 {
     QString name = u"New Page"_s;
-    for (int number = 1; shop.CustomPages.HasKey(name); ++number) {
+    for (int number = 1; shop.CustomPages.hasKey(name); ++number) {
         name = u"New Page %1"_s.arg(number);
     }
     return name;
@@ -37,16 +37,16 @@ bool isTaken(const ShopClass& shop, const QString& name, const CustomPageClass& 
         name.compare(u"Shopping cart page"_s, Qt::CaseInsensitive) == 0) {
         return true;
     }
-    return shop.CustomPages.HasKey(name) && shop.CustomPages.Item(name).get() != &except;
+    return shop.CustomPages.hasKey(name) && shop.CustomPages.Item(name).get() != &except;
 }
 
 } // namespace
 
 CustomPageManager::CustomPageManager(PanelHost& panelHost, QWidget* parent)
-    : PageManager(panelHost, CustomPageTable(), parent),
+    : PageManager(panelHost, customPageTable(), parent),
       CustomPagesListCtl(new QListWidget(this)),
-      AddPageBtn(new QPushButton(tr("&Add a page"), this)),
-      DeletePageBtn(new QPushButton(tr("&Delete the page"), this)),
+      AddPageBtn(new QPushButton(u"&Add a page"_s, this)),
+      DeletePageBtn(new QPushButton(u"&Delete the page"_s, this)),
       PageNameTextCtl(new QLineEdit(this)),
       PageContentTextCtl(new QPlainTextEdit(this))
 {
@@ -66,7 +66,7 @@ CustomPageManager::CustomPageManager(PanelHost& panelHost, QWidget* parent)
 QWidget* CustomPageManager::makeEditor()
 {
     CustomPagesListCtl->setObjectName(u"CustomPagesListCtl"_s);
-    CustomPagesListCtl->setAccessibleName(tr("Pages")); // a list takes none from its caption
+    CustomPagesListCtl->setAccessibleName(u"Pages"_s); // a list takes none from its caption
     CustomPagesListCtl->setSpacing(1);
     AddPageBtn->setObjectName(u"AddPageBtn"_s);
     DeletePageBtn->setObjectName(u"DeletePageBtn"_s);
@@ -75,7 +75,7 @@ QWidget* CustomPageManager::makeEditor()
     PageContentTextCtl->setTabChangesFocus(true);
     PageContentTextCtl->setMinimumHeight(140);
 
-    auto* group = new QGroupBox(tr("Your pages"), this);
+    auto* group = new QGroupBox(u"Your pages"_s, this);
     const auto caption = [group](const QString& text, QWidget* field) {
         auto* label = new QLabel(text, group);
         label->setBuddy(field);
@@ -91,12 +91,12 @@ QWidget* CustomPageManager::makeEditor()
     grid->setVerticalSpacing(6);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(3, 1);
-    grid->addWidget(caption(tr("&Pages"), CustomPagesListCtl), 0, 0);
+    grid->addWidget(caption(u"&Pages"_s, CustomPagesListCtl), 0, 0);
     grid->addWidget(CustomPagesListCtl, 1, 0, 3, 1);
     grid->addLayout(buttons, 4, 0);
-    grid->addWidget(caption(tr("&Name of the page"), PageNameTextCtl), 0, 1);
+    grid->addWidget(caption(u"&Name of the page"_s, PageNameTextCtl), 0, 1);
     grid->addWidget(PageNameTextCtl, 1, 1);
-    grid->addWidget(caption(tr("Te&xt of the page, with HTML"), PageContentTextCtl), 2, 1);
+    grid->addWidget(caption(u"Te&xt of the page, with HTML"_s, PageContentTextCtl), 2, 1);
     grid->addWidget(PageContentTextCtl, 3, 1, 2, 1);
     return group;
 }
@@ -209,10 +209,10 @@ void CustomPageManager::deletePage()
 {
     UserPrompts& prompts = host().session().prompts;
     if (!m_openPage) {
-        prompts.showMessage(ApplicationTitle(), u"Please select Page to delete"_s, PromptIcon::None);
+        prompts.showMessage(applicationTitle(), u"Please select Page to delete"_s, PromptIcon::None);
         return;
     }
-    if (!prompts.askYesNo(ApplicationTitle(), u"Do you really want to delete the page?"_s)) {
+    if (!prompts.askYesNo(applicationTitle(), u"Do you really want to delete the page?"_s)) {
         return;
     }
     ShopClass& shop = *host().session().shop;

@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-DialogButtons MakeDialogButtons(QWidget* parent)
+DialogButtons makeDialogButtons(QWidget* parent)
 {
     const auto button = [parent](const char* name, const QString& caption) {
         auto* made = new QPushButton(caption, parent);
@@ -12,8 +12,7 @@ DialogButtons MakeDialogButtons(QWidget* parent)
         made->setMinimumWidth(96);
         return made;
     };
-    DialogButtons buttons{new QHBoxLayout, button("OkBtn", QCoreApplication::translate("DialogButtons", "OK")),
-                          button("CancelBtn", QCoreApplication::translate("DialogButtons", "Cancel"))};
+    DialogButtons buttons{new QHBoxLayout, button("OkBtn", u"OK"_s), button("CancelBtn", u"Cancel"_s)};
     buttons.OkBtn->setDefault(true);
     buttons.row->addStretch(1);
     buttons.row->addWidget(buttons.OkBtn);

@@ -12,4 +12,4 @@ struct DialogButtons
     QPushButton* CancelBtn;
 };
 
-DialogButtons MakeDialogButtons(QWidget* parent);
+DialogButtons makeDialogButtons(QWidget* parent);

@@ -83,9 +83,9 @@ FontAndColorEditorPanel::FontAndColorEditorPanel(PanelHost& host, QWidget* paren
     makeFontRow();
     makeColourRow(host);
 
-    SampleLbl = new QLabel(tr("The quick brown fox"), Frame1);
+    SampleLbl = new QLabel(u"The quick brown fox"_s, Frame1);
     SampleLbl->setObjectName(u"SampleLbl"_s);
-    SampleLbl->setAccessibleName(tr("Sample of the style"));
+    SampleLbl->setAccessibleName(u"Sample of the style"_s);
     SampleLbl->setAlignment(Qt::AlignCenter);
     SampleLbl->setAutoFillBackground(true);
     SampleLbl->setMinimumSize(300, 72);
@@ -111,14 +111,14 @@ void FontAndColorEditorPanel::makeFontRow()
     auto* form = qobject_cast<QFormLayout*>(Frame1->layout());
     FontNameLst = namedList("FontNameLst", fontNames(), u"Arial"_s, Frame1);
     FontSizeLst = namedList("FontSizeLst", fontSizes(), u"10pt"_s, Frame1);
-    form->addRow(tr("&Font:"), FontNameLst);
-    form->addRow(tr("&Size:"), FontSizeLst);
+    form->addRow(u"&Font:"_s, FontNameLst);
+    form->addRow(u"&Size:"_s, FontSizeLst);
 
     auto* row = new QHBoxLayout;
     row->setSpacing(14);
     for (auto [check, name, caption] :
-         {std::tuple(&Check1, "Check1", tr("&Bold")), std::tuple(&Check2, "Check2", tr("&Italic")),
-          std::tuple(&Check3, "Check3", tr("&Underlined")), std::tuple(&Check4, "Check4", tr("Struck &through"))}) {
+         {std::tuple(&Check1, "Check1", u"&Bold"_s), std::tuple(&Check2, "Check2", u"&Italic"_s),
+          std::tuple(&Check3, "Check3", u"&Underlined"_s), std::tuple(&Check4, "Check4", u"Struck &through"_s)}) {
         *check = new QCheckBox(caption, Frame1);
         (*check)->setObjectName(QLatin1String(name));
         row->addWidget(*check);
@@ -139,7 +139,7 @@ void FontAndColorEditorPanel::makeColourRow(PanelHost& host)
         qobject_cast<QFormLayout*>(Frame1->layout())->addRow(caption, button);
         connect(button, &QPushButton::clicked, this, [this, &host, &colour, set] {
             guarded(host.errorHandler(), [&] {
-                std::optional<int> chosen = host.session().prompts.chooseColour(ColourNumberOf(colour));
+                std::optional<int> chosen = host.session().prompts.chooseColour(colourNumberOf(colour));
                 if (chosen) {
                     (this->*set)(ColorToHex(*chosen));
                 }
@@ -147,9 +147,9 @@ void FontAndColorEditorPanel::makeColourRow(PanelHost& host)
         });
         return button;
     };
-    ForeGroundColorBtn = colourButton("ForeGroundColorBtn", tr("&Text colour:"), tr("Text colour"), m_foreGround,
+    ForeGroundColorBtn = colourButton("ForeGroundColorBtn", u"&Text colour:"_s, u"Text colour"_s, m_foreGround,
                                       &FontAndColorEditorPanel::setObjectForeGroundColor);
-    BackGroundColorBtn = colourButton("BackGroundColorBtn", tr("Back&ground:"), tr("Background colour"), m_backGround,
+    BackGroundColorBtn = colourButton("BackGroundColorBtn", u"Back&ground:"_s, u"Background colour"_s, m_backGround,
                                       &FontAndColorEditorPanel::setObjectBackGroundColor);
 }
 
@@ -266,7 +266,7 @@ void FontAndColorEditorPanel::setObjectFontLineTrough(bool on)
 void FontAndColorEditorPanel::showColour(QPushButton* button, const QString& colour)
 {
     button->setText(colour);
-    button->setIcon(ColourSwatch(ColourOf(colour), palette().color(QPalette::WindowText), devicePixelRatioF()));
+    button->setIcon(colourSwatch(colourOf(colour), palette().color(QPalette::WindowText), devicePixelRatioF()));
     showSample();
 }
 
@@ -277,7 +277,7 @@ void FontAndColorEditorPanel::showSample()
     }
     QPalette colours = palette();
     const auto use = [&colours](QPalette::ColorRole role, const QString& text) {
-        const QColor colour = ColourOf(text);
+        const QColor colour = colourOf(text);
         if (colour.isValid()) {
             colours.setColor(role, colour);
         }

@@ -15,20 +15,20 @@ const QString copyrightStyle = u"copyright"_s;
 } // namespace
 
 FooterManager::FooterManager(PanelHost& panelHost, QWidget* parent)
-    : PageManager(panelHost, FooterManagerTable(), parent),
+    : PageManager(panelHost, footerManagerTable(), parent),
       CopyrightPropPnl(new FontAndColorEditorPanel(panelHost, options()))
 {
     CopyrightPropPnl->setObjectName(u"CopyrightPropPnl"_s);
-    CopyrightPropPnl->setObjectTitle(tr("Copyright line"));
+    CopyrightPropPnl->setObjectTitle(u"Copyright line"_s);
     options()->addAheadOfStyles(CopyrightPropPnl);
 }
 
 void FooterManager::loadMore(ShopClass& shop)
 {
-    CopyrightPropPnl->SetActiveObject(*StyleNamed(shop, copyrightStyle));
+    CopyrightPropPnl->SetActiveObject(*styleNamed(shop, copyrightStyle));
 }
 
 void FooterManager::saveMore(ShopClass& shop)
 {
-    CopyrightPropPnl->SaveActiveObject(*StyleNamed(shop, copyrightStyle));
+    CopyrightPropPnl->SaveActiveObject(*styleNamed(shop, copyrightStyle));
 }

@@ -75,20 +75,20 @@ struct ManagerTable
     std::span<const StyleRow> styles;
 };
 
-const ManagerTable& MenuManagerTable();
-const ManagerTable& HeaderManagerTable();
-const ManagerTable& FooterManagerTable();
-const ManagerTable& MainPageTable();
-const ManagerTable& CategoryPageTable();
-const ManagerTable& ProductPageTable();
-const ManagerTable& SearchPageTable();
-const ManagerTable& ShoppingCartPageTable();
-const ManagerTable& BuyingFormTable();
-const ManagerTable& CustomPageTable();
+const ManagerTable& menuManagerTable();
+const ManagerTable& headerManagerTable();
+const ManagerTable& footerManagerTable();
+const ManagerTable& mainPageTable();
+const ManagerTable& categoryPageTable();
+const ManagerTable& productPageTable();
+const ManagerTable& searchPageTable();
+const ManagerTable& shoppingCartPageTable();
+const ManagerTable& buyingFormTable();
+const ManagerTable& customPageTable();
 
 // The question of all managers but the header's. Its spelling is meant.
 inline constexpr const char* SwitchBackQuestion = "If you swich back from Advanced Mode all your changes made in the "
                                                   "template will be changed back to defaults. Do you want to continue?";
 
 // A caption or title of a table in the user's language.
-QString CaptionText(const char* text);
+QString captionText(const char* text);

@@ -9,7 +9,7 @@ class MenuManager : public PageManager
     Q_OBJECT
 
 public:
-    MenuManager(PanelHost& host, QWidget* parent) : PageManager(host, MenuManagerTable(), parent) {}
+    MenuManager(PanelHost& host, QWidget* parent) : PageManager(host, menuManagerTable(), parent) {}
 };
 
 class HeaderManager : public PageManager
@@ -17,7 +17,7 @@ class HeaderManager : public PageManager
     Q_OBJECT
 
 public:
-    HeaderManager(PanelHost& host, QWidget* parent) : PageManager(host, HeaderManagerTable(), parent) {}
+    HeaderManager(PanelHost& host, QWidget* parent) : PageManager(host, headerManagerTable(), parent) {}
 };
 
 class ucMainPage : public PageManager
@@ -25,7 +25,7 @@ class ucMainPage : public PageManager
     Q_OBJECT
 
 public:
-    ucMainPage(PanelHost& host, QWidget* parent) : PageManager(host, MainPageTable(), parent) {}
+    ucMainPage(PanelHost& host, QWidget* parent) : PageManager(host, mainPageTable(), parent) {}
 };
 
 class CategoryPageManager : public PageManager
@@ -33,7 +33,7 @@ class CategoryPageManager : public PageManager
     Q_OBJECT
 
 public:
-    CategoryPageManager(PanelHost& host, QWidget* parent) : PageManager(host, CategoryPageTable(), parent) {}
+    CategoryPageManager(PanelHost& host, QWidget* parent) : PageManager(host, categoryPageTable(), parent) {}
 };
 
 class ProductPageManager : public PageManager
@@ -41,7 +41,7 @@ class ProductPageManager : public PageManager
     Q_OBJECT
 
 public:
-    ProductPageManager(PanelHost& host, QWidget* parent) : PageManager(host, ProductPageTable(), parent) {}
+    ProductPageManager(PanelHost& host, QWidget* parent) : PageManager(host, productPageTable(), parent) {}
 };
 
 class SearchPageManager : public PageManager
@@ -49,7 +49,7 @@ class SearchPageManager : public PageManager
     Q_OBJECT
 
 public:
-    SearchPageManager(PanelHost& host, QWidget* parent) : PageManager(host, SearchPageTable(), parent) {}
+    SearchPageManager(PanelHost& host, QWidget* parent) : PageManager(host, searchPageTable(), parent) {}
 };
 
 class ShoppingCartPageManager : public PageManager
@@ -57,7 +57,7 @@ class ShoppingCartPageManager : public PageManager
     Q_OBJECT
 
 public:
-    ShoppingCartPageManager(PanelHost& host, QWidget* parent) : PageManager(host, ShoppingCartPageTable(), parent) {}
+    ShoppingCartPageManager(PanelHost& host, QWidget* parent) : PageManager(host, shoppingCartPageTable(), parent) {}
 };
 
 class ucBuyingForm : public PageManager
@@ -65,5 +65,5 @@ class ucBuyingForm : public PageManager
     Q_OBJECT
 
 public:
-    ucBuyingForm(PanelHost& host, QWidget* parent) : PageManager(host, BuyingFormTable(), parent) {}
+    ucBuyingForm(PanelHost& host, QWidget* parent) : PageManager(host, buyingFormTable(), parent) {}
 };

@@ -36,11 +36,11 @@ PageManager::PageManager(PanelHost& host, const ManagerTable& table, QWidget* pa
       m_options(new PageOptions(host, table, m_tabs)),
       m_template(new TemplatePart(host, table, m_tabs))
 {
-    const QString heading = CaptionText(table.heading);
+    const QString heading = captionText(table.heading);
     setAccessibleName(heading);
     m_tabs->setObjectName(u"PagesTab"_s);
-    m_tabs->addTab(new ScrollColumn(m_options, m_tabs), tr("Page"));
-    m_tabs->addTab(m_template, tr("Template"));
+    m_tabs->addTab(new ScrollColumn(m_options, m_tabs), u"Page"_s);
+    m_tabs->addTab(m_template, u"Template"_s);
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 12, 16, 12);

@@ -37,17 +37,17 @@ ShopDesignClass& designOf(PanelHost& host)
 QString describe(const clsSelectedImage* image)
 {
     if (!image) {
-        return PageOptions::tr("The page has no such button of its own");
+        return u"The page has no such button of its own"_s;
     }
     switch (image->SelectionType) {
     case ImageSelection::Text:
-        return PageOptions::tr("Text: %1").arg(image->TextValue);
+        return u"Text: %1"_s.arg(image->TextValue);
     case ImageSelection::Image:
-        return PageOptions::tr("Image: %1").arg(image->imageFileName);
+        return u"Image: %1"_s.arg(image->imageFileName);
     case ImageSelection::Nothing:
         break;
     }
-    return PageOptions::tr("Nothing chosen");
+    return u"Nothing chosen"_s;
 }
 
 QString describe(const clsSelectedCustomPages& pages)
@@ -56,7 +56,7 @@ QString describe(const clsSelectedCustomPages& pages)
     for (const QString& name : pages.selectedPages()) {
         names << name;
     }
-    return names.isEmpty() ? PageOptions::tr("Nothing chosen") : names.join(u", "_s);
+    return names.isEmpty() ? u"Nothing chosen"_s : names.join(u", "_s);
 }
 
 } // namespace
@@ -96,10 +96,10 @@ QPushButton* PageOptions::namedButton(const char* name, const QString& caption)
 
 void PageOptions::makeGroup(const OptionGroup& group)
 {
-    QVBoxLayout* column = newGroup(CaptionText(group.caption));
+    QVBoxLayout* column = newGroup(captionText(group.caption));
     auto* grid = new ColumnGrid(mostColumns, this);
     for (const SwitchRow& row : group.switches) {
-        auto* box = new QCheckBox(CaptionText(row.caption), grid);
+        auto* box = new QCheckBox(captionText(row.caption), grid);
         box->setObjectName(QLatin1String(row.control));
         grid->add(box);
         m_switches.emplace_back(row.option, box);
@@ -113,7 +113,7 @@ void PageOptions::makeGroup(const OptionGroup& group)
         auto* field = new QLineEdit(this);
         field->setObjectName(QLatin1String(row.control));
         field->setMaximumWidth(row.width);
-        auto* caption = new QLabel(CaptionText(row.caption), this);
+        auto* caption = new QLabel(captionText(row.caption), this);
         caption->setBuddy(field);
         form->addRow(caption, field);
         m_texts.emplace_back(row.option, field);
@@ -142,15 +142,15 @@ void PageOptions::makeImagesAndLists()
     grid->setHorizontalSpacing(14);
     grid->setVerticalSpacing(8);
     grid->setColumnStretch(1, 1);
-    newGroup(m_table.lists.empty() ? tr("Buttons") : tr("Buttons and links"))->addLayout(grid);
+    newGroup(m_table.lists.empty() ? u"Buttons"_s : u"Buttons and links"_s)->addLayout(grid);
     for (const SlotRow& row : m_table.imageSlots) {
-        QPushButton* button = namedButton(row.control, CaptionText(row.caption) + u"..."_s);
+        QPushButton* button = namedButton(row.control, captionText(row.caption) + u"..."_s);
         m_slotLabels.push_back(addChoice(grid, button));
         connect(button, &QPushButton::clicked, this,
                 [this, &row] { guarded(m_host.errorHandler(), [&] { openSlot(row); }); });
     }
     for (const ListRow& row : m_table.lists) {
-        QPushButton* button = namedButton(row.control, CaptionText(row.caption) + u"..."_s);
+        QPushButton* button = namedButton(row.control, captionText(row.caption) + u"..."_s);
         m_listLabels.push_back(addChoice(grid, button));
         connect(button, &QPushButton::clicked, this,
                 [this, &row] { guarded(m_host.errorHandler(), [&] { openList(row); }); });
@@ -163,12 +163,12 @@ void PageOptions::makeImagesAndLists()
 
 void PageOptions::makeStyles()
 {
-    QVBoxLayout* column = newGroup(tr("Colours and fonts"));
+    QVBoxLayout* column = newGroup(u"Colours and fonts"_s);
     m_styleGroup = qobject_cast<QGroupBox*>(column->parentWidget());
     auto* grid = new ColumnGrid(mostColumns, m_styleGroup);
     column->addWidget(grid);
     for (const StyleRow& row : m_table.styles) {
-        QPushButton* button = namedButton(row.style, CaptionText(row.caption));
+        QPushButton* button = namedButton(row.style, captionText(row.caption));
         button->setObjectName(u"btnCSS_"_s + QLatin1String(row.style));
         button->setIconSize(SwatchIconSize);
         grid->add(button);
@@ -241,9 +241,9 @@ void PageOptions::showChoices()
         for (std::size_t i = 0; i < m_styleButtons.size(); ++i) {
             const QString key = u"ID"_s + QLatin1String(m_table.styles[i].style);
             const CSSClass none;
-            const CSSClass& style = styles.HasKey(key) ? *styles.Item(key) : none;
+            const CSSClass& style = styles.hasKey(key) ? *styles.Item(key) : none;
             m_styleButtons[i]->setIcon(
-                StyleSwatch(ColourOf(style.ForeGroundColor), ColourOf(style.BackGroundColor), devicePixelRatioF()));
+                styleSwatch(colourOf(style.ForeGroundColor), colourOf(style.BackGroundColor), devicePixelRatioF()));
         }
     });
 }
@@ -252,7 +252,7 @@ void PageOptions::showChoices()
 
 void PageOptions::openSlot(const SlotRow& row)
 {
-    const QDialog* dialog = ShowImageOrTextDialog(m_host, this, CaptionText(row.caption), imageOf(row));
+    const QDialog* dialog = showImageOrTextDialog(m_host, this, captionText(row.caption), imageOf(row));
     connect(dialog, &QDialog::finished, this, &PageOptions::showChoices);
 }
 
@@ -261,12 +261,12 @@ void PageOptions::openList(const ListRow& row)
     if (!row.several) {
         m_pagesForm->pagesControl->SetMultiSelect(false);
     }
-    m_pagesForm->setWindowTitle(CaptionText(row.caption));
+    m_pagesForm->setWindowTitle(captionText(row.caption));
     ShowCustomPagesDialog(*m_pagesForm, designOf(m_host).Pages(row.list), m_host.session().shop->CustomPages);
 }
 
 void PageOptions::openStyle(const StyleRow& row)
 {
-    const QDialog* dialog = OpenStyle(m_host, this, CaptionText(row.title), QLatin1String(row.style));
+    const QDialog* dialog = OpenStyle(m_host, this, captionText(row.title), QLatin1String(row.style));
     connect(dialog, &QDialog::finished, this, &PageOptions::showChoices);
 }

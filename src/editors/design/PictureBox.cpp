@@ -5,6 +5,8 @@
 #include <QImageReader>
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int longestSide = 1200;          // pixels that are kept of a picture
@@ -32,13 +34,13 @@ void PictureBox::showFile(const QString& path)
         return;
     }
     try {
-        m_size = NarrowedImageSize(size.width(), size.height());
+        m_size = narrowedImageSize(size.width(), size.height());
     } catch (const RuntimeError&) {
         setMessage(m_invalidText); // no slot can hold its size
         return;
     }
     if (static_cast<qint64>(size.width()) * size.height() > mostPixels) {
-        setMessage(tr("%1 x %2 pixels: too large to show").arg(size.width()).arg(size.height()));
+        setMessage(u"%1 x %2 pixels: too large to show"_s.arg(size.width()).arg(size.height()));
         return;
     }
     if (size.width() > longestSide || size.height() > longestSide) {
@@ -57,7 +59,7 @@ void PictureBox::clear()
 {
     m_size = {};
     m_image = QImage();
-    setMessage(tr("No picture"));
+    setMessage(u"No picture"_s);
 }
 
 void PictureBox::setMessage(const QString& message)

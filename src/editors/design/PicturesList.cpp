@@ -16,9 +16,9 @@ using namespace Qt::StringLiterals;
 
 PicturesList::PicturesList(PanelHost& host, QWidget* parent)
     : QWidget(parent),
-      lstImages(named(new QListWidget(this), "lstImages", tr("Pictures of the shop"))),
-      imgPreview(named(new PictureBox(u"Invalid picture"_s, this), "imgPreview", tr("Preview"))),
-      AddBttn(named(new QPushButton(tr("&Add a picture..."), this), "AddBttn", tr("Add a picture"))),
+      lstImages(named(new QListWidget(this), "lstImages", u"Pictures of the shop"_s)),
+      imgPreview(named(new PictureBox(u"Invalid picture"_s, this), "imgPreview", u"Preview"_s)),
+      AddBttn(named(new QPushButton(u"&Add a picture..."_s, this), "AddBttn", u"Add a picture"_s)),
       m_host(host)
 {
     const QStringList fileList = QDir(host.session().folder.picturesFolder())
@@ -28,7 +28,7 @@ PicturesList::PicturesList(PanelHost& host, QWidget* parent)
     lstImages->setSpacing(1);
     imgPreview->setMinimumSize(220, 180);
 
-    auto* caption = new QLabel(tr("&Pictures of the shop"), this);
+    auto* caption = new QLabel(u"&Pictures of the shop"_s, this);
     caption->setBuddy(lstImages);
     auto* list = new QVBoxLayout;
     list->addWidget(caption);
@@ -71,7 +71,7 @@ QString PicturesList::selectedPicture() const
 void PicturesList::addPicture()
 {
     PicturePathSetting setting;
-    const QString chosen = m_host.session().prompts.chooseFile(setting.folder(), PictureFileFilter());
+    const QString chosen = m_host.session().prompts.chooseFile(setting.folder(), pictureFileFilter());
     const QFileInfo source(chosen);
     setting.setFolder(chosen.isEmpty() ? QString() : source.path()); // a choice taken back forgets the folder: meant
     if (chosen.isEmpty()) {
@@ -83,7 +83,7 @@ void PicturesList::addPicture()
         return;
     }
     if (source.canonicalFilePath() != target.canonicalFilePath() || !target.exists()) {
-        WriteFileBytes(target.filePath(), ReadFileBytes(chosen));
+        writeFileBytes(target.filePath(), readFileBytes(chosen));
     }
     if (lstImages->findItems(name, Qt::MatchExactly | Qt::MatchCaseSensitive).isEmpty()) {
         lstImages->addItem(name);
@@ -102,7 +102,7 @@ void PicturesList::showSelected()
     imgPreview->showFile(m_host.session().folder.picturesFolder() + name);
 }
 
-QString PictureFileFilter()
+QString pictureFileFilter()
 {
     return u"Pictures (*.bmp;*.png;*jpg;*gif) (*.bmp *.png *jpg *gif)"_s;
 }

@@ -26,7 +26,7 @@ public:
     QString selectedPicture() const;
 
     // What AddBttn does: asks for a file, copies it into the pictures folder and selects it. Errors as for
-    // ReadFileBytes and WriteFileBytes.
+    // readFileBytes and writeFileBytes.
     void addPicture();
 
 Q_SIGNALS:
@@ -40,7 +40,7 @@ private:
 };
 
 // The filter of every choice of a picture file. The dots missing before jpg and gif are meant.
-QString PictureFileFilter();
+QString pictureFileFilter();
 // The path of a picture's file. A name with a colon is an absolute path, any other stands under pictures/; empty for a
 // name that would lead out of that folder.
 QString PicturePath(PanelHost& host, const QString& name);

@@ -18,7 +18,7 @@ TemplateEditor::TemplateEditor(QWidget* parent)
     : QWidget(parent), TemplateTxt(new TemplateText(this)), TemplateStateLbl(new QLabel(this))
 {
     TemplateTxt->setObjectName(u"TemplateTxt"_s);
-    TemplateTxt->setAccessibleName(tr("Template"));
+    TemplateTxt->setAccessibleName(u"Template"_s);
     TemplateTxt->setMinimumHeight(160);
     TemplateStateLbl->setObjectName(u"TemplateStateLbl"_s);
     TemplateStateLbl->setTextFormat(Qt::PlainText);
@@ -39,15 +39,15 @@ void TemplateEditor::makeFindRow()
     FindTxt->setObjectName(u"FindTxt"_s);
     FindTxt->setClearButtonEnabled(true);
     FindTxt->setMaximumWidth(260);
-    auto* caption = new QLabel(tr("&Find:"), this);
+    auto* caption = new QLabel(u"&Find:"_s, this);
     caption->setBuddy(FindTxt);
     const auto button = [this](const char* name, const QString& text) {
         auto* made = new QPushButton(text, this);
         made->setObjectName(QLatin1String(name));
         return made;
     };
-    FindNextBtn = button("FindNextBtn", tr("Next"));
-    FindPreviousBtn = button("FindPreviousBtn", tr("Previous"));
+    FindNextBtn = button("FindNextBtn", u"Next"_s);
+    FindPreviousBtn = button("FindPreviousBtn", u"Previous"_s);
     FindResultLbl = new QLabel(this);
     FindResultLbl->setObjectName(u"FindResultLbl"_s);
 
@@ -101,20 +101,19 @@ void TemplateEditor::find(QTextDocument::FindFlags direction)
     TemplateTxt->moveCursor(direction.testFlag(QTextDocument::FindBackward) ? QTextCursor::End : QTextCursor::Start);
     if (!TemplateTxt->find(text, direction)) {
         TemplateTxt->setTextCursor(before);
-        FindResultLbl->setText(tr("Not found"));
+        FindResultLbl->setText(u"Not found"_s);
     }
 }
 
 void TemplateEditor::check()
 {
-    QString state = tr("No mistakes: every tag and every block is closed.");
+    QString state = u"No mistakes: every tag and every block is closed."_s;
     try {
-        parse_text(LinesEndedByCr(editedText()));
+        parse_text(linesEndedByCr(editedText()));
     } catch (const TemplateError& error) {
         // A line's end is one character here as in the document.
         const QTextBlock line = TemplateTxt->document()->findBlock(static_cast<int>(error.position()));
-        state = tr("Line %1, column %2: %3")
-                    .arg(line.blockNumber() + 1)
+        state = u"Line %1, column %2: %3"_s.arg(line.blockNumber() + 1)
                     .arg(error.position() - line.position() + 1)
                     .arg(error.description());
     }

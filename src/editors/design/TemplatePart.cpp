@@ -21,10 +21,10 @@ TemplatePart::TemplatePart(PanelHost& host, const ManagerTable& table, QWidget* 
     : QWidget(parent),
       m_host(host),
       m_table(table),
-      AdvancedCh(new QCheckBox(tr("&Advanced mode: edit the page's template by hand"), this)),
+      AdvancedCh(new QCheckBox(u"&Advanced mode: edit the page's template by hand"_s, this)),
       m_editor(new TemplateEditor(this)),
-      SaveTemplteBtn(new QPushButton(tr("Save template"), this)),
-      RestoreTemplateBtn(new QPushButton(tr("Restore the factory template"), this))
+      SaveTemplteBtn(new QPushButton(u"Save template"_s, this)),
+      RestoreTemplateBtn(new QPushButton(u"Restore the factory template"_s, this))
 {
     AdvancedCh->setObjectName(QLatin1String(table.advancedControl));
     SaveTemplteBtn->setObjectName(u"SaveTemplteBtn"_s);
@@ -68,14 +68,14 @@ void TemplatePart::advancedToggled(bool on)
     }
     UserPrompts& prompts = m_host.session().prompts;
     if (on) {
-        if (prompts.askYesNo(ApplicationTitle(), u"Are you sure you want to switch to advanced mode?"_s)) {
+        if (prompts.askYesNo(applicationTitle(), u"Are you sure you want to switch to advanced mode?"_s)) {
             enableTemplate(true);
         } else {
             setAdvanced(false);
         }
         return;
     }
-    if (prompts.askYesNo(ApplicationTitle(), QLatin1String(m_table.switchBackQuestion))) {
+    if (prompts.askYesNo(applicationTitle(), QLatin1String(m_table.switchBackQuestion))) {
         enableTemplate(false);
         restore();
     } else {
@@ -106,14 +106,14 @@ void TemplatePart::save()
 {
     Templates_Set& templates = m_host.CurrentTemplatesSet();
     const QString page = QLatin1String(m_table.templateName);
-    WriteFileBytes(fileOf(".html"), EncodeText(m_editor->editedText() + u"\r\n"_s, templates.encodingOf(page)));
+    writeFileBytes(fileOf(".html"), encodeText(m_editor->editedText() + u"\r\n"_s, templates.encodingOf(page)));
     templates.ReLoad(page, page);
 }
 
 void TemplatePart::restore()
 {
     const QString page = QLatin1String(m_table.templateName);
-    WriteFileBytes(fileOf(".html"), ReadFileBytes(fileOf(".html.def")));
+    writeFileBytes(fileOf(".html"), readFileBytes(fileOf(".html.def")));
     m_host.CurrentTemplatesSet().ReLoad(page, page);
     showTemplate();
 }

@@ -25,10 +25,10 @@ public:
     bool isAdvanced() const;
 
     // Writes the text and one line break behind it to the page's file and reads the page again. The text is not filled
-    // anew, so that saving twice writes the same bytes. Errors as for WriteFileBytes and Templates_Set::ReLoad.
+    // anew, so that saving twice writes the same bytes. Errors as for writeFileBytes and Templates_Set::ReLoad.
     void save();
-    // Copies the factory copy over the page's file, reads the page again and shows it. Errors as for ReadFileBytes,
-    // WriteFileBytes and Templates_Set::ReLoad.
+    // Copies the factory copy over the page's file, reads the page again and shows it. Errors as for readFileBytes,
+    // writeFileBytes and Templates_Set::ReLoad.
     void restore();
 
 private:

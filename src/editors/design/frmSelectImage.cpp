@@ -10,7 +10,7 @@ frmSelectImage::frmSelectImage(PanelHost& host, const std::shared_ptr<clsSelecte
     : QDialog(parent)
 {
     setObjectName(u"frmSelectImage"_s);
-    setWindowTitle(tr("Choose a picture"));
+    setWindowTitle(u"Choose a picture"_s);
     auto* images = new ucSelectImage(host, this);
     images->setObjectName(u"ucImages"_s);
     auto* column = new QVBoxLayout(this);

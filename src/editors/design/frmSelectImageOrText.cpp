@@ -22,7 +22,7 @@ frmSelectImageOrText::frmSelectImageOrText(PanelHost& host, const std::shared_pt
     images->SetActiveObject(selection);
 }
 
-frmSelectImageOrText* ShowImageOrTextDialog(PanelHost& host, QWidget* parent, const QString& title,
+frmSelectImageOrText* showImageOrTextDialog(PanelHost& host, QWidget* parent, const QString& title,
                                             const std::shared_ptr<clsSelectedImage>& selection)
 {
     auto* form = new frmSelectImageOrText(host, selection, parent->window());

@@ -1,4 +1,4 @@
-// The dialog around ucSelectImageOrText, for one slot. It goes when it is closed. ShowImageOrTextDialog makes it.
+// The dialog around ucSelectImageOrText, for one slot. It goes when it is closed. showImageOrTextDialog makes it.
 #pragma once
 
 #include <QDialog>
@@ -18,5 +18,5 @@ public:
 };
 
 // Shows the dialog under that title, modal over the window of the parent. Its finished signal tells its end.
-frmSelectImageOrText* ShowImageOrTextDialog(PanelHost& host, QWidget* parent, const QString& title,
+frmSelectImageOrText* showImageOrTextDialog(PanelHost& host, QWidget* parent, const QString& title,
                                             const std::shared_ptr<clsSelectedImage>& selection);

@@ -12,9 +12,9 @@ frmSelectedCustomPages::frmSelectedCustomPages(PanelHost& host, QWidget* parent)
     : QDialog(parent), pagesControl(new ucSelectCustPage(this))
 {
     setObjectName(u"frmSelectedCustomPages"_s);
-    setWindowTitle(tr("Select pages"));
+    setWindowTitle(u"Select pages"_s);
     pagesControl->setObjectName(u"ucSelectCustPage"_s);
-    const DialogButtons buttons = MakeDialogButtons(this);
+    const DialogButtons buttons = makeDialogButtons(this);
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(16, 16, 16, 16);
     column->setSpacing(14);

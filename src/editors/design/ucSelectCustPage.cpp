@@ -41,7 +41,7 @@ public:
 
 ucSelectCustPage::ucSelectCustPage(QWidget* parent) : QWidget(parent)
 {
-    auto* Frame1 = new QGroupBox(tr("List of custom pages"), this);
+    auto* Frame1 = new QGroupBox(u"List of custom pages"_s, this);
     Frame1->setObjectName(u"Frame1"_s);
     auto* around = new QVBoxLayout(this);
     around->setContentsMargins(0, 0, 0, 0);
@@ -63,7 +63,7 @@ ucSelectCustPage::ucSelectCustPage(QWidget* parent) : QWidget(parent)
     }
     lstSelectedPages = new QListWidget(Frame1);
     lstSelectedPages->setObjectName(u"lstSelectedPages"_s);
-    lstSelectedPages->setAccessibleName(tr("Custom pages"));
+    lstSelectedPages->setAccessibleName(u"Custom pages"_s);
     lstSelectedPages->setSpacing(2);
     lstSelectedPages->setItemDelegate(new WholeRowTicks(lstSelectedPages));
     column->addWidget(lstSelectedPages, 1);

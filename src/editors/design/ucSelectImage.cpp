@@ -13,8 +13,8 @@ ucSelectImage::ucSelectImage(PanelHost& host, QWidget* parent)
     : QWidget(parent),
       m_host(host),
       m_pictures(new PicturesList(host, this)),
-      OkBtn(named(new QPushButton(tr("OK"), this), "OkBtn", tr("OK"))),
-      CancelBtn(named(new QPushButton(tr("Cancel"), this), "CancelBtn", tr("Cancel")))
+      OkBtn(named(new QPushButton(u"OK"_s, this), "OkBtn", u"OK"_s)),
+      CancelBtn(named(new QPushButton(u"Cancel"_s, this), "CancelBtn", u"Cancel"_s))
 {
     OkBtn->setDefault(true);
     auto* buttons = new QHBoxLayout;
@@ -47,7 +47,7 @@ void ucSelectImage::SetActiveObject(const std::shared_ptr<clsSelectedImage>& sel
 {
     if (!m_form) {
         m_host.session().prompts.showMessage(
-            ApplicationTitle(), u"You didn't type parent form for user control 'ucImages'"_s, PromptIcon::Critical);
+            applicationTitle(), u"You didn't type parent form for user control 'ucImages'"_s, PromptIcon::Critical);
         return;
     }
     m_selectedImage = selection;

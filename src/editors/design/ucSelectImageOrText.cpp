@@ -20,16 +20,16 @@ ucSelectImageOrText::ucSelectImageOrText(PanelHost& host, QWidget* parent)
     : QWidget(parent),
       m_host(host),
       m_pictures(new PicturesList(host, this)),
-      chkText(new QCheckBox(tr("Show a &text instead of an image"), this)),
+      chkText(new QCheckBox(u"Show a &text instead of an image"_s, this)),
       txtText(new QLineEdit(this)),
-      btnCSS_Text(new QPushButton(tr("Style of the text..."), this))
+      btnCSS_Text(new QPushButton(u"Style of the text..."_s, this))
 {
     chkText->setObjectName(u"chkText"_s);
     txtText->setObjectName(u"txtText"_s);
-    txtText->setAccessibleName(tr("Text"));
+    txtText->setAccessibleName(u"Text"_s);
     btnCSS_Text->setObjectName(u"btnCSS_Text"_s);
     btnCSS_Text->setAutoDefault(false);
-    const DialogButtons buttons = MakeDialogButtons(this);
+    const DialogButtons buttons = makeDialogButtons(this);
     OkBtn = buttons.OkBtn;
     CancelBtn = buttons.CancelBtn;
 
@@ -78,7 +78,7 @@ void ucSelectImageOrText::SetActiveObject(const std::shared_ptr<clsSelectedImage
 {
     if (!m_form) {
         m_host.session().prompts.showMessage(
-            ApplicationTitle(), u"You didn't type parent form for user control 'ucImages'"_s, PromptIcon::Critical);
+            applicationTitle(), u"You didn't type parent form for user control 'ucImages'"_s, PromptIcon::Critical);
         return;
     }
     const QScopedValueRollback filling(m_filling, true);

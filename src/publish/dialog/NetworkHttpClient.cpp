@@ -140,7 +140,7 @@ void NetworkHttpClient::post(const QString& url, const QByteArray& contentType, 
         curl_easy_setopt(transfer, CURLOPT_PROXYPASSWORD, proxy.password().toUtf8().constData());
     }
     curl_easy_setopt(transfer, CURLOPT_NOPROXY, ""); // the system's answer has it in
-    curl_easy_setopt(transfer, CURLOPT_USERAGENT, ("Tarnwick/" + ProgramVersion().toLatin1()).constData());
+    curl_easy_setopt(transfer, CURLOPT_USERAGENT, ("Tarnwick/" + programVersion().toLatin1()).constData());
     curl_easy_setopt(transfer, CURLOPT_HTTPHEADER, request->headers);
     curl_easy_setopt(transfer, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request->body.size()));
     curl_easy_setopt(transfer, CURLOPT_POSTFIELDS, request->body.constData()); // not copied
@@ -168,7 +168,7 @@ void NetworkHttpClient::finish(CURLcode result)
     } else {
         QString why = QString::fromLocal8Bit(m_request->errorText.data());
         if (m_request->isTooLong) {
-            why = tr("The answer is too long");
+            why = u"The answer is too long"_s;
         } else if (why.isEmpty()) {
             why = QString::fromLatin1(curl_easy_strerror(result));
         }

@@ -108,6 +108,6 @@ void TransferLoop::act(curl_socket_t socket, int events)
     int waiting = 0;
     const CURLMsg* message = curl_multi_info_read(m_transfers, &waiting);
     if (message && message->msg == CURLMSG_DONE) {
-        emit ended(message->data.result); // the last that happens here
+        Q_EMIT ended(message->data.result); // the last that happens here
     }
 }

@@ -28,7 +28,7 @@ frmUpload::frmUpload(const ApplicationFolder& folder, UserPrompts& prompts, Fata
       m_run(folder, m_client, prompts, *this)
 {
     setObjectName(u"frmUpload"_s);
-    setWindowTitle(tr("Uploading"));
+    setWindowTitle(u"Uploading"_s);
     makeControls();
     layOutControls();
 
@@ -49,9 +49,9 @@ void frmUpload::makeControls()
         QString accessibleName;
     };
     const std::array fields{
-        Field{txtURL, "txtURL", tr("Address of the shop")},
-        Field{txtLogin, "txtLogin", tr("Login")},
-        Field{txtPassword, "txtPassword", tr("Password")},
+        Field{txtURL, "txtURL", u"Address of the shop"_s},
+        Field{txtLogin, "txtLogin", u"Login"_s},
+        Field{txtPassword, "txtPassword", u"Password"_s},
     };
     for (const Field& field : fields) {
         field.control = new QLineEdit(this);
@@ -62,18 +62,18 @@ void frmUpload::makeControls()
     txtURL->setInputMethodHints(Qt::ImhUrlCharactersOnly);
     txtPassword->setEchoMode(QLineEdit::Password);
 
-    OkBtn = new QPushButton(tr("OK"), this);
+    OkBtn = new QPushButton(u"OK"_s, this);
     OkBtn->setObjectName(u"OkBtn"_s);
-    OkBtn->setAccessibleName(tr("Start uploading"));
+    OkBtn->setAccessibleName(u"Start uploading"_s);
     OkBtn->setDefault(true); // Enter
-    CancelBtn = new QPushButton(tr("Cancel"), this);
+    CancelBtn = new QPushButton(u"Cancel"_s, this);
     CancelBtn->setObjectName(u"CancelBtn"_s);
-    CancelBtn->setAccessibleName(tr("Close without uploading"));
+    CancelBtn->setAccessibleName(u"Close without uploading"_s);
     CancelBtn->setAutoDefault(false); // Enter stays with OkBtn
 
     ProgressBar = new QProgressBar(this);
     ProgressBar->setObjectName(u"ProgressBar"_s);
-    ProgressBar->setAccessibleName(tr("Progress of the upload"));
+    ProgressBar->setAccessibleName(u"Progress of the upload"_s);
     ProgressBar->setRange(0, 100);
     ProgressBar->setTextVisible(false);
 
@@ -81,10 +81,10 @@ void frmUpload::makeControls()
     lblSignUp->setObjectName(u"lblSignUp"_s);
     lblSignUp->setTextFormat(Qt::RichText);
     lblSignUp->setText(uR"(<a href="%1">%2</a>)"_s.arg(
-        VendorAddresses::SignUp(), tr("Don't have login and password. Sign up here").toHtmlEscaped()));
+        VendorAddresses::SignUp(), u"Don't have login and password. Sign up here"_s.toHtmlEscaped()));
     lblSignUp->setTextInteractionFlags(Qt::LinksAccessibleByMouse);
     lblSignUp->setFocusPolicy(Qt::TabFocus);
-    lblSignUp->setAccessibleName(tr("Don't have login and password. Sign up here"));
+    lblSignUp->setAccessibleName(u"Don't have login and password. Sign up here"_s);
 }
 
 void frmUpload::layOutControls()
@@ -94,9 +94,9 @@ void frmUpload::layOutControls()
     fields->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     fields->setHorizontalSpacing(16);
     fields->setVerticalSpacing(10);
-    fields->addRow(tr("ADDRESS"), txtURL); // makes the label the field's own
-    fields->addRow(tr("LOGIN"), txtLogin);
-    fields->addRow(tr("PASSWORD"), txtPassword);
+    fields->addRow(u"ADDRESS"_s, txtURL); // makes the label the field's own
+    fields->addRow(u"LOGIN"_s, txtLogin);
+    fields->addRow(u"PASSWORD"_s, txtPassword);
 
     auto* buttons = new QHBoxLayout;
     buttons->addStretch();
@@ -138,7 +138,7 @@ void frmUpload::showEvent(QShowEvent* event)
 
 void frmUpload::fillFromLog()
 {
-    const RememberedUpload remembered = ReadUploadLog(m_folder);
+    const RememberedUpload remembered = readUploadLog(m_folder);
     txtLogin->setText(remembered.login.value_or(txtLogin->text()));
     txtURL->setText(remembered.address.value_or(txtURL->text()));
     (txtLogin->text().isEmpty() ? txtLogin : txtPassword)->setFocus();

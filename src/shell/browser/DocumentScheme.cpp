@@ -15,12 +15,13 @@ namespace {
 
 // The canonical path of a file that lies in the folder or below; empty for every other one, and for one that is
 // missing.
-QString PathInFolder(const QString& folder, const QString& path)
+QString pathInFolder(const QString& folder, const QString& path)
 {
     const QString root = QFileInfo(folder).canonicalFilePath();
     const QFileInfo file(QFileInfo(path).canonicalFilePath());
-    if (root.isEmpty() || !file.isFile() || !file.filePath().startsWith(root + u'/'))
+    if (root.isEmpty() || !file.isFile() || !file.filePath().startsWith(root + u'/')) {
         return {};
+    }
     return file.filePath();
 }
 
@@ -81,7 +82,7 @@ void DocumentScheme::requestStarted(QWebEngineUrlRequestJob* job)
 
 void DocumentScheme::replyWithPicture(QWebEngineUrlRequestJob& job) const
 {
-    const QString path = PathInFolder(m_picturesFolder, job.requestUrl().path(QUrl::FullyDecoded));
+    const QString path = pathInFolder(m_picturesFolder, job.requestUrl().path(QUrl::FullyDecoded));
     const QString type = path.isEmpty() ? QString() : QMimeDatabase().mimeTypeForFile(path).name();
     auto file = std::make_unique<QFile>(path);
     if (!type.startsWith("image/"_L1) || !file->open(QIODevice::ReadOnly)) {

@@ -24,8 +24,9 @@ class NoPseudoServer : public QWebEngineUrlRequestInterceptor
 public:
     void interceptRequest(QWebEngineUrlRequestInfo& request) override
     {
-        if (request.requestUrl().host() == "previewmode"_L1)
+        if (request.requestUrl().host() == "previewmode"_L1) {
             request.block(true);
+        }
     }
 };
 
@@ -35,8 +36,9 @@ void PreviewBrowser::prepareProcess()
 {
     DocumentScheme::registerScheme();
     // The engine refuses to start as root with its sandbox, and only then may it go without.
-    if (geteuid() == 0)
+    if (geteuid() == 0) {
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    }
 }
 
 PreviewBrowser::PreviewBrowser(const ApplicationFolder& folder, FatalErrorHandler& errors, QWidget* parent)
@@ -56,7 +58,7 @@ PreviewBrowser::PreviewBrowser(const ApplicationFolder& folder, FatalErrorHandle
 
     m_view->setPage(m_page.get());
     m_view->setContextMenuPolicy(Qt::NoContextMenu);
-    m_view->setAccessibleName(tr("The shop's preview"));
+    m_view->setAccessibleName(u"The shop's preview"_s);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_view);
@@ -87,13 +89,15 @@ QWebEnginePage* PreviewBrowser::page() const
 // Called from within the engine, which waits for the answer: the action must not run before that.
 bool PreviewBrowser::beforeNavigate(const QString& url)
 {
-    if (m_navigation == nullptr)
+    if (m_navigation == nullptr) {
         return false;
+    }
     const NavigationDecision decision = guarded(m_errors, [&] { return PreviewNavigation::judge(url); });
     if (decision.hasAction) {
         const auto act = [this, url] {
-            if (m_navigation != nullptr)
+            if (m_navigation != nullptr) {
                 guarded(m_errors, [&] { m_navigation->act(url); });
+            }
         };
         QMetaObject::invokeMethod(this, act, Qt::QueuedConnection);
     }
@@ -111,6 +115,7 @@ void PreviewBrowser::showDocument()
 // link to another host, Back leads to the document.
 void PreviewBrowser::forgetWayBack()
 {
-    if (DocumentScheme::isDocument(m_page->url()))
+    if (DocumentScheme::isDocument(m_page->url())) {
         m_page->history()->clear();
+    }
 }

@@ -99,17 +99,17 @@ TEST_F(CategoryPanels, BringTheSavedStatusBackOnReset)
 
 TEST_F(CategoryPanels, TellWhatIsInheritedOnlyWhereItIs)
 {
-    discount().Inherit = Localised(u"12.5"_s);
+    discount().Inherit = localised(u"12.5"_s);
     for (const int status : {DiscountStatus::No, DiscountStatus::ToAll, DiscountStatus::Depend}) {
         discount().Status = status;
         click("CategoryDiscountSBtn");
         EXPECT_EQ(in<QLabel>("lblInherit")->text(), QString()) << status;
         click("CategoryGeneralSBtn");
     }
-    discount().Inherit = Localised(u"12.5"_s);
+    discount().Inherit = localised(u"12.5"_s);
     discount().Status = DiscountStatus::Inherit;
     click("CategoryDiscountSBtn");
-    EXPECT_TRUE(in<QLabel>("lblInherit")->text().contains(Localised(u"12.5"_s)));
+    EXPECT_TRUE(in<QLabel>("lblInherit")->text().contains(localised(u"12.5"_s)));
     EXPECT_TRUE(in("lblInherit")->isVisible());
     click("CategoryGeneralSBtn");
 

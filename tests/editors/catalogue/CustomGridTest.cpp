@@ -224,7 +224,7 @@ TEST_F(Boxes, CanBeEmptied)
 TEST_F(Boxes, TakeTheUsersSeparatorAsItIsTyped)
 {
     NumericBox box(NumericBox::Takes::Number);
-    EXPECT_EQ(typed(box, Localised(u"12.75"_s)), Localised(u"12.75"_s));
+    EXPECT_EQ(typed(box, localised(u"12.75"_s)), localised(u"12.75"_s));
 }
 
 TEST_F(Boxes, TakeEitherSeparatorWhereTheModelNormalisesIt)
@@ -240,7 +240,7 @@ TEST_F(Boxes, TakeEitherSeparatorWhereTheModelNormalisesIt)
 TEST_F(Boxes, RefuseAFractionOnlyWhereItIsNoNumberOfTheUser)
 {
     NumericBox box(NumericBox::Takes::Number);
-    const QString foreign = Localised(u"."_s) == u"."_s ? u"7,5"_s : u"7.5"_s;
+    const QString foreign = localised(u"."_s) == u"."_s ? u"7,5"_s : u"7.5"_s;
     EXPECT_EQ(typed(box, foreign), u"75"_s);
 }
 

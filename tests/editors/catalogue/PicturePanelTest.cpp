@@ -275,7 +275,7 @@ TEST_F(Pictures, AreAddedFromElsewhereAndTheFolderIsRemembered)
         pressIn(dialog, "OkBtn");
     });
     EXPECT_EQ(image().imageFileName, u"new.png"_s);
-    EXPECT_EQ(FileBytes(files.path(u"pictures/new.png"_s)), FileBytes(files.path(u"photos/new.png"_s)));
+    EXPECT_EQ(fileBytes(files.path(u"pictures/new.png"_s)), fileBytes(files.path(u"photos/new.png"_s)));
     EXPECT_EQ(PicturePathSetting().folder(), files.path(u"photos"_s));
 
     startAgain();
@@ -307,7 +307,7 @@ TEST_F(Pictures, OfTheSameNameAreOverwrittenOnYesOnly)
 {
     QDir().mkpath(files.path(u"photos"_s));
     savePicture(u"photos/pot.png"_s, 5, 4);
-    const QByteArray old = FileBytes(files.path(u"pictures/pot.png"_s));
+    const QByteArray old = fileBytes(files.path(u"pictures/pot.png"_s));
     for (const bool answer : {false, true}) {
         prompts.answerFile(files.path(u"photos/pot.png"_s));
         prompts.answerYesNo(u"Tarnwick"_s, u"Overwrite this file?"_s, answer);
@@ -322,20 +322,20 @@ TEST_F(Pictures, OfTheSameNameAreOverwrittenOnYesOnly)
             }
             pressIn(dialog, "CancelBtn");
         });
-        EXPECT_EQ(FileBytes(files.path(u"pictures/pot.png"_s)) == old, !answer);
+        EXPECT_EQ(fileBytes(files.path(u"pictures/pot.png"_s)) == old, !answer);
     }
 }
 
 TEST_F(Pictures, OfTheFolderItselfCanBeAddedOntoThemselves)
 {
-    const QByteArray old = FileBytes(files.path(u"pictures/pot.png"_s));
+    const QByteArray old = fileBytes(files.path(u"pictures/pot.png"_s));
     prompts.answerFile(files.path(u"pictures/pot.png"_s));
     prompts.answerYesNo(u"Tarnwick"_s, u"Overwrite this file?"_s, true);
     browse([&](const QDialog& dialog) {
         pressIn(dialog, "AddBttn");
         pressIn(dialog, "OkBtn");
     });
-    EXPECT_EQ(FileBytes(files.path(u"pictures/pot.png"_s)), old);
+    EXPECT_EQ(fileBytes(files.path(u"pictures/pot.png"_s)), old);
     EXPECT_EQ(image().imageFileName, u"pot.png"_s);
 }
 

@@ -92,10 +92,10 @@ TEST_F(ProductPanels, WriteASpecificDiscountWithItsDates)
     submit();
     const clsDiscount& discount = *product("4")->Price()->Discount();
     EXPECT_EQ(discount.Status, DiscountStatus::Specific);
-    EXPECT_EQ(discount.Value(u"10"_s), Localised(u"7.5"_s));
+    EXPECT_EQ(discount.Value(u"10"_s), localised(u"7.5"_s));
     reset();
     EXPECT_TRUE(in<QRadioButton>("SpecificOpt")->isChecked());
-    EXPECT_EQ(textIn("SpecificTxt"), Localised(u"7.5"_s));
+    EXPECT_EQ(textIn("SpecificTxt"), localised(u"7.5"_s));
 }
 
 TEST_F(ProductPanels, ShowTheInheritedPercentageForTheirPrice)

@@ -107,7 +107,7 @@ protected:
         in("ProductDescriptionTxt")->setFocus();
         QTest::keyClicks(in("ProductDescriptionTxt"), u"First flush"_s);
         type("ProductCodeTxt", u"S-1"_s);
-        type("ProductPriceTxt", Localised(u"12.5"_s));
+        type("ProductPriceTxt", localised(u"12.5"_s));
         type("ProductUnitTxt", u"100 g"_s);
         type("ProductLinkTxt", u"tea.example"_s);
         choosePicture();
@@ -133,7 +133,7 @@ protected:
 
         showPanel("ProductShippingCostsPnl");
         press("ByWeightOpt");
-        type("WeightTxt", Localised(u"0.25"_s));
+        type("WeightTxt", localised(u"0.25"_s));
         press("IndividualOpt");
         type("ShippingTypeCostTxt", u"2"_s);
     }
@@ -148,8 +148,8 @@ TEST_F(RoundTrip, OfEveryFieldThroughTheShopFile)
     trigger("mnuSaveShop");
     ASSERT_TRUE(errors.numbers.empty());
 
-    const QString file = QString::fromUtf8(FileBytes(files.path(u"shop.xml"_s)));
-    const auto number = [](const char* text) { return Localised(QLatin1String(text)); };
+    const QString file = QString::fromUtf8(fileBytes(files.path(u"shop.xml"_s)));
+    const auto number = [](const char* text) { return localised(QLatin1String(text)); };
     const QStringList expected = {
         u"<ShippingChargesAreSelected>True</ShippingChargesAreSelected><TaxesAreSelected>True</TaxesAreSelected>"
         "<shop_currency>EUR</shop_currency>"_s,
@@ -233,7 +233,7 @@ TEST_F(RoundTrip, OfPanelsThatWereOnlyLookedAtChangesNothing)
     useSampleShop();
     startAgain();
     trigger("mnuSaveShop");
-    const QByteArray before = FileBytes(files.path(u"shop.xml"_s));
+    const QByteArray before = fileBytes(files.path(u"shop.xml"_s));
     for (const char* button : {"ShopGeneralSBtn", "ShopDiscountSBtn", "ShopTaxesSBtn", "ShippingChargesSBtn"}) {
         click(button);
         submit();
@@ -244,9 +244,9 @@ TEST_F(RoundTrip, OfPanelsThatWereOnlyLookedAtChangesNothing)
     QStringList products;
     for (const CatalogueObject& object : window->session().objects.items()) {
         if (const auto* category = std::get_if<std::shared_ptr<CategoryClass>>(&object)) {
-            categories << NodeKey((*category)->id);
+            categories << nodeKey((*category)->id);
         } else if (const auto* product = std::get_if<std::shared_ptr<ProductClass>>(&object)) {
-            products << NodeKey((*product)->id);
+            products << nodeKey((*product)->id);
         }
     }
     ASSERT_GT(products.size(), 3);
@@ -264,7 +264,7 @@ TEST_F(RoundTrip, OfPanelsThatWereOnlyLookedAtChangesNothing)
     window->ShowFrame(nullptr, PanelCode::Show);
     trigger("mnuSaveShop");
     EXPECT_TRUE(errors.numbers.empty());
-    EXPECT_EQ(FileBytes(files.path(u"shop.xml"_s)), before);
+    EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), before);
 }
 
 } // namespace

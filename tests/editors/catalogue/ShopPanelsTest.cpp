@@ -75,7 +75,7 @@ TEST_F(ShopPanels, WriteTheShopsDiscountAndPushItDown)
     EXPECT_EQ(shop().Discount()->Status, DiscountStatus::No);
     submit();
     EXPECT_EQ(shop().Discount()->Status, DiscountStatus::ToAll);
-    EXPECT_EQ(product("4")->Price()->Discount()->Value(u"10"_s), Localised(u"12.5"_s));
+    EXPECT_EQ(product("4")->Price()->Discount()->Value(u"10"_s), localised(u"12.5"_s));
 }
 
 TEST_F(ShopPanels, GreyTheDatesThatADiscountDoesNotUse)
@@ -116,8 +116,8 @@ TEST_F(ShopPanels, ShowTheBandsOnlyWhereThePriceDecides)
     submit(); // saving again changes nothing
     const clsDependedDiscounts& bands = *shop().Discount()->DependedDiscounts();
     ASSERT_EQ(bands.Count(), 2);
-    EXPECT_EQ(bands.Item(1).PriceFrom(), Localised(u"1.5"_s));
-    EXPECT_EQ(bands.Item(2).Value(), Localised(u"7.5"_s));
+    EXPECT_EQ(bands.Item(1).PriceFrom(), localised(u"1.5"_s));
+    EXPECT_EQ(bands.Item(2).Value(), localised(u"7.5"_s));
     press("ApplyOpt");
     EXPECT_FALSE(in("BaseGrd")->isVisible());
 }

@@ -25,7 +25,7 @@ TEST_F(ShopTables, ShowTheTaxesWithTheirPictures)
     click("ShopTaxesSBtn");
     auto* grid = in<CustomGrid>("TaxGrd");
     EXPECT_EQ(grid->Tag(), u"Tax"_s);
-    EXPECT_EQ(rowOf(grid, 1), (QStringList{u"Local"_s, Localised(u"7.5"_s), QString()}));
+    EXPECT_EQ(rowOf(grid, 1), (QStringList{u"Local"_s, localised(u"7.5"_s), QString()}));
     const auto picture = [&](int row) {
         return grid->BaseGrd->item(row, 2)->data(Qt::DecorationRole).value<QPixmap>();
     };
@@ -75,7 +75,7 @@ TEST_F(ShopTables, AppendATaxToTheShopAtOnce)
     EXPECT_TRUE(shop().Taxes.Item(3).IsChecked);
     submit();
     EXPECT_EQ(shop().Taxes.Item(3).TaxName, u"Eco"_s);
-    EXPECT_EQ(shop().Taxes.Item(3).Percent(), Localised(u"1.5"_s));
+    EXPECT_EQ(shop().Taxes.Item(3).Percent(), localised(u"1.5"_s));
     EXPECT_TRUE(shop().Taxes.Item(3).IsChecked);
 }
 

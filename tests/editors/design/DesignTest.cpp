@@ -38,14 +38,14 @@ void DesignTest::saveShop()
 {
     trigger("mnuSaveShop");
     file.reset();
-    const QByteArray bytes = FileBytes(files.path(u"shop.xml"_s));
+    const QByteArray bytes = fileBytes(files.path(u"shop.xml"_s));
     ASSERT_TRUE(file.load_buffer(bytes.constData(), static_cast<std::size_t>(bytes.size()),
                                  pugi::parse_default | pugi::parse_ws_pcdata_single));
 }
 
 QString DesignTest::saved(const QString& element) const
 {
-    const pugi::xml_node found = FirstDescendant(file.document_element(), element.toUtf8().constData());
+    const pugi::xml_node found = firstDescendant(file.document_element(), element.toUtf8().constData());
     EXPECT_TRUE(found) << element.toStdString();
     return QString::fromUtf8(found.text().get());
 }

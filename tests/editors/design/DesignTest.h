@@ -64,7 +64,7 @@ protected:
 
     QByteArray templateFile(const char* page) const
     {
-        return FileBytes(files.path(QStringLiteral("templates/%1.html").arg(QLatin1String(page))));
+        return fileBytes(files.path(QStringLiteral("templates/%1.html").arg(QLatin1String(page))));
     }
     QString templateText(const char* page) const;
 

@@ -140,7 +140,7 @@ constexpr OptionsCase cases[] = {
 
 const QString& nameOf(DesignOption option)
 {
-    return DesignOptionTable()[static_cast<std::size_t>(option)].name;
+    return designOptionTable()[static_cast<std::size_t>(option)].name;
 }
 
 bool isSwitch(const ControlCase& control)
@@ -243,7 +243,7 @@ INSTANTIATE_TEST_SUITE_P(Managers, Options, testing::ValuesIn(cases),
 TEST_P(Options, OfThePageAllHaveAControlAndStandInIt)
 {
     std::size_t options = 0;
-    for (const DesignOptionRow& row : DesignOptionsOf(GetParam().group)) {
+    for (const DesignOptionRow& row : designOptionsOf(GetParam().group)) {
         options += row.name.endsWith(u"_Advanced") ? 0 : 1;
     }
     EXPECT_EQ(GetParam().controls.size(), options);

@@ -216,7 +216,7 @@ TEST_F(ImageSlots, ShowThePictureThatIsSelected)
 
 TEST_F(ImageSlots, OpenTheStyleOfTheirText)
 {
-    EXPECT_FALSE(shop().CSSs.HasKey(u"IDHEADER_LOGO"_s));
+    EXPECT_FALSE(shop().CSSs.hasKey(u"IDHEADER_LOGO"_s));
     QDialog* form = openSlot(cases[0]);
     press(form, "btnCSS_Text");
     auto* style = form->findChild<QDialog*>(u"CSSManagementForm"_s);
@@ -233,7 +233,7 @@ TEST_F(ImageSlots, ThatAreNeverFilledCanBeOpenedAndChangeNothing)
 {
     openManager("BuyingFormDesignSBtn");
     saveShop();
-    const QByteArray before = FileBytes(files.path(u"shop.xml"_s));
+    const QByteArray before = fileBytes(files.path(u"shop.xml"_s));
     pressIn("imgRecalculateButton");
     QDialog* form = dialog("frmSelectImageOrText");
     EXPECT_EQ(selected(form), QString());
@@ -242,7 +242,7 @@ TEST_F(ImageSlots, ThatAreNeverFilledCanBeOpenedAndChangeNothing)
     press(form, "OkBtn");
     EXPECT_EQ(design().BuyingForm_RecalculateButton, nullptr);
     saveShop();
-    EXPECT_EQ(FileBytes(files.path(u"shop.xml"_s)), before);
+    EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), before);
     EXPECT_TRUE(errors.numbers.empty());
 }
 

@@ -135,7 +135,7 @@ TEST_F(Styles, OpenUnderTheirTitlesOnTheirValues)
         }
         // A value that no other style has.
         const QString key = u"ID"_s + QLatin1String(expected.style);
-        ASSERT_TRUE(shop().CSSs.HasKey(key));
+        ASSERT_TRUE(shop().CSSs.hasKey(key));
         shop().CSSs.Item(key)->ForeGroundColor = u"#0%1"_s.arg(buttons.size() + 10000);
         QDialog* form = openStyle(expected.style);
         EXPECT_EQ(form->windowTitle(), QLatin1String(expected.title));
@@ -210,7 +210,7 @@ TEST_F(Styles, AreMadeWhenTheyAreFirstOpenedAndStayAfterCancel)
 {
     shop().CSSs.Remove(u"IDmenuinfooter"_s);
     openManager("FooterDesignSBtn");
-    EXPECT_FALSE(shop().CSSs.HasKey(u"IDmenuinfooter"_s));
+    EXPECT_FALSE(shop().CSSs.hasKey(u"IDmenuinfooter"_s));
     QDialog* form = openStyle("menuinfooter");
     EXPECT_EQ(part<QPushButton>(form, "ForeGroundColorBtn")->text(), u"0"_s);
     EXPECT_EQ(part<QPushButton>(form, "BackGroundColorBtn")->text(), u"255"_s);

@@ -62,7 +62,7 @@ protected:
     }
     QByteArray factoryCopy(const char* page) const
     {
-        return FileBytes(files.path(u"templates/%1.html.def"_s.arg(QLatin1String(page))));
+        return fileBytes(files.path(u"templates/%1.html.def"_s.arg(QLatin1String(page))));
     }
     QString state() const { return in<QLabel>("TemplateStateLbl")->text(); }
 
@@ -191,7 +191,7 @@ TEST_P(Templates, KeepTheirAdvancedModeInTheShopFile)
     openInDesign(GetParam().button);
     switchOn(GetParam());
     saveShop();
-    const QString& name = DesignOptionTable()[static_cast<std::size_t>(GetParam().advanced)].name;
+    const QString& name = designOptionTable()[static_cast<std::size_t>(GetParam().advanced)].name;
     EXPECT_EQ(saved(name), u"Yes"_s);
     switchOff(GetParam());
     saveShop();
@@ -241,7 +241,7 @@ TEST_F(Templates, ThatAreBrokenAreWrittenAndThenFailToBeRead)
     pressIn("SaveTemplteBtn");
     EXPECT_EQ(errors.numbers, std::vector<int>{5});
     EXPECT_TRUE(templateFile("category").endsWith("<!--:if:open=Yes:-->\r\n"));
-    EXPECT_FALSE(window->CurrentTemplatesSet().templates.HasKey(u"category"_s));
+    EXPECT_FALSE(window->CurrentTemplatesSet().templates.hasKey(u"category"_s));
 }
 
 TEST_F(Templates, AreWrittenBackInTheirEncoding)

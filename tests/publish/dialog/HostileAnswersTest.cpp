@@ -25,15 +25,15 @@ const QString upgradeText = u"You don't have the latest version of the software.
 
 RawServer::Handler Status(int status, const QByteArray& body)
 {
-    return [status, body](QTcpSocket& socket, const RawServer::Request&) { SendAnswer(socket, status, body); };
+    return [status, body](QTcpSocket& socket, const RawServer::Request&) { sendAnswer(socket, status, body); };
 }
 
-void Drop(QTcpSocket& socket, const RawServer::Request&)
+void drop(QTcpSocket& socket, const RawServer::Request&)
 {
     socket.abort();
 }
 
-void CutOff(QTcpSocket& socket, const RawServer::Request&)
+void cutOff(QTcpSocket& socket, const RawServer::Request&)
 {
     socket.write("HTTP/1.1 200 OK\r\nContent-Length: 1000\r\n\r\n1.2.0|cup.png|1|x\r\n");
     socket.disconnectFromHost();
@@ -61,7 +61,7 @@ struct Row
 class HostileAnswersTest : public UploadDialogTest
 {
 protected:
-    HostileAnswersTest() { UseSmallShop(files); }
+    HostileAnswersTest() { useSmallShop(files); }
 
     // Uploads to a server that gives the answer to the request of that number, 0-based.
     void uploadWith(const Row& row, std::size_t number)
@@ -69,7 +69,7 @@ protected:
         server.requests.clear();
         server.startedRequests = 0;
         server.handler = [this, &row, number](QTcpSocket& socket, const RawServer::Request& request) {
-            (server.requests.size() == number + 1 ? row.answer : ShopWithFiles({}))(socket, request);
+            (server.requests.size() == number + 1 ? row.answer : shopWithFiles({}))(socket, request);
         };
         if (!row.box.title.isEmpty()) {
             prompts.expectMessage(row.box.title, row.box.text, row.box.icon);
@@ -95,7 +95,7 @@ protected:
 
     void uploadAfterwards()
     {
-        server.handler = ShopWithFiles({});
+        server.handler = shopWithFiles({});
         server.requests.clear();
         open();
         expectComplete();
@@ -120,8 +120,8 @@ TEST_F(HostileAnswersTest, EachAnswerToTheListRequestEndsInItsMessage)
     const Box twice{u"Error 457"_s, u"This key is already in the collection\r\n"_s};
     const Box upgrade{u"Uploading canceled"_s, upgradeText};
     const std::vector<Row> rows{
-        {"dropped", Drop, list, Then::Closes, true},
-        {"cut off", CutOff, list, Then::Closes, true},
+        {"dropped", drop, list, Then::Closes, true},
+        {"cut off", cutOff, list, Then::Closes, true},
         {"no HTTP",
          [](QTcpSocket& socket, const RawServer::Request&) {
              socket.write(QByteArray(100, '\0'));
@@ -164,8 +164,8 @@ TEST_F(HostileAnswersTest, EachAnswerToAFileEndsInItsMessage)
 {
     const Box unknown{u"Uploading data"_s, unknownErrorText, PromptIcon::Critical};
     const std::vector<Row> rows{
-        {"dropped", Drop, unknown, Then::StaysOpen, true},
-        {"cut off", CutOff, unknown, Then::StaysOpen, true},
+        {"dropped", drop, unknown, Then::StaysOpen, true},
+        {"cut off", cutOff, unknown, Then::StaysOpen, true},
         {"an empty answer", Status(200, ""), {}, Then::GoesOn},
         {"401 in a 200", Status(200, "401 no"), {u"Error 0"_s, wrongLoginText}, Then::StaysOpen},
         {"500 in a 200", Status(200, "500"), {u"Error 0"_s, u"Server internal error"_s}, Then::StaysOpen},
@@ -191,7 +191,7 @@ TEST_F(HostileAnswersTest, AServerThatStallsKeepsTheDialogWaitingUntilItAnswers)
     open();
     typeAll(server.address());
     click("OkBtn");
-    ASSERT_TRUE(WaitUntil([&stalled] { return stalled != nullptr; }));
+    ASSERT_TRUE(waitUntil([&stalled] { return stalled != nullptr; }));
     stalled->write("HTTP/1.1 200 OK\r\nContent-Length: 6\r\n\r\n1.2");
     QTest::qWait(500);
     EXPECT_TRUE(dialog->isTransferring());
@@ -199,7 +199,7 @@ TEST_F(HostileAnswersTest, AServerThatStallsKeepsTheDialogWaitingUntilItAnswers)
     click("CancelBtn");
     EXPECT_TRUE(dialog->isVisible());
 
-    server.handler = ShopWithFiles({});
+    server.handler = shopWithFiles({});
     expectComplete();
     stalled->write(".0|");
     waitForEnd();

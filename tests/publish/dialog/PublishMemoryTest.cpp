@@ -14,7 +14,7 @@ constexpr qint64 megabyte = qint64{1024} * 1024;
 // A row of the process's own status, in bytes.
 qint64 statusOf(const QByteArray& row)
 {
-    for (const QByteArray& line : FileBytes(u"/proc/self/status"_s).split('\n')) {
+    for (const QByteArray& line : fileBytes(u"/proc/self/status"_s).split('\n')) {
         if (line.startsWith(row)) {
             return line.sliced(row.size()).simplified().split(' ')[0].toLongLong() * 1024;
         }
@@ -54,7 +54,7 @@ protected:
 
 TEST_F(PublishMemoryTest, TwoHundredMegabytesOfPicturesTakeThreeTimesTheLargestAndFiftyMegabytes)
 {
-    UseSmallShop(files);
+    useSmallShop(files);
     ASSERT_TRUE(server.start()) << server.why().toStdString();
     for (const int count : {200, 10}) {
         const qint64 size = 200 * megabyte / count;

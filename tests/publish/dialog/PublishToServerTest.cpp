@@ -14,7 +14,7 @@ class PublishToServerTest : public UploadDialogTest
 protected:
     void SetUp() override
     {
-        UseSampleShop(files);
+        useSampleShop(files);
         ASSERT_TRUE(server.start()) << server.why().toStdString();
     }
     // Publishes and returns what the server was sent, without the request for its list.
@@ -44,7 +44,7 @@ protected:
     }
     void expectSameFile(const QString& relative)
     {
-        EXPECT_TRUE(FileBytes(server.path(relative)) == FileBytes(files.path(relative))) << relative.toStdString();
+        EXPECT_TRUE(fileBytes(server.path(relative)) == fileBytes(files.path(relative))) << relative.toStdString();
     }
 
     PhpServer server;
@@ -91,7 +91,7 @@ TEST_F(PublishToServerTest, ASecondUploadSendsNoPictureAndAChangedSizeSendsThatO
     expectSameFile(u"pictures/teapot-moor.png"_s);
 
     // Equal size counts as equal content.
-    QByteArray other = FileBytes(files.path(u"pictures/teapot-moor.png"_s));
+    QByteArray other = fileBytes(files.path(u"pictures/teapot-moor.png"_s));
     other.fill('y');
     WriteFile(files.path(u"pictures/teapot-moor.png"_s), other);
     EXPECT_EQ(publish().size(), 15U);

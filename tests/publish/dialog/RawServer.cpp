@@ -18,7 +18,7 @@ QByteArray RawServer::Request::header(const QByteArray& name) const
     return {};
 }
 
-RawServer::RawServer() : handler(ShopWithFiles({}))
+RawServer::RawServer() : handler(shopWithFiles({}))
 {
     EXPECT_TRUE(m_server.listen(QHostAddress::LocalHost));
     QObject::connect(&m_server, &QTcpServer::newConnection, &m_server, [this] {
@@ -58,16 +58,16 @@ void RawServer::read(QTcpSocket* socket)
     handler(*socket, requests.back());
 }
 
-void SendAnswer(QTcpSocket& socket, int status, const QByteArray& body, const QByteArray& moreHeaders)
+void sendAnswer(QTcpSocket& socket, int status, const QByteArray& body, const QByteArray& moreHeaders)
 {
     socket.write("HTTP/1.1 " + QByteArray::number(status) + " Status\r\nConnection: close\r\n" + moreHeaders +
                  "Content-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body);
     socket.disconnectFromHost();
 }
 
-RawServer::Handler ShopWithFiles(const QByteArray& lines)
+RawServer::Handler shopWithFiles(const QByteArray& lines)
 {
     return [lines](QTcpSocket& socket, const RawServer::Request& request) {
-        SendAnswer(socket, 200, request.isForList() ? "1.2.0|" + lines : QByteArray("ok"));
+        sendAnswer(socket, 200, request.isForList() ? "1.2.0|" + lines : QByteArray("ok"));
     };
 }

@@ -48,6 +48,6 @@ private:
 };
 
 // An answer that ends its connection.
-void SendAnswer(QTcpSocket& socket, int status, const QByteArray& body, const QByteArray& moreHeaders = {});
+void sendAnswer(QTcpSocket& socket, int status, const QByteArray& body, const QByteArray& moreHeaders = {});
 // Answers like a shop that has these files.
-RawServer::Handler ShopWithFiles(const QByteArray& lines);
+RawServer::Handler shopWithFiles(const QByteArray& lines);

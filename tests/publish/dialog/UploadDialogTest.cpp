@@ -72,7 +72,7 @@ void UploadDialogTest::expectComplete()
 
 void UploadDialogTest::waitForEnd()
 {
-    ASSERT_TRUE(WaitUntil([this] { return !dialog->isTransferring(); }));
+    ASSERT_TRUE(waitUntil([this] { return !dialog->isTransferring(); }));
 }
 
 void UploadDialogTest::upload(const QString& address)
@@ -84,10 +84,10 @@ void UploadDialogTest::upload(const QString& address)
 
 QByteArray UploadDialogTest::log() const
 {
-    return FileBytes(files.path(u"upload.log"_s));
+    return fileBytes(files.path(u"upload.log"_s));
 }
 
-bool WaitUntil(const std::function<bool()>& condition)
+bool waitUntil(const std::function<bool()>& condition)
 {
     QElapsedTimer clock;
     clock.start();

@@ -51,4 +51,4 @@ protected:
 };
 
 // Lets events run until the condition holds. False when it does not within a minute.
-bool WaitUntil(const std::function<bool()>& condition);
+bool waitUntil(const std::function<bool()>& condition);

@@ -29,7 +29,7 @@ protected:
         open();
         typeAll(server.address());
         click("OkBtn");
-        ASSERT_TRUE(WaitUntil([this] { return server.requests.size() == 1; }));
+        ASSERT_TRUE(waitUntil([this] { return server.requests.size() == 1; }));
         ASSERT_TRUE(dialog->isTransferring());
     }
     // As the frame's button of the desktop closes a window.
@@ -135,7 +135,7 @@ TEST_F(frmUploadTest, EscClosesFromEveryField)
 
 TEST_F(frmUploadTest, EnterStartsFromEveryControlAlsoFromCancel)
 {
-    UseSmallShop(files);
+    useSmallShop(files);
     int uploads = 0;
     for (const char* control : {"txtURL", "txtLogin", "txtPassword", "OkBtn", "CancelBtn", "lblSignUp"}) {
         SCOPED_TRACE(control);
@@ -175,7 +175,7 @@ TEST_F(frmUploadTest, TheWindowStaysAliveWhileItWaits)
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, &timer, [&ticks] { ++ticks; });
     timer.start(1);
-    EXPECT_TRUE(WaitUntil([&ticks] { return ticks >= 20; }));
+    EXPECT_TRUE(waitUntil([&ticks] { return ticks >= 20; }));
     type("txtLogin", u"somebody else"_s);
 }
 
@@ -191,7 +191,7 @@ TEST_F(frmUploadTest, BarAndHourglassShowFromTheStartOn)
 
 TEST_F(frmUploadTest, AfterACompleteUploadTheBarIsHiddenAgainWhenTheDialogOpens)
 {
-    UseSmallShop(files);
+    useSmallShop(files);
     open();
     expectComplete();
     upload(server.address());
@@ -205,7 +205,7 @@ TEST_F(frmUploadTest, AfterACompleteUploadTheBarIsHiddenAgainWhenTheDialogOpens)
 
 TEST_F(frmUploadTest, TheAddressIsCorrectedInItsField)
 {
-    UseSmallShop(files);
+    useSmallShop(files);
     open();
     expectComplete();
     upload(u"127.0.0.1:%1"_s.arg(server.port()));
@@ -230,19 +230,19 @@ TEST_F(frmUploadTest, AShopFileWithoutItsDesignLeavesTheHourglassOnUntilTheDialo
 
 TEST_F(frmUploadTest, AFailureOfTheWalkGoesToWhatEndsTheProgram)
 {
-    UseSmallShop(files);
+    useSmallShop(files);
     ASSERT_TRUE(QDir(files.path(u"pictures"_s)).removeRecursively());
     open();
     typeAll(server.address());
     click("OkBtn");
-    EXPECT_TRUE(WaitUntil([this] { return !errors.numbers.empty(); }));
+    EXPECT_TRUE(waitUntil([this] { return !errors.numbers.empty(); }));
     EXPECT_EQ(errors.numbers, std::vector<int>{75});
     errors.numbers.clear();
 }
 
 TEST_F(frmUploadTest, AFailureStaysInTheLogOverTheClosingAndGoesWithTheNextOpening)
 {
-    UseSmallShop(files);
+    useSmallShop(files);
     ASSERT_TRUE(QFile::remove(files.path(u"templates/cart.html"_s)));
     open();
     prompts.expectMessage(u"Uploading data"_s,
@@ -319,13 +319,13 @@ TEST_F(frmUploadTest, ClosingItsFrameDuringAWaitAsksTheMainWindowToClose)
     startWaiting();
     window.closes = false;
     closeByItsFrame(dialog.get());
-    EXPECT_TRUE(WaitUntil([&window] { return window.asked == 1; }));
+    EXPECT_TRUE(waitUntil([&window] { return window.asked == 1; }));
     EXPECT_TRUE(dialog->isTransferring());
     EXPECT_TRUE(dialog->isVisible());
 
     window.closes = true;
     closeByItsFrame(dialog.get());
-    EXPECT_TRUE(WaitUntil([&window] { return window.asked == 2; }));
+    EXPECT_TRUE(waitUntil([&window] { return window.asked == 2; }));
     EXPECT_FALSE(dialog->isTransferring());
     EXPECT_FALSE(dialog->isVisible());
     dialog.reset();
