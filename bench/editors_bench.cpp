@@ -127,7 +127,6 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    Q_INIT_RESOURCE(icons);
     const QTemporaryDir folder;
     NoPrompts prompts;
     const SystemClock clock;

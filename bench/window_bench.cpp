@@ -9,6 +9,7 @@
 #include "NoPrompts.h"
 #include "Ratios.h"
 #include "base/Clock.h"
+#include "editors/EditorIcon.h"
 #include "pages/PreviewSurface.h"
 #include "shell/CatalogueTree.h"
 #include "shell/ImportIntoTree.h"
@@ -187,7 +188,7 @@ enum class Colours { Own, Widget };
 
 void openTreeWidget(benchmark::State& state, const ShopClass& shop, Colours colours)
 {
-    const std::array<QIcon, 2> pictures{QIcon(u":/icons/tree_closed.svg"_s), QIcon(u":/icons/tree_product.svg"_s)};
+    const std::array<QIcon, 2> pictures{editorIcon("tree_closed"), editorIcon("tree_product")};
     const QBrush background(QColor::fromRgb(TreeColour));
     const QBrush foreground(QColor::fromRgb(TreeTextColour));
     const auto newItem = [&](QTreeWidgetItem* parent, const QString& text, const QString& key, const QIcon& picture) {

@@ -1,5 +1,7 @@
 #include "editors/CatalogueTreeModel.h"
 
+#include "editors/EditorIcon.h"
+
 #include <QBrush>
 
 #include <utility>
@@ -17,8 +19,7 @@ QVariant colourOf(QRgb colour)
 
 CatalogueTreeModel::CatalogueTreeModel(QObject* parent)
     : QAbstractItemModel(parent),
-      m_images{QIcon(u":/icons/tree_closed.svg"_s), QIcon(u":/icons/tree_opened.svg"_s),
-               QIcon(u":/icons/tree_product.svg"_s)}
+      m_images{editorIcon("tree_closed"), editorIcon("tree_opened"), editorIcon("tree_product")}
 {
 }
 

@@ -1,28 +1,22 @@
 #include "editors/SubmitReset.h"
 
+#include "editors/EditorIcon.h"
 #include "editors/PanelHost.h"
 
 #include <QHBoxLayout>
 
 using namespace Qt::StringLiterals;
 
-// A static library's resources have to be asked for.
-static void takeIcons()
-{
-    Q_INIT_RESOURCE(editors);
-}
-
 SubmitReset::SubmitReset(PanelHost& host, QWidget* parent)
     : QWidget(parent),
       imgButtonSubmit(new QPushButton(u"Submit"_s, this)),
       imgButtonReset(new QPushButton(u"Reset"_s, this))
 {
-    takeIcons();
     imgButtonSubmit->setObjectName(u"imgButtonSubmit"_s);
-    imgButtonSubmit->setIcon(QIcon(u":/editors/submit.svg"_s));
+    imgButtonSubmit->setIcon(editorIcon("submit"));
     imgButtonSubmit->setToolTip(u"Takes over what stands in this panel"_s);
     imgButtonReset->setObjectName(u"imgButtonReset"_s);
-    imgButtonReset->setIcon(QIcon(u":/editors/reset.svg"_s));
+    imgButtonReset->setIcon(editorIcon("reset"));
     imgButtonReset->setToolTip(u"Brings back what was there before"_s);
     for (QPushButton* button : {imgButtonSubmit, imgButtonReset}) {
         button->setAccessibleName(button->text());

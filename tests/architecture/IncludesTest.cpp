@@ -22,9 +22,14 @@ struct Include
     bool own; // "header", not <header>
 };
 
-// What each folder may include from, itself apart. A folder that is not listed is an error.
+// What each folder may include from, itself apart, and show icons of. A folder that is not listed is an error; each
+// stands by itself, whatever folder it lies in.
 const QMap<QString, QStringList>& allowedFolders()
 {
+    static const QStringList withoutWindows = {u"pages"_s,  u"publish"_s,         u"backup"_s, u"model"_s,
+                                               u"design"_s, u"template_engine"_s, u"base"_s};
+    static const QStringList allEditors = {u"editors/catalogue"_s, u"editors/design"_s, u"editors/design/pickers"_s,
+                                           u"editors"_s};
     static const QMap<QString, QStringList> table = {
         {u"base"_s, {}},
         {u"template_engine"_s, {u"base"_s}},
@@ -34,24 +39,24 @@ const QMap<QString, QStringList>& allowedFolders()
         {u"publish"_s, {u"base"_s}},
         {u"pages"_s, {u"model"_s, u"design"_s, u"template_engine"_s, u"base"_s}},
         {u"publish/dialog"_s, {u"publish"_s, u"base"_s}},
-        {u"editors"_s,
-         {u"pages"_s, u"publish"_s, u"backup"_s, u"model"_s, u"design"_s, u"template_engine"_s, u"base"_s}},
+        {u"editors"_s, withoutWindows},
+        {u"editors/design/pickers"_s, QStringList{u"editors"_s} + withoutWindows},
+        {u"editors/design"_s, QStringList{u"editors/design/pickers"_s, u"editors"_s} + withoutWindows},
+        {u"editors/catalogue"_s, QStringList{u"editors/design/pickers"_s, u"editors"_s} + withoutWindows},
         {u"shell/browser"_s, {u"pages"_s, u"base"_s}},
-        {u"shell"_s,
-         {u"shell/browser"_s, u"editors"_s, u"publish/dialog"_s, u"pages"_s, u"publish"_s, u"backup"_s, u"model"_s,
-          u"design"_s, u"template_engine"_s, u"base"_s}},
+        {u"shell"_s, QStringList{u"shell/browser"_s, u"publish/dialog"_s} + allEditors + withoutWindows},
     };
     return table;
 }
 
-// The folder of the table that a path such as "editors/catalogue/CustomGrid.h" belongs to.
 QString folderOf(const QString& path)
 {
-    QString folder = path.section(u'/', 0, -2);
-    while (!folder.isEmpty() && !allowedFolders().contains(folder)) {
-        folder = folder.section(u'/', 0, -2);
-    }
-    return folder;
+    return path.section(u'/', 0, -2);
+}
+
+bool mayUse(const QString& from, const QString& to)
+{
+    return from == to || allowedFolders().value(from).contains(to);
 }
 
 QList<Include> allIncludes()
@@ -76,7 +81,7 @@ QList<Include> allIncludes()
 TEST(Architecture, EverySourceFileStandsInAFolderOfThePicture)
 {
     for (const Include& include : allIncludes()) {
-        EXPECT_FALSE(folderOf(include.file).isEmpty()) << include.file.toStdString();
+        EXPECT_TRUE(allowedFolders().contains(folderOf(include.file))) << include.file.toStdString();
     }
 }
 
@@ -89,11 +94,45 @@ TEST(Architecture, NoIncludeRunsUpOrSideways)
         if (!include.own || !include.header.contains(u'/')) {
             continue;
         }
-        const QString from = folderOf(include.file);
-        const QString to = folderOf(include.header);
-        EXPECT_TRUE(from == to || allowedFolders().value(from).contains(to))
+        EXPECT_TRUE(mayUse(folderOf(include.file), folderOf(include.header)))
             << include.file.toStdString() << " includes " << include.header.toStdString();
     }
+}
+
+// The folder of the sources that each prefix of resources lies in, such as "editors" for ":/editors/submit.svg".
+QMap<QString, QString> foldersOfResources()
+{
+    static const QRegularExpression prefix(uR"re(prefix="/([^"]+)")re"_s);
+    const QDir root(QStringLiteral(TARNWICK_SOURCE_DIR "/src"));
+    QMap<QString, QString> folders;
+    QDirIterator lists(root.path(), {u"*.qrc"_s}, QDir::Files, QDirIterator::Subdirectories);
+    while (lists.hasNext()) {
+        const QString path = lists.next();
+        const QString name = prefix.match(QString::fromUtf8(fileBytes(path))).captured(1);
+        EXPECT_FALSE(folders.contains(name)) << "two lists of resources under " << name.toStdString();
+        folders.insert(name, folderOf(folderOf(root.relativeFilePath(path)))); // out of its folder "icons"
+    }
+    return folders;
+}
+
+TEST(Architecture, NoResourceIsShownFromAboveOrBeside)
+{
+    static const QRegularExpression use(uR"re(":/([a-z_]+)/)re"_s);
+    const QMap<QString, QString> folders = foldersOfResources();
+    const QDir root(QStringLiteral(TARNWICK_SOURCE_DIR "/src"));
+    QDirIterator files(root.path(), {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
+    int count = 0;
+    while (files.hasNext()) {
+        const QString file = root.relativeFilePath(files.next());
+        auto uses = use.globalMatch(QString::fromUtf8(fileBytes(root.filePath(file))));
+        while (uses.hasNext()) {
+            const QString prefix = uses.next().captured(1);
+            EXPECT_TRUE(folders.contains(prefix) && mayUse(folderOf(file), folders.value(prefix)))
+                << file.toStdString() << " shows a resource of " << prefix.toStdString();
+            ++count;
+        }
+    }
+    EXPECT_GE(count, 4);
 }
 
 TEST(Architecture, OnlyTheFoldersWithWindowsUseWidgets)
@@ -102,7 +141,9 @@ TEST(Architecture, OnlyTheFoldersWithWindowsUseWidgets)
     const QStringList names = widgetHeaders.entryList(QDir::Files);
     ASSERT_GT(names.size(), 100);
     const QSet<QString> widgets(names.begin(), names.end());
-    const QStringList withWindows = {u"editors"_s, u"publish/dialog"_s, u"shell"_s, u"shell/browser"_s};
+    const QStringList withWindows = {u"editors"_s,           u"editors/design/pickers"_s, u"editors/design"_s,
+                                     u"editors/catalogue"_s, u"publish/dialog"_s,         u"shell"_s,
+                                     u"shell/browser"_s};
     for (const Include& include : allIncludes()) {
         const QString header = include.header.section(u'/', -1);
         const bool windowHeader = !include.own && (widgets.contains(header) || include.header.startsWith(u"QtWidgets"));

@@ -4,7 +4,7 @@
 #include "editors/PanelHost.h"
 #include "editors/TextArea.h"
 #include "editors/catalogue/ObjectOf.h"
-#include "editors/design/BrowseImageControl.h"
+#include "editors/design/pickers/BrowseImageControl.h"
 #include "model/CategoryClass.h"
 
 #include <QFormLayout>

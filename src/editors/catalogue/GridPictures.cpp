@@ -6,6 +6,12 @@
 
 using namespace Qt::StringLiterals;
 
+// A static library's resources have to be asked for, and only a function of no namespace can do so.
+static void takePictures()
+{
+    Q_INIT_RESOURCE(catalogue);
+}
+
 namespace {
 
 constexpr int pictureSize = 18; // pixels
@@ -35,10 +41,11 @@ protected:
 // The application's cache of pixmaps holds the two.
 QPixmap usePicture(bool isChecked, const QWidget& grid)
 {
-    const QString file = isChecked ? u":/icons/check_on.svg"_s : u":/icons/check_off.svg"_s;
+    const QString file = isChecked ? u":/catalogue/check_on.svg"_s : u":/catalogue/check_off.svg"_s;
     const QString key = u"CustomGrid%1@%2"_s.arg(file).arg(grid.devicePixelRatioF());
     QPixmap picture;
     if (!QPixmapCache::find(key, &picture)) {
+        takePictures();
         picture = QIcon(file).pixmap(QSize(pictureSize, pictureSize), grid.devicePixelRatioF());
         QPixmapCache::insert(key, picture);
     }

@@ -5,7 +5,7 @@
 #include "editors/PanelHost.h"
 #include "editors/TextArea.h"
 #include "editors/catalogue/ObjectOf.h"
-#include "editors/design/BrowseImageControl.h"
+#include "editors/design/pickers/BrowseImageControl.h"
 #include "model/ProductClass.h"
 
 #include <QCheckBox>

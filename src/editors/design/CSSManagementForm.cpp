@@ -2,8 +2,8 @@
 
 #include "design/CSSClass.h"
 #include "editors/PanelHost.h"
-#include "editors/design/DialogButtons.h"
 #include "editors/design/FontAndColorEditorPanel.h"
+#include "editors/design/pickers/DialogButtons.h"
 #include "model/ShopSession.h"
 
 #include <QVBoxLayout>

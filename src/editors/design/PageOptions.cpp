@@ -7,8 +7,8 @@
 #include "editors/design/ColourText.h"
 #include "editors/design/ColumnGrid.h"
 #include "editors/design/frmSelectImageOrText.h"
-#include "editors/design/frmSelectedCustomPages.h"
-#include "editors/design/ucSelectCustPage.h"
+#include "editors/design/pickers/frmSelectedCustomPages.h"
+#include "editors/design/pickers/ucSelectCustPage.h"
 #include "model/ShopSession.h"
 
 #include <QCheckBox>

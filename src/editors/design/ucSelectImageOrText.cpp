@@ -4,8 +4,8 @@
 #include "design/clsSelectedImage.h"
 #include "editors/PanelHost.h"
 #include "editors/design/CSSManagementForm.h"
-#include "editors/design/DialogButtons.h"
-#include "editors/design/PicturesList.h"
+#include "editors/design/pickers/DialogButtons.h"
+#include "editors/design/pickers/PicturesList.h"
 #include "model/ShopSession.h"
 
 #include <QCheckBox>

@@ -2,12 +2,12 @@
 #include "PanelTest.h"
 #include "base/RuntimeError.h"
 #include "editors/LinkLabel.h"
-#include "editors/design/BrowseImageControl.h"
-#include "editors/design/PictureBox.h"
-#include "editors/design/PicturePathSetting.h"
-#include "editors/design/PicturesList.h"
-#include "editors/design/frmSelectImage.h"
-#include "editors/design/ucSelectImage.h"
+#include "editors/design/pickers/BrowseImageControl.h"
+#include "editors/design/pickers/PictureBox.h"
+#include "editors/design/pickers/PicturePathSetting.h"
+#include "editors/design/pickers/PicturesList.h"
+#include "editors/design/pickers/frmSelectImage.h"
+#include "editors/design/pickers/ucSelectImage.h"
 
 #include <QApplication>
 #include <QDir>

@@ -337,6 +337,14 @@ TEST_F(RelatedPanel, ShowsTheWholeCatalogue)
     EXPECT_EQ(tea->children[1]->text, u"Sencha"_s);
 }
 
+TEST_F(RelatedPanel, ShowsAPictureAtEachNode)
+{
+    for (const char* key : {"ID_SHOP", "ID2", "PROD5"}) {
+        const QModelIndex index = nodes().indexOf(below(nodes().rootNode(), QLatin1String(key)));
+        EXPECT_FALSE(index.data(Qt::DecorationRole).value<QIcon>().pixmap(16).isNull()) << key;
+    }
+}
+
 TEST_F(RelatedPanel, TakesNoCategory)
 {
     move(u"ID3"_s);

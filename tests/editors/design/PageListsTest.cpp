@@ -1,7 +1,7 @@
 // The choice of custom pages for the menus and for the home page.
 #include "CustomPagesTest.h"
-#include "editors/design/frmSelectedCustomPages.h"
-#include "editors/design/ucSelectCustPage.h"
+#include "editors/design/pickers/frmSelectedCustomPages.h"
+#include "editors/design/pickers/ucSelectCustPage.h"
 
 #include <QGroupBox>
 #include <QLabel>

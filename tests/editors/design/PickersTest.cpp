@@ -2,9 +2,9 @@
 #include "DesignTest.h"
 #include "design/CSSClass.h"
 #include "editors/LinkLabel.h"
-#include "editors/design/BrowseButtonImageControl.h"
 #include "editors/design/FontAndColorEditorPanel.h"
-#include "editors/design/PictureBox.h"
+#include "editors/design/pickers/BrowseButtonImageControl.h"
+#include "editors/design/pickers/PictureBox.h"
 #include "editors/design/ucSelectImageOrText.h"
 
 #include <QDir>

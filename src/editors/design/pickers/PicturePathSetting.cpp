@@ -1,4 +1,4 @@
-#include "editors/design/PicturePathSetting.h"
+#include "editors/design/pickers/PicturePathSetting.h"
 
 #include <QSettings>
 

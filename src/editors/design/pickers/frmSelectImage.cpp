@@ -1,6 +1,6 @@
-#include "editors/design/frmSelectImage.h"
+#include "editors/design/pickers/frmSelectImage.h"
 
-#include "editors/design/ucSelectImage.h"
+#include "editors/design/pickers/ucSelectImage.h"
 
 #include <QVBoxLayout>
 

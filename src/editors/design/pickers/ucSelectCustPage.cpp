@@ -1,4 +1,4 @@
-#include "editors/design/ucSelectCustPage.h"
+#include "editors/design/pickers/ucSelectCustPage.h"
 
 #include "design/CustomPageClass.h"
 #include "design/clsSelectedCustomPages.h"

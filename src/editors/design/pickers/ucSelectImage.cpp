@@ -1,8 +1,8 @@
-#include "editors/design/ucSelectImage.h"
+#include "editors/design/pickers/ucSelectImage.h"
 
 #include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
-#include "editors/design/PicturesList.h"
+#include "editors/design/pickers/PicturesList.h"
 #include "model/ShopSession.h"
 
 #include <QVBoxLayout>

@@ -1,13 +1,13 @@
-#include "editors/design/BrowseImageControl.h"
+#include "editors/design/pickers/BrowseImageControl.h"
 
 #include "base/WholeNumbers.h"
 #include "editors/LinkLabel.h"
 #include "editors/NumericBox.h"
 #include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
-#include "editors/design/PictureBox.h"
-#include "editors/design/PicturesList.h"
-#include "editors/design/frmSelectImage.h"
+#include "editors/design/pickers/PictureBox.h"
+#include "editors/design/pickers/PicturesList.h"
+#include "editors/design/pickers/frmSelectImage.h"
 
 #include <QGridLayout>
 #include <QLabel>

@@ -1,9 +1,9 @@
-#include "editors/design/BrowseButtonImageControl.h"
+#include "editors/design/pickers/BrowseButtonImageControl.h"
 
 #include "editors/LinkLabel.h"
 #include "editors/PanelHost.h"
-#include "editors/design/PictureBox.h"
-#include "editors/design/PicturesList.h"
+#include "editors/design/pickers/PictureBox.h"
+#include "editors/design/pickers/PicturesList.h"
 #include "model/ShopSession.h"
 
 #include <QVBoxLayout>

@@ -1,4 +1,4 @@
-#include "editors/design/DialogButtons.h"
+#include "editors/design/pickers/DialogButtons.h"
 
 #include <QCoreApplication>
 

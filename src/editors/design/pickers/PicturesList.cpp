@@ -1,10 +1,10 @@
-#include "editors/design/PicturesList.h"
+#include "editors/design/pickers/PicturesList.h"
 
 #include "base/TextFile.h"
 #include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
-#include "editors/design/PictureBox.h"
-#include "editors/design/PicturePathSetting.h"
+#include "editors/design/pickers/PictureBox.h"
+#include "editors/design/pickers/PicturePathSetting.h"
 #include "model/ShopSession.h"
 
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "editors/design/PictureBox.h"
+#include "editors/design/pickers/PictureBox.h"
 
 #include "base/RuntimeError.h"
 

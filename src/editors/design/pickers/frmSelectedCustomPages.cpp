@@ -1,8 +1,8 @@
-#include "editors/design/frmSelectedCustomPages.h"
+#include "editors/design/pickers/frmSelectedCustomPages.h"
 
 #include "editors/PanelHost.h"
-#include "editors/design/DialogButtons.h"
-#include "editors/design/ucSelectCustPage.h"
+#include "editors/design/pickers/DialogButtons.h"
+#include "editors/design/pickers/ucSelectCustPage.h"
 
 #include <QVBoxLayout>
 
