@@ -13,8 +13,8 @@
 #include "PeerTemplate.h"
 #include "Ratios.h"
 #include "base/Clock.h"
-#include "pages/PreviewNavigation.h"
 #include "pages/RenderPage.h"
+#include "pages/preview/PreviewNavigation.h"
 
 #include <QCoreApplication>
 #include <QDir>

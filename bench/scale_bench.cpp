@@ -8,7 +8,7 @@
 #include "editors/Panel.h"
 #include "model/CategoryClass.h"
 #include "model/ProductClass.h"
-#include "pages/PreviewSurface.h"
+#include "pages/preview/PreviewSurface.h"
 #include "publish/dialog/PhpServer.h"
 #include "shell/CatalogueTree.h"
 #include "shell/MainForm.h"

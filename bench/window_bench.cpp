@@ -10,7 +10,7 @@
 #include "Ratios.h"
 #include "base/Clock.h"
 #include "editors/EditorIcon.h"
-#include "pages/PreviewSurface.h"
+#include "pages/preview/PreviewSurface.h"
 #include "shell/CatalogueTree.h"
 #include "shell/ImportIntoTree.h"
 #include "shell/MainForm.h"

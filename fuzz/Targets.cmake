@@ -3,7 +3,7 @@
 set(FUZZ_TARGETS import packed_file preview_url server_list shop_file template)
 set(FUZZ_LINKS_import tarnwick_model)
 set(FUZZ_LINKS_packed_file tarnwick_backup)
-set(FUZZ_LINKS_preview_url tarnwick_pages)
+set(FUZZ_LINKS_preview_url tarnwick_pages_preview)
 set(FUZZ_LINKS_server_list tarnwick_publish)
 set(FUZZ_LINKS_shop_file tarnwick_model)
 set(FUZZ_LINKS_template tarnwick_template_engine)

@@ -6,8 +6,8 @@
 // one with an action that succeeds shows a page; a parameter that is found is what a plain search finds.
 #include "FuzzTarget.h"
 #include "base/RuntimeError.h"
-#include "pages/PreviewNavigation.h"
-#include "pages/PreviewUrl.h"
+#include "pages/preview/PreviewNavigation.h"
+#include "pages/preview/PreviewUrl.h"
 
 #include <QLocale>
 #include <QString>

@@ -1,6 +1,5 @@
-#include "pages/CartPage.h"
-
 #include "base/Numbers.h"
+#include "pages/PageFillers.h"
 #include "pages/ProductRows.h"
 #include "pages/TemplateUtils.h"
 
@@ -137,7 +136,7 @@ VariableRows lineRows(const PageContext& context, Total& total)
 
 } // namespace
 
-void addCartPage(Variables& vars, const PageContext& context)
+void addCartPage(Variables& vars, const PageContext& context, const PageObject&)
 {
     addOptions(vars, context.design(), PageOptions);
     addSlotVariables(vars, context, ImageSlot::CartPage_Checkout_Button);

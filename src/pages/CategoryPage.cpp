@@ -1,5 +1,4 @@
-#include "pages/CategoryPage.h"
-
+#include "pages/PageFillers.h"
 #include "pages/ProductRows.h"
 #include "pages/TemplateUtils.h"
 
@@ -87,8 +86,9 @@ VariableRows productRows(const PageContext& context, const CategoryClass& catego
 
 } // namespace
 
-void addCategoryPage(Variables& vars, const PageContext& context, CategoryClass& category)
+void addCategoryPage(Variables& vars, const PageContext& context, const PageObject& object)
 {
+    auto& category = pageObjectAs<CategoryClass>(object);
     addOptions(vars, context.design(), PageOptions);
     // Products do not count.
     const bool isEmpty = category.categories.isEmpty();

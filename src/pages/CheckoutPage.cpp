@@ -1,5 +1,4 @@
-#include "pages/CheckoutPage.h"
-
+#include "pages/PageFillers.h"
 #include "pages/TemplateUtils.h"
 
 #include <utility>
@@ -70,7 +69,7 @@ void addRows(Variables& vars, QStringView key, VariableRows rows)
 
 } // namespace
 
-void addCheckoutPage(Variables& vars, const PageContext& context)
+void addCheckoutPage(Variables& vars, const PageContext& context, const PageObject&)
 {
     const ShopClass& shop = context.shop();
     addSlotVariables(vars, context, ImageSlot::BuyingFormMakeOrderButton);

@@ -1,10 +1,9 @@
-#include "pages/FooterPage.h"
-
+#include "pages/PageFillers.h"
 #include "pages/TemplateUtils.h"
 
 using enum DesignOption;
 
-void addFooterPage(Variables& vars, const PageContext& context)
+void addFooterPage(Variables& vars, const PageContext& context, const PageObject&)
 {
     const ShopDesignClass& design = context.design();
     vars.Add(u"COPYRIGHT_TEXT", design.Option(Footer_CopyrightText));

@@ -1,5 +1,4 @@
-#include "pages/HeaderPage.h"
-
+#include "pages/PageFillers.h"
 #include "pages/TemplateUtils.h"
 
 using enum DesignOption;
@@ -16,7 +15,7 @@ constexpr DesignOption Options[] = {
 
 } // namespace
 
-void addHeaderPage(Variables& vars, const PageContext& context)
+void addHeaderPage(Variables& vars, const PageContext& context, const PageObject&)
 {
     const ShopDesignClass& design = context.design();
     addSlotVariables(vars, context, ImageSlot::HeaderLogo);

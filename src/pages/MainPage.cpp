@@ -1,6 +1,5 @@
-#include "pages/MainPage.h"
-
 #include "model/CommonFunctions.h"
+#include "pages/PageFillers.h"
 #include "pages/TemplateUtils.h"
 
 #include <utility>
@@ -55,8 +54,9 @@ Variables categoryRow(const PageContext& context, CategoryClass& category, const
 
 } // namespace
 
-void addMainPage(Variables& vars, const PageContext& context, const ShopClass& shop)
+void addMainPage(Variables& vars, const PageContext& context, const PageObject& object)
 {
+    const auto& shop = pageObjectAs<ShopClass>(object);
     const ShopDesignClass& design = context.design();
     const ImageKeys imageKeys(u"MAINPAGE_IMAGE");
     VariableRows categories;

@@ -1,5 +1,4 @@
-#include "pages/MenuPage.h"
-
+#include "pages/PageFillers.h"
 #include "pages/TemplateUtils.h"
 
 #include <utility>
@@ -48,7 +47,7 @@ VariableRows cartRows(const PageContext& context)
 
 } // namespace
 
-void addMenuPage(Variables& vars, const PageContext& context)
+void addMenuPage(Variables& vars, const PageContext& context, const PageObject&)
 {
     const ShopDesignClass& design = context.design();
     vars.Add(u"categories", categoryRows(context));

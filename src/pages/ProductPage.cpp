@@ -1,5 +1,4 @@
-#include "pages/ProductPage.h"
-
+#include "pages/PageFillers.h"
 #include "pages/ProductRows.h"
 #include "pages/TemplateUtils.h"
 
@@ -43,8 +42,9 @@ constexpr SecondName SecondNames[] = {
 
 } // namespace
 
-void addProductPage(Variables& vars, const PageContext& context, ProductClass& product)
+void addProductPage(Variables& vars, const PageContext& context, const PageObject& object)
 {
+    auto& product = pageObjectAs<ProductClass>(object);
     const ShopDesignClass& design = context.design();
     clsSelectedImage& image = *product.selectedImage();
     const std::shared_ptr<clsPrice>& price = product.Price();

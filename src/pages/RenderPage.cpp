@@ -1,15 +1,6 @@
 #include "pages/RenderPage.h"
 
-#include "pages/CartPage.h"
-#include "pages/CategoryPage.h"
-#include "pages/CheckoutPage.h"
-#include "pages/FooterPage.h"
-#include "pages/HeaderPage.h"
-#include "pages/MainPage.h"
-#include "pages/MenuPage.h"
-#include "pages/OwnPage.h"
-#include "pages/ProductPage.h"
-#include "pages/SearchPage.h"
+#include "pages/PageFillers.h"
 #include "pages/TemplateUtils.h"
 
 namespace {
@@ -21,24 +12,10 @@ struct Page
 };
 
 constexpr Page Pages[] = {
-    {u"main", [](Variables& vars, const PageContext& context,
-                 const PageObject& object) { addMainPage(vars, context, pageObjectAs<ShopClass>(object)); }},
-    {u"menu", [](Variables& vars, const PageContext& context, const PageObject&) { addMenuPage(vars, context); }},
-    {u"category",
-     [](Variables& vars, const PageContext& context, const PageObject& object) {
-         addCategoryPage(vars, context, pageObjectAs<CategoryClass>(object));
-     }},
-    {u"product", [](Variables& vars, const PageContext& context,
-                    const PageObject& object) { addProductPage(vars, context, pageObjectAs<ProductClass>(object)); }},
-    {u"custompage", [](Variables& vars, const PageContext&,
-                       const PageObject& object) { addOwnPage(vars, pageObjectAs<CustomPageClass>(object)); }},
-    {u"footer", [](Variables& vars, const PageContext& context, const PageObject&) { addFooterPage(vars, context); }},
-    {u"header", [](Variables& vars, const PageContext& context, const PageObject&) { addHeaderPage(vars, context); }},
-    {u"search", [](Variables& vars, const PageContext& context,
-                   const PageObject& object) { addSearchPage(vars, context, pageObjectAs<SearchResults>(object)); }},
-    {u"cart", [](Variables& vars, const PageContext& context, const PageObject&) { addCartPage(vars, context); }},
-    {u"checkout",
-     [](Variables& vars, const PageContext& context, const PageObject&) { addCheckoutPage(vars, context); }},
+    {u"main", addMainPage},         {u"menu", addMenuPage},         {u"category", addCategoryPage},
+    {u"product", addProductPage},   {u"custompage", addCustomPage}, {u"footer", addFooterPage},
+    {u"header", addHeaderPage},     {u"search", addSearchPage},     {u"cart", addCartPage},
+    {u"checkout", addCheckoutPage},
 };
 
 } // namespace

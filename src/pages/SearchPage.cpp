@@ -1,5 +1,4 @@
-#include "pages/SearchPage.h"
-
+#include "pages/PageFillers.h"
 #include "pages/ProductRows.h"
 #include "pages/TemplateUtils.h"
 
@@ -55,8 +54,9 @@ VariableRows productRows(const PageContext& context, const SearchResults& result
 
 } // namespace
 
-void addSearchPage(Variables& vars, const PageContext& context, const SearchResults& results)
+void addSearchPage(Variables& vars, const PageContext& context, const PageObject& object)
 {
+    const auto& results = pageObjectAs<SearchResults>(object);
     vars.Add(u"products", productRows(context, results));
     vars.Add(u"SEARCH_WORD", results.word);
     vars.Add(u"HAS_ITEMS", results.products.empty() ? u"No"_s : u"Yes"_s);

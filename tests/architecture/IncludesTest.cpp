@@ -26,8 +26,8 @@ struct Include
 // stands by itself, whatever folder it lies in.
 const QMap<QString, QStringList>& allowedFolders()
 {
-    static const QStringList withoutWindows = {u"pages"_s,  u"publish"_s,         u"backup"_s, u"model"_s,
-                                               u"design"_s, u"template_engine"_s, u"base"_s};
+    static const QStringList withoutWindows = {u"pages/preview"_s, u"pages"_s,  u"publish"_s,         u"backup"_s,
+                                               u"model"_s,         u"design"_s, u"template_engine"_s, u"base"_s};
     static const QStringList allEditors = {u"editors/catalogue"_s, u"editors/design"_s, u"editors/design/pickers"_s,
                                            u"editors"_s};
     static const QMap<QString, QStringList> table = {
@@ -38,12 +38,13 @@ const QMap<QString, QStringList>& allowedFolders()
         {u"backup"_s, {u"base"_s}},
         {u"publish"_s, {u"base"_s}},
         {u"pages"_s, {u"model"_s, u"design"_s, u"template_engine"_s, u"base"_s}},
+        {u"pages/preview"_s, {u"pages"_s, u"model"_s, u"design"_s, u"template_engine"_s, u"base"_s}},
         {u"publish/dialog"_s, {u"publish"_s, u"base"_s}},
         {u"editors"_s, withoutWindows},
         {u"editors/design/pickers"_s, QStringList{u"editors"_s} + withoutWindows},
         {u"editors/design"_s, QStringList{u"editors/design/pickers"_s, u"editors"_s} + withoutWindows},
         {u"editors/catalogue"_s, QStringList{u"editors/design/pickers"_s, u"editors"_s} + withoutWindows},
-        {u"shell/browser"_s, {u"pages"_s, u"base"_s}},
+        {u"shell/browser"_s, {u"pages/preview"_s, u"base"_s}},
         {u"shell"_s, QStringList{u"shell/browser"_s, u"publish/dialog"_s} + allEditors + withoutWindows},
     };
     return table;

@@ -4,8 +4,8 @@
 
 #include "e2e/BrowserDriver.h"
 #include "model/ShopSession.h"
-#include "pages/PreviewNavigation.h"
-#include "pages/PreviewPage.h"
+#include "pages/preview/PreviewNavigation.h"
+#include "pages/preview/PreviewPage.h"
 #include "shell/browser/PreviewBrowser.h"
 #include "support/RecordingErrors.h"
 #include "support/TestSupport.h"

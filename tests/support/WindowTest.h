@@ -2,7 +2,7 @@
 // day that the test sets, and a preview that keeps the text it is given.
 #pragma once
 
-#include "pages/PreviewSurface.h"
+#include "pages/preview/PreviewSurface.h"
 #include "shell/MainForm.h"
 #include "shell/StartUp.h"
 #include "support/RecordingErrors.h"

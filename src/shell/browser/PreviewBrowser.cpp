@@ -1,6 +1,7 @@
 #include "shell/browser/PreviewBrowser.h"
 
-#include "pages/PreviewNavigation.h"
+#include "pages/preview/PreviewNavigation.h"
+#include "pages/preview/PreviewUrl.h"
 #include "shell/browser/DocumentScheme.h"
 #include "shell/browser/PreviewEnginePage.h"
 
@@ -24,10 +25,13 @@ class NoPseudoServer : public QWebEngineUrlRequestInterceptor
 public:
     void interceptRequest(QWebEngineUrlRequestInfo& request) override
     {
-        if (request.requestUrl().host() == "previewmode"_L1) {
+        if (request.requestUrl().host() == m_host) {
             request.block(true);
         }
     }
+
+private:
+    const QString m_host = serverHost();
 };
 
 } // namespace

@@ -4,7 +4,7 @@
 
 #include "base/ApplicationFolder.h"
 #include "base/Guarded.h"
-#include "pages/PreviewSurface.h"
+#include "pages/preview/PreviewSurface.h"
 
 #include <QString>
 #include <QWidget>

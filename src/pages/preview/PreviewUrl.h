@@ -4,6 +4,9 @@
 
 #include <QString>
 
+// The host of the pseudo-server that serverAddress names.
+QString serverHost();
+
 // The text behind the first key + "=", up to the next "&"; the default when the key is not there. The key is found
 // inside of longer keys, too ("id" in "product_id="): this is meant.
 QString GetUrlParam(const QString& text, const QString& key, const QString& defaultText);

@@ -1,4 +1,4 @@
-#include "pages/NavigationTest.h"
+#include "pages/preview/NavigationTest.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,4 @@
-#include "pages/ProductSearch.h"
+#include "pages/preview/ProductSearch.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 // Where the addresses of the preview lead, and what an address that leads nowhere does.
 #include "base/XmlFile.h"
-#include "pages/NavigationTest.h"
+#include "pages/preview/NavigationTest.h"
 
 using namespace Qt::StringLiterals;
 

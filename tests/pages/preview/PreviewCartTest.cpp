@@ -1,6 +1,6 @@
 // What the addresses of the preview do to the cart: adding, quantities, the recalculation of the checkout.
 #include "base/Numbers.h"
-#include "pages/NavigationTest.h"
+#include "pages/preview/NavigationTest.h"
 
 using namespace Qt::StringLiterals;
 

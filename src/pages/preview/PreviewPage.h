@@ -4,7 +4,7 @@
 
 #include "pages/PageContext.h"
 #include "pages/PageObject.h"
-#include "pages/PreviewSurface.h"
+#include "pages/preview/PreviewSurface.h"
 
 #include <QString>
 

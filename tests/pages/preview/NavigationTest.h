@@ -3,9 +3,9 @@
 #pragma once
 
 #include "pages/PagesTest.h"
-#include "pages/PreviewNavigation.h"
-#include "pages/PreviewPage.h"
-#include "pages/PreviewSurface.h"
+#include "pages/preview/PreviewNavigation.h"
+#include "pages/preview/PreviewPage.h"
+#include "pages/preview/PreviewSurface.h"
 
 class TextSurface : public PreviewSurface
 {

@@ -1,6 +1,15 @@
-#include "pages/PreviewUrl.h"
+#include "pages/preview/PreviewUrl.h"
+
+#include "pages/TemplateUtils.h"
+
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
+
+QString serverHost()
+{
+    return QUrl(serverAddress()).host();
+}
 
 QString GetUrlParam(const QString& text, const QString& key, const QString& defaultText)
 {

@@ -1,4 +1,4 @@
-#include "pages/PreviewUrl.h"
+#include "pages/preview/PreviewUrl.h"
 
 #include "support/TestSupport.h"
 

@@ -1,10 +1,10 @@
-#include "pages/PreviewNavigation.h"
+#include "pages/preview/PreviewNavigation.h"
 
 #include "base/Numbers.h"
 #include "model/CommonFunctions.h"
-#include "pages/PreviewUrl.h"
-#include "pages/ProductSearch.h"
 #include "pages/TemplateUtils.h"
+#include "pages/preview/PreviewUrl.h"
+#include "pages/preview/ProductSearch.h"
 
 #include <cmath>
 #include <limits>

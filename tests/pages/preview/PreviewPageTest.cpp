@@ -1,4 +1,4 @@
-#include "pages/PreviewPage.h"
+#include "pages/preview/PreviewPage.h"
 
 #include "pages/PagesTest.h"
 

@@ -1,8 +1,8 @@
 // The pages of the sample shop as HTML: each is rendered as the preview shows it, and a checker of HTML reads it.
 #include "design/DesignOptions.h"
 #include "model/ShopSession.h"
-#include "pages/PreviewNavigation.h"
-#include "pages/PreviewPage.h"
+#include "pages/preview/PreviewNavigation.h"
+#include "pages/preview/PreviewPage.h"
 #include "support/TestSupport.h"
 #include "template_engine/Templates_Set.h"
 

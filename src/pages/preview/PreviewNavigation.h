@@ -5,7 +5,7 @@
 
 #include "model/ShopSession.h"
 #include "pages/PageObject.h"
-#include "pages/PreviewPage.h"
+#include "pages/preview/PreviewPage.h"
 
 #include <QString>
 
