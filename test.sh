@@ -12,7 +12,7 @@ if [ "${1:-}" = --coverage ]; then
   need gcovr
 fi
 
-need "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${VIRTUAL_DISPLAY_PACKAGES[@]}"
+need "${BUILD_PACKAGES[@]}" clang "${RUN_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${VIRTUAL_DISPLAY_PACKAGES[@]}"
 cmake --preset "$preset" --log-level=WARNING
 cmake --build --preset "$preset"
 [ "$preset" != coverage ] || find build/coverage -name '*.gcda' -delete

@@ -23,9 +23,11 @@ endif()
 
 find_program(TARNWICK_CCACHE ccache)
 
-# With precompiled headers the compiler cache stores a result only when it is told what not to look at.
+# With precompiled headers the compiler cache stores a result only when it is told what not to look at. It knows a large
+# file again by its date, and takes what a source includes from the compiler instead of preprocessing it first.
 if(TARNWICK_CCACHE)
-  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros ${TARNWICK_CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env
+    CCACHE_SLOPPINESS=pch_defines,time_macros CCACHE_INODECACHE=1 CCACHE_DEPEND=1 ${TARNWICK_CCACHE})
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
   set(TARNWICK_PCH_OPTIONS -Xclang -fno-pch-timestamp)
