@@ -17,6 +17,8 @@ public:
     // A box with one button.
     virtual void showMessage(const QString& title, const QString& text, PromptIcon icon) = 0;
     virtual bool askYesNo(const QString& title, const QString& text) = 0;
+    // The same where Yes does harm: Return alone answers No.
+    virtual bool askYesNoWithDefaultNo(const QString& title, const QString& text) { return askYesNo(title, text); }
     virtual PromptAnswer askYesNoCancel(const QString& title, const QString& text) = 0;
     // One line of text; nothing on Cancel.
     virtual std::optional<QString> askText(const QString& title, const QString& prompt) = 0;

@@ -24,9 +24,11 @@ QMessageBox::Icon boxIcon(PromptIcon icon)
 
 // Texts come from the shop and from files too, so no box reads them as markup.
 QMessageBox::StandardButton runBox(QWidget* window, QMessageBox::Icon icon, const QString& title, const QString& text,
-                                   QMessageBox::StandardButtons buttons)
+                                   QMessageBox::StandardButtons buttons,
+                                   QMessageBox::StandardButton defaultButton = QMessageBox::NoButton)
 {
     QMessageBox box(icon, title, text, buttons, window);
+    box.setDefaultButton(defaultButton);
     box.setTextFormat(Qt::PlainText);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
@@ -40,7 +42,14 @@ void DialogPrompts::showMessage(const QString& title, const QString& text, Promp
 
 bool DialogPrompts::askYesNo(const QString& title, const QString& text)
 {
-    return runBox(m_window, QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+    return runBox(m_window, QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) ==
+           QMessageBox::Yes;
+}
+
+bool DialogPrompts::askYesNoWithDefaultNo(const QString& title, const QString& text)
+{
+    return runBox(m_window, QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
+           QMessageBox::Yes;
 }
 
 PromptAnswer DialogPrompts::askYesNoCancel(const QString& title, const QString& text)

@@ -13,6 +13,7 @@ public:
 
     void showMessage(const QString& title, const QString& text, PromptIcon icon) override;
     bool askYesNo(const QString& title, const QString& text) override;
+    bool askYesNoWithDefaultNo(const QString& title, const QString& text) override;
     PromptAnswer askYesNoCancel(const QString& title, const QString& text) override;
     std::optional<QString> askText(const QString& title, const QString& prompt) override;
     QString chooseFile(const QString& folder, const QString& filter) override;

@@ -68,6 +68,17 @@ void RecordingPrompts::answerYesNo(const QString& title, const QString& text, bo
         {u"yes-no"_s, title, text, PromptIcon::None, answer ? PromptAnswer::Yes : PromptAnswer::No, {}, {}});
 }
 
+void RecordingPrompts::answerDefaultNo(const QString& title, const QString& text, bool answer)
+{
+    m_expected.push_back({u"yes-no, default no"_s,
+                          title,
+                          text,
+                          PromptIcon::None,
+                          answer ? PromptAnswer::Yes : PromptAnswer::No,
+                          {},
+                          {}});
+}
+
 void RecordingPrompts::answerYesNoCancel(const QString& title, const QString& text, PromptAnswer answer)
 {
     m_expected.push_back({u"yes-no-cancel"_s, title, text, PromptIcon::None, answer, {}, {}});
@@ -111,6 +122,11 @@ void RecordingPrompts::showMessage(const QString& title, const QString& text, Pr
 bool RecordingPrompts::askYesNo(const QString& title, const QString& text)
 {
     return next(u"yes-no"_s, title, text).answer == PromptAnswer::Yes;
+}
+
+bool RecordingPrompts::askYesNoWithDefaultNo(const QString& title, const QString& text)
+{
+    return next(u"yes-no, default no"_s, title, text).answer == PromptAnswer::Yes;
 }
 
 PromptAnswer RecordingPrompts::askYesNoCancel(const QString& title, const QString& text)

@@ -67,6 +67,8 @@ public:
     // What will be asked or shown next, in order.
     void expectMessage(const QString& title, const QString& text, PromptIcon icon = PromptIcon::None);
     void answerYesNo(const QString& title, const QString& text, bool answer);
+    // A question whose default is No.
+    void answerDefaultNo(const QString& title, const QString& text, bool answer);
     void answerYesNoCancel(const QString& title, const QString& text, PromptAnswer answer);
     void answerText(const QString& title, const QString& prompt, const std::optional<QString>& answer);
     void answerFile(const QString& answer);
@@ -77,6 +79,7 @@ public:
 
     void showMessage(const QString& title, const QString& text, PromptIcon icon) override;
     bool askYesNo(const QString& title, const QString& text) override;
+    bool askYesNoWithDefaultNo(const QString& title, const QString& text) override;
     PromptAnswer askYesNoCancel(const QString& title, const QString& text) override;
     std::optional<QString> askText(const QString& title, const QString& prompt) override;
     QString chooseFile(const QString& folder, const QString& filter) override;
