@@ -5,7 +5,6 @@
 #include "shell/browser/DocumentScheme.h"
 #include "shell/browser/PreviewEnginePage.h"
 
-#include <QMetaObject>
 #include <QVBoxLayout>
 #include <QWebEngineHistory>
 #include <QWebEngineProfile>
@@ -13,11 +12,15 @@
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 
+#include <csignal>
 #include <unistd.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr qint64 PatienceInMilliseconds = 5000;
 
 // The pseudo-server does not exist, and what a page embeds from it is not announced as a navigation.
 class NoPseudoServer : public QWebEngineUrlRequestInterceptor
@@ -52,13 +55,16 @@ PreviewBrowser::PreviewBrowser(const ApplicationFolder& folder, FatalErrorHandle
       m_interceptor(std::make_unique<NoPseudoServer>()),
       m_profile(std::make_unique<QWebEngineProfile>()),
       m_page(std::make_unique<PreviewEnginePage>(m_profile.get(),
-                                                 [this](const QString& url) { return beforeNavigate(url); })),
+                                                 NavigationRules{[this](const QString& url) { return judge(url); },
+                                                                 [this](const QString& url) { act(url); }})),
       m_view(new QWebEngineView(this))
 {
     setObjectName(u"PreviewBrowser"_s);
     m_profile->installUrlSchemeHandler(DocumentScheme::name(), m_scheme.get());
     m_profile->setUrlRequestInterceptor(m_interceptor.get());
+    connect(m_page.get(), &PreviewEnginePage::documentBegun, this, [this] { m_asked.invalidate(); });
     connect(m_page.get(), &QWebEnginePage::loadFinished, this, &PreviewBrowser::forgetWayBack);
+    connect(m_page.get(), &QWebEnginePage::renderProcessTerminated, this, &PreviewBrowser::processEnded);
 
     m_view->setPage(m_page.get());
     m_view->setContextMenuPolicy(Qt::NoContextMenu);
@@ -90,29 +96,47 @@ QWebEnginePage* PreviewBrowser::page() const
     return m_page.get();
 }
 
-// Called from within the engine, which waits for the answer: the action must not run before that.
-bool PreviewBrowser::beforeNavigate(const QString& url)
+NavigationDecision PreviewBrowser::judge(const QString& url) const
 {
-    if (m_navigation == nullptr) {
-        return false;
-    }
-    const NavigationDecision decision = guarded(m_errors, [&] { return PreviewNavigation::judge(url); });
-    if (decision.hasAction) {
-        const auto act = [this, url] {
-            if (m_navigation != nullptr) {
-                guarded(m_errors, [&] { m_navigation->act(url); });
-            }
-        };
-        QMetaObject::invokeMethod(this, act, Qt::QueuedConnection);
-    }
-    return decision.cancel;
+    return m_navigation != nullptr ? PreviewNavigation::judge(url) : NavigationDecision{};
 }
 
+void PreviewBrowser::act(const QString& url)
+{
+    if (m_navigation != nullptr) {
+        guarded(m_errors, [&] { m_navigation->act(url); });
+    }
+}
+
+// A page whose script never returns lets no other document in. Who asks for one gets it when he asks again later: then
+// the page has had its time, and its process is ended.
 void PreviewBrowser::showDocument()
 {
+    if (m_asked.isValid() && m_asked.hasExpired(PatienceInMilliseconds) && endProcess()) {
+        m_isEnding = true;
+        return;
+    }
+    if (!m_asked.isValid()) {
+        m_asked.start();
+    }
+    m_page->expectNewDocument();
     // A picture that was replaced on the disk would stay the old one.
     m_profile->clearHttpCache();
     m_page->load(DocumentScheme::documentUrl());
+}
+
+bool PreviewBrowser::endProcess() const
+{
+    const auto process = static_cast<pid_t>(m_page->renderProcessPid());
+    return process > 0 && ::kill(process, SIGKILL) == 0;
+}
+
+void PreviewBrowser::processEnded()
+{
+    m_asked.invalidate();
+    if (std::exchange(m_isEnding, false)) {
+        showDocument();
+    }
 }
 
 // From the document Back must not lead to the empty page that was there before it. Where a visitor went from here by a

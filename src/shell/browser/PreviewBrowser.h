@@ -6,6 +6,7 @@
 #include "base/Guarded.h"
 #include "pages/preview/PreviewSurface.h"
 
+#include <QElapsedTimer>
 #include <QString>
 #include <QWidget>
 
@@ -14,6 +15,7 @@
 class DocumentScheme;
 class PreviewEnginePage;
 class PreviewNavigation;
+struct NavigationDecision;
 class QWebEnginePage;
 class QWebEngineProfile;
 class QWebEngineUrlRequestInterceptor;
@@ -44,9 +46,12 @@ public:
     QWebEnginePage* page() const;
 
 private:
-    bool beforeNavigate(const QString& url);
+    NavigationDecision judge(const QString& url) const;
+    void act(const QString& url);
     void showDocument();
+    bool endProcess() const;
     void forgetWayBack();
+    void processEnded();
 
     FatalErrorHandler& m_errors;
     PreviewNavigation* m_navigation = nullptr;
@@ -55,5 +60,7 @@ private:
     std::unique_ptr<QWebEngineUrlRequestInterceptor> m_interceptor;
     std::unique_ptr<QWebEngineProfile> m_profile;
     std::unique_ptr<PreviewEnginePage> m_page;
+    QElapsedTimer m_asked;   // since when the engine owes a document; not running when it owes none
+    bool m_isEnding = false; // the page's process, which hangs; the document is shown then
     QWebEngineView* m_view;
 };
