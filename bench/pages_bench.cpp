@@ -13,6 +13,7 @@
 #include "PeerTemplate.h"
 #include "Ratios.h"
 #include "base/Clock.h"
+#include "model/shop_file/ShopFile.h"
 #include "pages/RenderPage.h"
 #include "pages/preview/PreviewNavigation.h"
 
@@ -55,7 +56,7 @@ public:
         for (const QString& picture : QDir(sample.filePath(u"pictures"_s)).entryList(QDir::Files)) {
             QFile::copy(sample.filePath(u"pictures/"_s + picture), session.folder.picturesFolder() + picture);
         }
-        if (!session.loadShop()) {
+        if (!loadShop(session)) {
             giveUp("The sample shop cannot be read");
         }
         session.registerShop();

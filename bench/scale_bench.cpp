@@ -8,6 +8,7 @@
 #include "editors/Panel.h"
 #include "model/CategoryClass.h"
 #include "model/ProductClass.h"
+#include "model/shop_file/ShopFile.h"
 #include "pages/preview/PreviewSurface.h"
 #include "publish/dialog/PhpServer.h"
 #include "shell/CatalogueTree.h"
@@ -170,7 +171,7 @@ void makeShop(const ApplicationFolder& folder)
             }
         }
     }
-    session.writeShopFile();
+    writeShopFile(session);
 }
 
 QByteArray importText()

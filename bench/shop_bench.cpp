@@ -14,6 +14,7 @@
 #include "base/Clock.h"
 #include "base/TextFile.h"
 #include "model/ShopSession.h"
+#include "model/shop_file/ShopFile.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -74,11 +75,11 @@ Sample sampleOurs(ShopSession& session)
     Sample sample;
     const double before = peakKilobytes();
     sample.read = secondsOf([&] {
-        session.loadShop();
+        loadShop(session);
         session.registerShop();
     });
     sample.memory = peakKilobytes() - before;
-    sample.write = secondsOf([&] { session.writeShopFile(); });
+    sample.write = secondsOf([&] { writeShopFile(session); });
     return sample;
 }
 
@@ -148,7 +149,7 @@ void print(const char* name, const Sample& sample)
 Result measure(ShopSession& session, int products, int rounds)
 {
     fillShop(session, products);
-    session.writeShopFile();
+    writeShopFile(session);
     session.shop.reset();
     std::vector<Sample> ours;
     std::vector<Sample> plain;

@@ -8,6 +8,7 @@
 #include "NoPrompts.h"
 #include "base/Clock.h"
 #include "base/TextFile.h"
+#include "model/shop_file/ShopFile.h"
 #include "shell/BrowserPreview.h"
 #include "shell/MainForm.h"
 #include "shell/StartUp.h"
@@ -114,7 +115,7 @@ int load(int argc, char** argv)
     ShopSession session(ApplicationFolder(QString::fromLocal8Bit(argv[2])), prompts, clock);
     QElapsedTimer time;
     time.start();
-    session.loadShop();
+    loadShop(session);
     session.registerShop();
     std::printf("%.9f\n", static_cast<double>(time.nsecsElapsed()) * 1e-9);
     return 0;
@@ -153,7 +154,7 @@ void makeShop(const ApplicationFolder& folder)
     const SystemClock clock;
     ShopSession session(folder, prompts, clock);
     fillShop(session, products);
-    session.writeShopFile();
+    writeShopFile(session);
 }
 
 struct Answer

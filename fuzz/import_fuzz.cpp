@@ -8,10 +8,10 @@
 #include "FuzzTarget.h"
 #include "base/RuntimeError.h"
 #include "base/TextFile.h"
-#include "base/XMLUtils.h"
 #include "base/XmlFile.h"
 #include "model/ShopSession.h"
 #include "model/clsImporter.h"
+#include "model/shop_file/ShopFile.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -227,12 +227,11 @@ private:
 
 // The checks ----------------------------------------------------------------------------------------------------------
 
-void readShop(ShopSession& session, const QByteArray& bytes)
+void readBytes(ShopSession& session, const QByteArray& bytes)
 {
     XmlFile file;
     file.parse(bytes);
-    session.shop = std::make_shared<ShopClass>(session.services);
-    session.shop->FromXML(firstDescendant(file.document(), "Shop"));
+    readShop(session, file);
     session.registerShop();
 }
 
@@ -276,7 +275,7 @@ void checkSaving(ShopSession& session, Nodes nodes)
         node.name = asSaved(node.name);
         node.description = asSaved(node.description);
     }
-    readShop(session, session.shop->fileBytes());
+    readBytes(session, shopFileBytes(*session.shop));
     promise(nodesOf(*session.shop) == nodes, "what was imported saves and reads again");
 }
 
@@ -293,7 +292,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const SystemClock clock;
     ShopSession session(ApplicationFolder(directory.path()), prompts, clock);
     session.log.reset();
-    readShop(session, smallShop);
+    readBytes(session, smallShop);
 
     Nodes expected = nodesOf(*session.shop);
     const int error = PlainImport(expected).run(plainLines(decodeText(bytes).text));

@@ -5,9 +5,9 @@
 // on the bytes stay the same.
 #include "FuzzTarget.h"
 #include "base/RuntimeError.h"
-#include "base/XMLUtils.h"
 #include "base/XmlFile.h"
 #include "model/ShopSession.h"
+#include "model/shop_file/ShopFile.h"
 
 #include <QByteArray>
 #include <QTemporaryDir>
@@ -52,17 +52,11 @@ bool isOneOf(const Errors& errors, ErrorNumber number)
 }
 
 // Reads a shop into the session; false when the file has none. Errors as they come.
-bool readShop(ShopSession& session, const QByteArray& bytes)
+bool readBytes(ShopSession& session, const QByteArray& bytes)
 {
     XmlFile file;
     file.parse(bytes);
-    const pugi::xml_node element = firstDescendant(file.document(), "Shop");
-    if (!element) {
-        return false;
-    }
-    session.shop = std::make_shared<ShopClass>(session.services);
-    session.shop->FromXML(element);
-    return true;
+    return readShop(session, file);
 }
 
 // Saves and reads again; the bytes, or nothing when that was not possible for a reason that is allowed.
@@ -70,13 +64,13 @@ std::optional<QByteArray> savedAndRead(ShopSession& session)
 {
     QByteArray bytes;
     try {
-        bytes = session.shop->fileBytes();
+        bytes = shopFileBytes(*session.shop);
     } catch (const RuntimeError& error) {
         promise(isOneOf(saveErrors, error.number()), "saving fails for a picture only");
         return std::nullopt;
     }
     try {
-        promise(readShop(session, bytes), "a saved file has a shop");
+        promise(readBytes(session, bytes), "a saved file has a shop");
     } catch (const RuntimeError& error) {
         promise(error.number() == ErrorNumber::DuplicateKey, "a saved shop reads again");
         return std::nullopt;
@@ -87,7 +81,7 @@ std::optional<QByteArray> savedAndRead(ShopSession& session)
 void readAndSave(ShopSession& session, const QByteArray& bytes)
 {
     try {
-        if (!readShop(session, bytes)) {
+        if (!readBytes(session, bytes)) {
             return;
         }
     } catch (const RuntimeError& error) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/KeyedCollection.h"
+#include "base/XmlNode.h"
 #include "design/clsSelectedImage.h"
 #include "model/ModelServices.h"
 #include "model/ProductClass.h"
@@ -11,7 +12,8 @@
 #include <QStringList>
 
 #include <memory>
-#include <pugixml.hpp>
+
+struct ShopReading;
 
 // Categories nested deeper than this do not load, and cannot be made.
 inline constexpr int MaximumCategoryLevel = 500;
@@ -47,8 +49,9 @@ public:
 
     // The element is a "Category" element; ToXML is given an empty one. An empty id takes the next one of the shop. The
     // caller adds the category to its parent afterwards, under the id that was read. Error 28 when it lies too deep,
-    // 457 when an id stands twice in one parent.
-    void FromXML(const pugi::xml_node& element, ShopClass& owner, const std::shared_ptr<CategoryClass>& parent);
+    // 457 when an id stands twice in one parent. Both are the work of model/shop_file.
+    void FromXML(const pugi::xml_node& element, ShopClass& owner, const std::shared_ptr<CategoryClass>& parent,
+                 ShopReading& reading);
     void ToXML(pugi::xml_node element);
 
     // Finds or makes the categories of the path in fields[2] and adds a product named fields[0] with the description
@@ -61,7 +64,6 @@ public:
 private:
     friend class ShopClass;
 
-    void readChildren(const pugi::xml_node& element, ShopClass& owner);
     // Makes a product of the first two fields in this category.
     void AddImportedProduct(QStringList& fields);
 

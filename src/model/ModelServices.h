@@ -14,10 +14,9 @@ class CategoryClass;
 class ObjectsCollection;
 class ProductClass;
 class ShopClass;
-struct ProductReading;
 
-// Calls that run up. A new session has simple ones (write the file, enter the node in ObjectsCollection); the main
-// window puts its own in their place, which do the same and show it.
+// Calls that run up. Those of a new session enter the node in ObjectsCollection, and the reading of the shop file sees
+// to it that there is one that saves; the main window puts its own in their place, which do the same and show it.
 struct SessionCallbacks
 {
     // Writes the shop to its file.
@@ -39,9 +38,6 @@ struct ModelServices
     const SessionCallbacks& callbacks;
     // The open shop; none before the first load.
     const std::shared_ptr<ShopClass>& shop;
-    // The version that the shop file bore, set when it is read.
-    QString& LoadedShopVersion;
-    ProductReading& reading;
 };
 
 // The open shop. Error 91 when there is none.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/KeyedCollection.h"
+#include "base/XmlNode.h"
 #include "design/clsSelectedImage.h"
 #include "model/ModelServices.h"
 #include "model/clsPrice.h"
@@ -11,7 +12,8 @@
 #include <QStringList>
 
 #include <memory>
-#include <pugixml.hpp>
+
+struct ShopReading;
 
 using TextCollection = KeyedCollection<QString>;
 
@@ -61,8 +63,10 @@ public:
     std::shared_ptr<ProductClass> CreateClone();
 
     // The element is a "Product" element; ToXML is given an empty one. An empty id takes the next one of the shop. The
-    // caller adds the product to its category afterwards, under the id that was read.
-    void FromXML(const pugi::xml_node& element, ShopClass& owner, const std::shared_ptr<CategoryClass>& parent);
+    // caller adds the product to its category afterwards, under the id that was read. Both are the work of
+    // model/shop_file.
+    void FromXML(const pugi::xml_node& element, ShopClass& owner, const std::shared_ptr<CategoryClass>& parent,
+                 ShopReading& reading);
     void ToXML(pugi::xml_node element);
 
     const ModelServices& services() const { return *m_services; }

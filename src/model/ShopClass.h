@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/KeyedCollection.h"
+#include "base/XmlNode.h"
 #include "design/CSSClass.h"
 #include "design/CustomPageClass.h"
 #include "design/ShopDesignClass.h"
@@ -13,13 +14,13 @@
 #include "model/clsDiscount.h"
 #include "model/clsTax.h"
 
-#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
 #include <memory>
-#include <pugixml.hpp>
 #include <vector>
+
+struct ShopReading;
 
 class ShopClass
 {
@@ -61,12 +62,10 @@ public:
     qint32 GetProductCount() const;
 
     // The element is the "Shop" element; ToXML is given an empty one. Reading a file of another version asks for a save
-    // at its end. The first error ends the reading and nothing read so far is undone.
-    void FromXML(const pugi::xml_node& element);
+    // at its end. The first error ends the reading and nothing read so far is undone. Both are the work of
+    // model/shop_file, which also reads and writes the whole file.
+    void FromXML(const pugi::xml_node& element, ShopReading& reading);
     void ToXML(pugi::xml_node element);
-    // The bytes of the whole shop file, as ToXML fills the element. Each root category is turned into bytes by itself,
-    // so that a large shop needs no document of its whole size. Error 91 when no shop was read.
-    QByteArray fileBytes();
 
     // As CategoryClass::ImportCategory, from the root.
     void ImportCategory(QStringList& fields);
@@ -78,11 +77,6 @@ public:
     const ModelServices& services() const { return *m_services; }
 
 private:
-    void readCategories(const pugi::xml_node& element);
-    void readStylesAndPages(const pugi::xml_node& element);
-    void writeHead(const pugi::xml_node& element) const;
-    void writeTail(const pugi::xml_node& element) const;
-
     const ModelServices* m_services;
     std::shared_ptr<clsDiscount> m_discount;
     std::vector<std::shared_ptr<CategoryClass>> m_removed;

@@ -1,12 +1,7 @@
 #include "model/ShopSession.h"
 
 #include "base/DelimitedFields.h"
-#include "base/LargePages.h"
 #include "base/TextFile.h"
-#include "base/XMLUtils.h"
-#include "base/XmlFile.h"
-
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -16,9 +11,8 @@ ShopSession::ShopSession(const ApplicationFolder& applicationFolder, UserPrompts
       prompts(userPrompts),
       clock(today),
       designServices{log, prompts, folder},
-      services{designServices, clock, objects, callbacks, shop, LoadedShopVersion, reading}
+      services{designServices, clock, objects, callbacks, shop}
 {
-    callbacks.SaveShop = [this] { writeShopFile(); };
     callbacks.AddCategoryToTheTree = [this](const std::shared_ptr<CategoryClass>&,
                                             const std::shared_ptr<CategoryClass>& category) {
         registerCategory(category);
@@ -34,29 +28,6 @@ bool ShopSession::LoadCountries()
         CountriesCollection.Add(country, country);
     }
     return true;
-}
-
-bool ShopSession::loadShop()
-{
-    log.WriteLoadLog(u"Start shop creating"_s);
-    // The document and the objects made of it take about four times the room of the file.
-    const LargePagesOnHeap heap(4 * QFileInfo(folder.shopFile()).size());
-    XmlFile file;
-    file.load(folder.shopFile());
-    shop = std::make_shared<ShopClass>(services);
-    const pugi::xml_node element = firstDescendant(file.document(), "Shop");
-    if (!element) {
-        prompts.showMessage(applicationTitle(), u"Error in the configuration XML file. No 'Shop' node."_s,
-                            PromptIcon::None);
-        return false;
-    }
-    shop->FromXML(element);
-    return true;
-}
-
-void ShopSession::writeShopFile()
-{
-    writeFileBytes(folder.shopFile(), currentShop(services).fileBytes());
 }
 
 namespace {

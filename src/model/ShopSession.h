@@ -12,7 +12,6 @@
 #include "design/DesignServices.h"
 #include "model/ModelServices.h"
 #include "model/ObjectsCollection.h"
-#include "model/ProductReading.h"
 #include "model/ShopClass.h"
 #include "model/clsCart.h"
 
@@ -37,26 +36,16 @@ public:
     QString LoadedShopVersion;
     ObjectsCollection objects;
     SessionCallbacks callbacks;
-    ProductReading reading;
 
     // What every class of the model is handed; made of the members above and below.
     const DesignServices designServices;
     const ModelServices services;
 
-    std::shared_ptr<ShopClass> shop; // none until loadShop
+    std::shared_ptr<ShopClass> shop; // none until a shop file is read
     std::unique_ptr<clsCart> Cart;   // may be none
 
     // Reads countries.txt. Error 53 when it is missing, 457 when a country stands twice.
     bool LoadCountries();
-
-    // Makes the shop and fills it from the shop file. A file that is missing, malformed or without a "Shop" element
-    // shows a box and gives false; the shop is then empty and ObjectsCollection is not made. The first half of
-    // CreateShop.
-    bool loadShop();
-
-    // Writes the whole shop file. The text is complete in memory before the old file is touched: any error while it is
-    // made leaves the file as it was. Error 91 when no shop was loaded, others as for ToXML and writeFileBytes.
-    void writeShopFile();
 
     // Makes ObjectsCollection new and enters the shop and all nodes, each category before its contents, sub-categories
     // before products: the order of the tree. Error 457 when an id stands twice.

@@ -2,6 +2,7 @@
 
 #include "editors/Panel.h"
 #include "model/ShopClass.h"
+#include "model/shop_file/ShopFile.h"
 #include "shell/CatalogueTree.h"
 #include "shell/ContentRoom.h"
 #include "shell/PanelSet.h"
@@ -113,7 +114,7 @@ Panel* MainForm::panel(const char* name) const
 
 void MainForm::CreateShop()
 {
-    if (!m_session->loadShop()) {
+    if (!loadShop(*m_session)) {
         return;
     }
     AddShopToTheTree();
@@ -126,7 +127,7 @@ void MainForm::CreateShop()
 void MainForm::SaveShop()
 {
     m_parts->SaveProgressFrame->begin();
-    m_session->writeShopFile();
+    writeShopFile(*m_session);
     m_parts->SaveProgressFrame->finish();
 }
 

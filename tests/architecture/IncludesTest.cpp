@@ -26,8 +26,9 @@ struct Include
 // stands by itself, whatever folder it lies in.
 const QMap<QString, QStringList>& allowedFolders()
 {
-    static const QStringList withoutWindows = {u"pages/preview"_s, u"pages"_s,  u"publish"_s,         u"backup"_s,
-                                               u"model"_s,         u"design"_s, u"template_engine"_s, u"base"_s};
+    static const QStringList withoutWindows = {u"pages/preview"_s, u"pages"_s,           u"publish"_s,
+                                               u"backup"_s,        u"model/shop_file"_s, u"model"_s,
+                                               u"design"_s,        u"template_engine"_s, u"base"_s};
     static const QStringList allEditors = {u"editors/catalogue"_s, u"editors/design"_s, u"editors/design/pickers"_s,
                                            u"editors"_s};
     static const QMap<QString, QStringList> table = {
@@ -35,6 +36,7 @@ const QMap<QString, QStringList>& allowedFolders()
         {u"template_engine"_s, {u"base"_s}},
         {u"design"_s, {u"base"_s}},
         {u"model"_s, {u"design"_s, u"base"_s}},
+        {u"model/shop_file"_s, {u"model"_s, u"design"_s, u"base"_s}},
         {u"backup"_s, {u"base"_s}},
         {u"publish"_s, {u"base"_s}},
         {u"pages"_s, {u"model"_s, u"design"_s, u"template_engine"_s, u"base"_s}},

@@ -1,5 +1,7 @@
 #include "e2e/BrowserTest.h"
 
+#include "model/shop_file/ShopFile.h"
+
 #include <QDirIterator>
 #include <QFile>
 
@@ -20,7 +22,7 @@ void BrowserTest::openSampleShop()
         ASSERT_TRUE(QFile::copy(file, files.path(file.mid(sample.size())))) << file.toStdString();
     }
     session = std::make_unique<ShopSession>(files.folder(), prompts, clock);
-    ASSERT_TRUE(session->loadShop());
+    ASSERT_TRUE(loadShop(*session));
     openPreview();
 }
 

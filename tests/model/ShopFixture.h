@@ -7,6 +7,7 @@
 #include "model/ProductClass.h"
 #include "model/ShopClass.h"
 #include "model/ShopSession.h"
+#include "model/shop_file/ShopFile.h"
 #include "support/TestSupport.h"
 
 #include <QDate>
@@ -36,13 +37,13 @@ protected:
     int load(const QByteArray& xml)
     {
         WriteFile(session.folder.shopFile(), xml);
-        return errorOf([this] { session.loadShop(); });
+        return errorOf([this] { loadShop(session); });
     }
 
     // Saves the shop and gives the bytes of the file.
     QByteArray saved()
     {
-        session.writeShopFile();
+        writeShopFile(session);
         return fileBytes(session.folder.shopFile());
     }
 

@@ -50,7 +50,7 @@ TEST_F(Sessions, TwoSessionsDoNotKnowOfEachOther)
     ShopSession other(otherFolder.folder(), prompts, clock);
     WriteFile(other.folder.shopFile(), shopFile("", "1.2.0"));
     ASSERT_EQ(load(shopFile(category("2", ""))), 0);
-    other.loadShop();
+    loadShop(other);
     EXPECT_EQ(other.shop->categories.Count(), 0);
     EXPECT_EQ(session.shop->categories.Count(), 1);
 }

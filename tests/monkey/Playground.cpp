@@ -1,8 +1,9 @@
 #include "Playground.h"
 
 #include "OddTexts.h"
-#include "model/RandomShop.h"
 #include "model/ShopSession.h"
+#include "model/shop_file/RandomShop.h"
+#include "model/shop_file/ShopFile.h"
 #include "support/TestSupport.h"
 
 #include <QDir>
@@ -21,7 +22,7 @@ void writeRandomShop(const ApplicationFolder& folder, unsigned seed)
     ShopSession session(folder, prompts, clock);
     session.shop = std::make_shared<ShopClass>(session.services);
     RandomShop(seed).fill(session);
-    session.writeShopFile();
+    writeShopFile(session);
 }
 
 } // namespace

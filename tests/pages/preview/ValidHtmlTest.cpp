@@ -1,6 +1,7 @@
 // The pages of the sample shop as HTML: each is rendered as the preview shows it, and a checker of HTML reads it.
 #include "design/DesignOptions.h"
 #include "model/ShopSession.h"
+#include "model/shop_file/ShopFile.h"
 #include "pages/preview/PreviewNavigation.h"
 #include "pages/preview/PreviewPage.h"
 #include "support/TestSupport.h"
@@ -61,7 +62,7 @@ protected:
             const QString file = entries.next();
             EXPECT_TRUE(QFile::copy(file, files.path(file.mid(sample.size())))) << file.toStdString();
         }
-        EXPECT_TRUE(session.loadShop());
+        EXPECT_TRUE(loadShop(session));
         session.Cart = std::make_unique<clsCart>(session.services);
         session.registerShop();
         templates.parseTemplates();

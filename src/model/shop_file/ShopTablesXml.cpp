@@ -1,11 +1,11 @@
-#include "model/ShopTablesXml.h"
+#include "model/shop_file/ShopTablesXml.h"
 
 #include "base/RuntimeError.h"
 #include "base/XMLUtils.h"
 #include "base/XmlReading.h"
-#include "model/CatalogueXml.h"
 #include "model/CommonFunctions.h"
 #include "model/ShopClass.h"
+#include "model/shop_file/CatalogueXml.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,9 +1,9 @@
 // What the reading of one product after another keeps between them: the walk over a product's elements and the texts
-// that many products share. The session owns one.
+// that many products share. A part of ShopReading.
 #pragma once
 
 #include "base/XmlReading.h"
-#include "model/TextPool.h"
+#include "model/shop_file/TextPool.h"
 
 #include <array>
 #include <cstddef>
@@ -36,7 +36,7 @@ enum Element : std::size_t {
     MPrice,
     Related,
     ProductTaxes,
-    ShopDesign, // no part of a product: see ProductReading
+    ShopDesign, // no part of a product: see ShopReading
     Count
 };
 inline constexpr std::array<const char*, Count> names = {
@@ -51,7 +51,4 @@ struct ProductReading
     FlatElements elements{inProduct::names};
     std::vector<FlatElements::Place> numbered;
     TextPool pool;
-    // Whether an element of the shop's design stands somewhere below a category. A file that is written here has it
-    // behind all categories; the shop need not search them for it when nothing was seen.
-    bool designSeenInCategory = false;
 };

@@ -1,5 +1,5 @@
 // Files that cannot be read, and saves that cannot be made.
-#include "ShopFixture.h"
+#include "model/ShopFixture.h"
 
 #include <QDir>
 #include <QFile>
@@ -23,7 +23,7 @@ TEST_F(ShopFileFailures, AFileWithoutAShopShowsTheOneBoxAndTheSessionGoesOn)
                                     QByteArray("<Shop/><Shop/>"), QByteArray("<Tarnwick><Shop/></Tarnwick>text")}) {
         WriteFile(session.folder.shopFile(), bytes);
         prompts.expectMessage(title, noShop, PromptIcon::None);
-        EXPECT_FALSE(session.loadShop()) << bytes.toStdString();
+        EXPECT_FALSE(loadShop(session)) << bytes.toStdString();
         EXPECT_NE(session.shop, nullptr);
         EXPECT_EQ(session.shop->SelectedCountries, nullptr);
         EXPECT_FALSE(session.objects.isCreated());
@@ -34,7 +34,7 @@ TEST_F(ShopFileFailures, AFileWithoutAShopShowsTheOneBoxAndTheSessionGoesOn)
 TEST_F(ShopFileFailures, AMissingFileIsLikeOneWithoutAShop)
 {
     prompts.expectMessage(title, noShop, PromptIcon::None);
-    EXPECT_FALSE(session.loadShop());
+    EXPECT_FALSE(loadShop(session));
     EXPECT_EQ(logLines(),
               (QStringList{u"Start shop creating"_s, u"Start shop design creating"_s, u"Shop class Initialized"_s}));
 }
@@ -134,14 +134,14 @@ TEST_F(ShopFileFailures, SavingAShopWhoseLoadFailedIsError91AndTheFileStays)
     const QByteArray file = "<Tarnwick/>";
     WriteFile(session.folder.shopFile(), file);
     prompts.expectMessage(title, noShop, PromptIcon::None);
-    session.loadShop();
-    EXPECT_EQ(errorOf([this] { session.writeShopFile(); }), 91);
+    loadShop(session);
+    EXPECT_EQ(errorOf([this] { writeShopFile(session); }), 91);
     EXPECT_EQ(fileBytes(session.folder.shopFile()), file);
 }
 
 TEST_F(ShopFileFailures, SavingWithoutAShopIsError91)
 {
-    EXPECT_EQ(errorOf([this] { session.writeShopFile(); }), 91);
+    EXPECT_EQ(errorOf([this] { writeShopFile(session); }), 91);
     EXPECT_FALSE(QFile::exists(session.folder.shopFile()));
 }
 
@@ -150,7 +150,7 @@ TEST_F(ShopFileFailures, APictureThatIsGoneLeavesTheOldFileWhole)
     const QByteArray file = shopFile(category("2", product("3", "<Picture>gone.png</Picture>")));
     ASSERT_EQ(load(file), 0);
     session.shop->name = u"changed"_s;
-    EXPECT_EQ(errorOf([this] { session.writeShopFile(); }), 53);
+    EXPECT_EQ(errorOf([this] { writeShopFile(session); }), 53);
     EXPECT_EQ(fileBytes(session.folder.shopFile()), file);
 }
 
@@ -159,7 +159,7 @@ TEST_F(ShopFileFailures, ADateThatIsNoDateStopsASaveAndLeavesTheOldFileWhole)
     const QByteArray file = shopFile("");
     ASSERT_EQ(load(file), 0);
     session.shop->Discount()->DateFrom = u"soon"_s;
-    EXPECT_EQ(errorOf([this] { session.writeShopFile(); }), 13);
+    EXPECT_EQ(errorOf([this] { writeShopFile(session); }), 13);
     EXPECT_EQ(fileBytes(session.folder.shopFile()), file);
 }
 
@@ -196,13 +196,13 @@ TEST_F(ShopFileFailures, NoRoomLeavesTheOldFileWhole)
     int error = 0;
     {
         const FileSizeLimit limit(64UL * 1024);
-        error = errorOf([this] { session.writeShopFile(); });
+        error = errorOf([this] { writeShopFile(session); });
     }
     EXPECT_TRUE(error == 61 || error == 57) << error;
     EXPECT_EQ(fileBytes(session.folder.shopFile()), file);
     EXPECT_EQ(QDir(session.folder.path()).entryList({u"shop*"_s}, QDir::Files), QStringList{u"shop.xml"_s});
     // With room again the same shop is saved.
-    session.writeShopFile();
+    writeShopFile(session);
     EXPECT_GT(fileBytes(session.folder.shopFile()).size(), 500'000);
 }
 
@@ -211,7 +211,7 @@ TEST_F(ShopFileFailures, AFolderThatIsGoneIsARunTimeError)
     ASSERT_EQ(load(shopFile("")), 0);
     QFile::remove(session.folder.shopFile());
     ASSERT_TRUE(QDir().mkpath(session.folder.shopFile() + u"/in the way"_s));
-    EXPECT_NE(errorOf([this] { session.writeShopFile(); }), 0);
+    EXPECT_NE(errorOf([this] { writeShopFile(session); }), 0);
 }
 
 } // namespace

@@ -4,14 +4,14 @@
 #include "base/RuntimeError.h"
 #include "base/XMLUtils.h"
 #include "base/XmlReading.h"
-#include "model/CatalogueXml.h"
 #include "model/CategoryClass.h"
 #include "model/CommonFunctions.h"
-#include "model/DiscountXml.h"
-#include "model/NodeImageXml.h"
 #include "model/ProductClass.h"
-#include "model/ProductReading.h"
 #include "model/ShopClass.h"
+#include "model/shop_file/CatalogueXml.h"
+#include "model/shop_file/DiscountXml.h"
+#include "model/shop_file/NodeImageXml.h"
+#include "model/shop_file/ShopReading.h"
 
 #include <array>
 
@@ -30,7 +30,6 @@ public:
     {
         elements().gather(element);
         elements().findFirst(0, m_found);
-        reading.designSeenInCategory = reading.designSeenInCategory || has(inProduct::ShopDesign);
     }
 
     bool has(inProduct::Element name) const { return m_found[name] != none; }
@@ -166,11 +165,12 @@ private:
 } // namespace
 
 void ProductClass::FromXML(const pugi::xml_node& element, ShopClass& owner,
-                           const std::shared_ptr<CategoryClass>& parent)
+                           const std::shared_ptr<CategoryClass>& parent, ShopReading& reading)
 {
     shop = &owner;
     category = parent;
-    const ProductElement read(element, m_services->reading);
+    const ProductElement read(element, reading.products);
+    reading.designSeenInCategory = reading.designSeenInCategory || read.has(inProduct::ShopDesign);
     id = read.text(inProduct::Id);
     if (id.isEmpty()) {
         id = owner.getNextProductId();
@@ -192,7 +192,7 @@ void ProductClass::FromXML(const pugi::xml_node& element, ShopClass& owner,
         read.readShipping(*this, owner);
     }
     read.readMultiPrices(price);
-    setRelatedIds(read.relatedIds(m_services->LoadedShopVersion));
+    setRelatedIds(read.relatedIds(reading.fileVersion));
     if (read.has(inProduct::ProductTaxes)) {
         read.readTaxes(*Taxes(), owner.Taxes.Count());
     }

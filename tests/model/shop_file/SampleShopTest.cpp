@@ -1,6 +1,6 @@
 // The shop that an installation carries.
-#include "ShopFixture.h"
 #include "model/CommonFunctions.h"
+#include "model/ShopFixture.h"
 
 #include <QDir>
 #include <QFile>
@@ -58,7 +58,7 @@ protected:
 
 TEST_F(SampleShop, ItLoadsAndItsTreeIsBuilt)
 {
-    ASSERT_TRUE(session.loadShop());
+    ASSERT_TRUE(loadShop(session));
     session.registerShop();
     EXPECT_EQ(session.LoadedShopVersion, u"1.2.0"_s);
     EXPECT_GE(session.shop->categories.Count(), 4);
@@ -69,8 +69,8 @@ TEST_F(SampleShop, ASaveKeepsEveryElementAndText)
 {
     const QStringList before = outline(fileBytes(session.folder.shopFile()));
     ASSERT_GT(before.size(), 500);
-    ASSERT_TRUE(session.loadShop());
-    session.writeShopFile();
+    ASSERT_TRUE(loadShop(session));
+    writeShopFile(session);
     const QStringList after = outline(fileBytes(session.folder.shopFile()));
     ASSERT_EQ(after.size(), before.size());
     for (qsizetype i = 0; i < before.size(); ++i) {
@@ -80,11 +80,11 @@ TEST_F(SampleShop, ASaveKeepsEveryElementAndText)
 
 TEST_F(SampleShop, ASaveIsTheSameEveryTime)
 {
-    ASSERT_TRUE(session.loadShop());
-    session.writeShopFile();
+    ASSERT_TRUE(loadShop(session));
+    writeShopFile(session);
     const QByteArray first = fileBytes(session.folder.shopFile());
-    ASSERT_TRUE(session.loadShop());
-    session.writeShopFile();
+    ASSERT_TRUE(loadShop(session));
+    writeShopFile(session);
     EXPECT_EQ(fileBytes(session.folder.shopFile()), first);
 }
 

@@ -1,15 +1,15 @@
-#include "model/CatalogueXml.h"
+#include "model/shop_file/CatalogueXml.h"
 
 #include "base/Numbers.h"
 #include "base/XMLUtils.h"
 #include "base/XmlReading.h"
 #include "model/CategoryClass.h"
-#include "model/DiscountXml.h"
-#include "model/NodeImageXml.h"
 #include "model/ObjectsCollection.h"
 #include "model/ProductClass.h"
-#include "model/ProductReading.h"
 #include "model/ShopClass.h"
+#include "model/shop_file/DiscountXml.h"
+#include "model/shop_file/NodeImageXml.h"
+#include "model/shop_file/ShopReading.h"
 
 #include <array>
 #include <cstdio>
@@ -30,6 +30,33 @@ constexpr std::array<const char*, Count> names = {"Id",    "Name",   "Descriptio
 bool isNamed(const pugi::xml_node& node, const char* name)
 {
     return std::strcmp(node.name(), name) == 0;
+}
+
+// Sub-categories are read before products, whatever the order of the file.
+void readChildren(const pugi::xml_node& element, const std::shared_ptr<CategoryClass>& category, ShopClass& owner,
+                  ShopReading& reading)
+{
+    std::vector<pugi::xml_node> productElements;
+    for (const pugi::xml_node& child : element.children()) {
+        if (isNamed(child, "Category")) {
+            auto below = std::make_shared<CategoryClass>(category->services());
+            below->FromXML(child, owner, category, reading);
+            category->Discount()->AddChildDiscount(below->Discount(), below->id);
+            category->categories.Add(below, nodeKey(below->id));
+        } else if (isNamed(child, "Product")) {
+            productElements.push_back(child);
+        } else if (isNamed(child, "ShopDesign") || firstDescendant(child, "ShopDesign")) {
+            reading.designSeenInCategory = true;
+        }
+    }
+    category->products.Clear();
+    category->products.reserve(static_cast<int>(productElements.size()));
+    for (const pugi::xml_node& child : productElements) {
+        auto product = std::make_shared<ProductClass>(category->services());
+        product->FromXML(child, owner, category, reading);
+        category->Discount()->AddChildDiscount(product->Price()->Discount(), product->id);
+        category->products.Add(product, nodeKey(product->id));
+    }
 }
 
 } // namespace
@@ -61,7 +88,7 @@ pugi::xml_node addNumberedElement(pugi::xml_node parent, const char* prefix, int
 }
 
 void CategoryClass::FromXML(const pugi::xml_node& element, ShopClass& owner,
-                            const std::shared_ptr<CategoryClass>& parent)
+                            const std::shared_ptr<CategoryClass>& parent, ShopReading& reading)
 {
     checkCategoryLevel(parent.get());
     shop = &owner;
@@ -80,33 +107,7 @@ void CategoryClass::FromXML(const pugi::xml_node& element, ShopClass& owner,
     if (found[inCategory::Discount]) {
         readLevelDiscount(found[inCategory::Discount], *Discount(), u"No"_s);
     }
-    readChildren(element, owner);
-}
-
-// Sub-categories are read before products, whatever the order of the file.
-void CategoryClass::readChildren(const pugi::xml_node& element, ShopClass& owner)
-{
-    std::vector<pugi::xml_node> productElements;
-    for (const pugi::xml_node& child : element.children()) {
-        if (isNamed(child, "Category")) {
-            auto category = std::make_shared<CategoryClass>(*m_services);
-            category->FromXML(child, owner, shared_from_this());
-            Discount()->AddChildDiscount(category->Discount(), category->id);
-            categories.Add(category, nodeKey(category->id));
-        } else if (isNamed(child, "Product")) {
-            productElements.push_back(child);
-        } else if (isNamed(child, "ShopDesign") || firstDescendant(child, "ShopDesign")) {
-            m_services->reading.designSeenInCategory = true;
-        }
-    }
-    products.Clear();
-    products.reserve(static_cast<int>(productElements.size()));
-    for (const pugi::xml_node& child : productElements) {
-        auto product = std::make_shared<ProductClass>(*m_services);
-        product->FromXML(child, owner, shared_from_this());
-        Discount()->AddChildDiscount(product->Price()->Discount(), product->id);
-        products.Add(product, nodeKey(product->id));
-    }
+    readChildren(element, shared_from_this(), owner, reading);
 }
 
 void CategoryClass::ToXML(pugi::xml_node element)

@@ -1,7 +1,7 @@
 // Shops made of chance are written and read back: the same model, and then the same bytes.
 #include "DescribedShop.h"
 #include "RandomShop.h"
-#include "ShopFixture.h"
+#include "model/ShopFixture.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,7 +18,7 @@ TEST_F(ShopFileRoundTrip, RandomShopsComeBackAsTheyWere)
         const QStringList before = described(*session.shop);
         const QByteArray bytes = saved();
         ASSERT_TRUE("<Tarnwick>" + written(*session.shop, "Shop") + "</Tarnwick>" == bytes) << "seed " << seed;
-        ASSERT_TRUE(session.loadShop()) << "seed " << seed;
+        ASSERT_TRUE(loadShop(session)) << "seed " << seed;
         const QStringList after = described(*session.shop);
         values += after.size();
         ASSERT_EQ(after.size(), before.size()) << "seed " << seed;

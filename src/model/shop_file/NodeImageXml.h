@@ -3,7 +3,7 @@
 
 #include "base/WholeNumbers.h"
 #include "base/XMLUtils.h"
-#include "model/CatalogueXml.h"
+#include "model/shop_file/CatalogueXml.h"
 
 #include <QString>
 

@@ -1,5 +1,5 @@
 // Which element of a shop file a reader takes when there are several of its name, and what the text of one is.
-#include "ShopFixture.h"
+#include "model/ShopFixture.h"
 
 using namespace Qt::StringLiterals;
 
@@ -19,7 +19,7 @@ TEST_F(ShopFileLookUp, AShopTakesWhatItLacksFromWhateverComesFirstBelowIt)
         session.folder.shopFile(),
         "<Tarnwick><Shop><Version>1.2.0</Version><SelectedCountries/><X><Taxes><Type><Name>VAT</Name></Type></Taxes>"
         "</X><Category><Id>2</Id><Name>C</Name><Description>CD</Description></Category></Shop></Tarnwick>");
-    session.loadShop();
+    loadShop(session);
     EXPECT_EQ(session.shop->name, u"VAT"_s);
     EXPECT_EQ(session.shop->Description, u"CD"_s);
     EXPECT_EQ(session.shop->Taxes.Item(1).TaxName, u"VAT"_s);
@@ -109,7 +109,7 @@ TEST_F(ShopFileLookUp, AnIndentedFileReadsLikeARawOneAndALeafOfBlanksIsKept)
   </Shop>
 </Tarnwick>
 )");
-    session.loadShop();
+    loadShop(session);
     EXPECT_EQ(session.shop->name, u"  "_s);
     EXPECT_EQ(session.shop->SelectedCountries->Count(), 2);
     EXPECT_EQ(firstProduct()->related, (QStringList{u"7"_s, QString()}));

@@ -1,4 +1,4 @@
-#include "model/TextPool.h"
+#include "model/shop_file/TextPool.h"
 
 #include "base/XmlText.h"
 #include "model/CommonFunctions.h"

@@ -1,6 +1,6 @@
 // The bytes of a saved shop: which elements, in which order, with which texts.
-#include "ShopFixture.h"
 #include "model/CommonFunctions.h"
+#include "model/ShopFixture.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,4 +1,4 @@
-#include "model/DiscountXml.h"
+#include "model/shop_file/DiscountXml.h"
 
 #include "base/XMLUtils.h"
 #include "base/XmlReading.h"

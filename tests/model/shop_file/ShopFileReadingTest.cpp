@@ -1,6 +1,6 @@
 // What each element of a shop file becomes in the model, and what stands in for one that is missing.
-#include "ShopFixture.h"
 #include "model/CommonFunctions.h"
+#include "model/ShopFixture.h"
 
 #include <functional>
 
@@ -215,7 +215,7 @@ TEST_F(ShopFileReading, CountriesAreAllChildNodesWhateverTheirNames)
     WriteFile(session.folder.shopFile(),
               "<Tarnwick><Shop><Version>1.2.0</Version><SelectedCountries>Mali"
               "<Country7>Chad</Country7><!-- none --><X>Peru</X></SelectedCountries></Shop></Tarnwick>");
-    session.loadShop();
+    loadShop(session);
     ASSERT_EQ(session.shop->SelectedCountries->Count(), 3);
     EXPECT_EQ(session.shop->SelectedCountries->Item(1), u"Mali"_s);
     EXPECT_EQ(session.shop->SelectedCountries->Item(2), u"Chad"_s);

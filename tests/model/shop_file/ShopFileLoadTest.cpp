@@ -1,5 +1,5 @@
 // The order of a load, its log, and the rewriting of a file of another version.
-#include "ShopFixture.h"
+#include "model/ShopFixture.h"
 
 using namespace Qt::StringLiterals;
 

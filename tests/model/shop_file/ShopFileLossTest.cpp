@@ -1,9 +1,9 @@
 // What a shop does not give back after it was written and read, each of it meant. All else comes back: see
 // ShopFileRoundTripTest.cpp.
-#include "ShopFixture.h"
 #include "base/Dates.h"
 #include "base/Numbers.h"
 #include "model/CommonFunctions.h"
+#include "model/ShopFixture.h"
 
 #include <QFile>
 #include <QImage>
@@ -23,8 +23,8 @@ protected:
 
     void saveAndLoad()
     {
-        session.writeShopFile();
-        session.loadShop();
+        writeShopFile(session);
+        loadShop(session);
     }
     QByteArray file() { return fileBytes(session.folder.shopFile()); }
 };

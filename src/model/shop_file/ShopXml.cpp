@@ -4,13 +4,14 @@
 #include "base/XMLUtils.h"
 #include "base/XmlFile.h"
 #include "base/XmlReading.h"
-#include "model/CatalogueXml.h"
 #include "model/CommonFunctions.h"
-#include "model/DiscountXml.h"
 #include "model/ObjectsCollection.h"
-#include "model/ProductReading.h"
 #include "model/ShopClass.h"
-#include "model/ShopTablesXml.h"
+#include "model/shop_file/CatalogueXml.h"
+#include "model/shop_file/DiscountXml.h"
+#include "model/shop_file/ShopFile.h"
+#include "model/shop_file/ShopReading.h"
+#include "model/shop_file/ShopTablesXml.h"
 
 #include <algorithm>
 #include <array>
@@ -75,17 +76,88 @@ pugi::xml_node designElement(const pugi::xml_node& shop, bool isInCategory)
     return {};
 }
 
+void readCategories(const pugi::xml_node& element, ShopClass& shop, ShopReading& reading)
+{
+    shop.categories.Clear();
+    for (const pugi::xml_node& child : element.children()) {
+        if (isNamed(child, "Category")) {
+            auto category = std::make_shared<CategoryClass>(shop.services());
+            category->ParentDiscount = shop.Discount();
+            category->FromXML(child, shop, nullptr, reading);
+            shop.categories.Add(category, nodeKey(category->id));
+            shop.Discount()->AddChildDiscount(category->Discount(), category->id);
+        }
+    }
+}
+
+void readStylesAndPages(const pugi::xml_node& element, ShopClass& shop)
+{
+    LoadLog& log = shop.services().design.log;
+    shop.CSSs.Clear();
+    for (const pugi::xml_node& child : element.children()) {
+        if (isNamed(child, "CSS")) {
+            auto style = std::make_shared<CSSClass>();
+            style->FromXML(child);
+            shop.CSSs.Add(style, nodeKey(style->CSSName));
+        }
+    }
+    log.WriteLoadLog(u"CSS loaded from XML"_s);
+    shop.CustomPages.Clear();
+    for (const pugi::xml_node& child : element.children()) {
+        if (isNamed(child, "CustomPage")) {
+            auto page = std::make_shared<CustomPageClass>();
+            page->FromXML(child);
+            shop.CustomPages.Add(page, page->pageName);
+        }
+    }
+    log.WriteLoadLog(u"custom pages loaded from XML"_s);
+}
+
+// What stands ahead of the root categories.
+void writeHead(const pugi::xml_node& element, const ShopClass& shop)
+{
+    if (!shop.SelectedCountries || !shop.ShopDesign) {
+        throw RuntimeError(ErrorNumber::ObjectNotSet);
+    }
+    const auto container = [&element](const char* tag) { return AddChildElement(element, tag, u"HUERAGA"_s); };
+    AddChildElement(element, "Version", shop.Version);
+    AddChildElement(element, "ShippingChargesAreSelected", booleanToWord(shop.ShippingChargesAreSelected));
+    AddChildElement(element, "TaxesAreSelected", booleanToWord(shop.TaxesAreSelected));
+    AddChildElement(element, "shop_currency", shop.shop_currency);
+    AddChildElement(element, "MaxProductId", shop.MaxProductId);
+    AddChildElement(element, "Name", shop.name);
+    AddChildElement(element, "Description", shop.Description);
+    writeLevelDiscount(container("ShopDiscount"), *shop.Discount());
+    writeCountries(container("SelectedCountries"), *shop.SelectedCountries);
+    writeShippingTypes(container("ShopShipping"), shop);
+    writeShippingCosts(container("ShopShippingCosts"), shop);
+    writeTaxes(container("Taxes"), shop.Taxes);
+    writeCharges(container("Charges"), shop.Charges);
+}
+
+// What stands behind them.
+void writeTail(const pugi::xml_node& element, const ShopClass& shop)
+{
+    const auto container = [&element](const char* tag) { return AddChildElement(element, tag, u"HUERAGA"_s); };
+    for (const std::shared_ptr<CSSClass>& style : shop.CSSs) {
+        style->ToXML(container("CSS"));
+    }
+    for (const std::shared_ptr<CustomPageClass>& page : shop.CustomPages) {
+        page->ToXML(container("CustomPage"));
+    }
+    shop.ShopDesign->ToXML(container("ShopDesign"));
+}
+
 } // namespace
 
-void ShopClass::FromXML(const pugi::xml_node& element)
+void ShopClass::FromXML(const pugi::xml_node& element, ShopReading& reading)
 {
     LoadLog& log = m_services->design.log;
     log.WriteLoadLog(u"Start Shop.FromXML"_s);
     Version = programVersion();
     std::array<pugi::xml_node, inShop::Count> found;
     findFirstDescendants(element, inShop::names, found);
-    QString& fileVersion = m_services->LoadedShopVersion;
-    fileVersion = textOr(found[inShop::Version], QString());
+    reading.fileVersion = textOr(found[inShop::Version], QString());
     shop_currency = textOr(found[inShop::Currency], QString());
     ShippingChargesAreSelected = booleanFromWord(textOr(found[inShop::ShippingChargesAreSelected], u"False"_s));
     TaxesAreSelected = booleanFromWord(textOr(found[inShop::TaxesAreSelected], u"False"_s));
@@ -105,70 +177,32 @@ void ShopClass::FromXML(const pugi::xml_node& element)
     log.WriteLoadLog(u"ShopShippingCosts loaded from XML"_s);
     readTaxesAndCharges(found[inShop::Taxes], found[inShop::Charges], *this);
     log.WriteLoadLog(u"Taxes loaded from XML"_s);
-    readCategories(element);
+    readCategories(element, *this, reading);
     log.WriteLoadLog(u"root categories loaded from XML"_s);
     m_discount->SendDiscountToChilds(m_discount->DateFrom, m_discount->DateTo);
     log.WriteLoadLog(u"Discount.SendDiscountToChilds loaded from XML"_s);
-    readStylesAndPages(element);
-    if (const pugi::xml_node design = designElement(element, m_services->reading.designSeenInCategory)) {
+    readStylesAndPages(element, *this);
+    if (const pugi::xml_node design = designElement(element, reading.designSeenInCategory)) {
         ShopDesign = std::make_shared<ShopDesignClass>(m_services->design);
         ShopDesign->FromXML(design);
     }
-    if (fileVersion != Version) {
+    if (reading.fileVersion != Version) {
         log.WriteLoadLog(u"Version not mutched"_s);
         m_services->callbacks.SaveShop();
     }
     log.WriteLoadLog(u"-------ShopClass loaded from XML---"_s);
 }
 
-void ShopClass::readCategories(const pugi::xml_node& element)
-{
-    categories.Clear();
-    m_services->reading.designSeenInCategory = false;
-    for (const pugi::xml_node& child : element.children()) {
-        if (isNamed(child, "Category")) {
-            auto category = std::make_shared<CategoryClass>(*m_services);
-            category->ParentDiscount = m_discount;
-            category->FromXML(child, *this, nullptr);
-            categories.Add(category, nodeKey(category->id));
-            m_discount->AddChildDiscount(category->Discount(), category->id);
-        }
-    }
-}
-
-void ShopClass::readStylesAndPages(const pugi::xml_node& element)
-{
-    LoadLog& log = m_services->design.log;
-    CSSs.Clear();
-    for (const pugi::xml_node& child : element.children()) {
-        if (isNamed(child, "CSS")) {
-            auto style = std::make_shared<CSSClass>();
-            style->FromXML(child);
-            CSSs.Add(style, nodeKey(style->CSSName));
-        }
-    }
-    log.WriteLoadLog(u"CSS loaded from XML"_s);
-    CustomPages.Clear();
-    for (const pugi::xml_node& child : element.children()) {
-        if (isNamed(child, "CustomPage")) {
-            auto page = std::make_shared<CustomPageClass>();
-            page->FromXML(child);
-            CustomPages.Add(page, page->pageName);
-        }
-    }
-    log.WriteLoadLog(u"custom pages loaded from XML"_s);
-}
-
 void ShopClass::ToXML(pugi::xml_node element)
 {
-    writeHead(element);
+    writeHead(element, *this);
     for (const std::shared_ptr<CategoryClass>& category : categories) {
         category->ToXML(AddChildElement(element, "Category", u"HUERAGA"_s));
     }
-    writeTail(element);
+    writeTail(element, *this);
 }
 
-QByteArray ShopClass::fileBytes()
+QByteArray shopFileBytes(ShopClass& shop)
 {
     QByteArray bytes = "<Tarnwick><Shop>";
     const auto append = [&bytes](const auto& fill) {
@@ -176,47 +210,12 @@ QByteArray ShopClass::fileBytes()
         fill(part);
         bytes += xmlToBytes(part);
     };
-    append([this](pugi::xml_document& part) { writeHead(part); });
-    for (const std::shared_ptr<CategoryClass>& category : categories) {
+    append([&shop](pugi::xml_document& part) { writeHead(part, shop); });
+    for (const std::shared_ptr<CategoryClass>& category : shop.categories) {
         append([&category](pugi::xml_document& part) {
             category->ToXML(AddChildElement(part, "Category", u"HUERAGA"_s));
         });
     }
-    append([this](pugi::xml_document& part) { writeTail(part); });
+    append([&shop](pugi::xml_document& part) { writeTail(part, shop); });
     return bytes + "</Shop></Tarnwick>";
-}
-
-// What stands ahead of the root categories.
-void ShopClass::writeHead(const pugi::xml_node& element) const
-{
-    if (!SelectedCountries || !ShopDesign) {
-        throw RuntimeError(ErrorNumber::ObjectNotSet);
-    }
-    const auto container = [&element](const char* tag) { return AddChildElement(element, tag, u"HUERAGA"_s); };
-    AddChildElement(element, "Version", Version);
-    AddChildElement(element, "ShippingChargesAreSelected", booleanToWord(ShippingChargesAreSelected));
-    AddChildElement(element, "TaxesAreSelected", booleanToWord(TaxesAreSelected));
-    AddChildElement(element, "shop_currency", shop_currency);
-    AddChildElement(element, "MaxProductId", MaxProductId);
-    AddChildElement(element, "Name", name);
-    AddChildElement(element, "Description", Description);
-    writeLevelDiscount(container("ShopDiscount"), *m_discount);
-    writeCountries(container("SelectedCountries"), *SelectedCountries);
-    writeShippingTypes(container("ShopShipping"), *this);
-    writeShippingCosts(container("ShopShippingCosts"), *this);
-    writeTaxes(container("Taxes"), Taxes);
-    writeCharges(container("Charges"), Charges);
-}
-
-// What stands behind them.
-void ShopClass::writeTail(const pugi::xml_node& element) const
-{
-    const auto container = [&element](const char* tag) { return AddChildElement(element, tag, u"HUERAGA"_s); };
-    for (const std::shared_ptr<CSSClass>& style : CSSs) {
-        style->ToXML(container("CSS"));
-    }
-    for (const std::shared_ptr<CustomPageClass>& page : CustomPages) {
-        page->ToXML(container("CustomPage"));
-    }
-    ShopDesign->ToXML(container("ShopDesign"));
 }
