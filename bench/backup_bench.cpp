@@ -294,7 +294,7 @@ bool memoryIsInside(const char* title, qint64 growth, qint64 limit)
 }
 
 // Runs the work each time on folders without files, which is not measured.
-void register(const std::string& name, const QStringList& emptied, const std::function<bool()>& work)
+void registerRun(const std::string& name, const QStringList& emptied, const std::function<bool()>& work)
 {
     benchmark::RegisterBenchmark(name.c_str(), [emptied, work](benchmark::State& state) {
         for (auto _ : state) {
@@ -329,12 +329,12 @@ int main(int argc, char** argv)
 
     Peer peer(shop);
     const QStringList shopFolders = {shop.path(u"pictures"_s), shop.path(u"templates"_s)};
-    register("backup", {}, [&] { return backUp(shop); });
-    register("reading and compress", {}, [&] { return peer.readAndCompress() > 0; });
-    register("restore", shopFolders, [&] { return restore(shop); });
-    register("reading, uncompress and writing", {shop.path(u"peer"_s)},
-             [&] { return peer.readUncompressAndWrite() > 0; });
-    register("restore over an old shop", {}, [&] { return restore(shop); });
+    registerRun("backup", {}, [&] { return backUp(shop); });
+    registerRun("reading and compress", {}, [&] { return peer.readAndCompress() > 0; });
+    registerRun("restore", shopFolders, [&] { return restore(shop); });
+    registerRun("reading, uncompress and writing", {shop.path(u"peer"_s)},
+                [&] { return peer.readUncompressAndWrite() > 0; });
+    registerRun("restore over an old shop", {}, [&] { return restore(shop); });
 
     // One run takes seconds.
     std::vector<char*> arguments(argv, argv + argc);

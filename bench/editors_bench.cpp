@@ -109,7 +109,7 @@ void clearMainTree(ShopSession& session, CatalogueTree& tree)
 
 // What was opened before is cleared outside of the time that counts.
 template <class Prepare, class Work>
-void register(const char* name, Prepare prepare, Work work)
+void registerRun(const char* name, Prepare prepare, Work work)
 {
     benchmark::RegisterBenchmark(name, [prepare, work](benchmark::State& state) {
         while (state.KeepRunning()) {
@@ -145,7 +145,7 @@ int main(int argc, char** argv)
     const auto* related = panel.findChild<QListView*>(u"RelatedProductsLst"_s);
     QCoreApplication::processEvents();
 
-    register(
+    registerRun(
         "open the panel of related products",
         [&] {
             panel.ClearActiveObject();
@@ -158,7 +158,7 @@ int main(int argc, char** argv)
                 std::abort();
             }
         });
-    register(
+    registerRun(
         "open the window's tree", [&] { clearMainTree(session, tree); }, [&] { openMainTree(session, tree); });
     return runAndCompare(argc, argv,
                          {{"related products, 100,000 (half is enough)", "open the panel of related products",

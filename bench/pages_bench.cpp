@@ -219,7 +219,7 @@ double millionCharacters(const ShopSession& session)
 }
 
 template <class Work>
-void register(const std::string& name, Work work)
+void registerRun(const std::string& name, Work work)
 {
     benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State& state) {
         for (auto _ : state) {
@@ -252,9 +252,9 @@ int main(int argc, char** argv)
         giveUp("The category pages differ");
     }
     const std::string pageTitle = "category page, 1,000 products";
-    register(pageTitle, [&] { return RenderPage(pageShop.context, u"category"_s, category); });
-    register(pageTitle + ", ctemplate", [&] { return peer.fillAndExpand(page); });
-    register(pageTitle + ", ctemplate with less", [&] { return peer.fillAndExpand(shortPage); });
+    registerRun(pageTitle, [&] { return RenderPage(pageShop.context, u"category"_s, category); });
+    registerRun(pageTitle + ", ctemplate", [&] { return peer.fillAndExpand(page); });
+    registerRun(pageTitle + ", ctemplate with less", [&] { return peer.fillAndExpand(shortPage); });
     comparisons.push_back({pageTitle, pageTitle, pageTitle + ", ctemplate", 4.0});
     comparisons.push_back({"  peer with the used variables alone", pageTitle, pageTitle + ", ctemplate with less", 0});
 
@@ -270,8 +270,8 @@ int main(int argc, char** argv)
     for (const Word& word : words) {
         const QString wanted = QString::fromUtf16(word.text);
         const std::string title = std::string("search for ") + word.title;
-        register(title, [&search, wanted] { return search.ours(wanted).size(); });
-        register(title + ", toUpper and contains", [&search, wanted] { return search.theirs(wanted).size(); });
+        registerRun(title, [&search, wanted] { return search.ours(wanted).size(); });
+        registerRun(title + ", toUpper and contains", [&search, wanted] { return search.theirs(wanted).size(); });
         comparisons.push_back({title, title, title + ", toUpper and contains", 3.0});
     }
     return runAndCompare(argc, argv, comparisons);

@@ -240,7 +240,7 @@ bool outputsAreEqual(OurPage& ours, const PeerPage& peer, const std::vector<RowT
 }
 
 template <class Work>
-void register(const std::string& name, Work work)
+void registerRun(const std::string& name, Work work)
 {
     benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State& state) {
         for (auto _ : state) {
@@ -276,11 +276,11 @@ int main(int argc, char** argv)
         const std::string both = "fill and expand, " + std::to_string(count) + " rows";
         const std::string alone = "expand alone, " + std::to_string(count) + " rows";
         const bool judged = count == 1000;
-        register(both, [&] { return ours.expand(ours.fill(rows)); });
-        register(both + ", ctemplate", [&] { return peer.expand(peer.fill(rows)); });
-        register(both + ", ctemplate with hashed names", [&] { return peer.expand(peer.fillByHashedNames(rows)); });
-        register(alone, [&] { return ours.expand(ourPage); });
-        register(alone + ", ctemplate", [&] { return peer.expand(peerPage); });
+        registerRun(both, [&] { return ours.expand(ours.fill(rows)); });
+        registerRun(both + ", ctemplate", [&] { return peer.expand(peer.fill(rows)); });
+        registerRun(both + ", ctemplate with hashed names", [&] { return peer.expand(peer.fillByHashedNames(rows)); });
+        registerRun(alone, [&] { return ours.expand(ourPage); });
+        registerRun(alone + ", ctemplate", [&] { return peer.expand(peerPage); });
         comparisons.push_back({both, both, both + ", ctemplate", judged ? 6.0 : 0.0});
         comparisons.push_back({"  peer with hashed names", both, both + ", ctemplate with hashed names", 0.0});
         comparisons.push_back({alone, alone, alone + ", ctemplate", judged ? 4.0 : 0.0});

@@ -300,7 +300,7 @@ void splitLines(benchmark::State& state, const QString& file)
 }
 
 template <class Work>
-void register(const std::string& name, Work work)
+void registerRun(const std::string& name, Work work)
 {
     benchmark::RegisterBenchmark(name.c_str(), work)->Unit(benchmark::kMillisecond);
 }
@@ -326,14 +326,14 @@ int main(int argc, char** argv)
     writeFile(large, importText(100'000));
 
     const ShopClass& shop = *program.window->session().shop;
-    register("open the tree", [&](benchmark::State& state) { openOurTree(state, shop); });
-    register("open the tree and the catalogue", [&](benchmark::State& state) { openCatalogue(state, program); });
-    register("open a QTreeWidget", [&](benchmark::State& state) { openTreeWidget(state, shop, Colours::Own); });
-    register("open a plain QTreeWidget",
-             [&](benchmark::State& state) { openTreeWidget(state, shop, Colours::Widget); });
-    register("import 10,000 lines", [&](benchmark::State& state) { importLines(state, small, 10'000); });
-    register("import 100,000 lines", [&](benchmark::State& state) { importLines(state, large, 100'000); });
-    register("split 100,000 lines", [&](benchmark::State& state) { splitLines(state, large); });
+    registerRun("open the tree", [&](benchmark::State& state) { openOurTree(state, shop); });
+    registerRun("open the tree and the catalogue", [&](benchmark::State& state) { openCatalogue(state, program); });
+    registerRun("open a QTreeWidget", [&](benchmark::State& state) { openTreeWidget(state, shop, Colours::Own); });
+    registerRun("open a plain QTreeWidget",
+                [&](benchmark::State& state) { openTreeWidget(state, shop, Colours::Widget); });
+    registerRun("import 10,000 lines", [&](benchmark::State& state) { importLines(state, small, 10'000); });
+    registerRun("import 100,000 lines", [&](benchmark::State& state) { importLines(state, large, 100'000); });
+    registerRun("split 100,000 lines", [&](benchmark::State& state) { splitLines(state, large); });
     return runAndCompare(
         argc, argv,
         {{"tree of 100,000 products", "open the tree", "open a QTreeWidget", 1 / 0.3},
