@@ -1,9 +1,13 @@
-// No exception may cross a frame of Qt's or of the browser's. Every slot, event handler and callback that can raise a
-// RuntimeError runs inside guarded(), which hands the error to the handler that ends the program.
+// No exception may cross a frame of Qt's or of the browser's. Every event handler and callback that can raise a
+// RuntimeError runs inside guarded(), which hands the error to the handler that ends the program; every slot that can
+// raise one is connected by connectGuarded().
 #pragma once
 
 #include "base/RuntimeError.h"
 
+#include <QObject>
+
+#include <functional>
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -32,4 +36,27 @@ auto guarded(FatalErrorHandler& handler, Work&& work) -> std::invoke_result_t<Wo
     if constexpr (!std::is_void_v<Result>) {
         return Result();
     }
+}
+
+// QObject::connect() for a slot that can raise an error: the slot runs inside guarded(). It is a member function of the
+// receiver or anything else that can be called, and takes either all of the signal's arguments or none.
+template <class Sender, class Owner, class... Arguments, class Receiver, class Slot>
+QMetaObject::Connection connectGuarded(FatalErrorHandler& errors, const Sender* sender,
+                                       void (Owner::*signal)(Arguments...), Receiver* receiver, Slot slot)
+{
+    return QObject::connect(sender, signal, receiver, [&errors, receiver, slot](Arguments... arguments) {
+        guarded(errors, [&] {
+            if constexpr (std::is_member_function_pointer_v<Slot>) {
+                if constexpr (std::is_invocable_v<Slot, Receiver*, Arguments...>) {
+                    std::invoke(slot, receiver, arguments...);
+                } else {
+                    std::invoke(slot, receiver);
+                }
+            } else if constexpr (std::is_invocable_v<Slot, Arguments...>) {
+                slot(arguments...);
+            } else {
+                slot();
+            }
+        });
+    });
 }

@@ -21,10 +21,10 @@ SubmitReset::SubmitReset(PanelHost& host, QWidget* parent)
     for (QPushButton* button : {imgButtonSubmit, imgButtonReset}) {
         button->setAccessibleName(button->text());
     }
-    connect(imgButtonSubmit, &QPushButton::clicked, this,
-            [&host] { guarded(host.errorHandler(), [&] { host.ApplyActivePanel(); }); });
-    connect(imgButtonReset, &QPushButton::clicked, this,
-            [&host] { guarded(host.errorHandler(), [&] { host.ResetActivePanel(); }); });
+    connectGuarded(host.errorHandler(), imgButtonSubmit, &QPushButton::clicked, this,
+                   [&host] { host.ApplyActivePanel(); });
+    connectGuarded(host.errorHandler(), imgButtonReset, &QPushButton::clicked, this,
+                   [&host] { host.ResetActivePanel(); });
 
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);

@@ -35,13 +35,12 @@ CatalogueTree::CatalogueTree(FatalErrorHandler& errors, QWidget* parent)
     colours.setColor(QPalette::Highlight, QColor::fromRgb(selectionColour));
     setPalette(colours);
 
-    connect(this, &QTreeView::expanded, this,
-            [this](const QModelIndex& index) { m_model->setImage(m_model->nodeOf(index), TreeImage::Opened); });
-    connect(this, &QTreeView::collapsed, this,
-            [this](const QModelIndex& index) { m_model->setImage(m_model->nodeOf(index), TreeImage::Closed); });
-    connect(this, &QTreeView::clicked, this, [this](const QModelIndex& index) {
-        guarded(m_errors, [&] { Q_EMIT nodeClicked(m_model->nodeOf(index)); });
-    });
+    connectGuarded(m_errors, this, &QTreeView::expanded, this,
+                   [this](const QModelIndex& index) { m_model->setImage(m_model->nodeOf(index), TreeImage::Opened); });
+    connectGuarded(m_errors, this, &QTreeView::collapsed, this,
+                   [this](const QModelIndex& index) { m_model->setImage(m_model->nodeOf(index), TreeImage::Closed); });
+    connectGuarded(m_errors, this, &QTreeView::clicked, this,
+                   [this](const QModelIndex& index) { Q_EMIT nodeClicked(m_model->nodeOf(index)); });
 }
 
 TreeNode* CatalogueTree::selectedNode() const
@@ -80,7 +79,7 @@ void CatalogueTree::mousePressEvent(QMouseEvent* event)
 void CatalogueTree::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::RightButton) {
-        guarded(m_errors, [&] { Q_EMIT popUpRequested(event->globalPosition().toPoint()); });
+        Q_EMIT popUpRequested(event->globalPosition().toPoint());
     } else {
         QTreeView::mouseReleaseEvent(event);
     }
@@ -99,6 +98,6 @@ void CatalogueTree::keyPressEvent(QKeyEvent* event)
     QTreeView::keyPressEvent(event);
     TreeNode* after = selectedNode();
     if (after && after != before) {
-        guarded(m_errors, [&] { Q_EMIT nodeClicked(after); });
+        Q_EMIT nodeClicked(after);
     }
 }

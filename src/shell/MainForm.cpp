@@ -81,16 +81,21 @@ void MainForm::InitUserControls()
 void MainForm::connectParts()
 {
     for (ShortcartButton* shortcart : m_parts->buttons) {
-        connect(shortcart, &ShortcartButton::frameRequested, this, &MainForm::ShowFrame);
+        connectGuarded(m_errors, shortcart, &ShortcartButton::frameRequested, this, &MainForm::ShowFrame);
     }
     // These four act when they receive the focus, ahead of the click, and only if they did not have it.
-    connect(button("SaveShopSBtn"), &ShortcartButton::focusReceived, this, &MainForm::saveShopHandler);
-    connect(button("ProductCatalogSBtn"), &ShortcartButton::focusReceived, this, &MainForm::productCatalogHandler);
-    connect(button("ShopDesignSBtn"), &ShortcartButton::focusReceived, this, &MainForm::shopDesignHandler);
-    connect(button("PreviewBrowserSBtn"), &ShortcartButton::focusReceived, this, &MainForm::previewHandler);
-    connect(button("UploadShopSBtn"), &ShortcartButton::Click, this, &MainForm::uploadShopHandler);
-    connect(m_parts->CategoriesAndProductsTree, &CatalogueTree::nodeClicked, this, &MainForm::treeNodeClicked);
-    connect(m_parts->CategoriesAndProductsTree, &CatalogueTree::popUpRequested, this, &MainForm::showPopUp);
+    connectGuarded(m_errors, button("SaveShopSBtn"), &ShortcartButton::focusReceived, this, &MainForm::saveShopHandler);
+    connectGuarded(m_errors, button("ProductCatalogSBtn"), &ShortcartButton::focusReceived, this,
+                   &MainForm::productCatalogHandler);
+    connectGuarded(m_errors, button("ShopDesignSBtn"), &ShortcartButton::focusReceived, this,
+                   &MainForm::shopDesignHandler);
+    connectGuarded(m_errors, button("PreviewBrowserSBtn"), &ShortcartButton::focusReceived, this,
+                   &MainForm::previewHandler);
+    connectGuarded(m_errors, button("UploadShopSBtn"), &ShortcartButton::Click, this, &MainForm::uploadShopHandler);
+    connectGuarded(m_errors, m_parts->CategoriesAndProductsTree, &CatalogueTree::nodeClicked, this,
+                   &MainForm::treeNodeClicked);
+    connectGuarded(m_errors, m_parts->CategoriesAndProductsTree, &CatalogueTree::popUpRequested, this,
+                   &MainForm::showPopUp);
 
     for (QWidget* surface : {static_cast<QWidget*>(this), m_parts->ToolbarFrame->parentWidget(),
                              static_cast<QWidget*>(m_parts->ToolbarFrame), static_cast<QWidget*>(m_parts->ShopToolbar),

@@ -62,7 +62,7 @@ MainFormLayout::MainFormLayout(QWidget* central, QWidget* preview, const Applica
     column->addWidget(PreviewBrowser, 1);
     makeCopyright(central);
     column->addWidget(frmCopyright);
-    makeButtons(folder, log, errors);
+    makeButtons(folder, log);
 
     PrBar = new ShortProgressBar(central);
     SaveProgressFrame = new SaveFrame(central);
@@ -163,12 +163,12 @@ QFrame* MainFormLayout::frameOf(ButtonFrame frame) const
     return nullptr;
 }
 
-void MainFormLayout::makeButtons(const ApplicationFolder& folder, LoadLog& log, FatalErrorHandler& errors)
+void MainFormLayout::makeButtons(const ApplicationFolder& folder, LoadLog& log)
 {
     QHash<QFrame*, int> count;
     for (const ButtonRow& row : buttonTable()) {
         QFrame* frame = frameOf(row.frame);
-        auto* button = new ShortcartButton(row, folder, log, errors, frame);
+        auto* button = new ShortcartButton(row, folder, log, frame);
         const int place = count[frame]++;
         if (auto* grid = qobject_cast<QGridLayout*>(frame->layout())) {
             grid->addWidget(button, place / designMenuColumns, place % designMenuColumns);

@@ -64,5 +64,5 @@ private:
     void makeCatalogue(QWidget* parent, FatalErrorHandler& errors);
     void makeDesign(QWidget* parent);
     void makeCopyright(QWidget* parent);
-    void makeButtons(const ApplicationFolder& folder, LoadLog& log, FatalErrorHandler& errors);
+    void makeButtons(const ApplicationFolder& folder, LoadLog& log);
 };

@@ -47,7 +47,7 @@ QAction* MainForm::addEntry(QMenu* menu, const char* name, const QString& captio
 {
     QAction* action = menu->addAction(caption);
     action->setObjectName(QLatin1String(name));
-    connect(action, &QAction::triggered, this, [this, handler] { guarded(m_errors, [&] { (this->*handler)(); }); });
+    connectGuarded(m_errors, action, &QAction::triggered, this, [this, handler] { (this->*handler)(); });
     return action;
 }
 
@@ -82,8 +82,8 @@ void MainForm::makePopUp()
     for (const PopUpRow& row : popUpRows) {
         QAction* action = mnuPopUp->addAction(QString::fromLatin1(row.caption));
         action->setObjectName(QLatin1String(row.name));
-        connect(action, &QAction::triggered, this,
-                [this, &row] { guarded(m_errors, [&] { ShowFrame(panel(row.panel), row.code); }); });
+        connectGuarded(m_errors, action, &QAction::triggered, this,
+                       [this, &row] { ShowFrame(panel(row.panel), row.code); });
     }
 }
 

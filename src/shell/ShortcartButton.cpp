@@ -30,11 +30,9 @@ Qt::FocusPolicy focusPolicyOf(ButtonFrame frame)
 
 } // namespace
 
-ShortcartButton::ShortcartButton(const ButtonRow& row, const ApplicationFolder& folder, LoadLog& log,
-                                 FatalErrorHandler& errors, QWidget* parent)
+ShortcartButton::ShortcartButton(const ButtonRow& row, const ApplicationFolder& folder, LoadLog& log, QWidget* parent)
     : QWidget(parent),
       Code(row.code),
-      m_errors(errors),
       m_title(QString::fromLatin1(row.title)),
       m_pictures(buttonPicturesOf(m_title)),
       m_picturesFolder(folder.picturesFolder()),
@@ -122,7 +120,7 @@ void ShortcartButton::mousePressEvent(QMouseEvent* event)
     m_pressed = true;
     if (m_focusByPress) {
         m_focusByPress = false;
-        guarded(m_errors, [this] { Q_EMIT focusReceived(); });
+        Q_EMIT focusReceived();
     }
 }
 
@@ -133,20 +131,18 @@ void ShortcartButton::mouseReleaseEvent(QMouseEvent* event)
     if (!clicked) {
         return;
     }
-    guarded(m_errors, [&] {
-        if (IconImg->geometry().contains(event->position().toPoint())) {
-            Activate();
-        } else {
-            Q_EMIT Click();
-        }
-    });
+    if (IconImg->geometry().contains(event->position().toPoint())) {
+        Activate();
+    } else {
+        Q_EMIT Click();
+    }
 }
 
 void ShortcartButton::keyPressEvent(QKeyEvent* event)
 {
     const int key = event->key();
     if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter) {
-        guarded(m_errors, [this] { Activate(); });
+        Activate();
     } else {
         QWidget::keyPressEvent(event);
     }

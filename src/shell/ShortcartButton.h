@@ -3,7 +3,6 @@
 // catalogue.
 #pragma once
 
-#include "base/Guarded.h"
 #include "shell/ButtonPictures.h"
 #include "shell/ButtonTable.h"
 
@@ -21,8 +20,7 @@ class ShortcartButton : public QWidget
 
 public:
     // Reads the button's properties from its row and logs that. The folder is where a few titles have their pictures.
-    ShortcartButton(const ButtonRow& row, const ApplicationFolder& folder, LoadLog& log, FatalErrorHandler& errors,
-                    QWidget* parent);
+    ShortcartButton(const ButtonRow& row, const ApplicationFolder& folder, LoadLog& log, QWidget* parent);
 
     // Does what a click on the picture does.
     void Activate();
@@ -56,7 +54,6 @@ private:
     void hover(int x, int y);
     void showPicture(const QIcon& icon);
 
-    FatalErrorHandler& m_errors;
     QString m_title;
     QIcon m_icon; // what is shown now
     const ButtonPictureRow* m_pictures;

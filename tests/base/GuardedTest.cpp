@@ -44,3 +44,56 @@ TEST(Guarded, LackOfMemoryIsAnErrorLikeOthers)
     guarded(handler, [] { throw std::bad_alloc(); });
     EXPECT_EQ(handler.numbers, std::vector<int>{7});
 }
+
+namespace {
+
+class Bell : public QObject
+{
+    Q_OBJECT
+
+public:
+    void raise(int number) { throw RuntimeError(static_cast<ErrorNumber>(number)); }
+    void count() { ++rings; }
+
+    int rings = 0;
+
+Q_SIGNALS:
+    void rung(int number);
+};
+
+} // namespace
+
+TEST(ConnectGuarded, AnErrorInTheSlotGoesToTheHandlerAndTheNextSlotRuns)
+{
+    RecordingHandler handler;
+    Bell bell;
+    connectGuarded(handler, &bell, &Bell::rung, &bell, &Bell::raise);
+    connectGuarded(handler, &bell, &Bell::rung, &bell, &Bell::count);
+    Q_EMIT bell.rung(13);
+    EXPECT_EQ(handler.numbers, std::vector<int>{13});
+    EXPECT_EQ(bell.rings, 1);
+}
+
+TEST(ConnectGuarded, TheSlotTakesTheArgumentsOrLeavesThem)
+{
+    RecordingHandler handler;
+    Bell bell;
+    std::vector<int> taken;
+    connectGuarded(handler, &bell, &Bell::rung, &bell, [&](int number) { taken.push_back(number); });
+    connectGuarded(handler, &bell, &Bell::rung, &bell, [&] { taken.push_back(0); });
+    Q_EMIT bell.rung(7);
+    EXPECT_EQ(taken, (std::vector<int>{7, 0}));
+}
+
+TEST(ConnectGuarded, NothingRunsOnceTheReceiverIsGone)
+{
+    RecordingHandler handler;
+    Bell bell;
+    auto receiver = std::make_unique<Bell>();
+    connectGuarded(handler, &bell, &Bell::rung, receiver.get(), &Bell::raise);
+    receiver.reset();
+    Q_EMIT bell.rung(13);
+    EXPECT_TRUE(handler.numbers.empty());
+}
+
+#include "GuardedTest.moc"

@@ -82,7 +82,7 @@ protected:
     std::unique_ptr<ShortcartButton> makeButton(const char* title)
     {
         const ButtonRow row{"TestSBtn", ButtonFrame::ShopToolbar, title, nullptr, PanelCode::Show, "114"};
-        auto button = std::make_unique<ShortcartButton>(row, files.folder(), window->session().log, errors, nullptr);
+        auto button = std::make_unique<ShortcartButton>(row, files.folder(), window->session().log, nullptr);
         button->resize(120, 100);
         button->show();
         QCoreApplication::processEvents();

@@ -29,8 +29,8 @@ CategoryGeneralPanel::CategoryGeneralPanel(PanelHost& host, QWidget* parent) : P
     frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);
     frame->addButtons(host);
 
-    connect(CategoryNameTxt, &QLineEdit::textEdited, this,
-            [this](const QString& text) { guarded(m_host.errorHandler(), [&] { m_host.setSelectedNodeText(text); }); });
+    connectGuarded(m_host.errorHandler(), CategoryNameTxt, &QLineEdit::textEdited, this,
+                   [this](const QString& text) { m_host.setSelectedNodeText(text); });
 }
 
 void CategoryGeneralPanel::SetActiveObject(const CatalogueObject& object)

@@ -72,17 +72,17 @@ CustomGrid::CustomGrid(PanelHost& host, QWidget* parent)
     column->addWidget(BaseGrd, 1);
     column->addWidget(AddItemButtonLbl);
 
-    connect(BaseGrd, &QTableWidget::cellClicked, this, &CustomGrid::cellActivated);
-    connect(AddItemButtonLbl, &LinkLabel::clicked, this,
-            [this] { guarded(m_host.errorHandler(), [this] { addItem(); }); });
-    connect(ForGridTxt, &QLineEdit::textEdited, this, [this](const QString& text) {
+    connectGuarded(m_host.errorHandler(), BaseGrd, &QTableWidget::cellClicked, this, &CustomGrid::cellActivated);
+    connectGuarded(m_host.errorHandler(), AddItemButtonLbl, &LinkLabel::clicked, this, &CustomGrid::addItem);
+    connectGuarded(m_host.errorHandler(), ForGridTxt, &QLineEdit::textEdited, this, [this](const QString& text) {
         if (QTableWidgetItem* cell = BaseGrd->currentItem()) {
             cell->setText(text);
         }
     });
-    connect(BaseGrd->verticalScrollBar(), &QScrollBar::rangeChanged, this, &CustomGrid::arrangeColumns);
+    connectGuarded(m_host.errorHandler(), BaseGrd->verticalScrollBar(), &QScrollBar::rangeChanged, this,
+                   &CustomGrid::arrangeColumns);
     for (const QScrollBar* bar : {BaseGrd->horizontalScrollBar(), BaseGrd->verticalScrollBar()}) {
-        connect(bar, &QScrollBar::valueChanged, this, &CustomGrid::placeEditor);
+        connectGuarded(m_host.errorHandler(), bar, &QScrollBar::valueChanged, this, &CustomGrid::placeEditor);
     }
 }
 
@@ -263,15 +263,13 @@ void CustomGrid::fitHeader()
 
 void CustomGrid::cellActivated(int row, int column)
 {
-    guarded(m_host.errorHandler(), [&] {
-        if (isUseColumn(column)) {
-            toggleUse(row);
-        } else if (column == linkColumn()) {
-            removeRow(row);
-        } else {
-            openEditor(row, column);
-        }
-    });
+    if (isUseColumn(column)) {
+        toggleUse(row);
+    } else if (column == linkColumn()) {
+        removeRow(row);
+    } else {
+        openEditor(row, column);
+    }
 }
 
 void CustomGrid::toggleUse(int row)

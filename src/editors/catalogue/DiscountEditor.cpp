@@ -46,7 +46,7 @@ DiscountEditor::DiscountEditor(PanelHost& host, std::span<const DiscountOption> 
     if (std::any_of(options.begin(), options.end(), [](const DiscountOption& option) { return option.usesBands; })) {
         makeBands(frame);
     }
-    connect(m_buttons, &QButtonGroup::idToggled, this, &DiscountEditor::applyOption);
+    connectGuarded(m_host.errorHandler(), m_buttons, &QButtonGroup::idToggled, this, &DiscountEditor::applyOption);
     applyOption();
 }
 
@@ -213,8 +213,7 @@ namespace {
 
 QString percentText(const QString& percent)
 {
-    return percent.isEmpty() ? u"Nothing is inherited at present."_s
-                             : u"Inherited discount: %1 %"_s.arg(percent);
+    return percent.isEmpty() ? u"Nothing is inherited at present."_s : u"Inherited discount: %1 %"_s.arg(percent);
 }
 
 } // namespace

@@ -40,8 +40,8 @@ ProductGeneralPanel::ProductGeneralPanel(PanelHost& host, QWidget* parent) : Pan
     frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);
     frame->addButtons(host);
 
-    connect(ProductNameTxt, &QLineEdit::textEdited, this,
-            [this](const QString& text) { guarded(m_host.errorHandler(), [&] { m_host.setSelectedNodeText(text); }); });
+    connectGuarded(m_host.errorHandler(), ProductNameTxt, &QLineEdit::textEdited, this,
+                   [this](const QString& text) { m_host.setSelectedNodeText(text); });
 }
 
 void ProductGeneralPanel::addPriceRow(QFormLayout* form)

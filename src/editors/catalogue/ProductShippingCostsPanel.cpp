@@ -53,7 +53,8 @@ ProductShippingCostsPanel::ProductShippingCostsPanel(PanelHost& host, QWidget* p
     m_costForm = frame->addForm(u"Costs by shipping type"_s);
     addPair();
 
-    connect(m_options, &QButtonGroup::idToggled, this, &ProductShippingCostsPanel::applyOption);
+    connectGuarded(m_host.errorHandler(), m_options, &QButtonGroup::idToggled, this,
+                   &ProductShippingCostsPanel::applyOption);
     applyOption();
 }
 

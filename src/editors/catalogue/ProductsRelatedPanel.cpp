@@ -77,9 +77,9 @@ ProductsRelatedPanel::ProductsRelatedPanel(PanelHost& host, QWidget* parent)
     frame->addColumn(u"What the product's page recommends"_s, true)->addLayout(grid, 1);
     frame->addButtons(host);
 
-    connect(ToRelatedLbl, &LinkLabel::clicked, this,
-            [this] { guarded(m_host.errorHandler(), [this] { toRelated(); }); });
-    connect(FromRelatedLbl, &LinkLabel::clicked, this, &ProductsRelatedPanel::fromRelated);
+    connectGuarded(m_host.errorHandler(), ToRelatedLbl, &LinkLabel::clicked, this, &ProductsRelatedPanel::toRelated);
+    connectGuarded(m_host.errorHandler(), FromRelatedLbl, &LinkLabel::clicked, this,
+                   &ProductsRelatedPanel::fromRelated);
 }
 
 void ProductsRelatedPanel::SetActiveObject(const CatalogueObject& object)

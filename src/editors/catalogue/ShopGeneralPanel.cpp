@@ -42,10 +42,10 @@ ShopGeneralPanel::ShopGeneralPanel(PanelHost& host, QWidget* parent) : Panel(par
     countries->addLayout(links);
     frame->addButtons(host);
 
-    connect(ShopNameTxt, &QLineEdit::textEdited, this,
-            [this](const QString& text) { guarded(m_host.errorHandler(), [&] { m_host.setSelectedNodeText(text); }); });
-    connect(lblCheckAll, &LinkLabel::clicked, this, [this] { checkAll(Qt::Checked); });
-    connect(lblClearAll, &LinkLabel::clicked, this, [this] { checkAll(Qt::Unchecked); });
+    connectGuarded(m_host.errorHandler(), ShopNameTxt, &QLineEdit::textEdited, this,
+                   [this](const QString& text) { m_host.setSelectedNodeText(text); });
+    connectGuarded(m_host.errorHandler(), lblCheckAll, &LinkLabel::clicked, this, [this] { checkAll(Qt::Checked); });
+    connectGuarded(m_host.errorHandler(), lblClearAll, &LinkLabel::clicked, this, [this] { checkAll(Qt::Unchecked); });
 }
 
 void ShopGeneralPanel::checkAll(Qt::CheckState state)

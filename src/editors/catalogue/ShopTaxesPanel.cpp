@@ -40,7 +40,7 @@ ShopTaxesPanel::ShopTaxesPanel(PanelHost& host, QWidget* parent) : Panel(parent)
     frame->addColumn(u"Taxes"_s, true)->addWidget(TaxGrd, 1);
     frame->addButtons(host);
 
-    connect(optSelectTax, &QRadioButton::toggled, TaxGrd, &CustomGrid::setEnabled);
+    connect(optSelectTax, &QRadioButton::toggled, TaxGrd, &QWidget::setEnabled);
     TaxGrd->setEnabled(false);
 }
 

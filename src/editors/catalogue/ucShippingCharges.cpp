@@ -24,7 +24,7 @@ ucShippingCharges::ucShippingCharges(PanelHost& host, QWidget* parent) : Panel(p
     frame->addColumn(u"Charges by destination"_s, true)->addWidget(gridCharges, 1);
     frame->addButtons(host);
 
-    connect(cmbSelectCharges, &QRadioButton::toggled, gridCharges, &CustomGrid::setEnabled);
+    connect(cmbSelectCharges, &QRadioButton::toggled, gridCharges, &QWidget::setEnabled);
     gridCharges->setEnabled(false);
 }
 

@@ -23,7 +23,7 @@ CSSManagementForm::CSSManagementForm(PanelHost& host, QWidget* parent)
     column->addWidget(FontAndColorEditorPanel1);
     column->addLayout(buttons.row);
 
-    connect(buttons.OkBtn, &QPushButton::clicked, this, [this] {
+    connectGuarded(host.errorHandler(), buttons.OkBtn, &QPushButton::clicked, this, [this] {
         FontAndColorEditorPanel1->SaveActiveObject(*m_style);
         accept();
     });

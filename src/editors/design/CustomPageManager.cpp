@@ -53,13 +53,12 @@ CustomPageManager::CustomPageManager(PanelHost& panelHost, QWidget* parent)
     options()->addAheadOfStyles(makeEditor(), 1);
 
     const auto touched = [this] { m_changed = true; };
-    connect(PageNameTextCtl, &QLineEdit::textEdited, this, touched);
-    connect(PageContentTextCtl, &QPlainTextEdit::textChanged, this, touched);
-    connect(AddPageBtn, &QPushButton::clicked, this, [this] { guarded(host().errorHandler(), [this] { addPage(); }); });
-    connect(DeletePageBtn, &QPushButton::clicked, this,
-            [this] { guarded(host().errorHandler(), [this] { deletePage(); }); });
-    connect(CustomPagesListCtl, &QListWidget::currentRowChanged, this,
-            [this] { guarded(host().errorHandler(), [this] { pageSelected(); }); });
+    connectGuarded(host().errorHandler(), PageNameTextCtl, &QLineEdit::textEdited, this, touched);
+    connectGuarded(host().errorHandler(), PageContentTextCtl, &QPlainTextEdit::textChanged, this, touched);
+    connectGuarded(host().errorHandler(), AddPageBtn, &QPushButton::clicked, this, &CustomPageManager::addPage);
+    connectGuarded(host().errorHandler(), DeletePageBtn, &QPushButton::clicked, this, &CustomPageManager::deletePage);
+    connectGuarded(host().errorHandler(), CustomPagesListCtl, &QListWidget::currentRowChanged, this,
+                   &CustomPageManager::pageSelected);
     openPage(nullptr);
 }
 

@@ -137,13 +137,11 @@ void FontAndColorEditorPanel::makeColourRow(PanelHost& host)
         button->setAccessibleName(accessibleName);
         button->setIconSize(SwatchIconSize);
         qobject_cast<QFormLayout*>(Frame1->layout())->addRow(caption, button);
-        connect(button, &QPushButton::clicked, this, [this, &host, &colour, set] {
-            guarded(host.errorHandler(), [&] {
-                std::optional<int> chosen = host.session().prompts.chooseColour(colourNumberOf(colour));
-                if (chosen) {
-                    (this->*set)(ColorToHex(*chosen));
-                }
-            });
+        connectGuarded(host.errorHandler(), button, &QPushButton::clicked, this, [this, &host, &colour, set] {
+            std::optional<int> chosen = host.session().prompts.chooseColour(colourNumberOf(colour));
+            if (chosen) {
+                (this->*set)(ColorToHex(*chosen));
+            }
         });
         return button;
     };

@@ -146,18 +146,16 @@ void PageOptions::makeImagesAndLists()
     for (const SlotRow& row : m_table.imageSlots) {
         QPushButton* button = namedButton(row.control, captionText(row.caption) + u"..."_s);
         m_slotLabels.push_back(addChoice(grid, button));
-        connect(button, &QPushButton::clicked, this,
-                [this, &row] { guarded(m_host.errorHandler(), [&] { openSlot(row); }); });
+        connectGuarded(m_host.errorHandler(), button, &QPushButton::clicked, this, [this, &row] { openSlot(row); });
     }
     for (const ListRow& row : m_table.lists) {
         QPushButton* button = namedButton(row.control, captionText(row.caption) + u"..."_s);
         m_listLabels.push_back(addChoice(grid, button));
-        connect(button, &QPushButton::clicked, this,
-                [this, &row] { guarded(m_host.errorHandler(), [&] { openList(row); }); });
+        connectGuarded(m_host.errorHandler(), button, &QPushButton::clicked, this, [this, &row] { openList(row); });
     }
     if (!m_table.lists.empty()) {
         m_pagesForm = new frmSelectedCustomPages(m_host, this);
-        connect(m_pagesForm, &QDialog::finished, this, &PageOptions::showChoices);
+        connectGuarded(m_host.errorHandler(), m_pagesForm, &QDialog::finished, this, &PageOptions::showChoices);
     }
 }
 
@@ -173,8 +171,7 @@ void PageOptions::makeStyles()
         button->setIconSize(SwatchIconSize);
         grid->add(button);
         m_styleButtons.push_back(button);
-        connect(button, &QPushButton::clicked, this,
-                [this, &row] { guarded(m_host.errorHandler(), [&] { openStyle(row); }); });
+        connectGuarded(m_host.errorHandler(), button, &QPushButton::clicked, this, [this, &row] { openStyle(row); });
     }
 }
 
@@ -229,23 +226,21 @@ std::shared_ptr<clsSelectedImage> PageOptions::imageOf(const SlotRow& row) const
 
 void PageOptions::showChoices()
 {
-    guarded(m_host.errorHandler(), [this] {
-        for (std::size_t i = 0; i < m_slotLabels.size(); ++i) {
-            m_slotLabels[i]->setText(describe(imageOf(m_table.imageSlots[i]).get()));
-        }
-        for (std::size_t i = 0; i < m_listLabels.size(); ++i) {
-            m_listLabels[i]->setText(describe(*designOf(m_host).Pages(m_table.lists[i].list)));
-        }
-        // The colours of each style on its button. A style that is not there yet is not made by looking.
-        const auto& styles = m_host.session().shop->CSSs;
-        for (std::size_t i = 0; i < m_styleButtons.size(); ++i) {
-            const QString key = u"ID"_s + QLatin1String(m_table.styles[i].style);
-            const CSSClass none;
-            const CSSClass& style = styles.hasKey(key) ? *styles.Item(key) : none;
-            m_styleButtons[i]->setIcon(
-                styleSwatch(colourOf(style.ForeGroundColor), colourOf(style.BackGroundColor), devicePixelRatioF()));
-        }
-    });
+    for (std::size_t i = 0; i < m_slotLabels.size(); ++i) {
+        m_slotLabels[i]->setText(describe(imageOf(m_table.imageSlots[i]).get()));
+    }
+    for (std::size_t i = 0; i < m_listLabels.size(); ++i) {
+        m_listLabels[i]->setText(describe(*designOf(m_host).Pages(m_table.lists[i].list)));
+    }
+    // The colours of each style on its button. A style that is not there yet is not made by looking.
+    const auto& styles = m_host.session().shop->CSSs;
+    for (std::size_t i = 0; i < m_styleButtons.size(); ++i) {
+        const QString key = u"ID"_s + QLatin1String(m_table.styles[i].style);
+        const CSSClass none;
+        const CSSClass& style = styles.hasKey(key) ? *styles.Item(key) : none;
+        m_styleButtons[i]->setIcon(
+            styleSwatch(colourOf(style.ForeGroundColor), colourOf(style.BackGroundColor), devicePixelRatioF()));
+    }
 }
 
 // The dialogs ---------------------------------------------------------------------------------------------------------
@@ -253,7 +248,7 @@ void PageOptions::showChoices()
 void PageOptions::openSlot(const SlotRow& row)
 {
     const QDialog* dialog = showImageOrTextDialog(m_host, this, captionText(row.caption), imageOf(row));
-    connect(dialog, &QDialog::finished, this, &PageOptions::showChoices);
+    connectGuarded(m_host.errorHandler(), dialog, &QDialog::finished, this, &PageOptions::showChoices);
 }
 
 void PageOptions::openList(const ListRow& row)
@@ -268,5 +263,5 @@ void PageOptions::openList(const ListRow& row)
 void PageOptions::openStyle(const StyleRow& row)
 {
     const QDialog* dialog = OpenStyle(m_host, this, captionText(row.title), QLatin1String(row.style));
-    connect(dialog, &QDialog::finished, this, &PageOptions::showChoices);
+    connectGuarded(m_host.errorHandler(), dialog, &QDialog::finished, this, &PageOptions::showChoices);
 }

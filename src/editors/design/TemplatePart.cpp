@@ -41,12 +41,10 @@ TemplatePart::TemplatePart(PanelHost& host, const ManagerTable& table, QWidget* 
     column->addWidget(m_editor, 1);
     column->addLayout(buttons);
 
-    connect(AdvancedCh, &QCheckBox::toggled, this,
-            [this](bool on) { guarded(m_host.errorHandler(), [&] { advancedToggled(on); }); });
-    connect(SaveTemplteBtn, &QPushButton::clicked, this,
-            [this] { guarded(m_host.errorHandler(), [this] { save(); }); });
-    connect(RestoreTemplateBtn, &QPushButton::clicked, this,
-            [this] { guarded(m_host.errorHandler(), [this] { restore(); }); });
+    connectGuarded(m_host.errorHandler(), AdvancedCh, &QCheckBox::toggled, this,
+                   [this](bool on) { advancedToggled(on); });
+    connectGuarded(m_host.errorHandler(), SaveTemplteBtn, &QPushButton::clicked, this, &TemplatePart::save);
+    connectGuarded(m_host.errorHandler(), RestoreTemplateBtn, &QPushButton::clicked, this, &TemplatePart::restore);
 }
 
 void TemplatePart::load(bool advanced)

@@ -45,18 +45,16 @@ ucSelectImageOrText::ucSelectImageOrText(PanelHost& host, QWidget* parent)
     column->addLayout(buttons.row);
     useText(false);
 
-    connect(chkText, &QCheckBox::toggled, this, &ucSelectImageOrText::useText);
-    connect(m_pictures, &PicturesList::pictureSelected, this, [this] {
+    connectGuarded(m_host.errorHandler(), chkText, &QCheckBox::toggled, this, &ucSelectImageOrText::useText);
+    connectGuarded(m_host.errorHandler(), m_pictures, &PicturesList::pictureSelected, this, [this] {
         if (!m_filling) {
             chkText->setChecked(false);
         }
     });
-    connect(btnCSS_Text, &QPushButton::clicked, this, [this] {
-        guarded(m_host.errorHandler(), [this] { OpenStyle(m_host, this, u"Header text style"_s, m_selection->Tag); });
-    });
-    connect(OkBtn, &QPushButton::clicked, this,
-            [this] { guarded(m_host.errorHandler(), [this] { SaveActiveObject(); }); });
-    connect(CancelBtn, &QPushButton::clicked, this, [this] {
+    connectGuarded(m_host.errorHandler(), btnCSS_Text, &QPushButton::clicked, this,
+                   [this] { OpenStyle(m_host, this, u"Header text style"_s, m_selection->Tag); });
+    connectGuarded(m_host.errorHandler(), OkBtn, &QPushButton::clicked, this, &ucSelectImageOrText::SaveActiveObject);
+    connectGuarded(m_host.errorHandler(), CancelBtn, &QPushButton::clicked, this, [this] {
         if (m_form) {
             m_form->reject();
         }

@@ -114,7 +114,7 @@ struct NetworkHttpClient::Request
 
 NetworkHttpClient::NetworkHttpClient(FatalErrorHandler& errors, QObject* parent) : QObject(parent), m_errors(errors)
 {
-    connect(&m_loop, &TransferLoop::ended, this, &NetworkHttpClient::finish);
+    connectGuarded(m_errors, &m_loop, &TransferLoop::ended, this, &NetworkHttpClient::finish);
 }
 
 NetworkHttpClient::~NetworkHttpClient() = default;
@@ -176,5 +176,5 @@ void NetworkHttpClient::finish(CURLcode result)
     }
     const Done done = std::move(m_request->done);
     m_request.reset(); // its memory goes before that of the next one comes
-    guarded(m_errors, [&] { done(answer); });
+    done(answer);
 }

@@ -32,9 +32,9 @@ frmUpload::frmUpload(const ApplicationFolder& folder, UserPrompts& prompts, Fata
     makeControls();
     layOutControls();
 
-    connect(OkBtn, &QPushButton::clicked, this, [this] { guarded(m_errors, [this] { m_run.start(); }); });
-    connect(CancelBtn, &QPushButton::clicked, this, &frmUpload::reject);
-    connect(lblSignUp, &QLabel::linkActivated, this, &frmUpload::openSignUpPage);
+    connectGuarded(m_errors, OkBtn, &QPushButton::clicked, this, [this] { m_run.start(); });
+    connectGuarded(m_errors, CancelBtn, &QPushButton::clicked, this, &frmUpload::reject);
+    connectGuarded(m_errors, lblSignUp, &QLabel::linkActivated, this, &frmUpload::openSignUpPage);
     lblSignUp->installEventFilter(this);
 }
 
@@ -198,7 +198,7 @@ bool frmUpload::signUpKeyPressed(QEvent* event)
         return false;
     case QEvent::KeyPress:
         if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {
-            openSignUpPage();
+            guarded(m_errors, [this] { openSignUpPage(); });
             return true;
         }
         return false;
@@ -209,7 +209,7 @@ bool frmUpload::signUpKeyPressed(QEvent* event)
 
 void frmUpload::openSignUpPage()
 {
-    guarded(m_errors, [this] { m_openUrl(QUrl(VendorAddresses::SignUp())); });
+    m_openUrl(QUrl(VendorAddresses::SignUp()));
 }
 
 void frmUpload::abandonTransfer()

@@ -62,9 +62,10 @@ PreviewBrowser::PreviewBrowser(const ApplicationFolder& folder, FatalErrorHandle
     setObjectName(u"PreviewBrowser"_s);
     m_profile->installUrlSchemeHandler(DocumentScheme::name(), m_scheme.get());
     m_profile->setUrlRequestInterceptor(m_interceptor.get());
-    connect(m_page.get(), &PreviewEnginePage::documentBegun, this, [this] { m_asked.invalidate(); });
-    connect(m_page.get(), &QWebEnginePage::loadFinished, this, &PreviewBrowser::forgetWayBack);
-    connect(m_page.get(), &QWebEnginePage::renderProcessTerminated, this, &PreviewBrowser::processEnded);
+    connectGuarded(m_errors, m_page.get(), &PreviewEnginePage::documentBegun, this, [this] { m_asked.invalidate(); });
+    connectGuarded(m_errors, m_page.get(), &QWebEnginePage::loadFinished, this, &PreviewBrowser::forgetWayBack);
+    connectGuarded(m_errors, m_page.get(), &QWebEnginePage::renderProcessTerminated, this,
+                   &PreviewBrowser::processEnded);
 
     m_view->setPage(m_page.get());
     m_view->setContextMenuPolicy(Qt::NoContextMenu);

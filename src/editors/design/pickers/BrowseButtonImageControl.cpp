@@ -28,8 +28,8 @@ BrowseButtonImageControl::BrowseButtonImageControl(PanelHost& host, QWidget* par
     row->addWidget(ImagePB, 1);
     row->addLayout(links);
 
-    connect(BrowseBtnLbl, &LinkLabel::clicked, this, [this] { guarded(m_host.errorHandler(), [this] { browse(); }); });
-    connect(DeleteBtnLbl, &LinkLabel::clicked, this, &BrowseButtonImageControl::Remove);
+    connectGuarded(m_host.errorHandler(), BrowseBtnLbl, &LinkLabel::clicked, this, &BrowseButtonImageControl::browse);
+    connectGuarded(m_host.errorHandler(), DeleteBtnLbl, &LinkLabel::clicked, this, &BrowseButtonImageControl::Remove);
 }
 
 void BrowseButtonImageControl::Remove()

@@ -61,21 +61,17 @@ BrowseImageControl::BrowseImageControl(PanelHost& host, QWidget* parent)
     setTitleText(QString());
     setBackground(m_background);
 
-    connect(BrowseBtnLbl, &LinkLabel::clicked, this, [this] { guarded(m_host.errorHandler(), [this] { browse(); }); });
-    connect(DeleteBtnLbl, &LinkLabel::clicked, this, &BrowseImageControl::Remove);
-    connect(txtWidth, &NumericBox::edited, this, [this](const QString& text) {
-        guarded(m_host.errorHandler(), [&] {
-            if (m_selectedImage) {
-                m_selectedImage->setWidthBmp(pixelsIn(text));
-            }
-        });
+    connectGuarded(m_host.errorHandler(), BrowseBtnLbl, &LinkLabel::clicked, this, &BrowseImageControl::browse);
+    connectGuarded(m_host.errorHandler(), DeleteBtnLbl, &LinkLabel::clicked, this, &BrowseImageControl::Remove);
+    connectGuarded(m_host.errorHandler(), txtWidth, &NumericBox::edited, this, [this](const QString& text) {
+        if (m_selectedImage) {
+            m_selectedImage->setWidthBmp(pixelsIn(text));
+        }
     });
-    connect(txtHeight, &NumericBox::edited, this, [this](const QString& text) {
-        guarded(m_host.errorHandler(), [&] {
-            if (m_selectedImage) {
-                m_selectedImage->setHeightBmp(pixelsIn(text));
-            }
-        });
+    connectGuarded(m_host.errorHandler(), txtHeight, &NumericBox::edited, this, [this](const QString& text) {
+        if (m_selectedImage) {
+            m_selectedImage->setHeightBmp(pixelsIn(text));
+        }
     });
 }
 

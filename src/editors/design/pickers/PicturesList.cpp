@@ -39,15 +39,13 @@ PicturesList::PicturesList(PanelHost& host, QWidget* parent)
     row->addLayout(list, 1);
     row->addWidget(imgPreview, 1);
 
-    connect(lstImages, &QListWidget::itemSelectionChanged, this, [this] {
-        guarded(m_host.errorHandler(), [this] {
-            showSelected();
-            if (lstImages->currentItem() && !lstImages->selectedItems().isEmpty()) {
-                Q_EMIT pictureSelected(selectedPicture());
-            }
-        });
+    connectGuarded(m_host.errorHandler(), lstImages, &QListWidget::itemSelectionChanged, this, [this] {
+        showSelected();
+        if (lstImages->currentItem() && !lstImages->selectedItems().isEmpty()) {
+            Q_EMIT pictureSelected(selectedPicture());
+        }
     });
-    connect(AddBttn, &QPushButton::clicked, this, [this] { guarded(m_host.errorHandler(), [this] { addPicture(); }); });
+    connectGuarded(m_host.errorHandler(), AddBttn, &QPushButton::clicked, this, &PicturesList::addPicture);
 }
 
 void PicturesList::selectPicture(const QString& name)

@@ -22,12 +22,10 @@ frmSelectedCustomPages::frmSelectedCustomPages(PanelHost& host, QWidget* parent)
     column->addLayout(buttons.row);
     resize(380, 420);
 
-    connect(buttons.OkBtn, &QPushButton::clicked, this, [this, &host] {
-        guarded(host.errorHandler(), [&] {
-            pagesControl->SetMultiSelect(true);
-            pagesControl->SaveActiveObject();
-            accept();
-        });
+    connectGuarded(host.errorHandler(), buttons.OkBtn, &QPushButton::clicked, this, [this] {
+        pagesControl->SetMultiSelect(true);
+        pagesControl->SaveActiveObject();
+        accept();
     });
     connect(buttons.CancelBtn, &QPushButton::clicked, this, &QDialog::reject);
 }

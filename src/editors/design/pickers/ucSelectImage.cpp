@@ -27,11 +27,10 @@ ucSelectImage::ucSelectImage(PanelHost& host, QWidget* parent)
     column->addWidget(m_pictures, 1);
     column->addLayout(buttons);
 
-    connect(OkBtn, &QPushButton::clicked, this,
-            [this] { guarded(m_host.errorHandler(), [this] { SaveActiveObject(); }); });
-    connect(m_pictures->lstImages, &QListWidget::itemDoubleClicked, this,
-            [this] { guarded(m_host.errorHandler(), [this] { SaveActiveObject(); }); });
-    connect(CancelBtn, &QPushButton::clicked, this, [this] {
+    connectGuarded(m_host.errorHandler(), OkBtn, &QPushButton::clicked, this, &ucSelectImage::SaveActiveObject);
+    connectGuarded(m_host.errorHandler(), m_pictures->lstImages, &QListWidget::itemDoubleClicked, this,
+                   &ucSelectImage::SaveActiveObject);
+    connectGuarded(m_host.errorHandler(), CancelBtn, &QPushButton::clicked, this, [this] {
         if (m_form) {
             m_form->reject();
         }
