@@ -32,7 +32,7 @@ const QMap<QString, QStringList>& unguardedSignals()
         {u"editors/design/TemplateText.cpp"_s,
          {u"QPlainTextEdit::blockCountChanged"_s, u"QPlainTextEdit::updateRequest"_s}},
         // One tick takes the others away.
-        {u"editors/design/ucSelectCustPage.cpp"_s, {u"QCheckBox::toggled"_s, u"QListWidget::itemChanged"_s}},
+        {u"editors/design/pickers/ucSelectCustPage.cpp"_s, {u"QCheckBox::toggled"_s, u"QListWidget::itemChanged"_s}},
         // These call the transfer library; what a transfer's end leads to is guarded where it is connected.
         {u"publish/dialog/TransferLoop.cpp"_s,
          {u"QSocketNotifier::activated"_s, u"QSocketNotifier::activated"_s, u"QTimer::timeout"_s}},
