@@ -36,8 +36,9 @@ const QMap<QString, QStringList>& unguardedSignals()
         // These call the transfer library; what a transfer's end leads to is guarded where it is connected.
         {u"publish/dialog/TransferLoop.cpp"_s,
          {u"QSocketNotifier::activated"_s, u"QSocketNotifier::activated"_s, u"QTimer::timeout"_s}},
-        // The page loads the address, and the navigation that it asks is guarded.
-        {u"shell/browser/PreviewEnginePage.cpp"_s, {u"QWebEnginePage::newWindowRequested"_s}},
+        // The page takes note of where it is and loads the address; what it asks before a navigation is guarded.
+        {u"shell/browser/PreviewEnginePage.cpp"_s,
+         {u"QWebEnginePage::loadFinished"_s, u"QWebEnginePage::newWindowRequested"_s, u"QWebEnginePage::urlChanged"_s}},
     };
     return table;
 }
