@@ -44,19 +44,17 @@ template <class Sender, class Owner, class... Arguments, class Receiver, class S
 QMetaObject::Connection connectGuarded(FatalErrorHandler& errors, const Sender* sender,
                                        void (Owner::*signal)(Arguments...), Receiver* receiver, Slot slot)
 {
-    return QObject::connect(sender, signal, receiver, [&errors, receiver, slot](Arguments... arguments) {
-        guarded(errors, [&] {
-            if constexpr (std::is_member_function_pointer_v<Slot>) {
-                if constexpr (std::is_invocable_v<Slot, Receiver*, Arguments...>) {
-                    std::invoke(slot, receiver, arguments...);
+    if constexpr (std::is_member_function_pointer_v<Slot>) {
+        return connectGuarded(errors, sender, signal, receiver, std::bind_front(slot, receiver));
+    } else {
+        return QObject::connect(sender, signal, receiver, [&errors, slot](Arguments... arguments) {
+            guarded(errors, [&] {
+                if constexpr (std::is_invocable_v<const Slot&, Arguments...>) {
+                    slot(arguments...);
                 } else {
-                    std::invoke(slot, receiver);
+                    slot();
                 }
-            } else if constexpr (std::is_invocable_v<Slot, Arguments...>) {
-                slot(arguments...);
-            } else {
-                slot();
-            }
+            });
         });
-    });
+    }
 }
