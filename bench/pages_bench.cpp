@@ -90,7 +90,7 @@ public:
     NoPrompts prompts;
     SystemClock clock;
     ShopSession session{ApplicationFolder(directory.path()), prompts, clock};
-    Templates_Set templates{session.folder, session.log};
+    Templates_Set templates{session.folder, session.log, shopTemplateNames()};
     PageContext context{session, templates};
 
 private:

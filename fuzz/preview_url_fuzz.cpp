@@ -58,7 +58,7 @@ struct Shop
     NoPrompts prompts;
     SystemClock clock;
     ShopSession session{ApplicationFolder(folder.path()), prompts, clock};
-    Templates_Set templates{session.folder, session.log};
+    Templates_Set templates{session.folder, session.log, shopTemplateNames()};
     CountingSurface surface;
     PreviewPage page{session, templates, surface};
     PreviewNavigation navigation{session, page};

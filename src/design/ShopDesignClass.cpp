@@ -3,27 +3,12 @@
 #include "base/XMLUtils.h"
 #include "base/XmlReading.h"
 
+#include <algorithm>
 #include <variant>
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr std::array<QLatin1StringView, ImageSlotCount> imageTags = {
-    "HEADER_LOGO"_L1,
-    "HEADER_SEARCH_BUTTON"_L1,
-    "HEADER_SHOPPINGCART_BUTTON"_L1,
-    "MENU_SEARCH_BUTTON"_L1,
-    "MENU_SHOPPINGCART_BUTTON"_L1,
-    "MAIN_SEARCH_BUTTON"_L1,
-    "SEARCHPAGE_SHOPPINGCART_BUTTON"_L1,
-    "PRODUCT_CART_BUTTON"_L1,
-    "CATEGORY_CART_BUTTON"_L1,
-    "CARTPAGE_RECALCULATE_BUTTON"_L1,
-    "CARTPAGE_CHECKOUT_BUTTON"_L1,
-    "BUYINGFORM_MAKEORDER_BUTTON"_L1,
-};
 
 constexpr std::array<QLatin1StringView, PageSelectionCount> pageTags = {
     "FOOTER_MENU_LIST"_L1,         "HEADER_MENU_LIST"_L1,    "LEFT_MENU_MENU_LIST"_L1,
@@ -50,9 +35,10 @@ constexpr std::array groupSteps = {
 };
 
 // What stands behind the groups in the file: the header's options a second time with two slots among them, and then the
-// slots and selections in an order that is not the one they are read in. Both are part of the format.
+// selections and slots in an order that is not the one they are read in. Both are part of the format. A slot that no
+// step names follows at the end.
 using WritingStep = std::variant<DesignOption, ImageSlot, PageSelection>;
-constexpr std::array<WritingStep, 24> writingSteps = {
+constexpr std::array<WritingStep, 16> writingSteps = {
     DesignOption::Header_ShowLogo,
     ImageSlot::HeaderLogo,
     ImageSlot::HeaderSearchButton,
@@ -69,15 +55,12 @@ constexpr std::array<WritingStep, 24> writingSteps = {
     PageSelection::CustomPageAsMainPage,
     PageSelection::MainPageMenuList,
     ImageSlot::MainSearchButton,
-    ImageSlot::MenuSearchButton,
-    ImageSlot::MenuShoppingCartButton,
-    ImageSlot::SearchPageShoppingCartButton,
-    ImageSlot::ProductCartButton,
-    ImageSlot::CategoryCartButton,
-    ImageSlot::CartRecalculateButton,
-    ImageSlot::CartPage_Checkout_Button,
-    ImageSlot::BuyingFormMakeOrderButton,
 };
+
+bool isWritingStep(ImageSlot slot)
+{
+    return std::find(writingSteps.begin(), writingSteps.end(), WritingStep(slot)) != writingSteps.end();
+}
 
 bool isLimit(DesignOption option)
 {
@@ -86,11 +69,6 @@ bool isLimit(DesignOption option)
 }
 
 } // namespace
-
-QString tagOf(ImageSlot slot)
-{
-    return imageTags[static_cast<std::size_t>(slot)];
-}
 
 QString tagOf(PageSelection selection)
 {
@@ -101,7 +79,7 @@ ShopDesignClass::ShopDesignClass(const DesignServices& services) : m_services(&s
 {
     services.log.WriteLoadLog(u"Start shop design creating"_s);
     for (std::size_t i = 0; i < ImageSlotCount; ++i) {
-        m_images[i] = std::make_shared<clsSelectedImage>(services, imageTags[i]);
+        m_images[i] = std::make_shared<clsSelectedImage>(services, tagOf(static_cast<ImageSlot>(i)));
     }
     for (std::size_t i = 0; i < PageSelectionCount; ++i) {
         m_pages[i] = std::make_shared<clsSelectedCustomPages>(services, pageTags[i]);
@@ -174,6 +152,11 @@ void ShopDesignClass::ToXML(pugi::xml_node node)
             Image(*slot)->ToXML(node);
         } else {
             Pages(std::get<PageSelection>(step))->ToXML(node);
+        }
+    }
+    for (const ImageSlotRow& row : imageSlotTable()) {
+        if (!isWritingStep(row.slot)) {
+            Image(row.slot)->ToXML(node);
         }
     }
 }

@@ -4,6 +4,7 @@
 
 #include "design/DesignOptions.h"
 #include "design/DesignServices.h"
+#include "design/ImageSlots.h"
 #include "design/clsSelectedCustomPages.h"
 #include "design/clsSelectedImage.h"
 
@@ -13,23 +14,6 @@
 #include <cstddef>
 #include <memory>
 #include <pugixml.hpp>
-
-// The image slots, in the order in which they are read.
-enum class ImageSlot {
-    HeaderLogo,
-    HeaderSearchButton,
-    HeaderShoppingCartButton,
-    MenuSearchButton,
-    MenuShoppingCartButton,
-    MainSearchButton,
-    SearchPageShoppingCartButton,
-    ProductCartButton,
-    CategoryCartButton,
-    CartRecalculateButton,
-    CartPage_Checkout_Button,
-    BuyingFormMakeOrderButton,
-};
-inline constexpr std::size_t ImageSlotCount = 12;
 
 // The page selections, in the order in which they are read.
 enum class PageSelection {
@@ -41,8 +25,7 @@ enum class PageSelection {
 };
 inline constexpr std::size_t PageSelectionCount = 5;
 
-// The names of their elements in the shop file.
-QString tagOf(ImageSlot slot);
+// The name of its element in the shop file.
 QString tagOf(PageSelection selection);
 
 class ShopDesignClass

@@ -1,9 +1,9 @@
 #include "design/clsSelectedCustomPages.h"
 
+#include "base/ApplicationTitle.h"
 #include "base/RuntimeError.h"
 #include "base/XMLUtils.h"
 #include "base/XmlReading.h"
-#include "design/ApplicationTitle.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,10 +1,10 @@
 #include "design/clsSelectedImage.h"
 
+#include "base/ApplicationTitle.h"
 #include "base/RuntimeError.h"
 #include "base/WholeNumbers.h"
 #include "base/XMLUtils.h"
 #include "base/XmlReading.h"
-#include "design/ApplicationTitle.h"
 
 #include <array>
 

@@ -4,11 +4,11 @@
 #pragma once
 
 #include "base/ApplicationFolder.h"
+#include "base/ApplicationTitle.h"
 #include "base/Clock.h"
 #include "base/KeyedCollection.h"
 #include "base/LoadLog.h"
 #include "base/UserPrompts.h"
-#include "design/ApplicationTitle.h"
 #include "design/DesignServices.h"
 #include "model/ModelServices.h"
 #include "model/ObjectsCollection.h"

@@ -1,8 +1,8 @@
 #include "model/clsCart.h"
 
+#include "base/ApplicationTitle.h"
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
-#include "design/ApplicationTitle.h"
 #include "model/ObjectsCollection.h"
 #include "model/ProductClass.h"
 

@@ -1,5 +1,12 @@
 #include "pages/PageContext.h"
 
+#include "design/PageTable.h"
+
+TemplateNames shopTemplateNames()
+{
+    return {nameOf(ShopPage::Layout), pageNamesBy(&PageRow::reading)};
+}
+
 const std::shared_ptr<ShopClass>& PageContext::sharedShop() const
 {
     if (m_session->shop == nullptr) {

@@ -6,6 +6,9 @@
 #include "model/ShopSession.h"
 #include "template_engine/Templates_Set.h"
 
+// The names of the templates that the shop's pages are poured into.
+TemplateNames shopTemplateNames();
+
 class PageContext
 {
 public:

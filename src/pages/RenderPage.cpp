@@ -1,21 +1,22 @@
 #include "pages/RenderPage.h"
 
+#include "design/PageTable.h"
 #include "pages/PageFillers.h"
 #include "pages/TemplateUtils.h"
 
 namespace {
 
-struct Page
+struct PageFiller
 {
-    QStringView name;
+    ShopPage page;
     void (*addVariables)(Variables& vars, const PageContext& context, const PageObject& object);
 };
 
-constexpr Page Pages[] = {
-    {u"main", addMainPage},         {u"menu", addMenuPage},         {u"category", addCategoryPage},
-    {u"product", addProductPage},   {u"custompage", addCustomPage}, {u"footer", addFooterPage},
-    {u"header", addHeaderPage},     {u"search", addSearchPage},     {u"cart", addCartPage},
-    {u"checkout", addCheckoutPage},
+constexpr PageFiller fillers[] = {
+    {ShopPage::Main, addMainPage},         {ShopPage::Menu, addMenuPage},         {ShopPage::Category, addCategoryPage},
+    {ShopPage::Product, addProductPage},   {ShopPage::CustomPage, addCustomPage}, {ShopPage::Footer, addFooterPage},
+    {ShopPage::Header, addHeaderPage},     {ShopPage::Search, addSearchPage},     {ShopPage::Cart, addCartPage},
+    {ShopPage::Checkout, addCheckoutPage},
 };
 
 } // namespace
@@ -25,9 +26,9 @@ Variables pageVariables(const PageContext& context, const QString& pageName, con
     Variables vars = context.newVariables();
     vars.Add(u"server", serverAddress());
     vars.Add(u"shop_currency", context.shop().shop_currency);
-    for (const Page& page : Pages) {
-        if (page.name == pageName) {
-            page.addVariables(vars, context, pageObject);
+    for (const PageFiller& filler : fillers) {
+        if (rowOf(filler.page).name == pageName) {
+            filler.addVariables(vars, context, pageObject);
         }
     }
     return vars;

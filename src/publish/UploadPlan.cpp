@@ -3,6 +3,8 @@
 #include "base/XMLUtils.h"
 #include "base/XmlFile.h"
 #include "base/XmlReading.h"
+#include "design/ImageSlots.h"
+#include "design/PageTable.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -14,29 +16,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array buttonNames{
-    "HEADER_LOGO",
-    "HEADER_SEARCH_BUTTON",
-    "HEADER_SHOPPINGCART_BUTTON",
-    "CATEGORY_CART_BUTTON",
-    "PRODUCT_CART_BUTTON",
-    "SEARCHPAGE_SHOPPINGCART_BUTTON",
-    "MENU_SHOPPINGCART_BUTTON",
-    "MENU_SEARCH_BUTTON",
-    "MAIN_SEARCH_BUTTON",
-    "CARTPAGE_CHECKOUT_BUTTON",
-    "CARTPAGE_RECALCULATE_BUTTON",
-    "BUYINGFORM_MAKEORDER_BUTTON",
-};
-
-constexpr std::array templatePairs{
-    std::array{"cart"_L1, "category"_L1},         std::array{"custompage"_L1, "footer"_L1},
-    std::array{"header"_L1, "layout"_L1},         std::array{"main"_L1, "menu"_L1},
-    std::array{"product"_L1, "search"_L1},        std::array{"checkout"_L1, "buying"_L1},
-    std::array{"payed_cancel"_L1, "payed_ok"_L1},
-};
-
 constexpr int fixedFiles = 19; // what the progress reckons with beside the pictures
+
+// The slots' tags in the order in which their pictures go up.
+std::array<const char*, ImageSlotCount> slotTagsInOrder()
+{
+    std::array<const char*, ImageSlotCount> tags{};
+    for (const ImageSlotRow& row : imageSlotTable()) {
+        tags[static_cast<std::size_t>(row.sending - 1)] = row.tag.data();
+    }
+    return tags;
+}
 
 QString childText(const pugi::xml_node& element, const char* tag)
 {
@@ -142,10 +132,10 @@ void UploadPlan::addCatalogue(const pugi::xml_node& shop)
 // Names of the design are used as they are.
 void UploadPlan::addDesign(const pugi::xml_node& design)
 {
-    std::array<pugi::xml_node, buttonNames.size()> buttons;
-    findFirstDescendants(design, buttonNames, buttons);
-    for (const pugi::xml_node& button : buttons) {
-        AddPictureIfNeeded(lastChildText(button, "FileName"));
+    std::array<pugi::xml_node, ImageSlotCount> slotNodes;
+    findFirstDescendants(design, slotTagsInOrder(), slotNodes);
+    for (const pugi::xml_node& slot : slotNodes) {
+        AddPictureIfNeeded(lastChildText(slot, "FileName"));
     }
     // The shop file has its custom pages beside ShopDesign and none below it, so that their pictures stay where they
     // are. Looking for them here is meant.
@@ -181,9 +171,10 @@ std::vector<UploadItem> UploadPlan::items() const
     for (const QString& picture : PicturesToUpload) {
         all.push_back({UploadItem::Kind::Picture, picture, 1});
     }
-    for (const auto& pair : templatePairs) {
-        all.push_back({UploadItem::Kind::Template, pair[0], 1});
-        all.push_back({UploadItem::Kind::Template, pair[1], 1 + 2}); // and two more for the pair
+    bool endsPair = false;
+    for (const PageRow& page : pageTable()) {
+        all.push_back({UploadItem::Kind::Template, page.name, endsPair ? 1 + 2 : 1}); // two more for the pair
+        endsPair = !endsPair;
     }
     return all;
 }

@@ -1,5 +1,6 @@
 #include "publish/UploadRun.h"
 
+#include "base/ApplicationTitle.h"
 #include "base/ProgramVersion.h"
 #include "base/RuntimeError.h"
 #include "base/TextFile.h"
@@ -206,7 +207,7 @@ void UploadRun::stop()
 // The hourglass stays until the screen closes; this is meant.
 void UploadRun::stopWithoutNode(const char* tag)
 {
-    m_prompts.showMessage(u"Ambrel eCommerce Software"_s,
+    m_prompts.showMessage(applicationTitle(),
                           u"Error in the configuration XML file. No '%1' node."_s.arg(QLatin1StringView(tag)),
                           PromptIcon::None);
     m_transferring = false;

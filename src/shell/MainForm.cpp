@@ -23,7 +23,7 @@ MainForm::MainForm(std::unique_ptr<ShopSession> session, const PreviewFactory& m
     : m_errors(errors),
       m_startAgain(std::move(startAgain)),
       m_session(std::move(session)),
-      m_templates(std::make_unique<Templates_Set>(m_session->folder, m_session->log))
+      m_templates(std::make_unique<Templates_Set>(m_session->folder, m_session->log, shopTemplateNames()))
 {
     auto* room = new ContentRoom(this);
     m_preview = makePreview(room->content());

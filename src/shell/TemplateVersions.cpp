@@ -1,9 +1,10 @@
 #include "shell/TemplateVersions.h"
 
+#include "base/ApplicationTitle.h"
 #include "base/DelimitedFields.h"
 #include "base/ProgramVersion.h"
 #include "base/TextFile.h"
-#include "design/ApplicationTitle.h"
+#include "design/PageTable.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,8 +27,7 @@ bool CheckTemplateVersion(const QString& name, const ApplicationFolder& folder, 
 void CheckAllTemplateVersions(const ApplicationFolder& folder, UserPrompts& prompts,
                               const std::function<void()>& closeWindow)
 {
-    for (const char* name : {"header", "footer", "menu", "main", "product", "category", "cart", "search", "buying",
-                             "checkout", "custompage", "layout"}) {
-        CheckTemplateVersion(QString::fromLatin1(name), folder, prompts, closeWindow);
+    for (const QString& name : pageNamesBy(&PageRow::checking)) {
+        CheckTemplateVersion(name, folder, prompts, closeWindow);
     }
 }

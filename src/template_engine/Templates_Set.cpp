@@ -2,19 +2,9 @@
 
 #include "base/RuntimeError.h"
 
-#include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr QStringView LayoutName = u"layout";
-
-// The pages in the order of reading: a page that fails keeps those behind it from being read.
-constexpr std::array<QStringView, 10> PageNames{u"main",   u"footer", u"menu",   u"category",   u"product",
-                                                u"search", u"cart",   u"header", u"custompage", u"checkout"};
-
-} // namespace
 
 QString linesEndedByCr(const QString& text)
 {
@@ -27,7 +17,8 @@ QString linesEndedByCr(const QString& text)
     return lines;
 }
 
-Templates_Set::Templates_Set(const ApplicationFolder& folder, LoadLog& log) : Path(folder.templatesFolder()), m_log(log)
+Templates_Set::Templates_Set(const ApplicationFolder& folder, LoadLog& log, TemplateNames templateNames)
+    : Path(folder.templatesFolder()), m_log(log), m_templateNames(std::move(templateNames))
 {
 }
 
@@ -36,20 +27,20 @@ void Templates_Set::parseTemplates()
     try {
         loadAll();
     } catch (const RuntimeError&) {
-        // Meant to be silent: there is no message and no line in the log. The pages that are absent fail when shown.
+        // Deliberately silent: there is no message and no line in the log. The pages that are absent fail when shown.
     }
 }
 
 void Templates_Set::loadAll()
 {
     m_log.WriteLoadLog(u"Start parseTemplates"_s);
-    const QString layoutText = readTemplate(LayoutName.toString());
+    const QString layoutText = readTemplate(m_templateNames.frame);
     layout_template = std::make_shared<Template>(names);
     layout_template->template_text = layoutText;
     layout_template->Parse();
     templates.Clear();
-    for (const QStringView page : PageNames) {
-        load_template(page.toString(), page.toString());
+    for (const QString& page : std::as_const(m_templateNames.pages)) {
+        load_template(page, page);
     }
     m_log.WriteLoadLog(u"End parseTemplates"_s);
 }

@@ -1,5 +1,5 @@
-// The parsed templates of the shop: the frame of all pages and the ten pages, read from the templates folder at start
-// and one at a time after an edit. MainForm owns the one set; page code takes templates out of it by page name and
+// The parsed templates of the shop: the frame of all pages, and the pages, read from the templates folder at start and
+// one at a time after an edit. MainForm owns the one set; page code takes templates out of it by page name and
 // makes its Variables on the set's table of names.
 #pragma once
 
@@ -11,14 +11,22 @@
 #include "template_engine/Template.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <memory>
+
+// The base names of the files to read. A page's is its key, too.
+struct TemplateNames
+{
+    QString frame;
+    QStringList pages; // in the order of reading: one that fails keeps those behind it from being read
+};
 
 class Templates_Set
 {
 public:
     // Path becomes the templates folder of the shop.
-    Templates_Set(const ApplicationFolder& folder, LoadLog& log);
+    Templates_Set(const ApplicationFolder& folder, LoadLog& log, TemplateNames templateNames);
     Templates_Set(const Templates_Set&) = delete;
     Templates_Set& operator=(const Templates_Set&) = delete;
 
@@ -37,7 +45,7 @@ public:
     void parseTemplates();
 
     // Reads one page again: the base name of its file, and its key in templates. A key that is not there yet is added.
-    // Errors of the file (53, 70, 75, 57) and of the parser (5, 6) pass through, and the page is absent then.
+    // Errors as for readTextFile and Template::Parse, and the page is absent then.
     void ReLoad(const QString& file, const QString& key);
 
     // The encoding that the file of that base name had when it was last read, so that an editor can write it back
@@ -50,6 +58,7 @@ private:
     QString readTemplate(const QString& file);
 
     LoadLog& m_log;
+    TemplateNames m_templateNames;
     KeyedCollection<TextEncoding> m_encodings; // by base name
 };
 

@@ -52,7 +52,7 @@ void BrowserTest::openPreview()
 {
     session->registerShop();
     session->Cart = std::make_unique<clsCart>(session->services);
-    templates = std::make_unique<Templates_Set>(session->folder, session->log);
+    templates = std::make_unique<Templates_Set>(session->folder, session->log, shopTemplateNames());
     templates->parseTemplates();
     ASSERT_EQ(templates->templates.Count(), 10);
 

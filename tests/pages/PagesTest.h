@@ -62,7 +62,7 @@ protected:
     RecordingPrompts prompts;
     FixedClock clock{QDate(2026, 7, 15)};
     ShopSession session{files.folder(), prompts, clock};
-    Templates_Set templates{session.folder, session.log};
+    Templates_Set templates{session.folder, session.log, shopTemplateNames()};
     PageContext context{session, templates};
 
 private:

@@ -52,7 +52,7 @@ protected:
 
     TemporaryShopFolder shop;
     LoadLog log{shop.folder()};
-    Templates_Set set{shop.folder(), log};
+    Templates_Set set{shop.folder(), log, {u"layout"_s, Pages}};
 };
 
 } // namespace

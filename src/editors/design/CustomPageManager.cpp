@@ -1,9 +1,9 @@
 #include "editors/design/CustomPageManager.h"
 
-#include "design/ApplicationTitle.h"
+#include "base/ApplicationTitle.h"
 #include "design/CustomPageClass.h"
+#include "design/PageTable.h"
 #include "editors/PanelHost.h"
-#include "editors/design/ManagerTables.h"
 #include "editors/design/PageOptions.h"
 #include "model/ShopSession.h"
 
@@ -30,12 +30,13 @@ QString freeName(const ShopClass& shop)
     return name;
 }
 
-// The two pages that every shop has, too: a link by such a name never leads to a custom page.
+// A link by one of the fixed names never leads to a custom page.
 bool isTaken(const ShopClass& shop, const QString& name, const CustomPageClass& except)
 {
-    if (name.compare(u"Home page"_s, Qt::CaseInsensitive) == 0 ||
-        name.compare(u"Shopping cart page"_s, Qt::CaseInsensitive) == 0) {
-        return true;
+    for (const QLatin1StringView fixedName : FixedPageNames) {
+        if (name.compare(fixedName, Qt::CaseInsensitive) == 0) {
+            return true;
+        }
     }
     return shop.CustomPages.hasKey(name) && shop.CustomPages.Item(name).get() != &except;
 }
@@ -43,7 +44,7 @@ bool isTaken(const ShopClass& shop, const QString& name, const CustomPageClass& 
 } // namespace
 
 CustomPageManager::CustomPageManager(PanelHost& panelHost, QWidget* parent)
-    : PageManager(panelHost, customPageTable(), parent),
+    : PageManager(panelHost, ShopPage::CustomPage, parent),
       CustomPagesListCtl(new QListWidget(this)),
       AddPageBtn(new QPushButton(u"&Add a page"_s, this)),
       DeletePageBtn(new QPushButton(u"&Delete the page"_s, this)),

@@ -1,9 +1,9 @@
 #include "editors/design/FooterManager.h"
 
 #include "design/CSSClass.h"
+#include "design/PageTable.h"
 #include "editors/design/CSSManagementForm.h"
 #include "editors/design/FontAndColorEditorPanel.h"
-#include "editors/design/ManagerTables.h"
 #include "editors/design/PageOptions.h"
 
 using namespace Qt::StringLiterals;
@@ -15,7 +15,7 @@ const QString copyrightStyle = u"copyright"_s;
 } // namespace
 
 FooterManager::FooterManager(PanelHost& panelHost, QWidget* parent)
-    : PageManager(panelHost, footerManagerTable(), parent),
+    : PageManager(panelHost, ShopPage::Footer, parent),
       CopyrightPropPnl(new FontAndColorEditorPanel(panelHost, options()))
 {
     CopyrightPropPnl->setObjectName(u"CopyrightPropPnl"_s);

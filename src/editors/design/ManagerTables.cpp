@@ -45,7 +45,7 @@ constexpr StyleRow menuStyles[] = {
     {"Menu_HeaderTopCategory",        "Top Categories",            "Heading of the categories"},
 };
 constexpr ManagerTable menuTable = {
-    "Menu", "menu", Menu_Advanced, advancedCh, SwitchBackQuestion, true,
+    "Menu", ShopPage::Menu, advancedCh, SwitchBackQuestion, true,
     menuGroups, menuSlots, menuLists, menuStyles,
 };
 
@@ -78,7 +78,7 @@ constexpr StyleRow headerStyles[] = {
     {"header_searchbox_testfield", "SearchBox Textfield Properties", "Search field"},
 };
 constexpr ManagerTable headerTable = {
-    "Header", "header", Header_Advanced, advancedCh, headerSwitchBackQuestion, true,
+    "Header", ShopPage::Header, advancedCh, headerSwitchBackQuestion, true,
     headerGroups, headerSlots, headerLists, headerStyles,
 };
 
@@ -98,7 +98,7 @@ constexpr StyleRow footerStyles[] = {
     {"menuinfooter", "Menu Properties", "Links to pages"},
 };
 constexpr ManagerTable footerTable = {
-    "Footer", "footer", Footer_Advanced, advancedCh, SwitchBackQuestion, true,
+    "Footer", ShopPage::Footer, advancedCh, SwitchBackQuestion, true,
     footerGroups, {}, footerLists, footerStyles,
 };
 
@@ -140,7 +140,7 @@ constexpr StyleRow mainStyles[] = {
     {"Top_categories_in_main_page",          "Top Categories Properties",       "Top categories"},
 };
 constexpr ManagerTable mainTable = {
-    "Main page", "main", Main_Advanced, advancedCh, SwitchBackQuestion, false,
+    "Main page", ShopPage::Main, advancedCh, SwitchBackQuestion, false,
     mainGroups, mainSlots, mainLists, mainStyles,
 };
 
@@ -166,7 +166,7 @@ constexpr StyleRow buyingStyles[] = {
     {"Buyingform_form_elements", "Form Elements Properties", "Fields of the form"},
 };
 constexpr ManagerTable buyingTable = {
-    "Buying form", "checkout", BuyingForm_Advanced, advancedCh, SwitchBackQuestion, false,
+    "Buying form", ShopPage::Checkout, advancedCh, SwitchBackQuestion, false,
     buyingGroups, buyingSlots, {}, buyingStyles,
 };
 
@@ -176,41 +176,21 @@ constexpr StyleRow customPageStyles[] = {
     {"general_custom_pages", "Custom Pages Properties", "Whole page"},
 };
 constexpr ManagerTable customTable = {
-    "Custom pages", "custompage", CustomPages_Advanced, advancedCh, SwitchBackQuestion, true,
+    "Custom pages", ShopPage::CustomPage, advancedCh, SwitchBackQuestion, true,
     {}, {}, {}, customPageStyles,
 };
 
 } // namespace
 // clang-format on
 
-const ManagerTable& menuManagerTable()
+const ManagerTable& managerTable(ShopPage page)
 {
-    return menuTable;
-}
-
-const ManagerTable& headerManagerTable()
-{
-    return headerTable;
-}
-
-const ManagerTable& footerManagerTable()
-{
-    return footerTable;
-}
-
-const ManagerTable& mainPageTable()
-{
-    return mainTable;
-}
-
-const ManagerTable& buyingFormTable()
-{
-    return buyingTable;
-}
-
-const ManagerTable& customPageTable()
-{
-    return customTable;
+    for (const ManagerTable* table : {&menuTable, &headerTable, &footerTable, &mainTable, &buyingTable, &customTable}) {
+        if (table->page == page) {
+            return *table;
+        }
+    }
+    return productManagerTable(page);
 }
 
 QString captionText(const char* text)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "design/DesignOptions.h"
+#include "design/PageTable.h"
 #include "design/ShopDesignClass.h"
 
 #include <QString>
@@ -64,8 +65,7 @@ struct ListRow
 struct ManagerTable
 {
     const char* heading;
-    const char* templateName; // the name of the file, and the key in the set of templates
-    DesignOption advanced;
+    ShopPage page; // one with an advanced option
     const char* advancedControl;
     const char* switchBackQuestion; // asked when the advanced mode is switched off
     bool savesTemplate;             // with every save, not only by the button
@@ -75,16 +75,10 @@ struct ManagerTable
     std::span<const StyleRow> styles;
 };
 
-const ManagerTable& menuManagerTable();
-const ManagerTable& headerManagerTable();
-const ManagerTable& footerManagerTable();
-const ManagerTable& mainPageTable();
-const ManagerTable& categoryPageTable();
-const ManagerTable& productPageTable();
-const ManagerTable& searchPageTable();
-const ManagerTable& shoppingCartPageTable();
-const ManagerTable& buyingFormTable();
-const ManagerTable& customPageTable();
+// The table of a page's manager. ErrorNumber::InvalidArgument for a page without one.
+const ManagerTable& managerTable(ShopPage page);
+// The same for the pages that show products, whose tables stand in a file of their own.
+const ManagerTable& productManagerTable(ShopPage page);
 
 // The question of all managers but the header's. Its spelling is meant.
 inline constexpr const char* SwitchBackQuestion = "If you swich back from Advanced Mode all your changes made in the "

@@ -28,15 +28,15 @@ QLabel* newHeading(const QString& text, QWidget* parent)
 
 } // namespace
 
-PageManager::PageManager(PanelHost& host, const ManagerTable& table, QWidget* parent)
+PageManager::PageManager(PanelHost& host, ShopPage page, QWidget* parent)
     : Panel(parent),
       m_host(host),
-      m_table(table),
+      m_table(managerTable(page)),
       m_tabs(new QTabWidget(this)), // ahead of what stands in it, for the tab key
-      m_options(new PageOptions(host, table, m_tabs)),
-      m_template(new TemplatePart(host, table, m_tabs))
+      m_options(new PageOptions(host, m_table, m_tabs)),
+      m_template(new TemplatePart(host, m_table, m_tabs))
 {
-    const QString heading = captionText(table.heading);
+    const QString heading = captionText(m_table.heading);
     setAccessibleName(heading);
     m_tabs->setObjectName(u"PagesTab"_s);
     m_tabs->addTab(new ScrollColumn(m_options, m_tabs), u"Page"_s);
@@ -50,12 +50,22 @@ PageManager::PageManager(PanelHost& host, const ManagerTable& table, QWidget* pa
     column->addWidget(new SubmitReset(host, this));
 }
 
+ShopPage PageManager::page() const
+{
+    return m_table.page;
+}
+
+DesignOption PageManager::advancedOption() const
+{
+    return rowOf(m_table.page).advanced.value();
+}
+
 void PageManager::SetActiveObject(const CatalogueObject& /*object*/)
 {
     m_shop = m_host.session().shop;
     m_options->load();
     loadMore(*m_shop);
-    m_template->load(m_shop->ShopDesign->isOn(m_table.advanced));
+    m_template->load(m_shop->ShopDesign->isOn(advancedOption()));
 }
 
 void PageManager::SaveActiveObject()
@@ -65,7 +75,7 @@ void PageManager::SaveActiveObject()
     }
     ShopDesignClass& design = *m_shop->ShopDesign;
     m_options->save(design);
-    design.setOption(m_table.advanced, m_template->isAdvanced() ? u"Yes"_s : u"No"_s);
+    design.setOption(advancedOption(), m_template->isAdvanced() ? u"Yes"_s : u"No"_s);
     saveMore(*m_shop);
     if (m_table.savesTemplate) {
         m_template->save();

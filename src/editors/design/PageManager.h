@@ -3,6 +3,7 @@
 // small override. The window owns them.
 #pragma once
 
+#include "design/PageTable.h"
 #include "editors/Panel.h"
 
 #include <memory>
@@ -19,8 +20,10 @@ class PageManager : public Panel
     Q_OBJECT
 
 public:
-    // The host and the table must outlive it.
-    PageManager(PanelHost& host, const ManagerTable& table, QWidget* parent);
+    // The host must outlive it. The page is one with a table.
+    PageManager(PanelHost& host, ShopPage page, QWidget* parent);
+
+    ShopPage page() const;
 
     // Shows the session's shop, whatever object is active. Error 5 when the set has no template of the page.
     void SetActiveObject(const CatalogueObject& object) override;
@@ -39,6 +42,8 @@ protected:
     PageOptions* options() { return m_options; }
 
 private:
+    DesignOption advancedOption() const;
+
     PanelHost& m_host;
     const ManagerTable& m_table;
     QTabWidget* m_tabs;

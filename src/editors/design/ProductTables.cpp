@@ -1,5 +1,6 @@
 // The tables of the four managers whose pages show products. They offer much the same, under options, styles and titles
 // of their own.
+#include "base/RuntimeError.h"
 #include "editors/design/ManagerTables.h"
 
 using enum DesignOption;
@@ -93,7 +94,7 @@ constexpr StyleRow categoryStyles[] = {
     {"categorypage_related",             "Category Related Properties",     related},
 };
 constexpr ManagerTable categoryTable = {
-    "Category page", "category", Category_Advanced, "AdvancedCh", SwitchBackQuestion, false,
+    "Category page", ShopPage::Category, "AdvancedCh", SwitchBackQuestion, false,
     categoryGroups, categorySlots, {}, categoryStyles,
 };
 
@@ -137,7 +138,7 @@ constexpr StyleRow productStyles[] = {
     {"productpage_related",      "Product Related Properties",     related},
 };
 constexpr ManagerTable productTable = {
-    "Product page", "product", ProductPage_Advanced, "AdvancedCh", SwitchBackQuestion, true,
+    "Product page", ShopPage::Product, "AdvancedCh", SwitchBackQuestion, true,
     productGroups, productSlots, {}, productStyles,
 };
 
@@ -185,7 +186,7 @@ constexpr StyleRow searchStyles[] = {
     {"searchpage_related",       "Product Related Properties",     related},
 };
 constexpr ManagerTable searchTable = {
-    "Search page", "search", SearchPage_Advanced, "AdvancedCh", SwitchBackQuestion, true,
+    "Search page", ShopPage::Search, "AdvancedCh", SwitchBackQuestion, true,
     searchGroups, searchSlots, {}, searchStyles,
 };
 
@@ -236,29 +237,19 @@ constexpr StyleRow cartStyles[] = {
     {"cartpage_quantity_textfield", "Quantity Textfield Properties",    "Quantity field"},
 };
 constexpr ManagerTable cartTable = {
-    "Shopping cart page", "cart", CartPage_Advanced, "chkAdvanced", SwitchBackQuestion, true,
+    "Shopping cart page", ShopPage::Cart, "chkAdvanced", SwitchBackQuestion, true,
     cartGroups, cartSlots, {}, cartStyles,
 };
 
 } // namespace
 // clang-format on
 
-const ManagerTable& categoryPageTable()
+const ManagerTable& productManagerTable(ShopPage designed)
 {
-    return categoryTable;
-}
-
-const ManagerTable& productPageTable()
-{
-    return productTable;
-}
-
-const ManagerTable& searchPageTable()
-{
-    return searchTable;
-}
-
-const ManagerTable& shoppingCartPageTable()
-{
-    return cartTable;
+    for (const ManagerTable* table : {&categoryTable, &productTable, &searchTable, &cartTable}) {
+        if (table->page == designed) {
+            return *table;
+        }
+    }
+    throw RuntimeError(ErrorNumber::InvalidArgument);
 }

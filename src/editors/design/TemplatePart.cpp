@@ -1,7 +1,7 @@
 #include "editors/design/TemplatePart.h"
 
+#include "base/ApplicationTitle.h"
 #include "base/TextFile.h"
-#include "design/ApplicationTitle.h"
 #include "editors/PanelHost.h"
 #include "editors/design/ManagerTables.h"
 #include "editors/design/TemplateEditor.h"
@@ -96,21 +96,21 @@ void TemplatePart::enableTemplate(bool enable)
 
 void TemplatePart::showTemplate()
 {
-    const QString page = QLatin1String(m_table.templateName);
+    const QString page = nameOf(m_table.page);
     m_editor->showTemplate(m_host.CurrentTemplatesSet().templates.Item(page)->template_text);
 }
 
 void TemplatePart::save()
 {
     Templates_Set& templates = m_host.CurrentTemplatesSet();
-    const QString page = QLatin1String(m_table.templateName);
+    const QString page = nameOf(m_table.page);
     writeFileBytes(fileOf(".html"), encodeText(m_editor->editedText() + u"\r\n"_s, templates.encodingOf(page)));
     templates.ReLoad(page, page);
 }
 
 void TemplatePart::restore()
 {
-    const QString page = QLatin1String(m_table.templateName);
+    const QString page = nameOf(m_table.page);
     writeFileBytes(fileOf(".html"), readFileBytes(fileOf(".html.def")));
     m_host.CurrentTemplatesSet().ReLoad(page, page);
     showTemplate();
@@ -118,5 +118,5 @@ void TemplatePart::restore()
 
 QString TemplatePart::fileOf(const char* ending) const
 {
-    return m_host.CurrentTemplatesSet().Path + QLatin1String(m_table.templateName) + QLatin1String(ending);
+    return m_host.CurrentTemplatesSet().Path + nameOf(m_table.page) + QLatin1String(ending);
 }

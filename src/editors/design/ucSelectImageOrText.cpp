@@ -1,6 +1,6 @@
 #include "editors/design/ucSelectImageOrText.h"
 
-#include "design/ApplicationTitle.h"
+#include "base/ApplicationTitle.h"
 #include "design/clsSelectedImage.h"
 #include "editors/PanelHost.h"
 #include "editors/design/CSSManagementForm.h"

@@ -1,6 +1,7 @@
 #include "pages/preview/PreviewNavigation.h"
 
 #include "base/Numbers.h"
+#include "design/PageTable.h"
 #include "model/CommonFunctions.h"
 #include "pages/TemplateUtils.h"
 #include "pages/preview/PreviewUrl.h"
@@ -12,9 +13,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr auto HomePage = "Home page"_L1;
-constexpr auto CartPage = "Shopping cart page"_L1;
 
 enum class Request {
     Foreign, // not for the shop's server
@@ -140,7 +138,7 @@ void PreviewNavigation::act(const QString& url)
         showFoundProducts(url);
         break;
     case Request::CustomPage:
-        showNamedPage(DecodeUrlText(GetUrlParam(query, u"name"_s, HomePage)));
+        showNamedPage(DecodeUrlText(GetUrlParam(query, u"name"_s, HomePageName)));
         break;
     case Request::Checkout:
         showCheckout();
@@ -155,7 +153,7 @@ void PreviewNavigation::act(const QString& url)
     }
     if (showsCartAtTheEnd(url)) {
         const PageObject last = m_page.lastPageObject();
-        m_page.ShowPreviewPage(u"cart"_s, last);
+        m_page.ShowPreviewPage(nameOf(ShopPage::Cart), last);
     }
 }
 
@@ -179,12 +177,12 @@ QString PreviewNavigation::homeQuery() const
 
 void PreviewNavigation::showCategory(const QString& url)
 {
-    m_page.ShowPreviewPage(u"category"_s, m_session.objects.Category(GetUrlParam(url, u"id"_s, {})));
+    m_page.ShowPreviewPage(nameOf(ShopPage::Category), m_session.objects.Category(GetUrlParam(url, u"id"_s, {})));
 }
 
 void PreviewNavigation::showProduct(const QString& url)
 {
-    m_page.ShowPreviewPage(u"product"_s, m_session.objects.Product(GetUrlParam(url, u"id"_s, {})));
+    m_page.ShowPreviewPage(nameOf(ShopPage::Product), m_session.objects.Product(GetUrlParam(url, u"id"_s, {})));
 }
 
 void PreviewNavigation::addToCart(const QString& url)
@@ -219,17 +217,17 @@ void PreviewNavigation::showFoundProducts(const QString& url)
             results->products.push_back(*product);
         }
     }
-    m_page.ShowPreviewPage(u"search"_s, results);
+    m_page.ShowPreviewPage(nameOf(ShopPage::Search), results);
 }
 
 void PreviewNavigation::showNamedPage(const QString& name)
 {
-    if (name == HomePage) {
+    if (name == HomePageName) {
         showMain();
-    } else if (name == CartPage) {
+    } else if (name == ShoppingCartPageName) {
         showCart();
     } else {
-        m_page.ShowPreviewPage(u"custompage"_s, shop()->CustomPages.Item(name));
+        m_page.ShowPreviewPage(nameOf(ShopPage::CustomPage), shop()->CustomPages.Item(name));
     }
 }
 
@@ -242,15 +240,15 @@ void PreviewNavigation::setTaxAndCharge(const QString& url)
 
 void PreviewNavigation::showMain()
 {
-    m_page.ShowPreviewPage(u"main"_s, shop());
+    m_page.ShowPreviewPage(nameOf(ShopPage::Main), shop());
 }
 
 void PreviewNavigation::showCart()
 {
-    m_page.ShowPreviewPage(u"cart"_s, {});
+    m_page.ShowPreviewPage(nameOf(ShopPage::Cart), {});
 }
 
 void PreviewNavigation::showCheckout()
 {
-    m_page.ShowPreviewPage(u"checkout"_s, shop());
+    m_page.ShowPreviewPage(nameOf(ShopPage::Checkout), shop());
 }

@@ -1,5 +1,6 @@
 #include "pages/preview/PreviewPage.h"
 
+#include "design/PageTable.h"
 #include "pages/RenderPage.h"
 #include "pages/TemplateUtils.h"
 
@@ -19,8 +20,7 @@ void PreviewPage::ShowPreviewPage(const QString& pageName, const PageObject& pag
     m_lastPageObject = pageObject;
 
     frame.Add(u"main_part", RenderPage(m_context, pageName, pageObject));
-    // The buying form is a piece of every page, too.
-    for (const QString& piece : {u"menu"_s, u"footer"_s, u"header"_s, u"checkout"_s}) {
+    for (const QString& piece : pageNamesBy(&PageRow::composing)) {
         frame.Add(piece, RenderPage(m_context, piece, {}));
     }
 

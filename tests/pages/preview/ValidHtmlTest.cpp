@@ -134,7 +134,7 @@ protected:
     RecordingPrompts prompts;
     FixedClock clock{QDate(2026, 7, 15)};
     ShopSession session{files.folder(), prompts, clock};
-    Templates_Set templates{session.folder, session.log};
+    Templates_Set templates{session.folder, session.log, shopTemplateNames()};
     KeepingSurface surface;
     PreviewPage preview{session, templates, surface};
     PreviewNavigation navigation{session, preview};

@@ -1,6 +1,7 @@
 #include "editors/design/pickers/ucSelectCustPage.h"
 
 #include "design/CustomPageClass.h"
+#include "design/PageTable.h"
 #include "design/clsSelectedCustomPages.h"
 
 #include <QCheckBox>
@@ -13,9 +14,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Fixed names: they stand in the shop file, so they are not translated.
-constexpr std::array fixedPages = {"Home page", "Shopping cart page"};
 
 // A click anywhere in a row ticks it, not only one on its little box.
 class WholeRowTicks : public QStyledItemDelegate
@@ -50,8 +48,8 @@ ucSelectCustPage::ucSelectCustPage(QWidget* parent) : QWidget(parent)
     auto* column = new QVBoxLayout(Frame1);
     column->setContentsMargins(14, 12, 14, 14);
     column->setSpacing(8);
-    for (std::size_t i = 0; i < fixedPages.size(); ++i) {
-        auto* box = new QCheckBox(QLatin1String(fixedPages[i]), Frame1);
+    for (std::size_t i = 0; i < FixedPageNames.size(); ++i) {
+        auto* box = new QCheckBox(FixedPageNames[i], Frame1);
         box->setObjectName(u"chkSelectPage%1"_s.arg(i));
         chkSelectPage[i] = box;
         column->addWidget(box);
