@@ -12,16 +12,17 @@ ShortProgressBar::ShortProgressBar(QWidget* parent) : QProgressBar(parent)
     setAccessibleName(u"Progress"_s);
     setTextVisible(false);
     setRange(0, 100);
+    setAutoFillBackground(true); // so that nothing behind it is painted with it
     hide();
 }
 
+// A new value paints the bar at once.
 void ShortProgressBar::run()
 {
     raise();
     show();
     for (int value = 0; value <= 100; value += 5) {
         setValue(value);
-        repaint();
         QThread::msleep(1);
     }
     hide();

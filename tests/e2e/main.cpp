@@ -21,7 +21,6 @@ void prepareEnvironment(const QString& home)
     qputenv("XDG_CACHE_HOME", folder + "/cache");
     qputenv("XDG_DATA_HOME", folder + "/data");
     qputenv("XDG_RUNTIME_DIR", folder + "/run");
-    qputenv("QT_QUICK_BACKEND", "software");
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS",
             "--disable-gpu --log-level=3 --host-resolver-rules=\"MAP * ~NOTFOUND , EXCLUDE 127.0.0.1\"");
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {

@@ -189,6 +189,18 @@ private:
     QStringList& m_notes;
 };
 
+class PaintCount : public QObject
+{
+public:
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override
+    {
+        count += event->type() == QEvent::Paint ? 1 : 0;
+        return false;
+    }
+
+    int count = 0;
+};
+
 TEST_F(MainWindow, SavesAPanelTwiceThenUnbindsItWhenItIsLeft)
 {
     RecordingPanel panel(window.get());
@@ -229,6 +241,16 @@ TEST_F(MainWindow, AcknowledgesEveryChangeOfPanelWithItsShortBarAheadOfTheSave)
     panel.calls.clear();
     window->ShowFrame(nullptr, 0);
     EXPECT_EQ(panel.calls, (QStringList{u"bar"_s, u"no bar"_s, u"save"_s, u"save"_s, u"clear"_s}));
+}
+
+TEST_F(MainWindow, PaintsItsShortBarOncePerStep)
+{
+    PaintCount paints;
+    find("PrBar")->installEventFilter(&paints);
+    for (int run = 1; run <= 2; ++run) {
+        window->ApplyActivePanel();
+        EXPECT_EQ(paints.count, run * 21);
+    }
 }
 
 TEST_F(MainWindow, PreparesTheClicksOfTheButtonsThatMayFollow)

@@ -5,6 +5,8 @@
 #include "shell/browser/DocumentScheme.h"
 #include "shell/browser/PreviewEnginePage.h"
 
+#include <QLoggingCategory>
+#include <QQuickWindow>
 #include <QVBoxLayout>
 #include <QWebEngineHistory>
 #include <QWebEngineProfile>
@@ -42,6 +44,11 @@ private:
 void PreviewBrowser::prepareProcess()
 {
     DocumentScheme::registerScheme();
+    // Without it, the window would be destroyed and made anew on the screen when the engine comes, and from then on be
+    // composed as a whole for whatever changes in it, which costs some twenty times as much without a graphics card.
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    // The engine lists its parameters on the terminal when it comes. QT_LOGGING_RULES brings the list back.
+    QLoggingCategory::setFilterRules(u"qt.webenginecontext.info=false"_s);
     // The engine refuses to start as root with its sandbox, and only then may it go without.
     if (geteuid() == 0) {
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
@@ -49,30 +56,9 @@ void PreviewBrowser::prepareProcess()
 }
 
 PreviewBrowser::PreviewBrowser(const ApplicationFolder& folder, FatalErrorHandler& errors, QWidget* parent)
-    : QWidget(parent),
-      m_errors(errors),
-      m_scheme(std::make_unique<DocumentScheme>(folder.picturesFolder())),
-      m_interceptor(std::make_unique<NoPseudoServer>()),
-      m_profile(std::make_unique<QWebEngineProfile>()),
-      m_page(std::make_unique<PreviewEnginePage>(m_profile.get(),
-                                                 NavigationRules{[this](const QString& url) { return judge(url); },
-                                                                 [this](const QString& url) { act(url); }})),
-      m_view(new QWebEngineView(this))
+    : QWidget(parent), m_errors(errors), m_scheme(std::make_unique<DocumentScheme>(folder.picturesFolder()))
 {
     setObjectName(u"PreviewBrowser"_s);
-    m_profile->installUrlSchemeHandler(DocumentScheme::name(), m_scheme.get());
-    m_profile->setUrlRequestInterceptor(m_interceptor.get());
-    connectGuarded(m_errors, m_page.get(), &PreviewEnginePage::documentBegun, this, [this] { m_asked.invalidate(); });
-    connectGuarded(m_errors, m_page.get(), &QWebEnginePage::loadFinished, this, &PreviewBrowser::forgetWayBack);
-    connectGuarded(m_errors, m_page.get(), &QWebEnginePage::renderProcessTerminated, this,
-                   &PreviewBrowser::processEnded);
-
-    m_view->setPage(m_page.get());
-    m_view->setContextMenuPolicy(Qt::NoContextMenu);
-    m_view->setAccessibleName(u"The shop's preview"_s);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(m_view);
 }
 
 PreviewBrowser::~PreviewBrowser()
@@ -80,16 +66,58 @@ PreviewBrowser::~PreviewBrowser()
     delete m_view;
 }
 
+// It takes a quarter of a second, which a start must not wait for.
+void PreviewBrowser::makeEngine()
+{
+    if (m_view != nullptr) {
+        return;
+    }
+    m_interceptor = std::make_unique<NoPseudoServer>();
+    m_profile = std::make_unique<QWebEngineProfile>();
+    m_profile->installUrlSchemeHandler(DocumentScheme::name(), m_scheme.get());
+    m_profile->setUrlRequestInterceptor(m_interceptor.get());
+    m_page = std::make_unique<PreviewEnginePage>(
+        m_profile.get(),
+        NavigationRules{[this](const QString& url) { return judge(url); }, [this](const QString& url) { act(url); }});
+    connectGuarded(m_errors, m_page.get(), &PreviewEnginePage::documentBegun, this, [this] { m_asked.invalidate(); });
+    connectGuarded(m_errors, m_page.get(), &QWebEnginePage::loadFinished, this, &PreviewBrowser::forgetWayBack);
+    connectGuarded(m_errors, m_page.get(), &QWebEnginePage::renderProcessTerminated, this,
+                   &PreviewBrowser::processEnded);
+
+    m_view = new QWebEngineView(this);
+    m_view->setPage(m_page.get());
+    m_view->setContextMenuPolicy(Qt::NoContextMenu);
+    m_view->setAccessibleName(u"The shop's preview"_s);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_view);
+    m_view->show();
+    if (m_isBlankAsked) {
+        goBlank();
+    }
+}
+
+void PreviewBrowser::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    makeEngine();
+}
+
 bool PreviewBrowser::replaceDocument(const QString& text)
 {
     m_scheme->setDocument(text);
+    makeEngine();
     showDocument();
     return true;
 }
 
 void PreviewBrowser::goBlank()
 {
-    m_page->load(QUrl(u"about:blank"_s));
+    if (m_page == nullptr) {
+        m_isBlankAsked = true;
+    } else {
+        m_page->load(QUrl(u"about:blank"_s));
+    }
 }
 
 QWebEnginePage* PreviewBrowser::page() const

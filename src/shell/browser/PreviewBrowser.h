@@ -1,5 +1,7 @@
 // The embedded browser that the shop's preview is shown in. It shows one document, which the program hands it, and asks
-// before every navigation; what the preview then does is put off until the engine has its answer. The window owns it.
+// before every navigation; what the preview then does is put off until the engine has its answer. The engine, with its
+// processes, is made when the browser is first shown or first gets a document; until then the widget is empty and only
+// remembers what it was told. The window owns it.
 #pragma once
 
 #include "base/ApplicationFolder.h"
@@ -15,11 +17,11 @@
 class DocumentScheme;
 class PreviewEnginePage;
 class PreviewNavigation;
-struct NavigationDecision;
 class QWebEnginePage;
 class QWebEngineProfile;
 class QWebEngineUrlRequestInterceptor;
 class QWebEngineView;
+struct NavigationDecision;
 
 class PreviewBrowser : public QWidget, public PreviewSurface
 {
@@ -42,10 +44,15 @@ public:
     bool replaceDocument(const QString& text) override;
     void goBlank() override;
 
+    // Null while there is no engine.
     QWebEngineView* view() const { return m_view; }
     QWebEnginePage* page() const;
 
+protected:
+    void showEvent(QShowEvent* event) override;
+
 private:
+    void makeEngine();
     NavigationDecision judge(const QString& url) const;
     void act(const QString& url);
     void showDocument();
@@ -55,6 +62,7 @@ private:
 
     FatalErrorHandler& m_errors;
     PreviewNavigation* m_navigation = nullptr;
+    bool m_isBlankAsked = false; // of the engine, when there is one
     // In the order in which they may not be missed: a page goes before its profile, and that before what serves it.
     std::unique_ptr<DocumentScheme> m_scheme;
     std::unique_ptr<QWebEngineUrlRequestInterceptor> m_interceptor;
@@ -62,5 +70,5 @@ private:
     std::unique_ptr<PreviewEnginePage> m_page;
     QElapsedTimer m_asked;   // since when the engine owes a document; not running when it owes none
     bool m_isEnding = false; // the page's process, which hangs; the document is shown then
-    QWebEngineView* m_view;
+    QWebEngineView* m_view = nullptr;
 };
