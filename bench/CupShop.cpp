@@ -1,7 +1,7 @@
 #include "CupShop.h"
 
+#include "base/Dates.h"
 #include "model/CategoryClass.h"
-#include "model/CommonFunctions.h"
 #include "model/ProductClass.h"
 #include "model/ShopSession.h"
 

@@ -4,6 +4,8 @@
 
 #include <QLocale>
 
+#include <optional>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -53,6 +55,19 @@ int takeNumber(QStringView& text, qsizetype fewest, qsizetype most)
         throw RuntimeError(ErrorNumber::TypeMismatch);
     }
     text = text.sliced(count);
+    return number;
+}
+
+// A run of digits as a number; nothing when a character is no digit.
+std::optional<int> digitsOnly(QStringView text)
+{
+    int number = 0;
+    for (const QChar letter : text) {
+        if (letter < u'0' || letter > u'9') {
+            return {};
+        }
+        number = number * 10 + (letter.unicode() - u'0');
+    }
     return number;
 }
 
@@ -109,4 +124,33 @@ QDate dateFromLocalText(const QString& text)
 QString shopFileDateText(const QDate& date)
 {
     return padded(date.day(), 2) + u'.' + padded(date.month(), 2) + u'.' + padded(date.year(), 4);
+}
+
+// Shop files depend on these very steps, the clipping included.
+QString DateTextToLocal(const QString& text)
+{
+    if (text.size() < 5) {
+        return {};
+    }
+    const std::optional<int> day = digitsOnly(QStringView(text).first(2));
+    const std::optional<int> month = digitsOnly(QStringView(text).sliced(3, 2));
+    const std::optional<int> year = digitsOnly(QStringView(text).last(4));
+    if (!day || !month || !year) {
+        return {};
+    }
+    const QDate date = QDate(1899, 12, 30).addDays(*day + 1).addMonths(*month - 1).addYears(*year - 1900);
+    const bool hasText = date.isValid() && date.year() >= firstYear && date.year() <= lastYear;
+    return hasText ? localDateText(date) : QString();
+}
+
+QString localToDateText(const QString& text)
+{
+    return text.isEmpty() ? QString() : shopFileDateText(dateFromLocalText(text));
+}
+
+bool dateIsBetween(const QDate& day, const QString& dateFrom, const QString& dateTo)
+{
+    const QDate first = dateFrom.isEmpty() ? QDate(1900, 1, 1) : dateFromLocalText(dateFrom);
+    const QDate last = dateTo.isEmpty() ? QDate(5100, 1, 1) : dateFromLocalText(dateTo);
+    return first <= day && day <= last;
 }

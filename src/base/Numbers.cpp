@@ -161,6 +161,21 @@ QString decimalSeparator()
     return QLocale().decimalPoint();
 }
 
+QString NormalizeDecimal(const QString& text)
+{
+    if (!text.contains(u'.') && !text.contains(u',')) {
+        return text;
+    }
+    const QString separator = decimalSeparator();
+    QString normalised = text;
+    if (separator == "."_L1) {
+        normalised.replace(u',', u'.');
+    } else if (separator == ","_L1) {
+        normalised.replace(u'.', u',');
+    }
+    return normalised;
+}
+
 double numberFromText(const QString& text)
 {
     const QStringView trimmed = QStringView(text).trimmed();
@@ -180,6 +195,11 @@ double numberFromText(const QString& text)
         throw RuntimeError(ErrorNumber::TypeMismatch);
     }
     return number;
+}
+
+double numberOrZero(const QString& text)
+{
+    return text.isEmpty() ? 0 : numberFromText(text);
 }
 
 double Val(const QString& text)

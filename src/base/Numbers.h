@@ -7,9 +7,15 @@
 // The user's decimal separator, one character for all locales known.
 QString decimalSeparator();
 
+// The text with the user's decimal separator: every "," becomes "." where that is the separator, every "." becomes ","
+// where that is; with any other separator the text comes back as it is.
+QString NormalizeDecimal(const QString& text);
+
 // A locale's number text as a double. Blanks around it are allowed; group separators only where the locale puts them.
 // Error 13 when the text is no number, an empty text included; error 6 when it is out of range.
 double numberFromText(const QString& text);
+// The same, and 0 for an empty text.
+double numberOrZero(const QString& text);
 
 // The plain number scan: blanks ahead are skipped, then one sign, digits and one "." are read, whatever the locale, up
 // to the first character that is no part of that. 0 when nothing was read. An exponent is not read. Error 6 when the

@@ -3,7 +3,6 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/WholeNumbers.h"
-#include "model/CommonFunctions.h"
 
 NumericBox::NumericBox(Takes takes, QWidget* parent) : QLineEdit(parent), m_takes(takes)
 {

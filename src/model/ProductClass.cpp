@@ -81,3 +81,24 @@ std::shared_ptr<ProductClass> ProductClass::CreateClone()
     clone->setTaxes(Taxes());
     return clone;
 }
+
+std::shared_ptr<ProductClass> CopyProductForPreview(ProductClass& product)
+{
+    auto copy = std::make_shared<ProductClass>(product.services());
+    copy->setPrice(product.Price()->CreateClone());
+    copy->id = product.id;
+    copy->Code = product.Code;
+    copy->Description = product.Description;
+    copy->LINK = product.LINK;
+    copy->name = product.name;
+    copy->Picture = product.Picture;
+    copy->related = product.related;
+    copy->setShippingCosts(product.ShippingCosts());
+    copy->ShippingStatus = product.ShippingStatus;
+    copy->shop = product.shop;
+    copy->setTaxes(product.Taxes());
+    copy->Unit = product.Unit;
+    copy->Weight = product.Weight;
+    copy->setSelectedImage(product.selectedImage());
+    return copy;
+}

@@ -78,3 +78,7 @@ private:
     std::shared_ptr<TextCollection> m_shippingCosts;
     std::shared_ptr<TextCollection> m_taxes;
 };
+
+// The copy of a product that stands behind a line of the preview's cart: its price is a copy of its own, ShippingCosts,
+// Taxes and selectedImage are the same objects, and it has no category.
+std::shared_ptr<ProductClass> CopyProductForPreview(ProductClass& product);

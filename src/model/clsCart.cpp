@@ -3,6 +3,8 @@
 #include "base/ApplicationTitle.h"
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
+#include "base/UserPrompts.h"
+#include "design/ApplicationTitle.h"
 #include "model/ObjectsCollection.h"
 #include "model/ProductClass.h"
 
@@ -102,4 +104,22 @@ QString clsCart::TotalCost() const
     const float sum = Charge + total;
     const double rounded = numberFromText(formatTwoDecimals(static_cast<double>(sum)));
     return singleToShortestText(static_cast<float>(rounded));
+}
+
+bool ConfirmEmptyCart(clsCart* cart, UserPrompts& prompts)
+{
+    if (cart == nullptr) {
+        throw RuntimeError(ErrorNumber::ObjectNotSet);
+    }
+    if (cart->Count() == 0) {
+        return true;
+    }
+    const bool agreed =
+        prompts.askYesNo(u"Your shopping cart isn't empty"_s, u"Do you want make changs and empty cart?\r\n\r\n"
+                                                              "YES - cart will be emptied\r\n"
+                                                              "NO - changing will be impossible"_s);
+    if (agreed) {
+        cart->Clear();
+    }
+    return agreed;
 }

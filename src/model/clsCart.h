@@ -9,6 +9,7 @@
 #include <memory>
 
 class ProductClass;
+class UserPrompts;
 
 // One line of the cart: a product at a price.
 class clsCartProduct
@@ -75,3 +76,7 @@ private:
     const ModelServices* m_services;
     KeyedCollection<std::shared_ptr<clsCartProduct>> m_lines;
 };
+
+// True when the cart is empty or the user agrees to empty it, which is then done. ErrorNumber::ObjectNotSet when there
+// is no cart.
+bool ConfirmEmptyCart(clsCart* cart, UserPrompts& prompts);

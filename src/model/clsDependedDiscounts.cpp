@@ -1,6 +1,6 @@
 #include "model/clsDependedDiscounts.h"
 
-#include "model/CommonFunctions.h"
+#include "base/Numbers.h"
 
 QString clsDependedDiscount::PriceFrom() const
 {

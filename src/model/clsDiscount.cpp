@@ -1,7 +1,54 @@
 #include "model/clsDiscount.h"
 
+#include "base/Dates.h"
 #include "base/Numbers.h"
-#include "model/CommonFunctions.h"
+#include "base/RuntimeError.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct StatusWord
+{
+    int number;
+    QString word;
+};
+
+const std::array<StatusWord, 5>& statusWords()
+{
+    static const std::array<StatusWord, 5> words = {{
+        {DiscountStatus::No, u"No"_s},
+        {DiscountStatus::ToAll, u"ToAll"_s},
+        {DiscountStatus::Depend, u"Depend"_s},
+        {DiscountStatus::Inherit, u"Inherit"_s},
+        {DiscountStatus::Specific, u"Specific"_s},
+    }};
+    return words;
+}
+
+} // namespace
+
+int StatusFromWord(const QString& word)
+{
+    for (const StatusWord& row : statusWords()) {
+        if (row.word == word) {
+            return row.number;
+        }
+    }
+    throw RuntimeError(ErrorNumber::InvalidUseOfNull);
+}
+
+QString StatusToWord(int number)
+{
+    for (const StatusWord& row : statusWords()) {
+        if (row.number == number) {
+            return row.word;
+        }
+    }
+    throw RuntimeError(ErrorNumber::InvalidUseOfNull);
+}
 
 clsDiscount::clsDiscount(const Clock& clock) : m_clock(&clock) {}
 

@@ -21,6 +21,11 @@ inline constexpr int Inherit = 4;  // take and hand on what the level above sent
 inline constexpr int Specific = 5; // this level's own percentage; hands nothing on
 } // namespace DiscountStatus
 
+// A status as its word in the shop file, and back: "No", "ToAll", "Depend", "Inherit", "Specific", exact case.
+// ErrorNumber::InvalidUseOfNull for any other word or number.
+int StatusFromWord(const QString& word);
+QString StatusToWord(int number);
+
 class clsDiscount : public std::enable_shared_from_this<clsDiscount>
 {
 public:

@@ -1,9 +1,22 @@
 #include "model/clsPrice.h"
 
+#include "base/Numbers.h"
 #include "base/RuntimeError.h"
-#include "model/CommonFunctions.h"
 
+#include <cmath>
 #include <limits>
+
+QString CalculateNewPrice(const QString& price, const QString& percent)
+{
+    const double p = numberOrZero(percent);
+    const double v = numberOrZero(price);
+    const double n = (1 - p / 100) * v;
+    const double r = p != 0 ? n : v;
+    if (!std::isfinite(r)) {
+        throw RuntimeError(ErrorNumber::Overflow);
+    }
+    return numberToText(numberFromText(formatTwoDecimals(r)));
+}
 
 QString clsMultiPrice::NewValue() const
 {

@@ -11,6 +11,11 @@
 
 #include <memory>
 
+// The price lowered by that many percent, rounded to two decimals, shortest form; an empty text counts as 0. Both and
+// the result are number texts of the user's locale. ErrorNumber::TypeMismatch when one is no number,
+// ErrorNumber::Overflow when the result is out of range.
+QString CalculateNewPrice(const QString& price, const QString& percent);
+
 // One variant of a price.
 class clsMultiPrice
 {

@@ -1,6 +1,6 @@
 #include "model/clsTax.h"
 
-#include "model/CommonFunctions.h"
+#include "base/Numbers.h"
 #include "model/clsCharge.h"
 
 QString clsTax::Percent() const

@@ -20,11 +20,6 @@ constexpr DesignOption LineOptions[] = {
     CartPage_IncludeRelated,   CartPage_IncludeShipping,    CartPage_IncludeTaxes,
 };
 
-double numberOrZero(const QString& text)
-{
-    return text.isEmpty() ? 0.0 : numberFromText(text);
-}
-
 // The sum of the page: a single, rounded after each line. It has no tax and no charge, unlike the cart's own total.
 class Total
 {

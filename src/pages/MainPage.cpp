@@ -1,4 +1,4 @@
-#include "model/CommonFunctions.h"
+#include "model/clsDiscount.h"
 #include "pages/PageFillers.h"
 #include "pages/TemplateUtils.h"
 

@@ -1,6 +1,6 @@
 #include "pages/ProductRows.h"
 
-#include "model/CommonFunctions.h"
+#include "model/clsPrice.h"
 #include "pages/TemplateUtils.h"
 
 #include <algorithm>

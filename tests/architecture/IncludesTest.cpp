@@ -175,4 +175,11 @@ TEST(Architecture, OnlyTheDialogPromptsOpenMessageInputFileAndColourBoxes)
     }
 }
 
+TEST(Architecture, NoSourceIncludesAllSharedRoutinesForTheSakeOfOne)
+{
+    for (const Include& include : allIncludes()) {
+        EXPECT_NE(include.header, u"model/CommonFunctions.h"_s) << include.file.toStdString();
+    }
+}
+
 } // namespace

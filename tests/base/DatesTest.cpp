@@ -78,6 +78,71 @@ TEST(Dates, TheShopFileHasDayMonthAndYearBetweenPoints)
     EXPECT_EQ(shopFileDateText(QDate(5100, 1, 1)), u"01.01.5100"_s);
 }
 
+TEST(Dates, AFileDateBecomesLocalTextByThreeStepsThatClip)
+{
+    struct Row
+    {
+        QString text;
+        QDate date; // an invalid one: the empty text
+    };
+    const QList<Row> rows = {
+        {u"15.05.2024"_s, {2024, 5, 15}},
+        {u"01.01.1900"_s, {1900, 1, 1}},
+        {u"01.01.5100"_s, {5100, 1, 1}},
+        {u"31.12.1999"_s, {1999, 12, 31}},
+        {u"29.02.2004"_s, {2004, 2, 28}},
+        {u"31.04.2000"_s, {2000, 4, 30}},
+        {u"28.02.2004"_s, {2004, 2, 28}},
+        {u"32.01.2000"_s, {2000, 2, 1}},
+        {u"00.01.2000"_s, {1999, 12, 31}},
+        {u"01.13.2000"_s, {2001, 1, 1}},
+        {u"01/02/2003"_s, {2003, 2, 1}},
+        {u"01.02.12003"_s, {2003, 2, 1}},
+        {u"1.2.2003"_s, {}},
+        {u"01.02.03"_s, {}},
+        {u"aa.02.2003"_s, {}},
+        {u"01.bb.2003"_s, {}},
+        {u"01.02.cccc"_s, {}},
+        {u" 1.02.2003"_s, {}},
+        {u"+1.02.2003"_s, {}},
+        {u"01.02.-200"_s, {}},
+        {u"01"_s, {}},
+        {u"2003-02-01"_s, {}},
+        {u"01.01.0001"_s, {}},
+        {u"01.99.9999"_s, {}},
+        {QString(), {}},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(DateTextToLocal(row.text), row.date.isValid() ? localDateText(row.date) : QString())
+            << row.text.toStdString();
+    }
+}
+
+TEST(Dates, ALocalDateBecomesAFileDateAndAnEmptyOneStaysEmpty)
+{
+    EXPECT_EQ(localToDateText(localDateText({2024, 5, 3})), u"03.05.2024"_s);
+    EXPECT_EQ(localToDateText(QString()), QString());
+    EXPECT_EQ(errorOf([] { localToDateText(u"tomorrow"_s); }), 13);
+}
+
+TEST(Dates, BothEndsCountAndEmptyOnesAreOpen)
+{
+    const QDate today(2024, 5, 15);
+    const QString before = localDateText(today.addDays(-1));
+    const QString same = localDateText(today);
+    const QString after = localDateText(today.addDays(1));
+    EXPECT_TRUE(dateIsBetween(today, QString(), QString()));
+    EXPECT_TRUE(dateIsBetween(today, same, same));
+    EXPECT_TRUE(dateIsBetween(today, before, after));
+    EXPECT_FALSE(dateIsBetween(today, after, QString()));
+    EXPECT_FALSE(dateIsBetween(today, QString(), before));
+    EXPECT_FALSE(dateIsBetween(QDate(1899, 12, 31), QString(), QString()));
+    EXPECT_TRUE(dateIsBetween(QDate(5100, 1, 1), QString(), QString()));
+    EXPECT_FALSE(dateIsBetween(QDate(5100, 1, 2), QString(), QString()));
+    EXPECT_EQ(errorOf([&] { dateIsBetween(today, u"x"_s, QString()); }), 13);
+    EXPECT_EQ(errorOf([&] { dateIsBetween(today, QString(), u"x"_s); }), 13);
+}
+
 TEST(Clock, TheSystemsClockTellsTheCurrentDay)
 {
     const QDate before = QDate::currentDate();

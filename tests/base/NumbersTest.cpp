@@ -317,3 +317,38 @@ TEST(Numbers, NoTextSaysAnInfiniteNumber)
         EXPECT_EQ(errorOf([=] { singleToShortestText(static_cast<float>(number)); }), 6);
     }
 }
+
+TEST(Numbers, NormalizingMakesEverySeparatorTheUsers)
+{
+    EXPECT_EQ(NormalizeDecimal(u"12,50"_s), localised(u"12.50"_s));
+    EXPECT_EQ(NormalizeDecimal(u"12.50"_s), localised(u"12.50"_s));
+    EXPECT_EQ(NormalizeDecimal(u"1,2.3"_s), localised(u"1.2.3"_s));
+    EXPECT_EQ(NormalizeDecimal(u"abc"_s), u"abc"_s);
+    EXPECT_EQ(NormalizeDecimal(QString()), QString());
+}
+
+TEST(Numbers, NormalizingGoesInBothDirections)
+{
+    {
+        const ScopedLocale english(QLocale(u"en_US"_s));
+        EXPECT_EQ(NormalizeDecimal(u"12,50"_s), u"12.50"_s);
+    }
+    const ScopedLocale german(QLocale(u"de_DE"_s));
+    EXPECT_EQ(NormalizeDecimal(u"12.50"_s), u"12,50"_s);
+}
+
+TEST(Numbers, WithAnotherSeparatorNormalizingLeavesTheText)
+{
+    const ScopedLocale arabic(QLocale(u"ar_EG"_s));
+    ASSERT_NE(decimalSeparator(), u"."_s);
+    ASSERT_NE(decimalSeparator(), u","_s);
+    EXPECT_EQ(NormalizeDecimal(u"12,50"_s), u"12,50"_s);
+    EXPECT_EQ(NormalizeDecimal(u"12.50"_s), u"12.50"_s);
+}
+
+TEST(Numbers, AnEmptyTextIsZeroWhereThatIsAllowed)
+{
+    EXPECT_EQ(numberOrZero(QString()), 0);
+    EXPECT_EQ(numberOrZero(localised(u"1.5"_s)), 1.5);
+    EXPECT_EQ(errorOf([] { numberOrZero(u" "_s); }), 13);
+}

@@ -1,7 +1,6 @@
 #include "model/ProductClass.h"
 
 #include "ShopFixture.h"
-#include "model/CommonFunctions.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,6 @@
 #include "model/clsCart.h"
 
 #include "ShopFixture.h"
-#include "model/CommonFunctions.h"
 
 using namespace Qt::StringLiterals;
 

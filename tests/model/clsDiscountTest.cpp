@@ -395,4 +395,23 @@ TEST_F(Discounts, AClonedOneHasDatesInheritSpecificAndStatusAndNothingElse)
     EXPECT_EQ(clone->ParentStatus, 0);
 }
 
+TEST(StatusWords, EachNumberHasItsWordAndBack)
+{
+    const QList<std::pair<int, QString>> rows = {
+        {1, u"No"_s}, {2, u"ToAll"_s}, {3, u"Depend"_s}, {4, u"Inherit"_s}, {5, u"Specific"_s}};
+    for (const auto& [number, word] : rows) {
+        EXPECT_EQ(StatusFromWord(word), number);
+        EXPECT_EQ(StatusToWord(number), word);
+    }
+}
+
+TEST(StatusWords, AnythingElseIsError94)
+{
+    for (const QString& word : {u"1"_s, u"no"_s, u"TOALL"_s, u" No"_s, QString()}) {
+        EXPECT_EQ(errorOf([&] { StatusFromWord(word); }), 94) << word.toStdString();
+    }
+    EXPECT_EQ(errorOf([] { StatusToWord(0); }), 94);
+    EXPECT_EQ(errorOf([] { StatusToWord(6); }), 94);
+}
+
 } // namespace

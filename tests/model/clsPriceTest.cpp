@@ -1,5 +1,6 @@
 #include "model/clsPrice.h"
 
+#include "base/Numbers.h"
 #include "support/TestSupport.h"
 
 #include <gtest/gtest.h>
@@ -162,6 +163,40 @@ TEST_F(Prices, WhatIsNoNumberIsError13)
     EXPECT_EQ(errorOf([&] { price.NewPrice(u"ten"_s); }), 13);
     setSpecific(u"ten"_s);
     EXPECT_EQ(errorOf([&] { price.NewPrice(u"10"_s); }), 13);
+}
+
+TEST(NewPrices, ThePriceIsLoweredAndRoundedToTwoDecimalsInShortestForm)
+{
+    struct Row
+    {
+        QString price, percent, result;
+    };
+    const QList<Row> rows = {
+        {u"100"_s, u"10"_s, u"90"_s},    {u"19.99"_s, u"15"_s, u"16.99"_s},  {u"19.99"_s, QString(), u"19.99"_s},
+        {QString(), u"10"_s, u"0"_s},    {QString(), QString(), u"0"_s},     {u"100"_s, u"100"_s, u"0"_s},
+        {u"100"_s, u"-10"_s, u"110"_s},  {u"9.50"_s, u"0"_s, u"9.5"_s},      {u"10.00"_s, QString(), u"10"_s},
+        {u"0.5"_s, QString(), u"0.5"_s}, {u"1.005"_s, QString(), u"1.01"_s}, {u"2.675"_s, u"0"_s, u"2.68"_s},
+        {u"0.004"_s, QString(), u"0"_s}, {u"-0.004"_s, QString(), u"0"_s},   {u"33.33"_s, u"12.5"_s, u"29.16"_s},
+        {u"0.01"_s, u"50"_s, u"0.01"_s}, {u"-5"_s, u"10"_s, u"-4.5"_s},      {u"1000000"_s, u"1"_s, u"990000"_s},
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(CalculateNewPrice(localised(row.price), localised(row.percent)), localised(row.result))
+            << row.price.toStdString() << " at " << row.percent.toStdString();
+    }
+}
+
+TEST(NewPrices, WhatIsNoNumberIsError13AndWhatIsTooLargeError6)
+{
+    EXPECT_EQ(errorOf([] { CalculateNewPrice(u"x"_s, u"10"_s); }), 13);
+    EXPECT_EQ(errorOf([] { CalculateNewPrice(u"10"_s, u"x"_s); }), 13);
+    EXPECT_EQ(errorOf([] { CalculateNewPrice(u" "_s, u"10"_s); }), 13);
+    EXPECT_EQ(errorOf([] { CalculateNewPrice(u"1e308"_s, u"-900"_s); }), 6);
+}
+
+TEST(NewPrices, AForeignSeparatorIsNoNumber)
+{
+    const QString foreign = decimalSeparator() == u"."_s ? u"12,50"_s : u"12.50"_s;
+    EXPECT_EQ(errorOf([&] { CalculateNewPrice(foreign, QString()); }), 13);
 }
 
 } // namespace

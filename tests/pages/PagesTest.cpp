@@ -1,6 +1,6 @@
 #include "pages/PagesTest.h"
 
-#include "model/CommonFunctions.h"
+#include "model/ProductClass.h"
 #include "pages/RenderPage.h"
 
 using namespace Qt::StringLiterals;

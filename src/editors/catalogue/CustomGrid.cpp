@@ -1,10 +1,10 @@
 #include "editors/catalogue/CustomGrid.h"
 
+#include "base/Numbers.h"
 #include "editors/LinkLabel.h"
 #include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
 #include "editors/catalogue/GridPictures.h"
-#include "model/CommonFunctions.h"
 #include "model/ShopSession.h"
 
 #include <QHeaderView>

@@ -4,8 +4,8 @@
 #include "editors/PanelHost.h"
 #include "editors/catalogue/DiscountEditor.h"
 #include "editors/catalogue/ObjectOf.h"
-#include "model/CommonFunctions.h"
 #include "model/ShopSession.h"
+#include "model/clsCart.h"
 
 using namespace Qt::StringLiterals;
 

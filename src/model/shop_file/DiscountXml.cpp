@@ -1,8 +1,8 @@
 #include "model/shop_file/DiscountXml.h"
 
+#include "base/Dates.h"
 #include "base/XMLUtils.h"
 #include "base/XmlReading.h"
-#include "model/CommonFunctions.h"
 #include "model/clsDiscount.h"
 
 #include <array>

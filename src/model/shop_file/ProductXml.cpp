@@ -5,7 +5,6 @@
 #include "base/XMLUtils.h"
 #include "base/XmlReading.h"
 #include "model/CategoryClass.h"
-#include "model/CommonFunctions.h"
 #include "model/ProductClass.h"
 #include "model/ShopClass.h"
 #include "model/shop_file/CatalogueXml.h"

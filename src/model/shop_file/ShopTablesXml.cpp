@@ -1,9 +1,9 @@
 #include "model/shop_file/ShopTablesXml.h"
 
+#include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/XMLUtils.h"
 #include "base/XmlReading.h"
-#include "model/CommonFunctions.h"
 #include "model/ShopClass.h"
 #include "model/shop_file/CatalogueXml.h"
 

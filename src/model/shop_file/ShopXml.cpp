@@ -4,7 +4,6 @@
 #include "base/XMLUtils.h"
 #include "base/XmlFile.h"
 #include "base/XmlReading.h"
-#include "model/CommonFunctions.h"
 #include "model/ObjectsCollection.h"
 #include "model/ShopClass.h"
 #include "model/shop_file/CatalogueXml.h"

@@ -1,7 +1,7 @@
 #include "model/shop_file/TextPool.h"
 
+#include "base/Dates.h"
 #include "base/XmlText.h"
-#include "model/CommonFunctions.h"
 
 #include <cstring>
 

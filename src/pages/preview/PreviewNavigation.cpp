@@ -1,8 +1,7 @@
 #include "pages/preview/PreviewNavigation.h"
 
 #include "base/Numbers.h"
-#include "design/PageTable.h"
-#include "model/CommonFunctions.h"
+#include "model/ProductClass.h"
 #include "pages/TemplateUtils.h"
 #include "pages/preview/PreviewUrl.h"
 #include "pages/preview/ProductSearch.h"

@@ -1,5 +1,5 @@
 // The shop that an installation carries.
-#include "model/CommonFunctions.h"
+#include "base/Numbers.h"
 #include "model/ShopFixture.h"
 
 #include <QDir>

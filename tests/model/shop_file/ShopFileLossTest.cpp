@@ -2,7 +2,6 @@
 // ShopFileRoundTripTest.cpp.
 #include "base/Dates.h"
 #include "base/Numbers.h"
-#include "model/CommonFunctions.h"
 #include "model/ShopFixture.h"
 
 #include <QFile>

@@ -1,5 +1,5 @@
 // What each element of a shop file becomes in the model, and what stands in for one that is missing.
-#include "model/CommonFunctions.h"
+#include "base/Dates.h"
 #include "model/ShopFixture.h"
 
 #include <functional>

@@ -1,5 +1,4 @@
 // The bytes of a saved shop: which elements, in which order, with which texts.
-#include "model/CommonFunctions.h"
 #include "model/ShopFixture.h"
 
 using namespace Qt::StringLiterals;
