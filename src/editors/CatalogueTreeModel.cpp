@@ -30,6 +30,8 @@ TreeNode* CatalogueTreeModel::addNode(TreeNode* parent, QString key, QString tex
     node->text = std::move(text);
     node->parent = parent;
     node->image = image;
+    node->background = m_background;
+    node->foreground = m_foreground;
     node->row = parent ? static_cast<int>(parent->children.size()) : 0;
 
     TreeNode* added = node.get();
@@ -77,6 +79,12 @@ void CatalogueTreeModel::setColours(TreeNode* node, QRgb background, QRgb foregr
     node->background = background;
     node->foreground = foreground;
     changed(node, Qt::BackgroundRole);
+}
+
+void CatalogueTreeModel::setColoursOfNew(QRgb background, QRgb foreground)
+{
+    m_background = background;
+    m_foreground = foreground;
 }
 
 void CatalogueTreeModel::changed(const TreeNode* node, int role)

@@ -38,6 +38,8 @@ public:
     void setText(TreeNode* node, const QString& text);
     void setImage(TreeNode* node, TreeImage image);
     void setColours(TreeNode* node, QRgb background, QRgb foreground);
+    // The colours of nodes that are added from now on.
+    void setColoursOfNew(QRgb background, QRgb foreground);
 
     // Between these two the model tells its view nothing: a whole tree is built in one go, starting from none.
     void beginBuild();
@@ -62,5 +64,7 @@ private:
 
     std::unique_ptr<TreeNode> m_root;
     std::array<QIcon, 3> m_images;
+    QRgb m_background = 0; // of new nodes
+    QRgb m_foreground = 0;
     bool m_building = false;
 };

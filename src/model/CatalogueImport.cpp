@@ -58,6 +58,7 @@ std::shared_ptr<CategoryClass> makeCategory(const ModelServices& services, const
     discountAbove.AddChildDiscount(category->Discount(), category->id);
     categories.Add(category, nodeKey(category->id));
     services.callbacks.AddCategoryToTheTree(parent, category);
+    services.objects.Add(category, nodeKey(category->id));
     return category;
 }
 
@@ -105,4 +106,5 @@ void CategoryClass::AddImportedProduct(QStringList& fields)
     product->Description = std::move(fields[1]);
     products.Add(product, nodeKey(product->id));
     m_services->callbacks.AddProductToTheTree(shared_from_this(), product);
+    m_services->objects.Add(product, nodeKey(product->id));
 }

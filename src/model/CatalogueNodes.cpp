@@ -34,6 +34,7 @@ std::shared_ptr<CategoryClass> newCategory(ShopClass& shop, const std::shared_pt
     }
     (parent ? parent->Discount() : shop.Discount())->AddChildDiscount(category->Discount(), category->id);
     (parent ? parent->categories : shop.categories).Add(category, nodeKey(category->id));
+    shop.services().objects.Add(category, nodeKey(category->id));
     return category;
 }
 
@@ -46,6 +47,7 @@ std::shared_ptr<ProductClass> newProduct(ShopClass& shop, const std::shared_ptr<
     product->shop = &shop;
     product->category = category;
     category->products.Add(product, nodeKey(product->id));
+    shop.services().objects.Add(product, nodeKey(product->id));
     return product;
 }
 
@@ -58,6 +60,7 @@ std::shared_ptr<ProductClass> duplicateProduct(ShopClass& shop, ProductClass& pr
     clone->shop = product.shop;
     clone->category = category;
     category->products.Add(clone, nodeKey(clone->id));
+    shop.services().objects.Add(clone, nodeKey(clone->id));
     return clone;
 }
 

@@ -15,19 +15,19 @@ class ObjectsCollection;
 class ProductClass;
 class ShopClass;
 
-// Calls that run up. Those of a new session enter the node in ObjectsCollection, and the reading of the shop file sees
-// to it that there is one that saves; the main window puts its own in their place, which do the same and show it.
+// Calls that run up: the main window puts its own here. Those of a new session show nothing, and when a shop file is
+// read and none saves yet, one that writes the file is put in its place.
 struct SessionCallbacks
 {
     // Writes the shop to its file.
     std::function<void()> SaveShop;
-    // Adds the category with all its contents to the tree and to ObjectsCollection. Without a parent it is a root
+    // Shows a category that was imported, and which is still empty, in the tree. Without a parent it is a root
     // category.
     std::function<void(const std::shared_ptr<CategoryClass>& parent, const std::shared_ptr<CategoryClass>& category)>
-        AddCategoryToTheTree;
+        AddCategoryToTheTree = [](const auto&, const auto&) {};
     // The same for one product.
     std::function<void(const std::shared_ptr<CategoryClass>& category, const std::shared_ptr<ProductClass>& product)>
-        AddProductToTheTree;
+        AddProductToTheTree = [](const auto&, const auto&) {};
 };
 
 struct ModelServices

@@ -13,12 +13,6 @@ ShopSession::ShopSession(const ApplicationFolder& applicationFolder, UserPrompts
       designServices{log, prompts, folder},
       services{designServices, clock, objects, callbacks, shop}
 {
-    callbacks.AddCategoryToTheTree = [this](const std::shared_ptr<CategoryClass>&,
-                                            const std::shared_ptr<CategoryClass>& category) {
-        registerCategory(category);
-    };
-    callbacks.AddProductToTheTree = [this](const std::shared_ptr<CategoryClass>&,
-                                           const std::shared_ptr<ProductClass>& product) { registerProduct(product); };
 }
 
 bool ShopSession::LoadCountries()
@@ -41,29 +35,25 @@ int nodeCount(const KeyedCollection<std::shared_ptr<CategoryClass>>& categories)
     return count;
 }
 
+void registerCategory(ObjectsCollection& objects, const std::shared_ptr<CategoryClass>& category)
+{
+    objects.Add(category, nodeKey(category->id));
+    for (const std::shared_ptr<CategoryClass>& child : category->categories) {
+        registerCategory(objects, child);
+    }
+    for (const std::shared_ptr<ProductClass>& product : category->products) {
+        objects.Add(product, nodeKey(product->id));
+    }
+}
+
 } // namespace
 
 void ShopSession::registerShop()
 {
-    objects.create(nodeCount(currentShop(services).categories) + 1);
+    const ShopClass& opened = currentShop(services);
+    objects.create(nodeCount(opened.categories) + 1);
     objects.Add(shop, shopNodeKey());
-    for (const std::shared_ptr<CategoryClass>& category : currentShop(services).categories) {
-        registerCategory(category);
+    for (const std::shared_ptr<CategoryClass>& category : opened.categories) {
+        registerCategory(objects, category);
     }
-}
-
-void ShopSession::registerCategory(const std::shared_ptr<CategoryClass>& category)
-{
-    objects.Add(category, nodeKey(category->id));
-    for (const std::shared_ptr<CategoryClass>& child : category->categories) {
-        registerCategory(child);
-    }
-    for (const std::shared_ptr<ProductClass>& product : category->products) {
-        registerProduct(product);
-    }
-}
-
-void ShopSession::registerProduct(const std::shared_ptr<ProductClass>& product)
-{
-    objects.Add(product, nodeKey(product->id));
 }

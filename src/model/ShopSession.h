@@ -48,8 +48,6 @@ public:
     bool LoadCountries();
 
     // Makes ObjectsCollection new and enters the shop and all nodes, each category before its contents, sub-categories
-    // before products: the order of the tree. Error 457 when an id stands twice.
+    // before products: the order of the tree. ErrorNumber::DuplicateKey when an id stands twice.
     void registerShop();
-    void registerCategory(const std::shared_ptr<CategoryClass>& category);
-    void registerProduct(const std::shared_ptr<ProductClass>& product);
 };

@@ -19,6 +19,7 @@ CatalogueTree::CatalogueTree(FatalErrorHandler& errors, QWidget* parent)
 {
     setObjectName(u"CategoriesAndProductsTree"_s);
     setAccessibleName(u"Categories and products"_s);
+    m_model->setColoursOfNew(TreeColour, TreeTextColour); // those of a node that is not selected
     setModel(m_model);
     setHeaderHidden(true);
     setUniformRowHeights(true);

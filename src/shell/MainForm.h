@@ -18,6 +18,7 @@
 #include <functional>
 #include <memory>
 
+class CatalogueTreeFill;
 class Panel;
 class QMenu;
 class frmUpload;
@@ -63,10 +64,11 @@ public:
     // Writes the shop file. What stands in the visible panel has to be gathered first.
     void SaveShop();
 
-    // Rebuilds the whole tree and ObjectsCollection, and selects the shop. Error 457 when an id stands twice.
+    // Rebuilds ObjectsCollection and the whole tree, and selects the shop. ErrorNumber::DuplicateKey when an id stands
+    // twice.
     void AddShopToTheTree();
-    // Adds the category with all its contents, or the product, behind the children of the node, and enters it in
-    // ObjectsCollection. Error 457 when its id is there already.
+    // Shows the category with all its contents, or the product, behind the children of the node. The model has entered
+    // it in ObjectsCollection.
     TreeNode* AddCategoryToTheTree(TreeNode* ParentNode, const std::shared_ptr<CategoryClass>& category);
     TreeNode* AddProductToTheTree(TreeNode* ParentNode, const std::shared_ptr<ProductClass>& Product);
 
@@ -109,6 +111,7 @@ private:
     // The mouse is at this place of a part of the window, outside of the buttons.
     void ClearButtonHover(int x, int y);
 
+    CatalogueTreeFill catalogueFill() const;
     void treeNodeClicked(TreeNode* node);
     void markSelected(TreeNode* node);
 

@@ -1,5 +1,6 @@
 // The window's side of the catalogue's tree: how it is built, what a click on a node does, and the commands that add,
 // remove and copy nodes inside a change of panel.
+#include "editors/CatalogueTreeFill.h"
 #include "editors/Panel.h"
 #include "model/CatalogueNodes.h"
 #include "model/CategoryClass.h"
@@ -34,18 +35,8 @@ void MainForm::AddShopToTheTree()
 {
     m_session->log.WriteLoadLog(u"Start AddShopToTheTree"_s);
     CatalogueTree* tree = m_parts->CategoriesAndProductsTree;
-    const std::shared_ptr<ShopClass>& shop = m_session->shop;
-
-    m_session->objects.create();
-    tree->nodes().beginBuild();
-    TreeNode* root = tree->nodes().addNode(nullptr, shopNodeKey(), shop->name, TreeImage::Closed);
-    tree->ColorDeSelectedNode(root);
-    m_session->objects.Add(shop, shopNodeKey());
-    for (const std::shared_ptr<CategoryClass>& category : shop->categories) {
-        AddCategoryToTheTree(root, category);
-    }
-    tree->nodes().endBuild();
-
+    m_session->registerShop();
+    TreeNode* root = catalogueFill().fill(*m_session->shop);
     tree->expandNode(root);
     // The root starts with the picture of a closed node though it is expanded: this is meant.
     tree->nodes().setImage(root, TreeImage::Closed);
@@ -57,28 +48,19 @@ void MainForm::AddShopToTheTree()
     m_session->log.WriteLoadLog(u"-----End AddShopToTheTree-----"_s);
 }
 
+CatalogueTreeFill MainForm::catalogueFill() const
+{
+    return {m_parts->CategoriesAndProductsTree->nodes(), nodeKey({})};
+}
+
 TreeNode* MainForm::AddCategoryToTheTree(TreeNode* ParentNode, const std::shared_ptr<CategoryClass>& category)
 {
-    CatalogueTree* tree = m_parts->CategoriesAndProductsTree;
-    TreeNode* node = tree->nodes().addNode(ParentNode, nodeKey(category->id), category->name, TreeImage::Closed);
-    tree->ColorDeSelectedNode(node);
-    m_session->objects.Add(category, node->key);
-    for (const std::shared_ptr<CategoryClass>& below : category->categories) {
-        AddCategoryToTheTree(node, below);
-    }
-    for (const std::shared_ptr<ProductClass>& product : category->products) {
-        AddProductToTheTree(node, product);
-    }
-    return node;
+    return catalogueFill().addCategory(ParentNode, *category);
 }
 
 TreeNode* MainForm::AddProductToTheTree(TreeNode* ParentNode, const std::shared_ptr<ProductClass>& Product)
 {
-    CatalogueTree* tree = m_parts->CategoriesAndProductsTree;
-    TreeNode* node = tree->nodes().addNode(ParentNode, nodeKey(Product->id), Product->name, TreeImage::Product);
-    tree->ColorDeSelectedNode(node);
-    m_session->objects.Add(Product, node->key);
-    return node;
+    return catalogueFill().addProduct(ParentNode, *Product);
 }
 
 void MainForm::treeNodeClicked(TreeNode* node)

@@ -101,6 +101,7 @@ TEST_F(CatalogueImports, TheTreeIsToldOfEveryNewNode)
     };
     EXPECT_EQ(import({u"a"_s, u"b"_s, u"x\\y"_s}), 0);
     EXPECT_EQ(told, (QStringList{u"root>x"_s, u"x>y"_s, u"y>a"_s}));
+    EXPECT_EQ(session.objects.Product(u"103"_s)->name, u"a"_s); // registered, whoever shows it
 }
 
 } // namespace

@@ -120,10 +120,19 @@ TEST_F(CatalogueNodes, AProductRemovedBeforeItsCategoryStillFindsIt)
     EXPECT_EQ(product->category.lock()->name, u"C2"_s);
 }
 
+TEST_F(CatalogueNodes, WhatIsNewIsFoundUnderItsKey)
+{
+    const auto category = newCategory(shop(), rootCategory());
+    EXPECT_EQ(session.objects.Category(u"101"_s), category);
+    const auto product = newProduct(shop(), category);
+    EXPECT_EQ(session.objects.Product(u"102"_s), product);
+    const auto copy = duplicateProduct(shop(), *product);
+    EXPECT_EQ(session.objects.Product(u"103"_s), copy);
+}
+
 TEST_F(CatalogueNodes, IdsAreNeverUsedAgain)
 {
     const auto category = newCategory(shop(), nullptr);
-    session.callbacks.AddCategoryToTheTree(nullptr, category);
     removeCategory(shop(), category);
     EXPECT_EQ(newCategory(shop(), nullptr)->id, u"102"_s);
 }

@@ -35,15 +35,6 @@ TEST_F(Sessions, ItsOwnSaveWritesTheFile)
     EXPECT_TRUE(fileBytes(session.folder.shopFile()).contains("<Name>changed</Name>"));
 }
 
-TEST_F(Sessions, NodesOfTheSessionAreEnteredWithAllTheirContents)
-{
-    ASSERT_EQ(load(shopFile(category("2", category("3", product("4", "")) + product("5", "")))), 0);
-    session.objects.create();
-    session.registerCategory(rootCategory());
-    EXPECT_EQ(session.objects.items().Count(), 4);
-    EXPECT_EQ(errorOf([this] { session.registerProduct(firstProduct()); }), 457);
-}
-
 TEST_F(Sessions, TwoSessionsDoNotKnowOfEachOther)
 {
     TemporaryShopFolder otherFolder;

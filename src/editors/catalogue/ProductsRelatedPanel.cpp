@@ -1,5 +1,6 @@
 #include "editors/catalogue/ProductsRelatedPanel.h"
 
+#include "editors/CatalogueTreeFill.h"
 #include "editors/CatalogueTreeModel.h"
 #include "editors/LinkLabel.h"
 #include "editors/PanelFrame.h"
@@ -11,7 +12,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QListView>
-#include <QStringBuilder>
 #include <QTreeView>
 #include <QVBoxLayout>
 
@@ -100,7 +100,8 @@ void ProductsRelatedPanel::SetActiveObject(const CatalogueObject& object)
         ids.removeIf(isGone);
     }
     m_related->setIds(ids);
-    fillTree();
+    const TreeNode* root = CatalogueTreeFill(*m_nodes, productPrefix).fill(*m_host.session().shop);
+    AllProductsTree->expand(m_nodes->indexOf(root));
 }
 
 const ProductClass* ProductsRelatedPanel::productUnder(const QString& key) const
@@ -115,29 +116,6 @@ QString ProductsRelatedPanel::nameOf(const QString& id) const
 {
     const ProductClass* product = productUnder(nodeKey(id));
     return product ? product->name : QString();
-}
-
-void ProductsRelatedPanel::fillTree()
-{
-    const ShopClass& shop = *m_host.session().shop;
-    m_nodes->beginBuild();
-    TreeNode* root = m_nodes->addNode(nullptr, shopNodeKey(), shop.name, TreeImage::Closed);
-    for (const std::shared_ptr<CategoryClass>& category : shop.categories) {
-        addCategory(root, *category);
-    }
-    m_nodes->endBuild();
-    AllProductsTree->expand(m_nodes->indexOf(root));
-}
-
-void ProductsRelatedPanel::addCategory(TreeNode* parent, const CategoryClass& category)
-{
-    TreeNode* node = m_nodes->addNode(parent, nodeKey(category.id), category.name, TreeImage::Closed);
-    for (const std::shared_ptr<CategoryClass>& below : category.categories) {
-        addCategory(node, *below);
-    }
-    for (const std::shared_ptr<ProductClass>& product : category.products) {
-        m_nodes->addNode(node, productPrefix % product->id, product->name, TreeImage::Product);
-    }
 }
 
 void ProductsRelatedPanel::toRelated()

@@ -6,13 +6,11 @@
 #include <memory>
 
 class CatalogueTreeModel;
-class CategoryClass;
 class PanelHost;
 class ProductClass;
 class QListView;
 class QTreeView;
 class RelatedProducts;
-struct TreeNode;
 
 class ProductsRelatedPanel : public Panel
 {
@@ -30,8 +28,6 @@ private:
     // None for a product that is gone, which has no name to show.
     const ProductClass* productUnder(const QString& key) const;
     QString nameOf(const QString& id) const;
-    void fillTree();
-    void addCategory(TreeNode* parent, const CategoryClass& category);
     void toRelated();
     void fromRelated();
 
