@@ -1,4 +1,5 @@
-// How a line of the import file finds its way through the categories.
+#include "model/CatalogueImport.h"
+
 #include "base/RuntimeError.h"
 #include "model/CategoryClass.h"
 #include "model/ObjectsCollection.h"
@@ -9,102 +10,83 @@
 
 namespace {
 
-using Categories = KeyedCollection<std::shared_ptr<CategoryClass>>;
-
 constexpr qsizetype pathField = 2;
 
-// The path of a line, less the levels that were gone through. Error 9 when the line is too short to have one.
-QString& pathOf(QStringList& fields)
+} // namespace
+
+void CatalogueImport::addProduct(QStringList& fields, std::shared_ptr<CategoryClass> top)
 {
     if (fields.size() <= pathField) {
         throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
     }
-    return fields[pathField];
+    const QString path = std::move(fields[pathField]);
+    std::shared_ptr<CategoryClass> category = std::move(top);
+    int level = category ? category->Level() : 0;
+    qsizetype end = 0;
+    for (qsizetype start = 0; start <= path.size(); start = end + 1) {
+        const qsizetype separator = path.indexOf(u'\\', start);
+        end = separator < 0 ? path.size() : separator;
+        category = categoryBelow(category, level++, QStringView(path).sliced(start, end - start));
+    }
+    makeProduct(category, fields);
 }
 
-// Where the first level of a path ends.
-qsizetype levelEnd(const QString& path)
+std::shared_ptr<CategoryClass> CatalogueImport::categoryBelow(const std::shared_ptr<CategoryClass>& parent, int level,
+                                                              QStringView name)
 {
-    const qsizetype separator = path.indexOf(u'\\');
-    return separator < 0 ? path.size() : separator;
+    auto names = m_names.find(parent.get());
+    if (names == m_names.end()) {
+        names = m_names.insert(parent.get(), namesBelow(parent.get()));
+    }
+    const auto known = names->constFind(QString::fromRawData(name.data(), name.size())); // no text of its own
+    if (known != names->cend()) {
+        return *known;
+    }
+    if (level >= MaximumCategoryLevel) {
+        throw RuntimeError(ErrorNumber::OutOfStackSpace);
+    }
+    const std::shared_ptr<CategoryClass> made = makeCategory(parent, name.toString());
+    names->insert(made->name, made);
+    return made;
 }
 
-// The last letters go first: names in one shop are often numbered, and differ there.
-bool areEqual(QStringView a, QStringView b)
+CatalogueImport::Names CatalogueImport::namesBelow(const CategoryClass* parent) const
 {
-    return a.size() == b.size() && (a.isEmpty() || (a.back() == b.back() && a == b));
-}
-
-std::shared_ptr<CategoryClass> findByName(const Categories& categories, QStringView name)
-{
-    for (const std::shared_ptr<CategoryClass>& category : categories) {
-        if (areEqual(category->name, name)) {
-            return category;
+    Names names;
+    for (const std::shared_ptr<CategoryClass>& category : parent != nullptr ? parent->categories : m_shop.categories) {
+        if (!names.contains(category->name)) { // of two equal names the first counts
+            names.insert(category->name, category);
         }
     }
-    return nullptr;
+    return names;
 }
 
-// A new category of that name among the given ones. It knows no shop: this is meant.
-std::shared_ptr<CategoryClass> makeCategory(const ModelServices& services, const QString& name,
-                                            const std::shared_ptr<CategoryClass>& parent, clsDiscount& discountAbove,
-                                            Categories& categories)
+// It knows no shop until the next load.
+std::shared_ptr<CategoryClass> CatalogueImport::makeCategory(const std::shared_ptr<CategoryClass>& parent,
+                                                             const QString& name)
 {
-    checkCategoryLevel(parent.get());
+    const ModelServices& services = m_shop.services();
     auto category = std::make_shared<CategoryClass>(services);
     category->parentCategory = parent;
-    category->id = currentShop(services).getNextProductId();
+    category->id = m_shop.getNextProductId();
     category->name = name;
-    discountAbove.AddChildDiscount(category->Discount(), category->id);
-    categories.Add(category, nodeKey(category->id));
+    (parent ? parent->Discount() : m_shop.Discount())->AddChildDiscount(category->Discount(), category->id);
+    (parent ? parent->categories : m_shop.categories).Add(category, nodeKey(category->id));
     services.callbacks.AddCategoryToTheTree(parent, category);
     services.objects.Add(category, nodeKey(category->id));
     return category;
 }
 
-} // namespace
-
-void ShopClass::ImportCategory(QStringList& fields)
+// It knows no shop, and its discount is not entered in the category's, until the next load.
+void CatalogueImport::makeProduct(const std::shared_ptr<CategoryClass>& category, QStringList& fields)
 {
-    QString& path = pathOf(fields);
-    const qsizetype end = levelEnd(path);
-    std::shared_ptr<CategoryClass> category = findByName(categories, QStringView(path).first(end));
-    if (!category) {
-        category = makeCategory(*m_services, path.first(end), nullptr, *m_discount, categories);
-    }
-    if (end == path.size()) {
-        category->AddImportedProduct(fields);
-    } else {
-        path.remove(0, end + 1);
-        category->ImportCategory(fields);
-    }
-}
-
-void CategoryClass::ImportCategory(QStringList& fields)
-{
-    QString& path = pathOf(fields);
-    const qsizetype end = levelEnd(path);
-    std::shared_ptr<CategoryClass> category = findByName(categories, QStringView(path).first(end));
-    if (!category) {
-        category = makeCategory(*m_services, path.first(end), shared_from_this(), *Discount(), categories);
-    }
-    if (end == path.size()) {
-        category->AddImportedProduct(fields);
-    } else {
-        path.remove(0, end + 1);
-        category->ImportCategory(fields);
-    }
-}
-
-// The product's discount is not entered in the category's, and it knows no shop: this is meant.
-void CategoryClass::AddImportedProduct(QStringList& fields)
-{
-    auto product = std::make_shared<ProductClass>(*m_services);
-    product->id = currentShop(*m_services).getNextProductId();
-    product->category = weak_from_this();
+    const ModelServices& services = m_shop.services();
+    auto product = std::make_shared<ProductClass>(services);
+    product->id = m_shop.getNextProductId();
+    product->category = category;
     product->name = std::move(fields[0]);
     product->Description = std::move(fields[1]);
-    products.Add(product, nodeKey(product->id));
-    m_services->callbacks.AddProductToTheTree(shared_from_this(), product);
-    m_services->objects.Add(product, nodeKey(product->id));
+    category->products.Add(product, nodeKey(product->id));
+    services.callbacks.AddProductToTheTree(category, product);
+    services.objects.Add(product, nodeKey(product->id));
 }

@@ -1,7 +1,9 @@
 #include "model/CategoryClass.h"
 
 #include "base/RuntimeError.h"
+#include "model/CatalogueImport.h"
 #include "model/ObjectsCollection.h"
+#include "model/ShopClass.h"
 
 #include <limits>
 
@@ -56,6 +58,11 @@ void CategoryClass::RemoveChilds()
     for (const std::shared_ptr<ProductClass>& product : products) {
         m_services->objects.Remove(nodeKey(product->id));
     }
+}
+
+void CategoryClass::ImportCategory(QStringList& fields)
+{
+    CatalogueImport(currentShop(*m_services)).addProduct(fields, shared_from_this());
 }
 
 void checkCategoryLevel(const CategoryClass* parent)

@@ -54,19 +54,12 @@ public:
                  ShopReading& reading);
     void ToXML(pugi::xml_node element);
 
-    // Finds or makes the categories of the path in fields[2] and adds a product named fields[0] with the description
-    // fields[1] to the last; the fields are consumed. Error 9 with fewer than three of them, 28 when the path is too
-    // deep.
+    // Imports one product from here down: see CatalogueImport::addProduct.
     void ImportCategory(QStringList& fields);
 
     const ModelServices& services() const { return *m_services; }
 
 private:
-    friend class ShopClass;
-
-    // Makes a product of the first two fields in this category.
-    void AddImportedProduct(QStringList& fields);
-
     const ModelServices* m_services;
     std::shared_ptr<clsSelectedImage> m_selectedImage;
     std::shared_ptr<clsDiscount> m_discount;

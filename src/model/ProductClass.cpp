@@ -56,49 +56,34 @@ void ProductClass::setRelatedIds(const QStringList& ids)
     related = ids.isEmpty() ? noRelated() : ids + noRelated();
 }
 
+// A copy of all members with a price of its own. The tables are made first, so that both have the same ones.
+std::shared_ptr<ProductClass> ProductClass::wholeCopy()
+{
+    ShippingCosts();
+    Taxes();
+    auto copy = std::make_shared<ProductClass>(*this);
+    copy->setPrice(Price()->CreateClone());
+    copy->QuantityInCart = 0;
+    return copy;
+}
+
 std::shared_ptr<ProductClass> ProductClass::CreateClone()
 {
-    auto clone = std::make_shared<ProductClass>(*m_services);
-    clone->shop = shop;
-    clone->category = category;
-    clone->name = name;
-    clone->Description = Description;
-    clone->Code = Code;
-    clone->setPrice(Price()->CreateClone());
-    clone->Unit = Unit;
-    clone->LINK = LINK;
-    clone->ForSale = ForSale;
-    if (m_selectedImage) { // the size is not copied
-        clone->selectedImage()->imageFileName = m_selectedImage->imageFileName;
-        clone->selectedImage()->SelectionType = m_selectedImage->SelectionType;
-        clone->selectedImage()->TextValue = m_selectedImage->TextValue;
+    std::shared_ptr<ProductClass> clone = wholeCopy();
+    clone->id.clear();
+    if (m_selectedImage) {
+        clone->m_selectedImage = std::make_shared<clsSelectedImage>(*m_selectedImage);
+        clone->m_selectedImage->setWidthBmp(0); // the clone may get another picture: its size is asked for anew
+        clone->m_selectedImage->setHeightBmp(0);
     }
-    clone->Picture = Picture;
-    clone->ShippingStatus = ShippingStatus;
-    clone->Weight = Weight;
-    clone->setShippingCosts(ShippingCosts());
-    clone->related = related;
-    clone->setTaxes(Taxes());
     return clone;
 }
 
 std::shared_ptr<ProductClass> CopyProductForPreview(ProductClass& product)
 {
-    auto copy = std::make_shared<ProductClass>(product.services());
-    copy->setPrice(product.Price()->CreateClone());
-    copy->id = product.id;
-    copy->Code = product.Code;
-    copy->Description = product.Description;
-    copy->LINK = product.LINK;
-    copy->name = product.name;
-    copy->Picture = product.Picture;
-    copy->related = product.related;
-    copy->setShippingCosts(product.ShippingCosts());
-    copy->ShippingStatus = product.ShippingStatus;
-    copy->shop = product.shop;
-    copy->setTaxes(product.Taxes());
-    copy->Unit = product.Unit;
-    copy->Weight = product.Weight;
-    copy->setSelectedImage(product.selectedImage());
+    product.selectedImage();
+    std::shared_ptr<ProductClass> copy = product.wholeCopy();
+    copy->category.reset();
+    copy->ForSale = true;
     return copy;
 }

@@ -59,7 +59,8 @@ public:
     // Puts these ids, and the spare entry behind them, in the place of the related ones.
     void setRelatedIds(const QStringList& ids);
 
-    // A product like this one, without id. ShippingCosts and Taxes are the same objects: this is meant.
+    // A product like this one, without id and without the size of its image. ShippingCosts and Taxes are the same
+    // objects, deliberately: a change to one product's table shows on its clone.
     std::shared_ptr<ProductClass> CreateClone();
 
     // The element is a "Product" element; ToXML is given an empty one. An empty id takes the next one of the shop. The
@@ -72,6 +73,10 @@ public:
     const ModelServices& services() const { return *m_services; }
 
 private:
+    friend std::shared_ptr<ProductClass> CopyProductForPreview(ProductClass& product);
+
+    std::shared_ptr<ProductClass> wholeCopy();
+
     const ModelServices* m_services;
     std::shared_ptr<clsPrice> m_price;
     std::shared_ptr<clsSelectedImage> m_selectedImage;
@@ -80,5 +85,5 @@ private:
 };
 
 // The copy of a product that stands behind a line of the preview's cart: its price is a copy of its own, ShippingCosts,
-// Taxes and selectedImage are the same objects, and it has no category.
+// Taxes and selectedImage are the same objects, it has no category and is for sale.
 std::shared_ptr<ProductClass> CopyProductForPreview(ProductClass& product);

@@ -2,6 +2,7 @@
 
 #include "base/RuntimeError.h"
 #include "base/WholeNumbers.h"
+#include "model/CatalogueImport.h"
 
 #include <limits>
 
@@ -43,4 +44,9 @@ qint32 ShopClass::GetProductCount() const
         throw RuntimeError(ErrorNumber::Overflow);
     }
     return static_cast<qint32>(count);
+}
+
+void ShopClass::ImportCategory(QStringList& fields)
+{
+    CatalogueImport(*this).addProduct(fields);
 }

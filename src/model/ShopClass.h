@@ -67,7 +67,7 @@ public:
     void FromXML(const pugi::xml_node& element, ShopReading& reading);
     void ToXML(pugi::xml_node element);
 
-    // As CategoryClass::ImportCategory, from the root.
+    // Imports one product from the root down: see CatalogueImport::addProduct.
     void ImportCategory(QStringList& fields);
 
     // Keeps a category that was removed from the catalogue, so that a product that was removed from it before, and can

@@ -1,6 +1,7 @@
 #include "model/clsImporter.h"
 
 #include "base/TextFile.h"
+#include "model/CatalogueImport.h"
 
 #include <algorithm>
 
@@ -66,12 +67,12 @@ QStringList clsImporter::PSplit(QStringView line)
 void clsImporter::Import(const QString& fileName)
 {
     const QString text = readTextFile(fileName).text;
-    ShopClass& shop = currentShop(m_session.services);
+    CatalogueImport catalogue(currentShop(m_session.services));
     int lines = 0;
     for (qsizetype at = 0; at < text.size();) {
         const qsizetype end = lineEnd(text, at);
         QStringList fields = PSplit(QStringView(text).sliced(at, end - at));
-        shop.ImportCategory(fields);
+        catalogue.addProduct(fields);
         at = end + (QStringView(text).mid(end, 2) == u"\r\n" ? 2 : 1);
         if (m_progress && ++lines % linesBetweenReports == 0) {
             m_progress(at, text.size());

@@ -28,9 +28,8 @@ QString clsMultiPrice::NewValue() const
 
 std::shared_ptr<clsMultiPrice> clsMultiPrice::CreateClone() const
 {
-    auto clone = std::make_shared<clsMultiPrice>();
-    clone->Description = Description;
-    clone->Value = Value;
+    auto clone = std::make_shared<clsMultiPrice>(*this);
+    clone->Discount.reset();
     return clone;
 }
 
@@ -56,16 +55,10 @@ QString clsPrice::SelectedNew()
 
 QString clsPrice::OldPrice() const
 {
-    if (!MultiPriceCollection().isEmpty()) {
+    if (!m_multiPrices.isEmpty()) {
         throw RuntimeError(ErrorNumber::OutOfStackSpace);
     }
     return Value;
-}
-
-const KeyedCollection<std::shared_ptr<clsMultiPrice>>& clsPrice::MultiPriceCollection() const
-{
-    static const MultiPrices none;
-    return m_multiPrices ? *m_multiPrices : none;
 }
 
 std::shared_ptr<clsMultiPrice> clsPrice::AddMultiPrice()
@@ -78,28 +71,22 @@ std::shared_ptr<clsMultiPrice> clsPrice::AddMultiPrice()
 void clsPrice::AddExistingMultiPrice(const std::shared_ptr<clsMultiPrice>& multiPrice)
 {
     multiPrice->Discount = Discount();
-    if (!m_multiPrices) {
-        m_multiPrices = std::make_unique<MultiPrices>();
-    }
-    m_multiPrices->Add(multiPrice);
+    m_multiPrices.Add(multiPrice);
 }
 
 void clsPrice::RemoveMultiPrice(int index)
 {
-    if (!m_multiPrices) {
-        throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
-    }
-    m_multiPrices->Remove(index);
+    m_multiPrices.Remove(index);
 }
 
 const std::shared_ptr<clsMultiPrice>& clsPrice::GetMultiPrice(int index) const
 {
-    return MultiPriceCollection().Item(index);
+    return m_multiPrices.Item(index);
 }
 
 qint16 clsPrice::MultiPriceCount() const
 {
-    const int count = MultiPriceCollection().Count();
+    const int count = m_multiPrices.Count();
     if (count > std::numeric_limits<qint16>::max()) {
         throw RuntimeError(ErrorNumber::Overflow);
     }
@@ -108,7 +95,7 @@ qint16 clsPrice::MultiPriceCount() const
 
 void clsPrice::FindMultiPrice(const QString& price, QString& value, QString& description) const
 {
-    for (const std::shared_ptr<clsMultiPrice>& multiPrice : MultiPriceCollection()) {
+    for (const std::shared_ptr<clsMultiPrice>& multiPrice : m_multiPrices) {
         if (multiPrice->NewValue() == price) {
             value = multiPrice->Value;
             description = multiPrice->Description;
@@ -121,13 +108,11 @@ void clsPrice::FindMultiPrice(const QString& price, QString& value, QString& des
 
 std::shared_ptr<clsPrice> clsPrice::CreateClone()
 {
-    auto clone = std::make_shared<clsPrice>(*m_clock);
+    auto clone = std::make_shared<clsPrice>(*this);
     clone->setDiscount(Discount()->CreateClone());
-    for (const std::shared_ptr<clsMultiPrice>& multiPrice : MultiPriceCollection()) {
+    clone->clearMultiPrices();
+    for (const std::shared_ptr<clsMultiPrice>& multiPrice : m_multiPrices) {
         clone->AddExistingMultiPrice(multiPrice->CreateClone());
     }
-    clone->PriceType = PriceType;
-    clone->Selected = Selected;
-    clone->Value = Value;
     return clone;
 }

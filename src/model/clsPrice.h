@@ -51,7 +51,7 @@ public:
     QString OldPrice() const;
 
     // The variants, without keys.
-    const KeyedCollection<std::shared_ptr<clsMultiPrice>>& MultiPriceCollection() const;
+    const KeyedCollection<std::shared_ptr<clsMultiPrice>>& MultiPriceCollection() const { return m_multiPrices; }
     std::shared_ptr<clsMultiPrice> AddMultiPrice();
     void AddExistingMultiPrice(const std::shared_ptr<clsMultiPrice>& multiPrice);
     // Indexes are 1-based. Error 9 when there is no such variant.
@@ -60,18 +60,17 @@ public:
     // Error 6 above 32767.
     qint16 MultiPriceCount() const;
     // Removes all variants.
-    void clearMultiPrices() { m_multiPrices.reset(); }
+    void clearMultiPrices() { m_multiPrices.Clear(); }
 
     // The Value and Description of the first variant whose discounted value is that text; without one, this price's own
     // Value and an empty description.
     void FindMultiPrice(const QString& price, QString& value, QString& description) const;
 
+    // The same price with a discount and variants of its own.
     std::shared_ptr<clsPrice> CreateClone();
 
 private:
-    using MultiPrices = KeyedCollection<std::shared_ptr<clsMultiPrice>>;
-
     const Clock* m_clock;
     std::shared_ptr<clsDiscount> m_discount;
-    std::unique_ptr<MultiPrices> m_multiPrices;
+    KeyedCollection<std::shared_ptr<clsMultiPrice>> m_multiPrices;
 };
