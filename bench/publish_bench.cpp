@@ -5,7 +5,7 @@
 // Memory is measured too: the most that a process of its own ever had may exceed what it had before it published by
 // three times the largest file, and 50 MB.
 #include "NoPrompts.h"
-#include "base/TextFile.h"
+#include "base/FileBytes.h"
 #include "publish/UploadPlan.h"
 #include "publish/UploadProtocol.h"
 #include "publish/UploadRun.h"

@@ -4,7 +4,7 @@
 #include "CupShop.h"
 #include "NoPrompts.h"
 #include "base/Clock.h"
-#include "base/TextFile.h"
+#include "base/FileBytes.h"
 #include "editors/Panel.h"
 #include "model/CategoryClass.h"
 #include "model/ProductClass.h"

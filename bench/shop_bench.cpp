@@ -12,7 +12,7 @@
 #include "CupShop.h"
 #include "NoPrompts.h"
 #include "base/Clock.h"
-#include "base/TextFile.h"
+#include "base/FileBytes.h"
 #include "model/ShopSession.h"
 #include "model/shop_file/ShopFile.h"
 

@@ -7,7 +7,7 @@
 #include "CupShop.h"
 #include "NoPrompts.h"
 #include "base/Clock.h"
-#include "base/TextFile.h"
+#include "base/FileBytes.h"
 #include "model/shop_file/ShopFile.h"
 #include "shell/BrowserPreview.h"
 #include "shell/MainForm.h"

@@ -1,5 +1,6 @@
 #include "backup/clsFileData.h"
 
+#include "base/FileBytes.h"
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/TextFile.h"

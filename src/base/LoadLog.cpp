@@ -1,6 +1,6 @@
 #include "base/LoadLog.h"
 
-#include "base/TextFile.h"
+#include "base/FileBytes.h"
 
 #include <QFile>
 

@@ -46,3 +46,8 @@ RuntimeError::RuntimeError(ErrorNumber number, const QString& description)
     : m_number(number), m_description(description), m_utf8(description.toUtf8())
 {
 }
+
+void failAt(ErrorNumber number, const QString& path)
+{
+    throw RuntimeError(number, usualDescription(number) + ": "_L1 + path);
+}

@@ -43,3 +43,6 @@ private:
     QString m_description;
     QByteArray m_utf8;
 };
+
+// Raises the error with its usual description and the path of the file or folder that it is about.
+[[noreturn]] void failAt(ErrorNumber number, const QString& path);

@@ -1,5 +1,6 @@
 #include "base/XmlFile.h"
 
+#include "base/FileBytes.h"
 #include "base/RuntimeError.h"
 #include "base/TextFile.h"
 #include "base/XMLUtils.h"

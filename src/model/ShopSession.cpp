@@ -1,6 +1,7 @@
 #include "model/ShopSession.h"
 
 #include "base/DelimitedFields.h"
+#include "base/FileBytes.h"
 #include "base/TextFile.h"
 
 using namespace Qt::StringLiterals;

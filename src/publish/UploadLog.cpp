@@ -1,5 +1,6 @@
 #include "publish/UploadLog.h"
 
+#include "base/FileBytes.h"
 #include "base/RuntimeError.h"
 #include "base/TextFile.h"
 

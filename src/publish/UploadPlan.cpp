@@ -98,8 +98,7 @@ void UploadPlan::readPicturesFolder()
 {
     const QString folder = m_folder.picturesFolder();
     if (!QDir(folder).exists()) {
-        throw RuntimeError(ErrorNumber::PathFileAccess,
-                           RuntimeError(ErrorNumber::PathFileAccess).description() + ": "_L1 + folder);
+        failAt(ErrorNumber::PathFileAccess, folder);
     }
     m_localSizes.clear();
     QDirIterator files(folder, QDir::Files | QDir::Hidden | QDir::System);

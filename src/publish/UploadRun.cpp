@@ -1,9 +1,8 @@
 #include "publish/UploadRun.h"
 
-#include "base/ApplicationTitle.h"
+#include "base/FileBytes.h"
 #include "base/ProgramVersion.h"
 #include "base/RuntimeError.h"
-#include "base/TextFile.h"
 #include "base/UserPrompts.h"
 #include "publish/FileListReader.h"
 #include "publish/UploadLog.h"

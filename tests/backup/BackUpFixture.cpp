@@ -3,8 +3,6 @@
 #include <QDirIterator>
 #include <QRandomGenerator>
 
-#include <csignal>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -64,20 +62,6 @@ QMap<QString, QByteArray> filesBelow(const QString& folder)
         found.insert(path.sliced(folder.size() + 1), fileBytes(path));
     }
     return found;
-}
-
-FileSizeLimit::FileSizeLimit(rlim_t bytes, bool deadly)
-{
-    m_handler = std::signal(SIGXFSZ, deadly ? SIG_DFL : SIG_IGN);
-    getrlimit(RLIMIT_FSIZE, &m_before);
-    const rlimit limited{bytes, m_before.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limited);
-}
-
-FileSizeLimit::~FileSizeLimit()
-{
-    setrlimit(RLIMIT_FSIZE, &m_before);
-    std::signal(SIGXFSZ, m_handler); // NOLINT(cert-err33-c)
 }
 
 BackUpTest::BackUpTest()

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "backup/clsPacker.h"
+#include "support/FileSizeLimit.h"
 #include "support/TestSupport.h"
 
 #include <QByteArray>
@@ -11,7 +12,6 @@
 #include <QStringList>
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 
 // The contents of the files in the reference files.
 QByteArray referenceShop();
@@ -26,21 +26,6 @@ QByteArray noise(qsizetype size, quint32 seed);
 
 // All files below a folder, hidden ones too, by their relative paths.
 QMap<QString, QByteArray> filesBelow(const QString& folder);
-
-// No file of this process grows past that size while an object of this lives. Writing past it fails, or ends the
-// process when `deadly` is set.
-class FileSizeLimit
-{
-public:
-    explicit FileSizeLimit(rlim_t bytes, bool deadly = false);
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-    ~FileSizeLimit();
-
-private:
-    rlimit m_before = {};
-    void (*m_handler)(int) = nullptr;
-};
 
 class BackUpTest : public testing::Test
 {

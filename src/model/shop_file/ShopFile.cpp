@@ -1,7 +1,7 @@
 #include "model/shop_file/ShopFile.h"
 
+#include "base/FileBytes.h"
 #include "base/LargePages.h"
-#include "base/TextFile.h"
 #include "base/XMLUtils.h"
 #include "base/XmlFile.h"
 #include "model/ShopSession.h"

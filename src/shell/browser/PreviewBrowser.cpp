@@ -1,5 +1,6 @@
 #include "shell/browser/PreviewBrowser.h"
 
+#include "base/OperatingSystem.h"
 #include "pages/preview/PreviewNavigation.h"
 #include "pages/preview/PreviewUrl.h"
 #include "shell/browser/DocumentScheme.h"
@@ -14,8 +15,6 @@
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 
-#include <csignal>
-#include <unistd.h>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -50,7 +49,7 @@ void PreviewBrowser::prepareProcess()
     // The engine lists its parameters on the terminal when it comes. QT_LOGGING_RULES brings the list back.
     QLoggingCategory::setFilterRules(u"qt.webenginecontext.info=false"_s);
     // The engine refuses to start as root with its sandbox, and only then may it go without.
-    if (geteuid() == 0) {
+    if (runsAsRoot()) {
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     }
 }
@@ -157,7 +156,7 @@ void PreviewBrowser::showDocument()
 bool PreviewBrowser::endProcess() const
 {
     const auto process = static_cast<pid_t>(m_page->renderProcessPid());
-    return process > 0 && ::kill(process, SIGKILL) == 0;
+    return process > 0 && endProcess(process);
 }
 
 void PreviewBrowser::processEnded()

@@ -1,6 +1,6 @@
 #include "editors/design/pickers/PicturesList.h"
 
-#include "base/TextFile.h"
+#include "base/FileBytes.h"
 #include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
 #include "editors/design/pickers/PictureBox.h"
