@@ -35,7 +35,7 @@ public:
 class FixedDay : public Clock
 {
 public:
-    QDate today() const override { return {2024, 5, 15}; }
+    QDateTime now() const override { return {QDate(2024, 5, 15), QTime(12, 0)}; }
 };
 
 // What reading may end in.

@@ -22,8 +22,7 @@ void backUpFromMenu(const BackUpServices& services)
     // Made before anything is looked at, so that it is there even when the backup fails.
     const QString folder = services.folder.backupsFolder();
     if (!QDir().mkpath(folder)) {
-        throw RuntimeError(ErrorNumber::PathFileAccess,
-                           RuntimeError(ErrorNumber::PathFileAccess).description() + ": "_L1 + folder);
+        failAt(ErrorNumber::PathFileAccess, folder);
     }
     QString name = *answer;
     if (!packer.BackUp(name)) {

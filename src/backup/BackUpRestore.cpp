@@ -22,11 +22,6 @@ bool isFolder(const QString& path)
     return QFileInfo(path).isDir();
 }
 
-[[noreturn]] void failAt(ErrorNumber number, const QString& path)
-{
-    throw RuntimeError(number, RuntimeError(number).description() + ": "_L1 + path);
-}
-
 void makeFolder(const QString& folder)
 {
     if (!isFolder(folder) && !QDir().mkpath(folder)) {

@@ -8,34 +8,13 @@
 
 #include <limits>
 
-using namespace Qt::StringLiterals;
-
 namespace {
-
-[[noreturn]] void failAt(ErrorNumber number, const QString& path)
-{
-    throw RuntimeError(number, RuntimeError(number).description() + ": "_L1 + path);
-}
 
 template <class Number>
 void append(QByteArray& bytes, Number number)
 {
     const Number ordered = qToLittleEndian(number);
     bytes.append(reinterpret_cast<const char*>(&ordered), sizeof ordered);
-}
-
-ErrorNumber numberOf(QFileDevice::FileError error)
-{
-    switch (error) {
-    case QFileDevice::ResourceError:
-        return ErrorNumber::DiskFull;
-    case QFileDevice::PermissionsError:
-        return ErrorNumber::PermissionDenied;
-    case QFileDevice::OpenError:
-        return ErrorNumber::PathFileAccess;
-    default:
-        return ErrorNumber::DeviceError;
-    }
 }
 
 } // namespace
@@ -65,25 +44,14 @@ void PackedRecord::addUInt16(quint16 number)
     append(m_bytes, number);
 }
 
-PackedStream::PackedStream(const QString& path, Mode mode) : m_file(path)
+PackedStream::PackedStream(const QString& path, Mode mode, const FileCalls& calls) : m_path(path)
 {
-    if (path.contains(QChar::Null)) {
-        failAt(mode == Mode::Read ? ErrorNumber::FileNotFound : ErrorNumber::PathFileAccess, path);
+    if (mode == Mode::Read) {
+        m_writable.file = calls.open(path, FileCalls::Access::Read);
+        m_left = m_writable.file->size();
+    } else {
+        m_writable = openOrCreate(path, calls);
     }
-    const bool exists = QFileInfo::exists(path);
-    if (!exists && mode == Mode::Read) {
-        failAt(ErrorNumber::FileNotFound, path);
-    }
-    // A pipe in the way would keep the program waiting.
-    if (exists && !isFile(path)) {
-        failAt(ErrorNumber::PathFileAccess, path);
-    }
-    // Opened for writing alone, the file would be emptied.
-    const QIODevice::OpenMode access = mode == Mode::Read ? QIODevice::ReadOnly : QIODevice::ReadWrite;
-    if (!m_file.open(access | QIODevice::Unbuffered)) {
-        fail();
-    }
-    m_left = m_file.size();
 }
 
 qint32 PackedStream::readInt32()
@@ -104,11 +72,16 @@ bool PackedStream::readFlag()
 QByteArray PackedStream::readBytes(qint64 count)
 {
     if (count < 0 || count > m_left) {
-        failAt(ErrorNumber::DeviceError, m_file.fileName());
+        failAt(ErrorNumber::DeviceError, m_path);
     }
     QByteArray bytes(count, Qt::Uninitialized);
-    if (m_file.read(bytes.data(), count) != count) {
-        failAt(ErrorNumber::DeviceError, m_file.fileName());
+    qint64 filled = 0;
+    while (filled < count) {
+        const qint64 done = m_writable.file->read(bytes.data() + filled, count - filled);
+        if (done == 0) {
+            failAt(ErrorNumber::DeviceError, m_path);
+        }
+        filled += done;
     }
     m_left -= count;
     return bytes;
@@ -116,27 +89,17 @@ QByteArray PackedStream::readBytes(qint64 count)
 
 void PackedStream::write(const QByteArray& bytes)
 {
-    qint64 done = 0;
-    while (done < bytes.size()) {
-        const qint64 count = m_file.write(bytes.constData() + done, bytes.size() - done);
-        if (count <= 0) {
-            fail();
-        }
-        done += count;
-    }
+    m_writable.file->write(bytes);
 }
 
 void PackedStream::close()
 {
-    m_file.close();
-    if (m_file.error() != QFileDevice::NoError) {
-        fail();
-    }
+    m_writable.file->close();
 }
 
-void PackedStream::fail() const
+void PackedStream::closeDurably(const FileCalls& calls)
 {
-    failAt(numberOf(m_file.error()), m_file.fileName());
+    finishDurably(m_writable, m_path, calls);
 }
 
 QString packedText(const QByteArray& bytes)

@@ -3,8 +3,9 @@
 // Whatever reads checks every length against the bytes that the file still has before it takes memory for them.
 #pragma once
 
+#include "base/FileBytes.h"
+
 #include <QByteArray>
-#include <QFile>
 #include <QString>
 
 class PackedRecord
@@ -13,7 +14,7 @@ public:
     void addInt32(qint32 number);
     // 16 bits: -1 for true, 0 for false.
     void addFlag(bool flag);
-    // The text in UTF-8, its length in bytes ahead. Error 6 when it is longer than 65,535 bytes.
+    // The text in UTF-8, its length in bytes ahead. ErrorNumber::Overflow when it is longer than 65,535 bytes.
     void addText(const QString& text);
 
     const QByteArray& bytes() const { return m_bytes; }
@@ -30,27 +31,29 @@ public:
     enum class Mode { Read, Write };
 
     // Opens the file at its start. For writing it is made when it is not there, and never emptied: what an older,
-    // longer file has behind the last byte written stays, and this is meant. Error 53 when there is no file to read, 75
-    // when something else than a file is in the way, 70, 61 or 75 when it cannot be opened.
-    PackedStream(const QString& path, Mode mode);
+    // longer file has behind the last byte written deliberately stays. ErrorNumber::FileNotFound when there is no file
+    // to read, PathFileAccess when something else than a file is in the way, PermissionDenied, DiskFull or
+    // PathFileAccess when it cannot be opened.
+    PackedStream(const QString& path, Mode mode, const FileCalls& calls = *systemFileCalls());
 
-    // Error 57 when the file ends before the field does, or cannot be read.
+    // ErrorNumber::DeviceError when the file ends before the field does, or cannot be read.
     qint32 readInt32();
     quint16 readUInt16();
     // Any number but 0 is true.
     bool readFlag();
-    // As many bytes as told, fewer than 0 being an error too.
+    // Exactly that many bytes; a count below 0 is an error, too.
     QByteArray readBytes(qint64 count);
 
-    // Error 61 when the disk is full, 57 on any other failure.
+    // ErrorNumber::DiskFull when the disk is full, DeviceError on any other failure; so do the next two.
     void write(const QByteArray& bytes);
-    // Closes the file before its time, to learn of a failure. Error 57.
+    // Closes the file here, so that a failure is told.
     void close();
+    // Closes a file that is to stay when the power is cut: it and its name are then on the disk.
+    void closeDurably(const FileCalls& calls);
 
 private:
-    [[noreturn]] void fail() const;
-
-    QFile m_file;
+    QString m_path;
+    WritableFile m_writable;
     qint64 m_left = 0; // bytes that are still to be read
 };
 

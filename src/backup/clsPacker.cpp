@@ -1,40 +1,16 @@
 #include "backup/clsPacker.h"
 
+#include "backup/PackedHeader.h"
 #include "backup/PackedStream.h"
 #include "base/RuntimeError.h"
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
-namespace {
-
-struct Header
-{
-    qint32 count = 0;
-    QString version; // empty in the legacy form
-    bool compressed = false;
-};
-
-// Reads the header, either form, and leaves the file at the first entry. The legacy form is known by its version length
-// of 0; it is always 14 bytes long, and its flag stands where the current form would have it.
-Header readHeader(PackedStream& file)
-{
-    Header header;
-    file.readInt32(); // always written as 0, never looked at
-    header.count = file.readInt32();
-    const quint16 versionLength = file.readUInt16();
-    header.version = packedText(file.readBytes(versionLength));
-    header.compressed = file.readFlag();
-    if (versionLength == 0) {
-        file.readUInt16();
-    }
-    return header;
-}
-
-} // namespace
-
-clsPacker::clsPacker(const ApplicationFolder& folder, UserPrompts& prompts, const QString& version)
-    : m_folder(folder), m_prompts(prompts), m_version(version)
+clsPacker::clsPacker(const ApplicationFolder& folder, UserPrompts& prompts, const QString& version,
+                     std::shared_ptr<const FileCalls> calls)
+    : m_folder(folder), m_prompts(prompts), m_version(version), m_calls(std::move(calls))
 {
 }
 
@@ -98,7 +74,7 @@ PackedStatus clsPacker::ReadFile(const QString& path)
 PackedStatus clsPacker::readContainer()
 {
     PackedStream file(FileSpec, PackedStream::Mode::Read);
-    const Header header = readHeader(file);
+    const PackedHeader header = readHeader(file);
     PackedStatus status = PackedStatus::SameVersion;
     // Versions are compared as texts, so that 1.10.0 is older than 1.9.0; this is meant.
     if (header.version < m_version) {
@@ -146,19 +122,14 @@ bool clsPacker::WriteFile(const QString& path)
 
 void clsPacker::writeContainer(const QString& path) const
 {
-    PackedStream file(path, PackedStream::Mode::Write);
-    PackedRecord header;
-    header.addInt32(0);
-    header.addInt32(Count());
-    header.addText(m_version);
-    header.addFlag(m_compressed);
-    file.write(header.bytes());
+    PackedStream file(path, PackedStream::Mode::Write, *m_calls);
+    file.write(headerBytes({Count(), m_version, m_compressed}));
     for (const std::unique_ptr<clsFileData>& entry : m_entries) {
         if (!entry->WriteToPackedFile(file)) {
             throw RuntimeError(ErrorNumber::DeviceError);
         }
     }
-    file.close();
+    file.closeDurably(*m_calls);
 }
 
 QString clsPacker::FileName() const

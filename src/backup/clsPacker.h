@@ -6,6 +6,7 @@
 #include "backup/clsFileData.h"
 #include "base/ApplicationFolder.h"
 #include "base/KeyedCollection.h"
+#include "base/OperatingSystem.h"
 #include "base/ProgramVersion.h"
 #include "base/UserPrompts.h"
 
@@ -29,7 +30,8 @@ class clsPacker
 {
 public:
     // The prompts outlive the packer. The version is compared with those of packed files, and written into them.
-    clsPacker(const ApplicationFolder& folder, UserPrompts& prompts, const QString& version = programVersion());
+    clsPacker(const ApplicationFolder& folder, UserPrompts& prompts, const QString& version = programVersion(),
+              std::shared_ptr<const FileCalls> calls = systemFileCalls());
 
     // Empties pictures/ and templates/, removes shop.xml and writes back what the packed file holds; templates of an
     // older version are left as they are. False, after a box, when the packed file cannot be read or is of a newer
@@ -84,6 +86,7 @@ private:
     ApplicationFolder m_folder;
     UserPrompts& m_prompts;
     QString m_version;
+    std::shared_ptr<const FileCalls> m_calls;
     KeyedCollection<std::unique_ptr<clsFileData>> m_entries; // keyed by FileSpec
     bool m_compressed = false;
     bool m_changed = false;

@@ -1,6 +1,6 @@
 #include "base/Clock.h"
 
-QDate SystemClock::today() const
+QDateTime SystemClock::now() const
 {
-    return QDate::currentDate();
+    return QDateTime::currentDateTime();
 }

@@ -1,17 +1,20 @@
-// Where "today" comes from. The program uses SystemClock; tests set the day.
+// Where "now" and "today" come from. The program uses SystemClock; tests set the moment.
 #pragma once
 
 #include <QDate>
+#include <QDateTime>
 
 class Clock
 {
 public:
     virtual ~Clock() = default;
-    virtual QDate today() const = 0;
+    // In the user's time zone.
+    virtual QDateTime now() const = 0;
+    QDate today() const { return now().date(); }
 };
 
 class SystemClock : public Clock
 {
 public:
-    QDate today() const override;
+    QDateTime now() const override;
 };

@@ -208,7 +208,7 @@ TEST_F(BackUpFaultsTest, AFullDiskWhileRestoringIsARunTimeErrorAndTheBackupStays
     const QByteArray wholeBytes = fileBytes(whole);
     {
         const FileSizeLimit limit(40000);
-        EXPECT_EQ(errorOf([&] { packer.Restore(whole); }), 57);
+        EXPECT_EQ(errorOf([&] { packer.Restore(whole); }), 61);
     }
     EXPECT_EQ(fileBytes(whole), wholeBytes);
     EXPECT_TRUE(packer.Restore(whole));

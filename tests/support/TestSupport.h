@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <QDate>
+#include <QDateTime>
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
@@ -45,9 +46,10 @@ class FixedClock : public Clock
 {
 public:
     explicit FixedClock(const QDate& date) : day(date) {}
-    QDate today() const override { return day; }
+    QDateTime now() const override { return {day, time}; }
 
     QDate day;
+    QTime time{14, 3, 5};
 };
 
 // Answers in the order in which the answers were given, keeps what was shown, and fails the test on a question or a box

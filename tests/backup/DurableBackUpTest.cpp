@@ -1,0 +1,60 @@
+// A finished backup is on the disk before anybody is told that it is finished.
+#include "backup/BackUpFixture.h"
+#include "support/RecordingFileCalls.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class DurableBackUp : public BackUpTest
+{
+protected:
+    DurableBackUp()
+    {
+        useReferenceShop();
+        listenTo(durable);
+    }
+
+    const std::shared_ptr<RecordingFileCalls> calls = std::make_shared<RecordingFileCalls>();
+    clsPacker durable{files.folder(), prompts, u"1.2.0"_s, calls};
+};
+
+} // namespace
+
+TEST_F(DurableBackUp, ANewBackupIsFlushedAndItsFolderToo)
+{
+    prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
+    QString name = u"may"_s;
+    ASSERT_TRUE(durable.BackUp(name));
+    const QStringList made = calls->takeCalls();
+    EXPECT_EQ(made.first(), u"create may.kvb"_s);
+    EXPECT_EQ(made.last(3), (QStringList{u"flush"_s, u"close"_s, u"flush folder backups"_s}));
+    EXPECT_EQ(made.count(u"flush"_s), 1);
+}
+
+TEST_F(DurableBackUp, AnOverwrittenBackupIsFlushedAndKeepsItsOldTail)
+{
+    WriteFile(files.path(u"backups.kvb"_s), QByteArray(100000, 'o'));
+    durable.setCompressed(true);
+    ASSERT_EQ(durable.AddFile(u"shop.xml"_s), AddFileResult::Added);
+    ASSERT_TRUE(durable.WriteFile(files.path(u"backups.kvb"_s)));
+    const QStringList made = calls->takeCalls();
+    EXPECT_EQ(made.first(), u"overwrite backups.kvb"_s);
+    EXPECT_EQ(made.last(2), (QStringList{u"flush"_s, u"close"_s}));
+    EXPECT_EQ(QFile(files.path(u"backups.kvb"_s)).size(), 100000);
+}
+
+TEST_F(DurableBackUp, ABackupThatCannotBeFlushedIsAFailureToWrite)
+{
+    for (const QString& call : {u"flush"_s, u"close"_s, u"flush folder"_s}) {
+        SCOPED_TRACE(call.toStdString());
+        QFile::remove(files.path(u"backups/may.kvb"_s));
+        calls->failAtCall(call, ErrorNumber::DeviceError);
+        QString name = u"may"_s;
+        EXPECT_FALSE(durable.BackUp(name));
+        EXPECT_EQ(takeEvents().count(u"WriteError"_s), 2);
+        durable.Clear();
+    }
+}
