@@ -5,30 +5,30 @@
 
 namespace {
 
-// The four plain actions have one picture for both, so they do not light up: this is meant.
+// The four plain actions deliberately have one picture for both, so they do not light up.
 constexpr std::array<ButtonPictureRow, 22> pictures = {{
-    {"Remove", "154", "154", false},
-    {"Remove Category", "113", "113", false},
-    {"Add new product", "114", "114", false},
-    {"Add new category", "125", "125", false},
-    {"related Products", "105", "205", false},
-    {"Multiple Prices", "104", "204", false},
-    {"Save The Shop", "131", "231", false},
-    {"Upload The Shop", "132", "232", false},
-    {"Products Catalog", "133", "233", false},
-    {"The Shop Design and Layout", "134", "234", false},
-    {"The Shop Preview", "135", "235", false},
-    {"Shop General Properties", "151", "251", false},
-    {"Category General Properties", "151", "251", false},
-    {"Product General Properties", "151", "251", false},
-    {"Taxes", "152", "252", false},
-    {"Shop Discount Properties", "153", "253", false},
-    {"Category Discount Properties", "153", "253", false},
-    {"Product Discount Properties", "153", "253", false},
-    {"Shipping Charges", "123", "223", false},
-    {"Shipping Types", "shipping type.bmp", "shipping type_color.bmp", true},
-    {"Shipping Costs", "ship_costs.bmp", "ship_costs_color.bmp", true},
-    {"Product Shipping Costs", "ship_costs.bmp", "ship_costs_color.bmp", true},
+    {"Remove", "154", "154"},
+    {"Remove Category", "113", "113"},
+    {"Add new product", "114", "114"},
+    {"Add new category", "125", "125"},
+    {"related Products", "105", "205"},
+    {"Multiple Prices", "104", "204"},
+    {"Save The Shop", "131", "231"},
+    {"Upload The Shop", "132", "232"},
+    {"Products Catalog", "133", "233"},
+    {"The Shop Design and Layout", "134", "234"},
+    {"The Shop Preview", "135", "235"},
+    {"Shop General Properties", "151", "251"},
+    {"Category General Properties", "151", "251"},
+    {"Product General Properties", "151", "251"},
+    {"Taxes", "152", "252"},
+    {"Shop Discount Properties", "153", "253"},
+    {"Category Discount Properties", "153", "253"},
+    {"Product Discount Properties", "153", "253"},
+    {"Shipping Charges", "123", "223"},
+    {"Shipping Types", "shipping type.bmp", "shipping type_color.bmp", PictureSource::PicturesFolder},
+    {"Shipping Costs", "ship_costs.bmp", "ship_costs_color.bmp", PictureSource::PicturesFolder},
+    {"Product Shipping Costs", "ship_costs.bmp", "ship_costs_color.bmp", PictureSource::PicturesFolder},
 }};
 
 } // namespace

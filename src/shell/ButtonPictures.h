@@ -3,15 +3,17 @@
 
 #include <QString>
 
-#include <optional>
 #include <span>
+
+// Where the files of a row's pictures lie.
+enum class PictureSource { Program, PicturesFolder };
 
 struct ButtonPictureRow
 {
     const char* title;   // compared without regard to case
     const char* outside; // near the edge, and when the mouse has left
     const char* inside;
-    bool inPicturesFolder; // files of the shop's pictures/; else numbers of the program's own pictures
+    PictureSource source = PictureSource::Program;
 };
 
 std::span<const ButtonPictureRow> buttonPictureTable();

@@ -1,12 +1,89 @@
-// The thirty buttons, the two toolbars' panels and the frames that hold them, as tables. The window is built from these
-// rows; whoever adds a button adds a row.
+// The thirty buttons and the names of the panels behind them. The window is built from these rows; whoever adds a
+// button adds a name and a row.
 #pragma once
 
 #include <QLatin1String>
+#include <QMetaEnum>
 #include <QString>
 
 #include <array>
+#include <optional>
 #include <span>
+
+// The names of the buttons and panels, letter for letter as their objects bear them.
+namespace ShellNames {
+Q_NAMESPACE
+
+enum class ButtonName {
+    SaveShopSBtn,
+    ProductCatalogSBtn,
+    ShopDesignSBtn,
+    PreviewBrowserSBtn,
+    UploadShopSBtn,
+    ShopGeneralSBtn,
+    ShopDiscountSBtn,
+    ShopTaxesSBtn,
+    ShippingChargesSBtn,
+    ShopNewCategorySBtn,
+    CategoryGeneralSBtn,
+    CategoryDiscountSBtn,
+    NewCategorySBtn,
+    NewProductSBtn,
+    RemoveCategorySBtn,
+    ProductGeneralSBtn,
+    ProductDiscountSBtn,
+    ProductPriceSbtn,
+    ProductRelatedSBtn,
+    RemoveProductSBtn,
+    MainPageDesignSBtn,
+    HeaderDesignSBtn,
+    FooterDesignSBtn,
+    MenuDesignSBtn,
+    CategoryPageDesignSBtn,
+    ProductPageDesignSBtn,
+    SearchPageDesignSBtn,
+    CustomPagesDesignSBtn,
+    ShoppingCartPageDesignSBtn,
+    BuyingFormDesignSBtn,
+};
+Q_ENUM_NS(ButtonName)
+
+enum class PanelName {
+    ShopGeneralPnl,
+    ShopDiscountPnl,
+    ShopTaxesPnl,
+    ShippingChargesPnl,
+    ShopsShippingPnl,
+    CategoryGeneralPnl,
+    CategoryDiscountPnl,
+    ProductGeneralPnl,
+    ProductDiscountPnl,
+    ProductsMultipricePnl,
+    ProductsRelatedPnl,
+    ProductShippingCostsPnl,
+    MainPagePnl,
+    HeaderManagerPnl,
+    FooterManagerPnl,
+    MenuManagerPnl,
+    CategoryPageManagerPnl,
+    ProductPageManagerPnl,
+    SearchPageManagerPnl,
+    CustomPagesManagerPnl,
+    ShoppingCartPageManagerPnl,
+    BuyingFormPnl,
+};
+Q_ENUM_NS(PanelName)
+} // namespace ShellNames
+
+using ShellNames::ButtonName;
+using ShellNames::PanelName;
+
+// The name as an object bears it.
+template <class Name>
+QString objectNameOf(Name name)
+{
+    return QLatin1String(QMetaEnum::fromType<Name>().valueToKey(static_cast<int>(name)));
+}
 
 // Where a button stands.
 enum class ButtonFrame { ToolbarFrame, ShopToolbar, CategoryToolbar, ProductToolbar, ShopDesignMenuFrame };
@@ -26,25 +103,13 @@ enum Value : qint16 {
 
 struct ButtonRow
 {
-    const char* name;
+    ButtonName name;
     ButtonFrame frame;
-    const char* title; // looked up and logged, so never translated
-    const char* panel; // nullptr: none
+    const char* title; // also looked up in the table of pictures, and logged
+    std::optional<PanelName> panel;
     PanelCode::Value code;
     const char* icon; // file under :/icons at rest
 };
 
 // All buttons, in the order in which they stand.
 std::span<const ButtonRow> buttonTable();
-
-// Where a panel stands.
-enum class PanelFrame { MainFrame, ShopDesignFrame };
-
-struct PanelRow
-{
-    const char* name;
-    PanelFrame frame;
-};
-
-// All panels of the window, those without a button included.
-std::span<const PanelRow> panelTable();

@@ -73,9 +73,9 @@ void MainForm::InitUserControls()
     bindButtons(*m_parts, m_panels);
     CurrentToolbar = nullptr;
     m_parts->ShopToolbar->hide();
-    ShopDefaultButton = button("ShopGeneralSBtn");
-    CategoryDefaultButton = button("CategoryGeneralSBtn");
-    ProductDefaultButton = button("ProductGeneralSBtn");
+    ShopDefaultButton = button(ButtonName::ShopGeneralSBtn);
+    CategoryDefaultButton = button(ButtonName::CategoryGeneralSBtn);
+    ProductDefaultButton = button(ButtonName::ProductGeneralSBtn);
 }
 
 void MainForm::connectParts()
@@ -84,14 +84,16 @@ void MainForm::connectParts()
         connectGuarded(m_errors, shortcart, &ShortcartButton::frameRequested, this, &MainForm::ShowFrame);
     }
     // These four act when they receive the focus, ahead of the click, and only if they did not have it.
-    connectGuarded(m_errors, button("SaveShopSBtn"), &ShortcartButton::focusReceived, this, &MainForm::saveShopHandler);
-    connectGuarded(m_errors, button("ProductCatalogSBtn"), &ShortcartButton::focusReceived, this,
+    connectGuarded(m_errors, button(ButtonName::SaveShopSBtn), &ShortcartButton::focusReceived, this,
+                   &MainForm::saveShopHandler);
+    connectGuarded(m_errors, button(ButtonName::ProductCatalogSBtn), &ShortcartButton::focusReceived, this,
                    &MainForm::productCatalogHandler);
-    connectGuarded(m_errors, button("ShopDesignSBtn"), &ShortcartButton::focusReceived, this,
+    connectGuarded(m_errors, button(ButtonName::ShopDesignSBtn), &ShortcartButton::focusReceived, this,
                    &MainForm::shopDesignHandler);
-    connectGuarded(m_errors, button("PreviewBrowserSBtn"), &ShortcartButton::focusReceived, this,
+    connectGuarded(m_errors, button(ButtonName::PreviewBrowserSBtn), &ShortcartButton::focusReceived, this,
                    &MainForm::previewHandler);
-    connectGuarded(m_errors, button("UploadShopSBtn"), &ShortcartButton::Click, this, &MainForm::uploadShopHandler);
+    connectGuarded(m_errors, button(ButtonName::UploadShopSBtn), &ShortcartButton::Click, this,
+                   &MainForm::uploadShopHandler);
     connectGuarded(m_errors, m_parts->CategoriesAndProductsTree, &CatalogueTree::nodeClicked, this,
                    &MainForm::treeNodeClicked);
     connectGuarded(m_errors, m_parts->CategoriesAndProductsTree, &CatalogueTree::popUpRequested, this,
@@ -105,14 +107,14 @@ void MainForm::connectParts()
     }
 }
 
-ShortcartButton* MainForm::button(const char* name) const
+ShortcartButton* MainForm::button(ButtonName name) const
 {
-    return m_parts->buttons.value(QLatin1String(name));
+    return m_parts->buttons.value(name);
 }
 
-Panel* MainForm::panel(const char* name) const
+Panel* MainForm::panel(PanelName name) const
 {
-    return m_panels.value(QLatin1String(name));
+    return m_panels.value(name);
 }
 
 // The shop ----------------------------------------------------------------------------------------------------------
@@ -213,7 +215,7 @@ void MainForm::SetMode(qint16 mode)
 void MainForm::ShowCataloguePane(bool flag)
 {
     m_parts->treePane->showTree(flag);
-    panel("ShopGeneralPnl")->setVisible(flag);
+    panel(PanelName::ShopGeneralPnl)->setVisible(flag);
     m_parts->imgSplitter->setVisible(flag);
     m_parts->ContextToolbarFrame->setVisible(flag);
     m_parts->MainFrame->setVisible(flag);
@@ -229,19 +231,19 @@ void MainForm::ShowDesignPane(bool flag)
     m_parts->designPane->setVisible(flag);
     m_parts->ShopDesignFrame->setVisible(flag);
     m_parts->ShopDesignMenuFrame->setVisible(flag);
-    panel("MainPagePnl")->setVisible(true); // whatever the flag: this is meant
+    panel(PanelName::MainPagePnl)->setVisible(true); // whatever the flag: this is meant
 }
 
 void MainForm::saveShopHandler()
 {
-    button("SaveShopSBtn")->Code = PanelCode::GatherOnly;
+    button(ButtonName::SaveShopSBtn)->Code = PanelCode::GatherOnly;
     ShowFrame(VisibleFrame, PanelCode::GatherOnly);
     SaveShop();
 }
 
 void MainForm::productCatalogHandler()
 {
-    button("SaveShopSBtn")->Code = PanelCode::GatherOnly;
+    button(ButtonName::SaveShopSBtn)->Code = PanelCode::GatherOnly;
     SetMode(CatalogueMode);
     ShowToolbar(m_parts->ShopToolbar);
     // The tree's selected node stays what it was, so panel and node may disagree until the next click on a node.
@@ -251,15 +253,15 @@ void MainForm::productCatalogHandler()
 
 void MainForm::shopDesignHandler()
 {
-    button("PreviewBrowserSBtn")->Code = PanelCode::GatherOnly;
-    ShowFrame(panel("MainPagePnl"), PanelCode::Show);
+    button(ButtonName::PreviewBrowserSBtn)->Code = PanelCode::GatherOnly;
+    ShowFrame(panel(PanelName::MainPagePnl), PanelCode::Show);
     ShowDesignPane(true);
     SetMode(DesignMode);
 }
 
 void MainForm::previewHandler()
 {
-    button("PreviewBrowserSBtn")->Code = PanelCode::GatherOnly;
+    button(ButtonName::PreviewBrowserSBtn)->Code = PanelCode::GatherOnly;
     ShowFrame(nullptr, PanelCode::GatherOnly);
     SetMode(PreviewMode);
     m_navigation->openPreview();
@@ -280,8 +282,9 @@ void MainForm::ClearButtonHover(int x, int y)
 {
     // Only these eight: the others keep the picture of a hover until their own area reports otherwise, and this is
     // meant.
-    for (const char* name : {"ShopTaxesSBtn", "ShopDiscountSBtn", "ShopGeneralSBtn", "PreviewBrowserSBtn",
-                             "ShopDesignSBtn", "ProductCatalogSBtn", "SaveShopSBtn", "CategoryDiscountSBtn"}) {
+    using enum ButtonName;
+    for (const ButtonName name : {ShopTaxesSBtn, ShopDiscountSBtn, ShopGeneralSBtn, PreviewBrowserSBtn, ShopDesignSBtn,
+                                  ProductCatalogSBtn, SaveShopSBtn, CategoryDiscountSBtn}) {
         button(name)->OnMouseMove(x, y);
     }
 }

@@ -125,8 +125,8 @@ private:
     void selectNewNode(TreeNode* node);
     void removeSelectedNode();
 
-    ShortcartButton* button(const char* name) const;
-    Panel* panel(const char* name) const;
+    ShortcartButton* button(ButtonName name) const;
+    Panel* panel(PanelName name) const;
 
     FatalErrorHandler& m_errors;
     std::function<void()> m_startAgain;
@@ -136,7 +136,7 @@ private:
     PreviewParts m_preview;
     std::unique_ptr<PreviewPage> m_previewPage;
     std::unique_ptr<PreviewNavigation> m_navigation;
-    QHash<QString, Panel*> m_panels;
+    QHash<PanelName, Panel*> m_panels;
     std::array<QAction*, 3> m_modeActions{}; // mnuProductsCatalog, mnuShopPreview, mnuShopDesign: by mode less one
     QMenu* mnuPopUp = nullptr;
     frmUpload* m_upload = nullptr; // made when it is first asked for, and used again

@@ -175,7 +175,7 @@ void MainFormLayout::makeButtons(const ApplicationFolder& folder, LoadLog& log)
         } else {
             qobject_cast<QHBoxLayout*>(frame->layout())->insertWidget(place, button);
         }
-        buttons.insert(button->objectName(), button);
+        buttons.insert(row.name, button);
     }
 }
 

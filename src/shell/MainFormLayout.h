@@ -52,10 +52,10 @@ struct MainFormLayout
     SaveFrame* SaveProgressFrame = nullptr;
     ImportFrame* ImportProgressFrame = nullptr;
 
-    QHash<QString, ShortcartButton*> buttons; // by name
+    QHash<ButtonName, ShortcartButton*> buttons;
 
-    // Puts the parts that lie over the content in their places; the rest follows by layout. Below the smallest size at
-    // which the window is arranged at all, nothing moves.
+    // Puts the parts that lie over the content in their places; the rest follows by layout. Below the smallest size
+    // at which the window is arranged at all, nothing moves.
     void arrangeOverlays(const QSize& window) const;
 
 private:

@@ -14,31 +14,32 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// One entry of the pop-up menu: what it asks for, and for which class of active object it is offered.
+// The class of the active object, as a flag.
+enum ObjectClass : unsigned int { Shop = 1, Category = 2, Product = 4 };
+
+// One entry of the pop-up menu: what it asks for, and for which classes of active object it is offered.
 struct PopUpRow
 {
     const char* name;
     const char* caption;
-    const char* panel;
+    PanelName panel;
     PanelCode::Value code;
-    bool forShop;
-    bool forCategory;
-    bool forProduct;
+    unsigned int offeredFor;
 };
 
 constexpr std::array<PopUpRow, 5> popUpRows = {{
-    {"mnuAddCategory", "Add Category", "CategoryGeneralPnl", PanelCode::NewCategory, true, true, false},
-    {"mnuAddProduct", "Add Product", "ProductGeneralPnl", PanelCode::NewProduct, false, true, false},
-    {"mnuRemoveCategory", "Remove Category", "CategoryGeneralPnl", PanelCode::RemoveCategory, false, true, false},
-    {"mnuRemoveProduct", "Remove Product", "CategoryGeneralPnl", PanelCode::RemoveProduct, false, false, true},
-    {"mnuDuplicateProduct", "Duplicate Product", "ProductGeneralPnl", PanelCode::DuplicateProduct, false, false, true},
+    {"mnuAddCategory", "Add Category", PanelName::CategoryGeneralPnl, PanelCode::NewCategory, Shop | Category},
+    {"mnuAddProduct", "Add Product", PanelName::ProductGeneralPnl, PanelCode::NewProduct, Category},
+    {"mnuRemoveCategory", "Remove Category", PanelName::CategoryGeneralPnl, PanelCode::RemoveCategory, Category},
+    {"mnuRemoveProduct", "Remove Product", PanelName::CategoryGeneralPnl, PanelCode::RemoveProduct, Product},
+    {"mnuDuplicateProduct", "Duplicate Product", PanelName::ProductGeneralPnl, PanelCode::DuplicateProduct, Product},
 }};
 
 bool isOffered(const PopUpRow& row, const CatalogueObject& object)
 {
-    return (row.forShop && std::holds_alternative<std::shared_ptr<ShopClass>>(object)) ||
-           (row.forCategory && std::holds_alternative<std::shared_ptr<CategoryClass>>(object)) ||
-           (row.forProduct && std::holds_alternative<std::shared_ptr<ProductClass>>(object));
+    return ((row.offeredFor & Shop) != 0 && std::holds_alternative<std::shared_ptr<ShopClass>>(object)) ||
+           ((row.offeredFor & Category) != 0 && std::holds_alternative<std::shared_ptr<CategoryClass>>(object)) ||
+           ((row.offeredFor & Product) != 0 && std::holds_alternative<std::shared_ptr<ProductClass>>(object));
 }
 
 } // namespace

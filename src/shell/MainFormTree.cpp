@@ -159,7 +159,7 @@ bool MainForm::removeActiveCategory(Panel*& ActiveFrame)
     removeSelectedNode();
     if (std::holds_alternative<ShopRef>(ActiveObject)) {
         ShowToolbar(m_parts->ShopToolbar);
-        ActiveFrame = panel("ShopGeneralPnl");
+        ActiveFrame = panel(PanelName::ShopGeneralPnl);
     } else {
         ShowToolbar(m_parts->CategoryToolbar);
     }

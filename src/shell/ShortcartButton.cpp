@@ -39,7 +39,7 @@ ShortcartButton::ShortcartButton(const ButtonRow& row, const ApplicationFolder& 
       IconImg(new QLabel(this)),
       TitleLbl(new QLabel(m_title, this))
 {
-    setObjectName(QLatin1String(row.name));
+    setObjectName(objectNameOf(row.name));
     setAccessibleName(m_title);
     setFocusPolicy(focusPolicyOf(row.frame));
     setMinimumWidth(96);
@@ -100,8 +100,8 @@ void ShortcartButton::hover(int x, int y)
     const int farMargin = pixels(130);
     const bool outside = x < pixels(100) || y < pixels(100) || x > width() - farMargin || y > height() - farMargin;
     const char* picture = outside ? m_pictures->outside : m_pictures->inside;
-    showPicture(m_pictures->inPicturesFolder ? QIcon(m_picturesFolder + QLatin1String(picture))
-                                             : builtInPicture(picture));
+    showPicture(m_pictures->source == PictureSource::PicturesFolder ? QIcon(m_picturesFolder + QLatin1String(picture))
+                                                                    : builtInPicture(picture));
 }
 
 void ShortcartButton::focusInEvent(QFocusEvent* event)

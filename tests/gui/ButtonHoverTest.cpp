@@ -81,7 +81,8 @@ protected:
     // A button with that title, as the program's own are made.
     std::unique_ptr<ShortcartButton> makeButton(const char* title)
     {
-        const ButtonRow row{"TestSBtn", ButtonFrame::ShopToolbar, title, nullptr, PanelCode::Show, "114"};
+        const ButtonRow row{
+            ButtonName::ShopTaxesSBtn, ButtonFrame::ShopToolbar, title, std::nullopt, PanelCode::Show, "114"};
         auto button = std::make_unique<ShortcartButton>(row, files.folder(), window->session().log, nullptr);
         button->resize(120, 100);
         button->show();
