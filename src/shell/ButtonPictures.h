@@ -11,12 +11,12 @@ enum class PictureSource { Program, PicturesFolder };
 struct ButtonPictureRow
 {
     const char* title;   // compared without regard to case
-    const char* outside; // near the edge, and when the mouse has left
+    const char* outside; // near the edge, and once the mouse has left
     const char* inside;
     PictureSource source = PictureSource::Program;
 };
 
 std::span<const ButtonPictureRow> buttonPictureTable();
 
-// The row of a title; nothing when the table has none.
+// The row of a title; nullptr when the table has none.
 const ButtonPictureRow* buttonPicturesOf(const QString& title);

@@ -1,5 +1,5 @@
-// The thirty buttons and the names of the panels behind them. The window is built from these rows; whoever adds a
-// button adds a name and a row.
+// The thirty buttons of the window, and the names of its buttons and panels. The window is built from these rows: to
+// add a button, add a name and a row.
 #pragma once
 
 #include <QLatin1String>
@@ -88,7 +88,7 @@ QString objectNameOf(Name name)
 // Where a button stands.
 enum class ButtonFrame { ToolbarFrame, ShopToolbar, CategoryToolbar, ProductToolbar, ShopDesignMenuFrame };
 
-// What a button asks of the panel change that it starts.
+// What a change of panel does besides.
 namespace PanelCode {
 enum Value : qint16 {
     Show = 0,

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// What the eye sees as selected: darker than the tree, so that the light pictures stay clear on it.
+// The background of the selected node: darker than the tree, so that the light pictures stay clear on it.
 constexpr QRgb selectionColour = qRgb(38, 51, 82);
 
 } // namespace

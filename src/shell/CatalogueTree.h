@@ -1,5 +1,5 @@
 // The tree at the left of the window: shop, categories, products. It reports which node was clicked and where the
-// pop-up menu is asked for; what follows from that is the window's business.
+// pop-up menu was requested; the window does the rest.
 #pragma once
 
 #include "base/Guarded.h"
@@ -16,13 +16,13 @@ public:
 
     CatalogueTreeModel& nodes() { return *m_model; }
 
-    // The node that the view shows as selected; nothing in an empty tree.
+    // The node that the view shows as selected; nullptr in an empty tree.
     TreeNode* selectedNode() const;
     void selectNode(const TreeNode* node);
     void expandNode(const TreeNode* node);
 
-    // Both paint the node in the tree's own colours. They are the same, and both stay: callers mean two things by them,
-    // and what the eye sees as selected comes from the view.
+    // Both paint the node in the tree's own colours. They do the same, but their callers mean two things by them. What
+    // the user sees as selected comes from the view.
     void ColorSelectedNode(TreeNode* node);
     void ColorDeSelectedNode(TreeNode* node);
 

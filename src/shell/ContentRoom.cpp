@@ -12,7 +12,7 @@ ContentRoom::ContentRoom(QWidget* parent) : QWidget(parent), m_content(new QWidg
 
 bool ContentRoom::eventFilter(QObject* watched, QEvent* event)
 {
-    // Another panel may need more.
+    // Another panel may need more space.
     if (watched == m_content && event->type() == QEvent::LayoutRequest) {
         fitContent();
     }

@@ -1,6 +1,6 @@
-// A room of the main window, such as all that is inside of its frame, and the content in it. The content fills the
-// room, but is never squeezed: where the room is too small it is cut off. In a window below the smallest size at which
-// the window is arranged at all it keeps its last layout. The room owns the content.
+// An area of the main window and the content in it, which it owns. The content fills the area but is never squeezed:
+// where the area is too small, the content is cut off. In a window too small to be arranged at all it keeps its last
+// layout.
 #pragma once
 
 #include <QWidget>
@@ -12,7 +12,7 @@ class ContentRoom : public QWidget
 public:
     explicit ContentRoom(QWidget* parent);
 
-    // To be given a layout.
+    // The caller gives it a layout.
     QWidget* content() const { return m_content; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;

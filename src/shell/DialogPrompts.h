@@ -8,7 +8,7 @@ class QWidget;
 class DialogPrompts : public UserPrompts
 {
 public:
-    // The window that the dialogs belong to from now on; nothing until there is one.
+    // The window that the dialogs belong to from now on. Until then they have no parent.
     void setParentWindow(QWidget* window) { m_window = window; }
 
     void showMessage(const QString& title, const QString& text, PromptIcon icon) override;

@@ -10,6 +10,6 @@ void FatalErrorBox::fatalError(const RuntimeError& error) noexcept
 {
     const QString text = u"Run-time error '%1':\n\n%2"_s.arg(static_cast<int>(error.number())).arg(error.description());
     m_prompts.showMessage(u"Ambrel eCommerce Software"_s, text, PromptIcon::Critical);
-    // Not exit(): its destructors would let the windows go on, and closing one of them may ask and save.
+    // Not exit(): it runs destructors, and a window that they close may ask and save.
     std::_Exit(EXIT_FAILURE);
 }

@@ -1,5 +1,5 @@
 // The last box of a session: an error that nobody trapped. It ends the process at once, with exit code 1 and nothing
-// saved, so that no half-done work goes on behind the box.
+// saved, so that half-done work does not continue.
 #pragma once
 
 #include "base/Guarded.h"

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr qint64 quietTime = 1000; // milliseconds without a sign of progress
+constexpr qint64 quietTime = 1000; // milliseconds before the first report of progress
 
 } // namespace
 

@@ -1,5 +1,5 @@
-// One import, seen from the window: while it lives, what the model makes goes into the tree, which is filled in one go
-// at the end, and a frame tells how far the import is once it takes longer than a second.
+// One import, as the window sees it. While it lives, what the model makes goes into the tree, which the view shows in
+// one go at the end. Once the import takes longer than a second, a frame shows how far it is.
 #pragma once
 
 #include "model/clsImporter.h"
@@ -22,7 +22,7 @@ public:
     clsImporter::Progress progress();
 
 private:
-    // Of the shop, for none.
+    // The shop's node for nullptr.
     TreeNode* nodeOf(const CategoryClass* category) const { return m_nodes.value(category); }
     void collect(TreeNode* node);
 

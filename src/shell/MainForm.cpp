@@ -83,7 +83,7 @@ void MainForm::connectParts()
     for (ShortcartButton* shortcart : m_parts->buttons) {
         connectGuarded(m_errors, shortcart, &ShortcartButton::frameRequested, this, &MainForm::ShowFrame);
     }
-    // These four act when they receive the focus, ahead of the click, and only if they did not have it.
+    // These four act when a press gives them the focus, before the click, and only if they did not have it yet.
     connectGuarded(m_errors, button(ButtonName::SaveShopSBtn), &ShortcartButton::focusReceived, this,
                    &MainForm::saveShopHandler);
     connectGuarded(m_errors, button(ButtonName::ProductCatalogSBtn), &ShortcartButton::focusReceived, this,
@@ -148,7 +148,7 @@ void MainForm::ShowFrame(Panel* ActiveFrame, qint16 Code)
             return;
         }
         if (Code != PanelCode::RemoveProduct && Code != PanelCode::RemoveCategory) {
-            // Written twice, and this is meant: a panel's save must be repeatable.
+            // Saved twice, deliberately: a panel's save must be repeatable.
             ApplyActivePanel();
             VisibleFrame->SaveActiveObject();
             VisibleFrame->ClearActiveObject();
@@ -231,7 +231,7 @@ void MainForm::ShowDesignPane(bool flag)
     m_parts->designPane->setVisible(flag);
     m_parts->ShopDesignFrame->setVisible(flag);
     m_parts->ShopDesignMenuFrame->setVisible(flag);
-    panel(PanelName::MainPagePnl)->setVisible(true); // whatever the flag: this is meant
+    panel(PanelName::MainPagePnl)->setVisible(true); // deliberately, whatever the flag
 }
 
 void MainForm::saveShopHandler()
@@ -246,7 +246,7 @@ void MainForm::productCatalogHandler()
     button(ButtonName::SaveShopSBtn)->Code = PanelCode::GatherOnly;
     SetMode(CatalogueMode);
     ShowToolbar(m_parts->ShopToolbar);
-    // The tree's selected node stays what it was, so panel and node may disagree until the next click on a node.
+    // The tree's selected node stays as it is, so panel and node may differ until the next click on a node.
     ActiveObject = m_session->shop;
     ShopDefaultButton->Activate();
 }
@@ -280,8 +280,7 @@ bool MainForm::eventFilter(QObject* watched, QEvent* event)
 
 void MainForm::ClearButtonHover(int x, int y)
 {
-    // Only these eight: the others keep the picture of a hover until their own area reports otherwise, and this is
-    // meant.
+    // Deliberately only these eight: the others stay lit until the mouse moves over them again.
     using enum ButtonName;
     for (const ButtonName name : {ShopTaxesSBtn, ShopDiscountSBtn, ShopGeneralSBtn, PreviewBrowserSBtn, ShopDesignSBtn,
                                   ProductCatalogSBtn, SaveShopSBtn, CategoryDiscountSBtn}) {
@@ -291,7 +290,7 @@ void MainForm::ClearButtonHover(int x, int y)
 
 void MainForm::keyPressEvent(QKeyEvent* event)
 {
-    // Needless as it looks, this box is meant.
+    // Deliberate, needless as it looks.
     if (WorkMode == PreviewMode && event->key() == Qt::Key_Left && event->modifiers() == Qt::AltModifier) {
         guarded(m_errors, [&] { m_session->prompts.showMessage(applicationTitle(), u"SS"_s, PromptIcon::None); });
         return;
@@ -310,7 +309,7 @@ void MainForm::closeEvent(QCloseEvent* event)
             saveShopHandler();
         }
         event->setAccepted(answer != PromptAnswer::Cancel);
-        // Also after Cancel: the window then goes on without a cart, and the preview's cart pages fail. This is meant.
+        // Deliberately also after Cancel: the window then goes on without a cart, and the preview's cart pages fail.
         m_session->Cart.reset();
     });
 }

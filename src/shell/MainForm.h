@@ -1,5 +1,5 @@
 // The one window. It owns the session and the templates, and shows the shop in three modes: catalogue, preview, design.
-// Its centre is ShowFrame, the only road from one panel to another.
+// Its centre is ShowFrame: every change of panel goes through it.
 #pragma once
 
 #include "base/Guarded.h"
@@ -46,22 +46,22 @@ public:
     Panel* VisibleFrame = nullptr;
     // What the visible panel was bound to, or what the next one will be.
     CatalogueObject ActiveObject;
-    // Asks the exit to offer saving. No edit sets it and no save clears it: the question comes every time, and this is
-    // meant. Only a restore clears it.
+    // Makes the exit offer to save. No edit sets it and no save clears it: the question deliberately comes every time.
+    // Only a restore clears it.
     bool ShopChanged = true;
     QFrame* CurrentToolbar = nullptr;
     TreeNode* SelectedNode = nullptr;
     qint16 WorkMode = 0;
 
-    // Saves, unbinds and hides the visible panel, runs the catalogue's command of the code, and shows and binds the
-    // next panel, which may be none. The codes are PanelCode.
+    // Saves, unbinds and hides the visible panel, runs the catalogue command that the code (a PanelCode) stands for,
+    // and shows and binds the next panel, if there is one.
     void ShowFrame(Panel* ActiveFrame, qint16 Code);
     void ShowToolbar(QFrame* toolbar);
-    // Another value than the three modes changes no pane.
+    // A value that is none of the three modes changes no pane.
     void SetMode(qint16 mode);
 
     void CreateShop();
-    // Writes the shop file. What stands in the visible panel has to be gathered first.
+    // Writes the shop file. What the visible panel shows has to be gathered first.
     void SaveShop();
 
     // Rebuilds ObjectsCollection and the whole tree, and selects the shop. ErrorNumber::DuplicateKey when an id stands
@@ -108,14 +108,14 @@ private:
 
     // The pop-up menu of the tree offers what fits the active object.
     void showPopUp(const QPoint& position);
-    // The mouse is at this place of a part of the window, outside of the buttons.
+    // The mouse is at this position of a part of the window, outside the buttons.
     void ClearButtonHover(int x, int y);
 
     CatalogueTreeFill catalogueFill() const;
     void treeNodeClicked(TreeNode* node);
     void markSelected(TreeNode* node);
 
-    // The catalogue's commands. False when the user refuses; the panel asked for may become another.
+    // The catalogue's commands. False when the user refuses. ActiveFrame, the panel to show next, may become another.
     bool runCatalogueCommand(Panel*& ActiveFrame, qint16 Code);
     void addNewCategory();
     void addNewProduct();

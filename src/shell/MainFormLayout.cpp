@@ -35,7 +35,7 @@ Layout* tightLayout(QWidget* widget, int spacing = 0)
     return layout;
 }
 
-// A holder of panels: all of them in one place, those that are hidden take none.
+// A frame that holds panels, all in the same cell; only one is visible at a time.
 QFrame* panelHolder(const char* name, QWidget* parent)
 {
     QFrame* holder = namedFrame(name, parent);

@@ -1,5 +1,5 @@
-// The parts of the main window and where they stand. Built once by the window, which owns them all; what the parts do
-// is the window's business.
+// The parts of the main window and where they stand. Built once by the window, which owns them all and says what they
+// do.
 #pragma once
 
 #include "base/Guarded.h"
@@ -54,8 +54,8 @@ struct MainFormLayout
 
     QHash<ButtonName, ShortcartButton*> buttons;
 
-    // Puts the parts that lie over the content in their places; the rest follows by layout. Below the smallest size
-    // at which the window is arranged at all, nothing moves.
+    // Places the parts that lie over the content; layouts place the others. In a window too small to be arranged,
+    // nothing moves.
     void arrangeOverlays(const QSize& window) const;
 
 private:

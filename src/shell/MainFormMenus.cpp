@@ -1,4 +1,4 @@
-// The window's menu bar, the tree's pop-up menu, and what the entries do that lead out of the window.
+// The window's menu bar, the tree's pop-up menu, and the commands that work with files or open the upload dialog.
 #include "backup/BackUpCommands.h"
 #include "editors/Panel.h"
 #include "model/clsImporter.h"
@@ -128,7 +128,7 @@ void MainForm::restoreHandler()
     if (!restoreFromMenu({m_session->folder, m_session->prompts, applicationTitle()})) {
         return;
     }
-    // The restored shop is the one to keep: the window closes without a question, and its successor loads it.
+    // The restored shop is the one to keep: the window closes without asking, and the new process loads it.
     ShopChanged = false;
     m_startAgain();
     close();

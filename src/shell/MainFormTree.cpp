@@ -1,5 +1,5 @@
-// The window's side of the catalogue's tree: how it is built, what a click on a node does, and the commands that add,
-// remove and copy nodes inside a change of panel.
+// The window's part in the catalogue's tree: building it, what a click on a node does, and the commands that add,
+// remove and copy nodes during a change of panel.
 #include "editors/CatalogueTreeFill.h"
 #include "editors/Panel.h"
 #include "model/CatalogueNodes.h"
@@ -18,7 +18,8 @@ using ShopRef = std::shared_ptr<ShopClass>;
 using CategoryRef = std::shared_ptr<CategoryClass>;
 using ProductRef = std::shared_ptr<ProductClass>;
 
-// The object as what a command needs. The toolbars and the pop-up see to it that it is; else error 13.
+// The object as the class that a command needs, which the toolbars and the pop-up menu ensure. Raises
+// ErrorNumber::TypeMismatch when it is of another one.
 template <class Ref>
 const Ref& activeAs(const CatalogueObject& object)
 {
@@ -38,7 +39,7 @@ void MainForm::AddShopToTheTree()
     m_session->registerShop();
     TreeNode* root = catalogueFill().fill(*m_session->shop);
     tree->expandNode(root);
-    // The root starts with the picture of a closed node though it is expanded: this is meant.
+    // The root deliberately starts with the picture of a closed node though it is expanded.
     tree->nodes().setImage(root, TreeImage::Closed);
     tree->selectNode(root);
     ActiveObject = m_session->objects.Item(tree->selectedNode()->key);
@@ -69,7 +70,8 @@ void MainForm::treeNodeClicked(TreeNode* node)
         m_parts->CategoriesAndProductsTree->ColorDeSelectedNode(SelectedNode);
     }
     markSelected(node);
-    // The active object changes ahead of the panel: the old panel is saved below, to the object that it was bound to.
+    // The active object changes before the panel does: the old panel, saved below, writes to the object that it was
+    // bound to.
     ActiveObject = m_session->objects.Item(m_parts->CategoriesAndProductsTree->selectedNode()->key);
     if (std::holds_alternative<std::shared_ptr<ShopClass>>(ActiveObject)) {
         ShowToolbar(m_parts->ShopToolbar);

@@ -1,5 +1,5 @@
-// Makes the window's panels and binds the buttons to them. The window holds the panels afterwards; this knows only
-// which class stands behind which name.
+// Makes the window's panels, which the window then owns, and binds the buttons to them. Only this file knows the class
+// of each panel.
 #pragma once
 
 #include "shell/ButtonTable.h"

@@ -12,7 +12,7 @@ struct PreviewParts
 {
     QWidget* widget = nullptr; // goes with the window
     PreviewSurface* surface = nullptr;
-    // Told once who judges navigations and acts on them.
+    // Called once, with the object that judges navigations and acts on them.
     std::function<void(PreviewNavigation*)> setNavigation;
 };
 

@@ -1,6 +1,5 @@
 // The signs of work that lie over the window's content: the short bar that acknowledges a change of panel, the frame
-// that stands while the shop is saved (both are feedback for the eye and measure nothing), and the frame of a long
-// import.
+// that shows that the shop is saved (both are feedback only and measure nothing), and the frame of a long import.
 #pragma once
 
 #include <QFrame>
@@ -54,6 +53,6 @@ class ImportFrame : public CaptionedProgress
 public:
     explicit ImportFrame(QWidget* parent);
 
-    // Comes to the front, if it is not there, with so many percent done.
+    // Comes to the front, if it is not there yet, and shows how many percent are done.
     void report(int percent);
 };

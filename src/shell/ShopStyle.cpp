@@ -6,7 +6,7 @@
 namespace {
 
 constexpr int besideButtonText = 12;   // pixels on either side
-constexpr double edgeStrength = 0.45;  // of the text's colour, on the ground
+constexpr double edgeStrength = 0.45;  // of the text's colour, on the background
 constexpr double fieldStrength = 0.25; // fields are many and large
 constexpr double fieldRadius = 2;
 

@@ -1,5 +1,5 @@
-// Qt's Fusion style with two changes of our own: a button leaves some room beside its text, and the edges of fields and
-// of the small boxes to tick stand out from their ground, in the dark palette too. The application owns the one.
+// Qt's Fusion style with two changes: a button leaves some room beside its text, and the edges of fields and check
+// boxes stand out from their background, in the dark palette too. The application owns the one instance.
 #pragma once
 
 #include <QProxyStyle>
@@ -17,5 +17,5 @@ public:
                            const QWidget* widget) const override;
 };
 
-// For the application, which takes it over.
+// The caller, the application, takes ownership.
 QStyle* newShopStyle();

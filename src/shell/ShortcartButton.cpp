@@ -22,7 +22,7 @@ QIcon builtInPicture(const char* name)
     return QIcon(u":/icons/%1.svg"_s.arg(QLatin1String(name)));
 }
 
-// The five main buttons act on the receipt of the focus, so Tab must not reach them; the menus do.
+// The five main buttons act when they receive the focus, so Tab must not reach them. The menus have the same commands.
 Qt::FocusPolicy focusPolicyOf(ButtonFrame frame)
 {
     return frame == ButtonFrame::ToolbarFrame ? Qt::ClickFocus : Qt::StrongFocus;
@@ -77,7 +77,7 @@ void ShortcartButton::Activate()
 
 void ShortcartButton::OnMouseMove(int x, int y)
 {
-    // The result of the test is negated bit by bit, which is never zero: the branch is always taken, and this is meant.
+    // The result of the test is negated bit by bit, which is never zero: the branch is deliberately always taken.
     if (~static_cast<int>(IconImg->geometry().contains(x, y)) != 0) {
         hover(-1, -1);
     }

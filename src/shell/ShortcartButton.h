@@ -1,6 +1,5 @@
-// The one kind of button of the main window: a picture with a title under it that lights up under the mouse and opens a
-// panel. It knows its panel and its code and asks for the change of panel by a signal; it knows nothing of the
-// catalogue.
+// The main window's kind of button: a picture over a title. It lights up under the mouse and opens a panel. It knows
+// its panel and its code and asks for the change of panel by a signal; it knows nothing of the catalogue.
 #pragma once
 
 #include "shell/ButtonPictures.h"
@@ -19,13 +18,14 @@ class ShortcartButton : public QWidget
     Q_OBJECT
 
 public:
-    // Reads the button's properties from its row and logs that. The folder is where a few titles have their pictures.
+    // Takes the button's properties from its row and logs that. Buttons with a few of the titles have their pictures in
+    // the folder.
     ShortcartButton(const ButtonRow& row, const ApplicationFolder& folder, LoadLog& log, QWidget* parent);
 
     // Does what a click on the picture does.
     void Activate();
-    // The parent's report that the mouse is at this place of the parent, outside of the button. The place plays no
-    // part: the button always goes dark, also when the place lies over its picture, and this is meant.
+    // The parent reports that the mouse is at this position of its own, outside the button. The button always goes
+    // dark, deliberately also when the position lies over its picture.
     void OnMouseMove(int x, int y);
 
     QString ShortCartTitle() const { return m_title; }
@@ -34,11 +34,11 @@ public:
     qint16 Code = 0;
 
 Q_SIGNALS:
-    // A press of the mouse has given the button the input focus, which it did not have. Comes ahead of the click.
+    // A press of the mouse has given the button the input focus, which it did not have. Comes before the click.
     void focusReceived();
-    // The picture was clicked: this panel is asked for, with this code.
+    // The picture was clicked: the button asks for this panel, with this code.
     void frameRequested(Panel* panel, qint16 code);
-    // The button was clicked anywhere. On the picture it comes behind frameRequested.
+    // The button was clicked anywhere. After a click on the picture it follows frameRequested.
     void Click();
 
 protected:

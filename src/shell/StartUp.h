@@ -23,6 +23,6 @@ struct ProgramServices
     std::function<void()> startAgain;
 };
 
-// Log, countries, window, in this order, and the window is shown. Raises the run-time errors that end a start, such as
-// a list of countries that is missing.
+// Empties the log, reads the countries, makes the window and shows it. Raises the run-time errors that end a start,
+// such as ErrorNumber::FileNotFound when the list of countries is missing.
 std::unique_ptr<MainForm> startProgram(const ProgramServices& services, const PreviewFactory& makePreview);

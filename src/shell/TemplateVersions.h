@@ -1,5 +1,5 @@
-// A check whether the templates in the folder are of this program's version. It is complete, and nothing calls it: a
-// template of another version loads and renders like any other, and this is meant.
+// A check that the templates in the folder are of this program's version. Deliberately nothing calls it: a template of
+// another version loads and renders like any other.
 #pragma once
 
 #include "base/ApplicationFolder.h"
@@ -9,11 +9,11 @@
 
 #include <functional>
 
-// Compares the version in the first line of a template with the program's. On a difference it shows a box, closes the
-// window and gives false. Error 53 when there is no such template.
+// Compares the version in the first line of a template with the program's. When they differ it shows a box, closes the
+// window and returns false. Raises ErrorNumber::FileNotFound when there is no such template.
 bool CheckTemplateVersion(const QString& name, const ApplicationFolder& folder, UserPrompts& prompts,
                           const std::function<void()>& closeWindow);
 
-// The same for all twelve templates, whatever the result of one.
+// The same for all twelve templates, whatever the result for each.
 void CheckAllTemplateVersions(const ApplicationFolder& folder, UserPrompts& prompts,
                               const std::function<void()>& closeWindow);

@@ -28,7 +28,7 @@ QPalette paletteOf(const Tones& tones)
     palette.setColor(QPalette::ToolTipText, tones.text);
     palette.setColor(QPalette::Highlight, tones.highlight);
     palette.setColor(QPalette::HighlightedText, tones.highlightedText);
-    // A list that is not in use shows what is selected in it without the colour that asks for the eye.
+    // A list without the focus shows its selection in a quieter colour.
     palette.setColor(QPalette::Disabled, QPalette::Highlight, tones.alternate);
     palette.setColor(QPalette::Disabled, QPalette::HighlightedText, tones.disabled);
     palette.setColor(QPalette::Link, tones.link);

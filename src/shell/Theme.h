@@ -1,5 +1,5 @@
-// How the program looks: a style that is Qt's Fusion but for a few edges (see ShopStyle.h), with a palette of our own
-// around the tree's blue, light or dark as the user's desktop is.
+// How the program looks: Qt's Fusion style with a few changes (see ShopStyle.h) and a palette of our own around the
+// tree's blue, light or dark like the user's desktop.
 #pragma once
 
 #include <QPalette>

@@ -6,7 +6,8 @@
 
 namespace {
 
-// The shadow falls on the window's ground: on a dark one it is darker still, and its light edge only a little lighter.
+// The shadow falls on the window's background: on a dark one it is darker still, and its light edge only a little
+// lighter.
 struct ShadowTones
 {
     QRgb white, gray, darkGray;

@@ -1,4 +1,4 @@
-// The tree with the three frames behind it that draw its shadow.
+// The tree, and the three frames behind it that draw its shadow.
 #pragma once
 
 #include <QWidget>

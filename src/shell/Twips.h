@@ -1,5 +1,5 @@
-// The window's measures are given in twips. This is the one place that says what they are on the screen: ten to a
-// pixel, so that today's fonts fit.
+// The window's measures are given in twips. Only this file says how large they are on the screen: ten to a pixel, so
+// that today's fonts fit.
 #pragma once
 
 #include <QSize>
@@ -9,7 +9,7 @@ constexpr int pixels(int twips)
     return twips / 10;
 }
 
-// In a smaller window nothing is arranged: what is in it keeps its place.
+// In a smaller window nothing is arranged: its parts keep their places.
 inline bool isArranged(const QSize& window)
 {
     return window.width() >= pixels(6250) && window.height() >= pixels(3000);

@@ -13,7 +13,7 @@
 
 int main(int argc, char** argv)
 {
-    // A file that would grow too large is an error of the write, not the end of the process.
+    // Writing a file larger than the limit fails with an error then, instead of killing the process.
     std::signal(SIGXFSZ, SIG_IGN);
     PreviewBrowser::prepareProcess();
     QApplication application(argc, argv);
