@@ -27,7 +27,7 @@ protected:
         window->resize(width, height);
         QCoreApplication::processEvents();
     }
-    // Drags the splitter's bar to that place, in pixels from the window's left edge.
+    // Drags the splitter's bar to this position, in pixels from the window's left edge.
     void dragSplitterTo(int x)
     {
         QSplitter* splitter = window->parts().imgSplitter;
@@ -77,19 +77,19 @@ TEST_F(Arrangement, KeepsItsLastLayoutInAWindowThatIsTooSmall)
     EXPECT_EQ(window->parts().MainFrame->height(), main.height() + 50);
 }
 
-TEST_F(Arrangement, LaysTheSignsOfWorkOverTheContent)
+TEST_F(Arrangement, ShowsTheProgressBarsOverTheContent)
 {
     resizeTo(1100, 750);
     EXPECT_EQ(find("PrBar")->x(), 5);
     EXPECT_EQ(find("PrBar")->width(), 300);
     EXPECT_EQ(find("SaveProgressFrame")->pos(), QPoint(216, 276));
-    // The bar stands on the line of the maker's notice, at the window's foot.
+    // The bar stands on the line of the maker's notice, at the bottom of the window.
     EXPECT_TRUE(isShown("lblCopyright"));
     EXPECT_TRUE(find("frmCopyright")->geometry().contains(find("PrBar")->geometry().center()));
     EXPECT_GE(find("frmCopyright")->y(), window->parts().treePane->geometry().bottom());
 }
 
-TEST_F(Arrangement, CutsOffWhatFindsNoRoomAndSqueezesNothing)
+TEST_F(Arrangement, CutsOffWhatDoesNotFitAndSqueezesNothing)
 {
     resizeTo(630, 310);
     EXPECT_EQ(window->size(), QSize(630, 310));

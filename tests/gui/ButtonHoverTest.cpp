@@ -61,7 +61,7 @@ protected:
 
     static QLabel* pictureLabel(const ShortcartButton* button) { return button->findChild<QLabel*>(u"IconImg"_s); }
 
-    // Moves the mouse to a place of the button's picture.
+    // Moves the mouse to a position of the button's picture.
     static void moveTo(const ShortcartButton* button, const QPoint& place) { moveOver(pictureLabel(button), place); }
 
     static void moveOver(QWidget* widget, const QPoint& place)
@@ -78,7 +78,7 @@ protected:
         return pictureOf(u":/icons/%1.svg"_s.arg(QLatin1String(name)), pixmap.size() / pixmap.devicePixelRatio());
     }
 
-    // A button with that title, as the program's own are made.
+    // A button with this title, made as the program makes its own.
     std::unique_ptr<ShortcartButton> makeButton(const char* title)
     {
         const ButtonRow row{
@@ -116,7 +116,7 @@ TEST_F(ButtonHover, TakesBothPicturesFromTheTableByTheTitle)
     }
 }
 
-TEST_F(ButtonHover, HasPicturesThatTellInsideFromOutside)
+TEST_F(ButtonHover, HasDifferentPicturesForInsideAndOutside)
 {
     constexpr QSize size(48, 48);
     for (const Expected& expected : expectedPictures) {
@@ -152,7 +152,7 @@ TEST_F(ButtonHover, KeepsThePictureOfATitleThatIsNotInTheTableAndShowsTheHand)
     EXPECT_EQ(pictureLabel(button.get())->cursor().shape(), Qt::PointingHandCursor);
 }
 
-TEST_F(ButtonHover, EndsForEightButtonsOnAMoveOverTheWindow)
+TEST_F(ButtonHover, EndsForEightButtonsWhenTheMouseMovesOverTheWindow)
 {
     const QStringList darkening = {u"ShopTaxesSBtn"_s,      u"ShopDiscountSBtn"_s,    u"ShopGeneralSBtn"_s,
                                    u"PreviewBrowserSBtn"_s, u"ShopDesignSBtn"_s,      u"ProductCatalogSBtn"_s,
@@ -161,7 +161,7 @@ TEST_F(ButtonHover, EndsForEightButtonsOnAMoveOverTheWindow)
          {find("ToolbarFrame"), find("ShopToolbar"), window->parts().CategoriesAndProductsTree->viewport(),
           find("ToolbarFrame")->parentWidget()}) {
         SCOPED_TRACE(surface->objectName().toStdString());
-        // The hidden toolbars' buttons have no size otherwise.
+        // Buttons of hidden toolbars would have no size.
         find("CategoryToolbar")->show();
         find("ProductToolbar")->show();
         QCoreApplication::processEvents();
@@ -184,7 +184,7 @@ TEST_F(ButtonHover, EndsForEightButtonsOnAMoveOverTheWindow)
     }
 }
 
-TEST_F(ButtonHover, EndsOnAReportOfTheParentWhereverThePlaceIs)
+TEST_F(ButtonHover, EndsOnAnyReportOfTheParentWhateverThePosition)
 {
     const auto button = makeButton("Taxes");
     for (const QPoint place : {QPoint(500, 500), QPoint(-1, -1), QPoint(60, 24)}) {

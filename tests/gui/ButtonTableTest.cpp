@@ -1,4 +1,4 @@
-// The thirty buttons and the panels behind them, against a list of their own.
+// The thirty buttons and their panels, against a list of their own.
 #include "editors/Panel.h"
 #include "shell/ShortcartButton.h"
 #include "support/WindowTest.h"
@@ -108,7 +108,7 @@ TEST_F(Buttons, OfTheDesignMenuShowTheirPanels)
     }
 }
 
-TEST_F(Buttons, AreClickedByActivateToo)
+TEST_F(Buttons, AreAlsoClickedByActivate)
 {
     auto* button = find<ShortcartButton>("ShopTaxesSBtn");
     bool panelAtTheClick = false;
@@ -136,7 +136,7 @@ TEST_F(Buttons, OnlyRaiseTheirClickBesideThePicture)
     EXPECT_TRUE(isShown("ShopTaxesPnl"));
 }
 
-TEST_F(Buttons, OfPanelsWithoutAButtonAreNoneAndThePanelsStayHidden)
+TEST_F(Buttons, LeadToAllPanelsButTwoWhichStayHidden)
 {
     for (const char* name : {"ShopsShippingPnl", "ProductShippingCostsPnl"}) {
         EXPECT_TRUE(find<Panel>(name)->isHidden());

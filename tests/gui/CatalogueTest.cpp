@@ -35,7 +35,7 @@ protected:
     }
 };
 
-TEST_F(Catalogue, StandsInTheTreeWithCategoriesAheadOfProducts)
+TEST_F(Catalogue, StandsInTheTreeWithCategoriesBeforeProducts)
 {
     const TreeNode* root = window->parts().CategoriesAndProductsTree->nodes().rootNode();
     ASSERT_EQ(root->children.size(), 1U);
@@ -62,7 +62,7 @@ TEST_F(Catalogue, ShowsThePictureOfAnOpenCategoryAndAClosedRootAtFirst)
     EXPECT_EQ(root->image, TreeImage::Opened);
 }
 
-TEST_F(Catalogue, OfAShopWithoutCategoriesIsTheRootAloneWithItsPanel)
+TEST_F(Catalogue, OfAShopWithoutCategoriesIsTheRootAlone)
 {
     window.reset();
     useShop("<Version>1.2.0</Version><Name>Fern</Name><SelectedCountries/>");
@@ -117,7 +117,7 @@ TEST_F(Catalogue, SelectsNothingOnARightClick)
     EXPECT_EQ(panelName(), u"ShopGeneralPnl"_s);
 }
 
-TEST_F(Catalogue, TakesANewRootCategory)
+TEST_F(Catalogue, GetsANewRootCategory)
 {
     click("ShopNewCategorySBtn");
     EXPECT_EQ(selected()->key, u"ID10"_s);
@@ -129,7 +129,7 @@ TEST_F(Catalogue, TakesANewRootCategory)
     EXPECT_TRUE(window->session().shop->Discount()->Childs().hasKey(u"10"_s));
 }
 
-TEST_F(Catalogue, TakesANewCategoryBelowACategory)
+TEST_F(Catalogue, GetsANewCategoryBelowACategory)
 {
     clickNode(u"ID2"_s);
     click("NewCategorySBtn");
@@ -137,12 +137,12 @@ TEST_F(Catalogue, TakesANewCategoryBelowACategory)
     EXPECT_EQ(category("10")->parentCategory.lock(), category("2"));
     EXPECT_EQ(category("10")->ParentDiscount.lock(), category("2")->Discount());
     EXPECT_TRUE(category("2")->Discount()->Childs().hasKey(u"10"_s));
-    // Behind its siblings, whatever their kind.
+    // After its siblings, whatever their kind.
     EXPECT_EQ(selected()->parent->children.back().get(), selected());
     EXPECT_EQ(selected()->parent->children.size(), 3U);
 }
 
-TEST_F(Catalogue, TakesANewProduct)
+TEST_F(Catalogue, GetsANewProduct)
 {
     clickNode(u"ID3"_s);
     click("NewProductSBtn");
@@ -164,7 +164,7 @@ TEST_F(Catalogue, LandsOnTheCategoryWhenAProductIsRemoved)
     EXPECT_EQ(selected()->key, u"ID2"_s);
     EXPECT_EQ(panelName(), u"CategoryGeneralPnl"_s);
     EXPECT_FALSE(category("2")->products.hasKey(u"ID4"_s));
-    EXPECT_TRUE(window->session().objects.hasKey(u"ID4"_s)); // meant
+    EXPECT_TRUE(window->session().objects.hasKey(u"ID4"_s)); // deliberately
 }
 
 TEST_F(Catalogue, LandsOnTheShopWhenItsLastCategoryIsRemoved)

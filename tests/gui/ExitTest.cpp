@@ -1,4 +1,4 @@
-// The way out: the question, its three answers, and the cart.
+// The exit: the question, its three answers, and the cart.
 #include "support/WindowTest.h"
 
 #include <QLineEdit>
@@ -55,7 +55,7 @@ TEST_F(Exit, AsksAgainRightAfterASave)
     EXPECT_TRUE(window->close());
 }
 
-TEST_F(Exit, AsksNothingWhenNothingIsToBeSaved)
+TEST_F(Exit, AsksNothingWhenThereIsNothingToSave)
 {
     window->ShopChanged = false;
     EXPECT_TRUE(window->close());

@@ -36,7 +36,7 @@ protected:
     const TreeNode* root() const { return window->parts().CategoriesAndProductsTree->nodes().rootNode(); }
 };
 
-TEST_F(Import, StartsTheChoiceInTheApplicationFolderAndEndsOnCancel)
+TEST_F(Import, AsksForAFileInTheApplicationFolderAndEndsOnCancel)
 {
     prompts.answerFile(QString());
     trigger("mnuImport");
@@ -72,7 +72,7 @@ TEST_F(Import, ShowsItsNodesAndKeepsTheSelection)
     EXPECT_TRUE(isShown("ProductGeneralPnl"));
 }
 
-TEST_F(Import, TellsAShortLineInABoxAndKeepsWhatCameBefore)
+TEST_F(Import, ReportsALineThatIsTooShortInABoxAndKeepsWhatCameBefore)
 {
     prompts.answerFile(files.path(u"products.txt"_s));
     prompts.expectMessage(u"Ambrel eCommerce Software"_s, RuntimeError(ErrorNumber::SubscriptOutOfRange).description(),
@@ -83,7 +83,7 @@ TEST_F(Import, TellsAShortLineInABoxAndKeepsWhatCameBefore)
     EXPECT_TRUE(errors.numbers.empty());
 }
 
-TEST_F(Import, TellsAFileThatCannotBeOpenedInABox)
+TEST_F(Import, ReportsAFileThatCannotBeOpenedInABox)
 {
     prompts.answerFile(files.path(u"gone.txt"_s));
     int shown = 0;
@@ -135,7 +135,7 @@ TEST_F(Import, MakesTheNodesThatALineAsksFor)
     EXPECT_NE(same->children[0]->key, same->children[1]->key);
 }
 
-TEST_F(Import, ShowsItsProgressAfterAQuietSecond)
+TEST_F(Import, ShowsItsProgressAfterOneSecond)
 {
     auto import = std::make_unique<ImportIntoTree>(*window);
     const clsImporter::Progress progress = import->progress();

@@ -26,7 +26,7 @@ protected:
         start();
     }
 
-    // Pages that tell their names.
+    // Pages that show their names.
     void useTemplates()
     {
         for (const char* page :
@@ -81,7 +81,7 @@ TEST_F(MainWindow, ShowsThePanesOfAModeAndTicksItsEntry)
     }
 }
 
-TEST_F(MainWindow, TouchesNoPaneInAModeThatThereIsNot)
+TEST_F(MainWindow, ChangesNoPaneForAModeThatDoesNotExist)
 {
     window->SetMode(2);
     window->SetMode(7);
@@ -140,7 +140,7 @@ TEST_F(MainWindow, ComesBackToTheShopsGeneralPanel)
     EXPECT_EQ(window->VisibleFrame->objectName(), u"ShopGeneralPnl"_s);
     EXPECT_TRUE(isShown("ShopToolbar"));
     EXPECT_FALSE(isShown("CategoryToolbar"));
-    // The node stays the one that was clicked.
+    // The selected node stays the one that was clicked.
     EXPECT_EQ(window->SelectedNode->key, u"ID2"_s);
     EXPECT_TRUE(std::holds_alternative<std::shared_ptr<ShopClass>>(window->ActiveObject));
 }
@@ -160,7 +160,7 @@ TEST_F(MainWindow, HoldsTheMenusWithTheirCaptions)
     EXPECT_EQ(find<QMenu>("mnuTools")->title(), u"&Tools"_s);
 }
 
-// A panel that keeps what was done to it.
+// A panel that records what is done to it.
 class RecordingPanel : public Panel
 {
 public:
@@ -172,7 +172,7 @@ public:
     QStringList calls;
 };
 
-// Notes among a panel's calls when the short bar comes and goes.
+// Records among a panel's calls when the short bar appears and disappears.
 class BarWatch : public QObject
 {
 public:
@@ -223,7 +223,7 @@ TEST_F(MainWindow, UnbindsThePanelThatTheDesignTakesOverFrom)
     EXPECT_EQ(window->VisibleFrame, find<Panel>("MainPagePnl"));
 }
 
-TEST_F(MainWindow, AcknowledgesEveryChangeOfPanelWithItsShortBarAheadOfTheSave)
+TEST_F(MainWindow, AcknowledgesEveryChangeOfPanelWithItsShortBarBeforeTheSave)
 {
     RecordingPanel panel(window.get());
     BarWatch watch(panel.calls);
@@ -297,7 +297,7 @@ TEST_F(MainWindow, ReloadsThePanelOnReset)
     window->ShowFrame(nullptr, 0);
 }
 
-TEST_F(MainWindow, OpensAtItsSizeOrTheScreens)
+TEST_F(MainWindow, OpensAtItsOwnSizeOrAtTheScreens)
 {
     const QSize expected = QSize(1190, 855).boundedTo(window->screen()->availableSize());
     EXPECT_EQ(window->size(), expected);

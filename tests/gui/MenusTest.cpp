@@ -69,7 +69,7 @@ TEST_F(Menus, HoldTheirEntriesInOrder)
     EXPECT_EQ(find<QMenu>("mnuPopUp")->title(), u"PopUp"_s);
 }
 
-TEST_F(Menus, OfferInThePopUpWhatFitsTheActiveObject)
+TEST_F(Menus, OfferInThePopUpMenuWhatFitsTheActiveObject)
 {
     EXPECT_EQ(offered(), QStringList{u"mnuAddCategory"_s});
     clickNode(u"ID2"_s);
@@ -114,7 +114,7 @@ TEST_F(Menus, RemoveFromThePopUp)
     EXPECT_EQ(window->SelectedNode->key, u"ID_SHOP"_s);
 }
 
-// Closes the upload dialog as soon as it is there, and keeps what was on the screen then.
+// Closes the upload dialog as soon as it opens, and records what was on the screen then.
 class UploadWatch
 {
 public:
@@ -153,7 +153,7 @@ TEST_F(Menus, CloseThePanelAndAskBeforeTheUploadOfTheButton)
     EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), before);
 }
 
-// Notes at each question whether a panel is open.
+// Records at each question whether a panel is open.
 class WatchingPrompts : public RecordingPrompts
 {
 public:
@@ -167,7 +167,7 @@ public:
     std::vector<bool> panelWasOpen; // at each question
 };
 
-TEST_F(Menus, CloseThePanelAheadOfTheQuestionOfTheUploadButton)
+TEST_F(Menus, CloseThePanelBeforeTheQuestionOfTheUploadButton)
 {
     window.reset();
     WatchingPrompts watching;
@@ -193,7 +193,7 @@ TEST_F(Menus, SaveBeforeTheUploadWhenTheAnswerIsYes)
     window->ShowFrame(nullptr, 0);
     window->session().shop->name = u"Moss"_s;
     bool saved = false;
-    // How long the save takes is up to the machine, so the dialog is waited for.
+    // How long the save takes depends on the machine, so wait for the dialog.
     QTimer watch;
     QObject::connect(&watch, &QTimer::timeout, window.get(), [&] {
         if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) {
@@ -218,7 +218,7 @@ TEST_F(Menus, AskForANameOfABackupAndMakeIt)
     EXPECT_TRUE(QFile::exists(files.path(u"backups/first.kvb"_s)));
 }
 
-TEST_F(Menus, StartTheProgramAnewAfterARestore)
+TEST_F(Menus, StartTheProgramAgainAfterARestore)
 {
     WriteFile(files.path(u"templates/main.html"_s), "text");
     prompts.answerText(u"Backing up"_s, u"Enter file name"_s, u"first"_s);
@@ -273,7 +273,7 @@ TEST_F(Menus, NeverReachAMainButtonWithTab)
     EXPECT_EQ(window->WorkMode, MainForm::CatalogueMode);
 }
 
-TEST_F(Menus, TakeNoFocusThatComesBackWithTheWindowForAPress)
+TEST_F(Menus, DoNotTakeFocusThatReturnsWithTheWindowForAPress)
 {
     click("ProductCatalogSBtn");
     const qsizetype lines = logLines().size();

@@ -30,7 +30,7 @@ protected:
     void expectNames()
     {
         for (QWidget* widget : window->findChildren<QWidget*>()) {
-            // The parts of a widget of Qt's own, such as the corner of a table, belong to their widget.
+            // Parts of Qt's own widgets, such as the corner of a table, belong to their widget.
             if (!isField(widget) || !widget->isVisible() || widget->objectName().startsWith(u"qt_") ||
                 qobject_cast<QTableView*>(widget->parentWidget())) {
                 continue;

@@ -92,7 +92,7 @@ protected:
         start();
     }
 
-    // What the control asks, and the answers that leave the shop as it is or remove what is to be removed.
+    // Answers to what the control asks: those that leave the shop as it is, and Yes to a removal.
     void answerQuestions(const QString& control)
     {
         if (control == u"UploadShopSBtn"_s) {
@@ -142,7 +142,7 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Controls, Presses, testing::ValuesIn(presses),
                          [](const auto& row) { return std::string(row.param.control); });
 
-TEST_P(Presses, LeadToTheirPanelToolbarAndMode)
+TEST_P(Presses, OpenTheirPanelToolbarAndMode)
 {
     const Press& row = GetParam();
     if (QLatin1String(row.from).startsWith("ID"_L1)) {
@@ -166,7 +166,7 @@ TEST_P(Presses, LeadToTheirPanelToolbarAndMode)
     }
     EXPECT_EQ(logLines().mid(lines).join(u'|'), QLatin1String(row.log));
     EXPECT_TRUE(errors.numbers.empty());
-    // What the click of the two buttons gathers from now on.
+    // From now on clicks of these two buttons only gather.
     if (qstrcmp(row.control, "SaveShopSBtn") == 0 || qstrcmp(row.control, "PreviewBrowserSBtn") == 0) {
         EXPECT_EQ(find<ShortcartButton>(row.control)->Code, 10);
     }
@@ -177,7 +177,7 @@ TEST_P(Presses, LeadToTheirPanelToolbarAndMode)
 class Keyboard : public Presses
 {
 protected:
-    // Goes on with the Tab key until the widget of that name has the focus.
+    // Presses Tab until the widget of that name has the focus.
     void tabTo(const char* name)
     {
         for (int step = 0; step < 200; ++step) {
@@ -193,10 +193,10 @@ protected:
         QTest::keySequence(window->focusWidget(), QKeySequence::SelectAll);
         QTest::keyClicks(window->focusWidget(), text);
     }
-    // Opens a menu by its letter and takes an entry by its letter.
+    // Opens a menu and chooses an entry by their mnemonics.
     void takeEntry(Qt::Key menu, Qt::Key entry)
     {
-        // There is no window manager that does it when the last menu has closed.
+        // No window manager does this here when the last menu has closed.
         QApplication::setActiveWindow(window.get());
         QTest::keyClick(window.get(), menu, Qt::AltModifier);
         QWidget* popUp = QApplication::activePopupWidget();

@@ -85,7 +85,7 @@ TEST_F(SaveShop, RunsWithNoPanelToo)
     EXPECT_TRUE(savedShop().contains("<Name>Moss</Name>"));
 }
 
-TEST_F(SaveShop, ThatFailsIsFatalAndItsFrameStays)
+TEST_F(SaveShop, ThatFailsIsFatalAndItsFrameStaysVisible)
 {
     ASSERT_TRUE(QFile::remove(files.path(u"shop.xml"_s)));
     ASSERT_TRUE(QDir(files.folder().path()).mkdir(u"shop.xml"_s));

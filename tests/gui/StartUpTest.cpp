@@ -78,7 +78,7 @@ TEST_F(StartUp, WithAnEmptyListOfCountriesIsNormal)
     EXPECT_TRUE(window->isVisible());
 }
 
-TEST_F(StartUp, WithoutCountriesFailsAheadOfAnyWindow)
+TEST_F(StartUp, WithoutCountriesFailsBeforeAnyWindow)
 {
     useShop(smallShop);
     QFile::remove(files.path(u"countries.txt"_s));
@@ -87,7 +87,7 @@ TEST_F(StartUp, WithoutCountriesFailsAheadOfAnyWindow)
     EXPECT_EQ(logLines(), QStringList{u"Start Function LoadCountries"_s});
 }
 
-TEST_F(StartUp, WithACountryTwiceFailsAheadOfAnyWindow)
+TEST_F(StartUp, WithACountryTwiceFailsBeforeAnyWindow)
 {
     useShop(smallShop);
     WriteFile(files.path(u"countries.txt"_s), "Norway\r\nChad\r\nnorway\r\n");
@@ -173,7 +173,7 @@ TEST_F(StartUp, EndsInTheCatalogueWithTheShopsGeneralPanel)
     EXPECT_EQ(preview->blanks, 1);
 }
 
-TEST_F(StartUp, RewritesAFileOfAnotherVersionAheadOfTheWindow)
+TEST_F(StartUp, RewritesAFileOfAnotherVersionBeforeTheWindow)
 {
     useShop("<Version>1.1.9</Version><Name>Fern</Name><SelectedCountries/>");
     start();
@@ -195,7 +195,7 @@ TEST_F(StartUp, LeavesAFileOfItsOwnVersionAlone)
     EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), before);
 }
 
-TEST_F(StartUp, WithABrokenTemplateGoesOnWithTheTemplatesAheadOfIt)
+TEST_F(StartUp, WithABrokenTemplateGoesOnWithTheTemplatesBeforeIt)
 {
     useSampleShop();
     WriteFile(files.path(u"templates/menu.html"_s), "<!--:if:x=1:-->");

@@ -26,13 +26,13 @@ void Hands::tick(QCheckBox* box)
 
 void Hands::pressKeys(QWidget* field, const QString& text)
 {
-    for (const QChar letter : text) {
-        if (letter == u'\n') {
+    for (const QChar character : text) {
+        if (character == u'\n') {
             QTest::keyClick(field, Qt::Key_Return);
-        } else if (letter.unicode() < 0x80) {
-            QTest::keyClick(field, letter.toLatin1());
+        } else if (character.unicode() < 0x80) {
+            QTest::keyClick(field, character.toLatin1());
         } else {
-            QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(letter));
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(character));
             QCoreApplication::sendEvent(field, &press);
         }
     }

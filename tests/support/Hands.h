@@ -1,4 +1,4 @@
-// What a person does to a widget: presses of the mouse and of keys.
+// What a person does to a widget with mouse and keyboard.
 #pragma once
 
 #include <QString>
@@ -10,11 +10,11 @@ namespace Hands {
 
 // Clicks into the middle of the widget.
 void press(QWidget* widget);
-// Clicks the box itself: a box may be wider than its caption.
+// Clicks the small box itself: the widget may be wider than its caption.
 void tick(QCheckBox* box);
-// Key presses for every letter of the text; the test library's own way knows no letters outside ASCII.
+// Presses a key for every character of the text. The test library's own way knows only ASCII.
 void pressKeys(QWidget* field, const QString& text);
-// Replaces what stands in a field of text, of one line or more.
+// Replaces the text of a field of one line or several.
 void type(QWidget* field, const QString& text);
 
 } // namespace Hands

@@ -52,18 +52,11 @@ public:
     QTime time{14, 3, 5};
 };
 
-// Answers in the order in which the answers were given, keeps what was shown, and fails the test on a question or a box
-// that nobody expected.
+// Gives the answers in the order in which the test listed them, and fails the test on a question or a box
+// that the test did not expect.
 class RecordingPrompts : public UserPrompts
 {
 public:
-    struct Shown
-    {
-        QString title;
-        QString text;
-        PromptIcon icon = PromptIcon::None;
-    };
-
     ~RecordingPrompts() override;
 
     // What will be asked or shown next, in order.

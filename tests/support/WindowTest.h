@@ -35,15 +35,15 @@ class WindowTest : public testing::Test
 protected:
     // Puts the sample shop, its templates, countries and pictures into the folder.
     void useSampleShop();
-    // Puts a shop file with this text between <Shop> and </Shop> into the folder, one country and no templates.
+    // Puts a shop file with this text between <Shop> and </Shop> into the folder, with one country and no templates.
     void useShop(const QByteArray& inside);
 
-    // Starts the program up to the shown window. What a test expects of boxes has to be told before.
+    // Starts the program and shows the window. Boxes that it may show have to be announced to the prompts before.
     void start();
-    // The preview that the window gets: one that keeps the text, unless a fixture has another.
+    // The window's preview: one that keeps the text, unless a fixture makes another.
     virtual PreviewParts makePreview(QWidget* parent);
 
-    // Widgets by their names.
+    // The widget of that name.
     template <class T = QWidget>
     T* find(const char* name) const
     {
@@ -53,7 +53,7 @@ protected:
     }
     bool isShown(const char* name) const { return find<QWidget>(name)->isVisible(); }
 
-    // Presses and releases the left button on a button's picture, as a person does.
+    // Clicks a button's picture with the left mouse button.
     void click(const char* button);
     void trigger(const char* action);
     // Clicks the node of that key.
@@ -66,7 +66,7 @@ protected:
     RecordingPrompts prompts;
     FixedClock clock{QDate(2026, 7, 15)};
     RecordingErrors errors;
-    int restarts = 0; // of the program, after a restore
+    int restarts = 0; // how often the program was started again, after a restore
     RecordingPreview* preview = nullptr;
     std::unique_ptr<MainForm> window;
 };
