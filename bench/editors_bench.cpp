@@ -44,7 +44,7 @@ public:
     FatalErrorHandler& errorHandler() override { return m_errors; }
     void ApplyActivePanel() override {}
     void ResetActivePanel() override {}
-    void setSelectedNodeText(const QString& /*text*/) override {}
+    void setNodeText(const QString& /*key*/, const QString& /*text*/) override {}
 
 private:
     ShopSession& m_session;

@@ -23,6 +23,25 @@ CatalogueTreeModel::CatalogueTreeModel(QObject* parent)
 {
 }
 
+TreeNode* CatalogueTreeModel::nodeWithKey(const QString& key) const
+{
+    std::vector<TreeNode*> left;
+    if (m_root) {
+        left.push_back(m_root.get());
+    }
+    while (!left.empty()) {
+        TreeNode* node = left.back();
+        left.pop_back();
+        if (node->key == key) {
+            return node;
+        }
+        for (const std::unique_ptr<TreeNode>& child : node->children) {
+            left.push_back(child.get());
+        }
+    }
+    return nullptr;
+}
+
 TreeNode* CatalogueTreeModel::addNode(TreeNode* parent, QString key, QString text, TreeImage image)
 {
     auto node = std::make_unique<TreeNode>();

@@ -50,6 +50,8 @@ public:
     void endAppending();
 
     TreeNode* rootNode() const { return m_root.get(); }
+    // nullptr when there is none. Looks at every node.
+    TreeNode* nodeWithKey(const QString& key) const;
     TreeNode* nodeOf(const QModelIndex& index) const;
     QModelIndex indexOf(const TreeNode* node) const;
 

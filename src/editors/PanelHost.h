@@ -22,6 +22,7 @@ public:
     virtual void ApplyActivePanel() = 0;
     // What the reset picture does: SetActiveObject of the visible panel, which drops what was typed.
     virtual void ResetActivePanel() = 0;
-    // Renames the selected node of the tree, which is how a name shows there while it is typed.
-    virtual void setSelectedNodeText(const QString& text) = 0;
+    // Changes the text of the tree's node with that key, so that a name shows there while it is typed. A key that the
+    // tree does not have is ignored.
+    virtual void setNodeText(const QString& key, const QString& text) = 0;
 };

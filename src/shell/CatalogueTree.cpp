@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -15,7 +17,7 @@ constexpr QRgb selectionColour = qRgb(38, 51, 82);
 } // namespace
 
 CatalogueTree::CatalogueTree(FatalErrorHandler& errors, QWidget* parent)
-    : QTreeView(parent), m_errors(errors), m_model(new CatalogueTreeModel(this))
+    : QTreeView(parent), m_model(new CatalogueTreeModel(this))
 {
     setObjectName(u"CategoriesAndProductsTree"_s);
     setAccessibleName(u"Categories and products"_s);
@@ -36,12 +38,10 @@ CatalogueTree::CatalogueTree(FatalErrorHandler& errors, QWidget* parent)
     colours.setColor(QPalette::Highlight, QColor::fromRgb(selectionColour));
     setPalette(colours);
 
-    connectGuarded(m_errors, this, &QTreeView::expanded, this,
+    connectGuarded(errors, this, &QTreeView::expanded, this,
                    [this](const QModelIndex& index) { m_model->setImage(m_model->nodeOf(index), TreeImage::Opened); });
-    connectGuarded(m_errors, this, &QTreeView::collapsed, this,
+    connectGuarded(errors, this, &QTreeView::collapsed, this,
                    [this](const QModelIndex& index) { m_model->setImage(m_model->nodeOf(index), TreeImage::Closed); });
-    connectGuarded(m_errors, this, &QTreeView::clicked, this,
-                   [this](const QModelIndex& index) { Q_EMIT nodeClicked(m_model->nodeOf(index)); });
 }
 
 TreeNode* CatalogueTree::selectedNode() const
@@ -69,11 +69,27 @@ void CatalogueTree::ColorDeSelectedNode(TreeNode* node)
     m_model->setColours(node, TreeColour, TreeTextColour);
 }
 
+// The mouse never reaches the view's own handling, which moves the current row on any press and any drag: a node is
+// only current when it was clicked.
 void CatalogueTree::mousePressEvent(QMouseEvent* event)
 {
-    // A right press would select the node under it.
-    if (event->button() != Qt::RightButton) {
-        QTreeView::mousePressEvent(event);
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
+    m_pressed = QModelIndex();
+    const QPoint place = event->position().toPoint();
+    const QModelIndex index = indexAt(place);
+    if (isOnBranch(index, place)) {
+        setExpanded(index, !isExpanded(index));
+    } else {
+        m_pressed = index;
+    }
+}
+
+void CatalogueTree::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons() == Qt::NoButton) {
+        QTreeView::mouseMoveEvent(event);
     }
 }
 
@@ -81,16 +97,34 @@ void CatalogueTree::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::RightButton) {
         Q_EMIT popUpRequested(event->globalPosition().toPoint());
-    } else {
-        QTreeView::mouseReleaseEvent(event);
+    } else if (event->button() == Qt::LeftButton) {
+        const QModelIndex pressed = std::exchange(m_pressed, QModelIndex());
+        m_clicked = pressed.isValid() && indexAt(event->position().toPoint()) == pressed ? pressed : QModelIndex();
+        if (m_clicked.isValid()) {
+            Q_EMIT nodeClicked(m_model->nodeOf(m_clicked));
+        }
     }
 }
 
+// The second press of a double click opens or closes the node that the first one clicked.
 void CatalogueTree::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::RightButton) {
-        QTreeView::mouseDoubleClickEvent(event);
+    const QPoint place = event->position().toPoint();
+    const QModelIndex index = indexAt(place);
+    if (event->button() != Qt::LeftButton || isOnBranch(index, place)) {
+        return;
     }
+    if (m_clicked.isValid() && index == m_clicked) {
+        setExpanded(index, !isExpanded(index));
+    } else {
+        mousePressEvent(event);
+    }
+}
+
+bool CatalogueTree::isOnBranch(const QModelIndex& index, const QPoint& place) const
+{
+    const int left = visualRect(index).left();
+    return index.isValid() && m_model->hasChildren(index) && place.x() < left && place.x() >= left - indentation();
 }
 
 void CatalogueTree::keyPressEvent(QKeyEvent* event)

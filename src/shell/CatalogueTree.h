@@ -27,18 +27,24 @@ public:
     void ColorDeSelectedNode(TreeNode* node);
 
 Q_SIGNALS:
-    // A node was clicked with the left button or reached with the keyboard; it is then the selected one.
+    // The left button was pressed and released on this node, or the keyboard has moved to it. The listener makes it the
+    // selected one.
     void nodeClicked(TreeNode* node);
     // The right button was released here, in global coordinates. Nothing has been selected by that.
     void popUpRequested(const QPoint& position);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    FatalErrorHandler& m_errors;
+    // On the mark that opens and closes a node.
+    bool isOnBranch(const QModelIndex& index, const QPoint& place) const;
+
     CatalogueTreeModel* m_model;
+    QPersistentModelIndex m_pressed; // the node under the left button, until its release
+    QPersistentModelIndex m_clicked; // the node that the last release clicked
 };

@@ -21,11 +21,19 @@ ImportIntoTree::ImportIntoTree(MainForm& window) : m_window(window), m_formerCal
     SessionCallbacks& callbacks = m_window.session().callbacks;
     callbacks.AddCategoryToTheTree = [this](const std::shared_ptr<CategoryClass>& parent,
                                             const std::shared_ptr<CategoryClass>& category) {
-        m_nodes.insert(category.get(), m_window.AddCategoryToTheTree(nodeOf(parent.get()), category));
+        if (TreeNode* above = nodeOf(parent.get())) {
+            m_nodes.insert(category.get(), m_window.AddCategoryToTheTree(above, category));
+        } else {
+            m_window.session().objects.Add(category, nodeKey(category->id));
+        }
     };
     callbacks.AddProductToTheTree = [this](const std::shared_ptr<CategoryClass>& category,
                                            const std::shared_ptr<ProductClass>& product) {
-        m_window.AddProductToTheTree(nodeOf(category.get()), product);
+        if (TreeNode* above = nodeOf(category.get())) {
+            m_window.AddProductToTheTree(above, product);
+        } else {
+            m_window.session().objects.Add(product, nodeKey(product->id));
+        }
     };
     tree.beginAppending();
     m_time.start();
@@ -40,12 +48,13 @@ ImportIntoTree::~ImportIntoTree()
 
 void ImportIntoTree::collect(TreeNode* node)
 {
-    if (node->image == TreeImage::Product) {
-        return;
-    }
+    // A product's node has children when a category was added while panel and node differed.
     const CatalogueObject& object = m_window.session().objects.Item(node->key);
-    const auto* category = std::get_if<std::shared_ptr<CategoryClass>>(&object);
-    m_nodes.insert(category ? category->get() : nullptr, node);
+    if (const auto* category = std::get_if<std::shared_ptr<CategoryClass>>(&object)) {
+        m_nodes.insert(category->get(), node);
+    } else if (node->image != TreeImage::Product) {
+        m_nodes.insert(nullptr, node);
+    }
     for (const auto& child : node->children) {
         collect(child.get());
     }

@@ -22,7 +22,7 @@ public:
     clsImporter::Progress progress();
 
 private:
-    // The shop's node for nullptr.
+    // The node of the category, of the shop for nullptr; none when the tree does not show it.
     TreeNode* nodeOf(const CategoryClass* category) const { return m_nodes.value(category); }
     void collect(TreeNode* node);
 

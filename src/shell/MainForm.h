@@ -50,7 +50,7 @@ public:
     // Only a restore clears it.
     bool ShopChanged = true;
     QFrame* CurrentToolbar = nullptr;
-    TreeNode* SelectedNode = nullptr;
+    TreeNode* SelectedNode = nullptr; // the tree's current row
     qint16 WorkMode = 0;
 
     // Saves, unbinds and hides the visible panel, runs the catalogue command that the code (a PanelCode) stands for,
@@ -74,7 +74,7 @@ public:
 
     void ApplyActivePanel() override;
     void ResetActivePanel() override;
-    void setSelectedNodeText(const QString& text) override;
+    void setNodeText(const QString& key, const QString& text) override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -113,7 +113,8 @@ private:
 
     CatalogueTreeFill catalogueFill() const;
     void treeNodeClicked(TreeNode* node);
-    void markSelected(TreeNode* node);
+    // The one way to change SelectedNode: the tree's current row goes with it.
+    void selectNode(TreeNode* node);
 
     // The catalogue's commands. False when the user refuses. ActiveFrame, the panel to show next, may become another.
     bool runCatalogueCommand(Panel*& ActiveFrame, qint16 Code);

@@ -94,7 +94,6 @@ void MainFormLayout::makeCatalogue(QWidget* parent, FatalErrorHandler& errors)
 
     CategoriesAndProductsTree = new CatalogueTree(errors, imgSplitter);
     treePane = new TreePane(CategoriesAndProductsTree, imgSplitter);
-    treePane->setMinimumWidth(pixels(1500));
     imgSplitter->addWidget(treePane);
 
     auto* rightRoom = new ContentRoom(imgSplitter);

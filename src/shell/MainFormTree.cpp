@@ -37,15 +37,15 @@ void MainForm::AddShopToTheTree()
     m_session->log.WriteLoadLog(u"Start AddShopToTheTree"_s);
     CatalogueTree* tree = m_parts->CategoriesAndProductsTree;
     m_session->registerShop();
+    SelectedNode = nullptr; // it goes with the former tree
     TreeNode* root = catalogueFill().fill(*m_session->shop);
     tree->expandNode(root);
     // The root deliberately starts with the picture of a closed node though it is expanded.
     tree->nodes().setImage(root, TreeImage::Closed);
-    tree->selectNode(root);
-    ActiveObject = m_session->objects.Item(tree->selectedNode()->key);
+    selectNode(root);
+    ActiveObject = m_session->objects.Item(root->key);
     ShowToolbar(m_parts->ShopToolbar);
     ShopDefaultButton->Activate();
-    markSelected(root);
     m_session->log.WriteLoadLog(u"-----End AddShopToTheTree-----"_s);
 }
 
@@ -66,13 +66,10 @@ TreeNode* MainForm::AddProductToTheTree(TreeNode* ParentNode, const std::shared_
 
 void MainForm::treeNodeClicked(TreeNode* node)
 {
-    if (SelectedNode) {
-        m_parts->CategoriesAndProductsTree->ColorDeSelectedNode(SelectedNode);
-    }
-    markSelected(node);
+    selectNode(node);
     // The active object changes before the panel does: the old panel, saved below, writes to the object that it was
     // bound to.
-    ActiveObject = m_session->objects.Item(m_parts->CategoriesAndProductsTree->selectedNode()->key);
+    ActiveObject = m_session->objects.Item(node->key);
     if (std::holds_alternative<std::shared_ptr<ShopClass>>(ActiveObject)) {
         ShowToolbar(m_parts->ShopToolbar);
         ShopDefaultButton->Activate();
@@ -85,16 +82,22 @@ void MainForm::treeNodeClicked(TreeNode* node)
     }
 }
 
-void MainForm::markSelected(TreeNode* node)
+void MainForm::selectNode(TreeNode* node)
 {
-    m_parts->CategoriesAndProductsTree->ColorSelectedNode(node);
+    CatalogueTree* tree = m_parts->CategoriesAndProductsTree;
+    tree->selectNode(node);
+    if (SelectedNode) {
+        tree->ColorDeSelectedNode(SelectedNode);
+    }
+    tree->ColorSelectedNode(node);
     SelectedNode = node;
 }
 
-void MainForm::setSelectedNodeText(const QString& text)
+void MainForm::setNodeText(const QString& key, const QString& text)
 {
-    if (TreeNode* node = m_parts->CategoriesAndProductsTree->selectedNode()) {
-        m_parts->CategoriesAndProductsTree->nodes().setText(node, text);
+    CatalogueTreeModel& nodes = m_parts->CategoriesAndProductsTree->nodes();
+    if (TreeNode* node = nodes.nodeWithKey(key)) {
+        nodes.setText(node, text);
     }
 }
 
@@ -123,21 +126,21 @@ void MainForm::addNewCategory()
 {
     const CategoryRef* parent = std::get_if<CategoryRef>(&ActiveObject);
     const CategoryRef category = newCategory(*m_session->shop, parent ? *parent : nullptr);
-    selectNewNode(AddCategoryToTheTree(m_parts->CategoriesAndProductsTree->selectedNode(), category));
+    selectNewNode(AddCategoryToTheTree(SelectedNode, category));
     ShowToolbar(m_parts->CategoryToolbar);
 }
 
 void MainForm::addNewProduct()
 {
     const ProductRef product = newProduct(*m_session->shop, activeAs<CategoryRef>(ActiveObject));
-    selectNewNode(AddProductToTheTree(m_parts->CategoriesAndProductsTree->selectedNode(), product));
+    selectNewNode(AddProductToTheTree(SelectedNode, product));
     ShowToolbar(m_parts->ProductToolbar);
 }
 
 void MainForm::duplicateActiveProduct()
 {
     const ProductRef clone = duplicateProduct(*m_session->shop, *activeAs<ProductRef>(ActiveObject));
-    selectNewNode(AddProductToTheTree(m_parts->CategoriesAndProductsTree->selectedNode()->parent, clone));
+    selectNewNode(AddProductToTheTree(SelectedNode->parent, clone));
     ShowToolbar(m_parts->ProductToolbar);
 }
 
@@ -173,20 +176,14 @@ bool MainForm::removeActiveCategory(Panel*& ActiveFrame)
 
 void MainForm::selectNewNode(TreeNode* node)
 {
-    CatalogueTree* tree = m_parts->CategoriesAndProductsTree;
-    tree->selectNode(node);
-    tree->ColorDeSelectedNode(SelectedNode);
-    markSelected(node);
+    selectNode(node);
     ActiveObject = m_session->objects.Item(node->key);
 }
 
 void MainForm::removeSelectedNode()
 {
-    CatalogueTree* tree = m_parts->CategoriesAndProductsTree;
-    TreeNode* parent = SelectedNode->parent;
-    TreeNode* selected = tree->selectedNode();
-    tree->selectNode(parent);
-    tree->nodes().removeNode(selected);
-    markSelected(parent);
-    ActiveObject = m_session->objects.Item(tree->selectedNode()->key);
+    TreeNode* removed = SelectedNode;
+    selectNode(removed->parent);
+    m_parts->CategoriesAndProductsTree->nodes().removeNode(removed);
+    ActiveObject = m_session->objects.Item(SelectedNode->key);
 }

@@ -2,6 +2,7 @@
 
 #include "base/ApplicationFolder.h"
 #include "base/LoadLog.h"
+#include "editors/SecondPress.h"
 #include "shell/Twips.h"
 
 #include <QFocusEvent>
@@ -23,9 +24,10 @@ QIcon builtInPicture(const char* name)
 }
 
 // The five main buttons act when they receive the focus, so Tab must not reach them. The menus have the same commands.
+// No policy says that a press gives the focus: any mouse button would. The press of the left one sees to it itself.
 Qt::FocusPolicy focusPolicyOf(ButtonFrame frame)
 {
-    return frame == ButtonFrame::ToolbarFrame ? Qt::ClickFocus : Qt::StrongFocus;
+    return frame == ButtonFrame::ToolbarFrame ? Qt::NoFocus : Qt::TabFocus;
 }
 
 } // namespace
@@ -106,8 +108,6 @@ void ShortcartButton::hover(int x, int y)
 
 void ShortcartButton::focusInEvent(QFocusEvent* event)
 {
-    // Only a press counts: the focus also comes back with the window's activation and from a box that closes.
-    m_focusByPress = event->reason() == Qt::MouseFocusReason;
     QWidget::focusInEvent(event);
     update();
 }
@@ -118,8 +118,10 @@ void ShortcartButton::mousePressEvent(QMouseEvent* event)
         return;
     }
     m_pressed = true;
-    if (m_focusByPress) {
-        m_focusByPress = false;
+    swallowSecondPress();
+    // Only a press counts: the focus also comes back with the window's activation and from a box that closes.
+    if (window()->focusWidget() != this) {
+        setFocus(Qt::MouseFocusReason);
         Q_EMIT focusReceived();
     }
 }

@@ -61,5 +61,4 @@ private:
     QLabel* IconImg;
     QLabel* TitleLbl;
     bool m_pressed = false;
-    bool m_focusByPress = false;
 };

@@ -6,6 +6,8 @@
 
 namespace {
 
+constexpr int besideTree = pixels(80); // where the shadow shows
+
 // The shadow falls on the window's background: on a dark one it is darker still, and its light edge only a little
 // lighter.
 struct ShadowTones
@@ -41,6 +43,7 @@ TreePane::TreePane(QWidget* tree, QWidget* parent)
       frmTreeShadowDarkGray(shadowFrame("frmTreeShadowDarkGray", shadowOn(parent).darkGray, this))
 {
     m_tree->setParent(this);
+    setMinimumWidth(pixels(1500) + besideTree);
     m_tree->raise();
 }
 
@@ -56,7 +59,7 @@ void TreePane::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     const int treeTop = pixels(200);
-    const int treeWidth = width() - pixels(80);
+    const int treeWidth = width() - besideTree;
     const int treeHeight = height() - treeTop - pixels(40);
     m_tree->setGeometry(0, treeTop, treeWidth, treeHeight);
     frmTreeShadowWhite->setGeometry(0, treeTop - pixels(30), treeWidth + pixels(30), treeHeight + pixels(40));

@@ -1,4 +1,4 @@
-// The tree, and the three frames behind it that draw its shadow.
+// The tree, and the three frames behind it that draw its shadow. The tree itself is never narrower than 1500 twips.
 #pragma once
 
 #include <QWidget>

@@ -29,8 +29,11 @@ CategoryGeneralPanel::CategoryGeneralPanel(PanelHost& host, QWidget* parent) : P
     frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);
     frame->addButtons(host);
 
-    connectGuarded(m_host.errorHandler(), CategoryNameTxt, &QLineEdit::textEdited, this,
-                   [this](const QString& text) { m_host.setSelectedNodeText(text); });
+    connectGuarded(m_host.errorHandler(), CategoryNameTxt, &QLineEdit::textEdited, this, [this](const QString& text) {
+        if (m_category) {
+            m_host.setNodeText(nodeKey(m_category->id), text);
+        }
+    });
 }
 
 void CategoryGeneralPanel::SetActiveObject(const CatalogueObject& object)

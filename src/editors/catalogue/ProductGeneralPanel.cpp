@@ -40,8 +40,11 @@ ProductGeneralPanel::ProductGeneralPanel(PanelHost& host, QWidget* parent) : Pan
     frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);
     frame->addButtons(host);
 
-    connectGuarded(m_host.errorHandler(), ProductNameTxt, &QLineEdit::textEdited, this,
-                   [this](const QString& text) { m_host.setSelectedNodeText(text); });
+    connectGuarded(m_host.errorHandler(), ProductNameTxt, &QLineEdit::textEdited, this, [this](const QString& text) {
+        if (m_product) {
+            m_host.setNodeText(nodeKey(m_product->id), text);
+        }
+    });
 }
 
 void ProductGeneralPanel::addPriceRow(QFormLayout* form)

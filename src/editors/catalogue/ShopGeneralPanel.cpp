@@ -42,8 +42,11 @@ ShopGeneralPanel::ShopGeneralPanel(PanelHost& host, QWidget* parent) : Panel(par
     countries->addLayout(links);
     frame->addButtons(host);
 
-    connectGuarded(m_host.errorHandler(), ShopNameTxt, &QLineEdit::textEdited, this,
-                   [this](const QString& text) { m_host.setSelectedNodeText(text); });
+    connectGuarded(m_host.errorHandler(), ShopNameTxt, &QLineEdit::textEdited, this, [this](const QString& text) {
+        if (m_shop) {
+            m_host.setNodeText(shopNodeKey(), text);
+        }
+    });
     connectGuarded(m_host.errorHandler(), lblCheckAll, &LinkLabel::clicked, this, [this] { checkAll(Qt::Checked); });
     connectGuarded(m_host.errorHandler(), lblClearAll, &LinkLabel::clicked, this, [this] { checkAll(Qt::Unchecked); });
 }
