@@ -6,6 +6,7 @@
 #include "shell/ImportIntoTree.h"
 #include "support/WindowTest.h"
 
+#include <QFile>
 #include <QProgressBar>
 #include <QTest>
 
@@ -70,6 +71,47 @@ TEST_F(Import, ShowsItsNodesAndKeepsTheSelection)
     EXPECT_EQ(window->parts().CategoriesAndProductsTree->selectedNode()->key, u"ID2"_s);
     clickNode(u"ID10"_s);
     EXPECT_TRUE(isShown("ProductGeneralPnl"));
+}
+
+TEST_F(Import, GoesOnInACategoryThatStandsBelowAProductsNode)
+{
+    import("Sencha,fine,Tea\n");
+    clickNode(u"ID10"_s);
+    click("ProductCatalogSBtn");
+    click("ShopNewCategorySBtn"); // a root category, but its node stands below the selected one
+    ASSERT_EQ(window->SelectedNode->parent->key, u"ID10"_s);
+    import("Rooibos,red,New Category\nMatcha,green,Tea\n");
+    EXPECT_EQ(root()->key, u"ID_SHOP"_s);
+    ASSERT_EQ(window->SelectedNode->children.size(), 1U);
+    EXPECT_EQ(window->SelectedNode->children[0]->text, u"Rooibos"_s);
+    EXPECT_EQ(root()->children[0]->children.back()->text, u"Matcha"_s);
+}
+
+TEST_F(Import, TakesACategoryWhoseNodeHasGoneWithAnother)
+{
+    import("Sencha,fine,Tea\n");
+    clickNode(u"ID10"_s);
+    click("ProductCatalogSBtn");
+    click("ShopNewCategorySBtn");
+    clickNode(u"ID10"_s);
+    prompts.answerYesNo(u"Warning"_s, u"Are you sure you want to remove this product"_s, true);
+    click("RemoveProductSBtn"); // takes the node of the root category with it
+    import("Rooibos,red,New Category\n");
+    EXPECT_EQ(root()->key, u"ID_SHOP"_s);
+    EXPECT_EQ(root()->children.size(), 1U);
+    EXPECT_EQ(window->session().objects.Product(u"12"_s)->name, u"Rooibos"_s);
+}
+
+TEST_F(Import, WithoutAShopLeavesTheTreeEmpty)
+{
+    window.reset();
+    ASSERT_TRUE(QFile::remove(files.path(u"shop.xml"_s)));
+    prompts.expectMessage(QString(), u"Error in the configuration XML file. No 'Shop' node."_s);
+    start();
+    prompts.expectMessage(u"Ambrel eCommerce Software"_s, RuntimeError(ErrorNumber::ObjectNotSet).description(),
+                          PromptIcon::Warning);
+    import("Sencha,fine,Tea\n");
+    EXPECT_EQ(root(), nullptr);
 }
 
 TEST_F(Import, ReportsALineThatIsTooShortInABoxAndKeepsWhatCameBefore)

@@ -1,5 +1,6 @@
 // Modes, panes and the change of panels in the real window.
 #include "editors/Panel.h"
+#include "model/CategoryClass.h"
 #include "shell/CatalogueTree.h"
 #include "shell/ShortcartButton.h"
 #include "support/WindowTest.h"
@@ -7,8 +8,11 @@
 #include <QAction>
 #include <QElapsedTimer>
 #include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QMenuBar>
+#include <QMouseEvent>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -118,6 +122,50 @@ TEST_F(MainWindow, RunsTheHandlerOfAMainButtonOnlyWhenItReceivesTheFocus)
     trigger("mnuShopPreview");
     trigger("mnuShopPreview");
     EXPECT_EQ(preview->documents.size(), 3);
+}
+
+TEST_F(MainWindow, TakesNoOtherButtonThanTheLeftOneForAPress)
+{
+    auto* picture = find<ShortcartButton>("PreviewBrowserSBtn")->findChild<QLabel*>(u"IconImg"_s);
+    QWidget* focus = find<QLineEdit>("ShopNameTxt");
+    focus->setFocus();
+    for (const Qt::MouseButton button : {Qt::RightButton, Qt::MiddleButton}) {
+        QTest::mouseClick(picture, button);
+        EXPECT_EQ(window->focusWidget(), focus);
+        EXPECT_EQ(window->WorkMode, MainForm::CatalogueMode);
+    }
+    // Nor does it turn a later press into the first one.
+    click("PreviewBrowserSBtn");
+    EXPECT_EQ(preview->documents.size(), 1);
+    QTest::mouseClick(picture, Qt::RightButton);
+    click("PreviewBrowserSBtn");
+    EXPECT_EQ(preview->documents.size(), 1);
+}
+
+TEST_F(MainWindow, TakesADoubleClickOnAToolbarButtonForOneClick)
+{
+    const auto twice = [](QWidget* first, QWidget* second) {
+        QTest::mouseClick(first, Qt::LeftButton);
+        QMouseEvent press(QEvent::MouseButtonDblClick, QPoint(5, 5), second->mapToGlobal(QPoint(5, 5)), Qt::LeftButton,
+                          Qt::LeftButton, {});
+        QCoreApplication::sendEvent(second, &press);
+        QTest::mouseRelease(second, Qt::LeftButton, {}, QPoint(5, 5));
+    };
+    const auto picture = [this](const char* button) {
+        return find<ShortcartButton>(button)->findChild<QLabel*>(u"IconImg"_s);
+    };
+    const auto categories = [this] { return window->session().shop->categories.Count(); };
+    const auto before = categories();
+    twice(picture("ShopNewCategorySBtn"), picture("ShopNewCategorySBtn"));
+    EXPECT_EQ(categories(), before + 1);
+    // The category's toolbar now stands where the shop's was.
+    clickNode(u"ID_SHOP"_s);
+    twice(picture("ShopNewCategorySBtn"), picture("NewProductSBtn"));
+    EXPECT_EQ(categories(), before + 2);
+    EXPECT_TRUE(window->session().shop->categories.Item(before + 2)->products.isEmpty());
+    // The next press is one again.
+    click("NewProductSBtn");
+    EXPECT_EQ(window->session().shop->categories.Item(before + 2)->products.Count(), 1);
 }
 
 TEST_F(MainWindow, LeavesTheCataloguesPanelWhenItGoesToTheDesign)
