@@ -42,7 +42,7 @@ using enum PanelHolder;
 using enum PanelName;
 
 // All panels of the window, and which class each of them is.
-constexpr PanelRow panels[] = {
+constexpr PanelRow panelRows[] = {
     {ShopGeneralPnl, MainFrame, newPanel<ShopGeneralPanel>},
     {ShopDiscountPnl, MainFrame, newPanel<ShopDiscountPanel>},
     {ShopTaxesPnl, MainFrame, newPanel<ShopTaxesPanel>},
@@ -72,7 +72,7 @@ constexpr PanelRow panels[] = {
 QHash<PanelName, Panel*> makePanels(PanelHost& host, const MainFormLayout& parts)
 {
     QHash<PanelName, Panel*> made;
-    for (const PanelRow& row : panels) {
+    for (const PanelRow& row : panelRows) {
         QFrame* holder = row.holder == MainFrame ? parts.MainFrame : parts.ShopDesignFrame;
         Panel* panel = row.make(host, holder);
         panel->setObjectName(objectNameOf(row.name));
