@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qsizetype longestTyped = 40; // letters
+constexpr qsizetype longestTyped = 40; // characters
 
 bool canTake(const QPointer<QWidget>& widget)
 {
@@ -53,32 +53,40 @@ void Press(QWidget& widget, const QPoint& place, Qt::MouseButton button)
     }
 }
 
-void pressTwice(QWidget& widget, const QPoint& place)
+void pressTwice(QWidget& widget, const QPoint& place, Qt::MouseButton button)
 {
     const QPointer<QWidget> kept(&widget);
-    Press(widget, place);
+    Press(widget, place, button);
     if (canTake(kept)) {
-        QMouseEvent second(QEvent::MouseButtonDblClick, place, widget.mapToGlobal(place), Qt::LeftButton,
-                           Qt::LeftButton, {});
+        QMouseEvent second(QEvent::MouseButtonDblClick, place, widget.mapToGlobal(place), button, button, {});
         send(widget, second);
     }
     if (canTake(kept)) {
-        QTest::mouseRelease(&widget, Qt::LeftButton, {}, place);
+        QTest::mouseRelease(&widget, button, {}, place);
     }
 }
 
-void drag(QWidget& widget, const QPoint& from, const QPoint& to)
+void drag(QWidget& widget, const QPoint& from, const QPoint& to, Qt::MouseButton button)
 {
     const QPointer<QWidget> kept(&widget);
-    QTest::mousePress(&widget, Qt::LeftButton, {}, from);
+    QTest::mousePress(&widget, button, {}, from);
     for (const QPoint& place : {(from + to) / 2, to}) {
         if (canTake(kept)) {
-            QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, Qt::LeftButton, {});
+            QMouseEvent move(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, button, {});
             send(widget, move);
         }
     }
     if (canTake(kept)) {
-        QTest::mouseRelease(&widget, Qt::LeftButton, {}, to);
+        QTest::mouseRelease(&widget, button, {}, to);
+    }
+}
+
+void pressAndReleaseElsewhere(QWidget& widget, const QPoint& from, const QPoint& to, Qt::MouseButton button)
+{
+    const QPointer<QWidget> kept(&widget);
+    QTest::mousePress(&widget, button, {}, from);
+    if (canTake(kept)) {
+        QTest::mouseRelease(&widget, button, {}, to);
     }
 }
 

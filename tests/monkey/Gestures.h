@@ -1,4 +1,4 @@
-// What hands do on a window: press, drag, turn the wheel, type. A press may make the widget go, which is looked after.
+// What hands do on a window: press, drag, turn the wheel, type. A press may delete the widget, which these allow for.
 #pragma once
 
 #include <QKeySequence>
@@ -10,8 +10,11 @@
 QString NameOf(const QWidget& widget);
 
 void Press(QWidget& widget, const QPoint& place, Qt::MouseButton button = Qt::LeftButton);
-void pressTwice(QWidget& widget, const QPoint& place);
-void drag(QWidget& widget, const QPoint& from, const QPoint& to);
+void pressTwice(QWidget& widget, const QPoint& place, Qt::MouseButton button = Qt::LeftButton);
+// Both places are the widget's; the second may lie outside.
+void drag(QWidget& widget, const QPoint& from, const QPoint& to, Qt::MouseButton button = Qt::LeftButton);
+// Presses here and releases there, with no move on the way.
+void pressAndReleaseElsewhere(QWidget& widget, const QPoint& from, const QPoint& to, Qt::MouseButton button);
 void turnWheel(QWidget& widget, const QPoint& place, int steps);
 void askForContextMenu(QWidget& widget, const QPoint& place);
 void pressKey(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier, const QString& text = {});

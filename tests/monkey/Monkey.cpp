@@ -1,5 +1,6 @@
 #include "Monkey.h"
 
+#include "CarefulOwner.h"
 #include "Gestures.h"
 #include "Notes.h"
 #include "OddTexts.h"
@@ -23,16 +24,24 @@ constexpr int deepest = 6; // turns inside of turns
 
 } // namespace
 
-Monkey::Monkey(MainForm& window, RecordingPreview& preview, Dice& dice, int& stepsLeft, const QString& server)
-    : m_window(window), m_preview(preview), m_dice(dice), m_stepsLeft(stepsLeft), m_server(server)
+Monkey::Monkey(MainForm& window, RecordingPreview& preview, Dice& dice, PlayedBy player, int& stepsLeft,
+               const QString& server)
+    : m_window(window),
+      m_preview(preview),
+      m_dice(dice),
+      m_isCareful(player == PlayedBy::CarefulOwner),
+      m_stepsLeft(stepsLeft),
+      m_server(server),
+      m_check(window)
 {
 }
 
-void Monkey::play()
+QString Monkey::play()
 {
     startTimer(1);
     m_loop.exec();
     Watchdog::calmDown();
+    return m_disagreement;
 }
 
 // A new timer for each turn: one that waits would not come again until then.
@@ -45,7 +54,11 @@ void Monkey::timerEvent(QTimerEvent* event)
 void Monkey::turn()
 {
     const QScopedValueRollback deeper(m_depth, m_depth + 1);
-    const bool isOver = m_stepsLeft <= 0 || !m_window.isVisible();
+    // While a command waits for an answer, or lets events run, it is half done.
+    if (m_depth == 1 && m_disagreement.isEmpty()) {
+        m_disagreement = m_check.disagreement();
+    }
+    const bool isOver = !m_disagreement.isEmpty() || m_stepsLeft <= 0 || !m_window.isVisible();
     if (isOver && m_depth == 1 && !QApplication::activeModalWidget() && !QApplication::activePopupWidget()) {
         m_loop.quit();
         return;
@@ -109,8 +122,11 @@ void Monkey::actInWindow()
         chooseEntry();
     } else if (what < 90) {
         m_window.WorkMode == MainForm::PreviewMode ? followLink() : touchAny(m_window);
-    } else if (what < 97) {
+    } else if (what < 95) {
         pressAnyKey(m_window);
+    } else if (what < 97) {
+        Note(u"walk"_s);
+        walk(m_window);
     } else {
         changeWindow();
     }
@@ -140,6 +156,9 @@ void Monkey::actInPopup(QWidget& popup)
     const auto* menu = qobject_cast<QMenu*>(&popup);
     if (menu && !menu->actions().isEmpty() && m_dice.chance(60)) {
         QAction* action = m_dice.pick(menu->actions());
+        if (m_isCareful && !mayChoose(action->objectName(), m_window)) {
+            return;
+        }
         Note(u"entry "_s + action->text());
         Press(popup, menu->actionGeometry(action).center());
     } else if (m_dice.chance(30)) {
@@ -177,6 +196,9 @@ void Monkey::followLink()
         }
     }
     const bool isOdd = links.isEmpty() || m_dice.chance(8);
+    if (isOdd && m_isCareful) {
+        return;
+    }
     const QString url = isOdd ? oddAddress(m_dice) : m_dice.pick(links);
     Note((isOdd ? u"go to "_s : u"follow "_s) + url.left(200));
     if (PreviewNavigation::judge(url).hasAction) {

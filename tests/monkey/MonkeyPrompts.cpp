@@ -22,14 +22,16 @@ bool MonkeyPrompts::askYesNo(const QString& /*title*/, const QString& text)
 
 PromptAnswer MonkeyPrompts::askYesNoCancel(const QString& /*title*/, const QString& text)
 {
-    const int answer = m_dice.chance(4) ? 2 : m_dice.below(2);
+    const int answer = !m_isCareful && m_dice.chance(4) ? 2 : m_dice.below(2);
     Note(u"  \"%1\": %2"_s.arg(text, QStringList{u"yes"_s, u"no"_s, u"cancel"_s}[answer]));
     return static_cast<PromptAnswer>(answer);
 }
 
 std::optional<QString> MonkeyPrompts::askText(const QString& /*title*/, const QString& prompt)
 {
-    std::optional<QString> answer = m_dice.chance(10) ? std::nullopt : std::optional(oddText(m_dice));
+    std::optional<QString> answer =
+        m_dice.chance(10) ? std::nullopt
+                          : std::optional(m_isCareful ? u"backup%1"_s.arg(m_dice.below(100)) : oddText(m_dice));
     Note(u"  \"%1\": %2"_s.arg(prompt, answer ? shortened(*answer) : u"cancel"_s));
     return answer;
 }

@@ -9,7 +9,10 @@ class Playground;
 class MonkeyPrompts : public UserPrompts
 {
 public:
-    MonkeyPrompts(Dice& dice, Playground& playground) : m_dice(dice), m_playground(playground) {}
+    MonkeyPrompts(Dice& dice, Playground& playground, bool isCareful)
+        : m_dice(dice), m_playground(playground), m_isCareful(isCareful)
+    {
+    }
 
     void showMessage(const QString& title, const QString& text, PromptIcon icon) override;
     bool askYesNo(const QString& title, const QString& text) override;
@@ -21,4 +24,5 @@ public:
 private:
     Dice& m_dice;
     Playground& m_playground;
+    bool m_isCareful;
 };

@@ -1,9 +1,9 @@
 // How the monkey handles what it finds on a window: widgets by their kind, the tree, buttons, keys.
+#include "CarefulOwner.h"
 #include "Gestures.h"
 #include "Monkey.h"
 #include "Notes.h"
 #include "OddTexts.h"
-#include "base/Dates.h"
 #include "editors/DateField.h"
 #include "shell/CatalogueTree.h"
 #include "shell/ShortcartButton.h"
@@ -19,6 +19,7 @@
 #include <QSplitter>
 #include <QTabBar>
 
+#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -66,6 +67,15 @@ const std::array keys{
     Key{Qt::Key_5, {}, "5"},
 };
 
+// Leaves half a word or half a number.
+bool changesText(const Key& key)
+{
+    constexpr std::array changing = {Qt::Key_Delete,   Qt::Key_Backspace, Qt::Key_Plus, Qt::Key_Minus,
+                                     Qt::Key_Asterisk, Qt::Key_5,         Qt::Key_Space};
+    return key.modifiers == Qt::ControlModifier ||
+           std::any_of(changing.begin(), changing.end(), [&](Qt::Key other) { return key.key == other; });
+}
+
 bool canBeTouched(const QWidget& widget)
 {
     return widget.isVisible() && widget.isEnabled() && widget.width() > 0 && widget.height() > 0;
@@ -106,6 +116,18 @@ QPoint Monkey::placeIn(const QWidget& widget)
     return {m_dice.below(widget.width()), m_dice.below(widget.height())};
 }
 
+// Near the widget, or far from it.
+QPoint Monkey::anyPlace()
+{
+    return {m_dice.below(1200) - 200, m_dice.below(800) - 100};
+}
+
+Qt::MouseButton Monkey::anyButton()
+{
+    constexpr std::array others = {Qt::RightButton, Qt::MiddleButton, Qt::BackButton, Qt::ForwardButton};
+    return m_dice.chance(88) ? Qt::LeftButton : m_dice.pick(others);
+}
+
 void Monkey::touchAny(QWidget& root)
 {
     QList<QWidget*> all = root.findChildren<QWidget*>();
@@ -121,8 +143,8 @@ void Monkey::touchAny(QWidget& root)
 void Monkey::touch(QWidget& widget)
 {
     bringIntoView(widget);
-    if (widget.visibleRegion().isEmpty()) {
-        return; // covered
+    if (widget.visibleRegion().isEmpty() || (m_isCareful && !mayPress(widget, m_window))) {
+        return; // covered, or better left alone
     }
     const QPoint place = placeIn(widget);
     const int how = m_dice.below(100);
@@ -134,7 +156,10 @@ void Monkey::touch(QWidget& widget)
         turnWheel(widget, place, m_dice.chance(50) ? 1 : -1);
     } else if (how < 9) {
         Note(u"drag "_s + NameOf(widget));
-        drag(widget, place, QPoint(m_dice.below(1200) - 200, m_dice.below(800) - 100));
+        drag(widget, place, anyPlace(), anyButton());
+    } else if (how < 12) {
+        Note(u"press and release elsewhere "_s + NameOf(widget));
+        pressAndReleaseElsewhere(widget, place, anyPlace(), anyButton());
     } else if (qobject_cast<QLineEdit*>(&widget) || qobject_cast<QPlainTextEdit*>(&widget)) {
         touchText(widget);
     } else if (viewOf(widget) && !qobject_cast<QHeaderView*>(&widget) && how < 90) {
@@ -142,24 +167,30 @@ void Monkey::touch(QWidget& widget)
     } else if (auto* tabs = qobject_cast<QTabBar*>(&widget); tabs && tabs->count() > 0) {
         Note(u"tab "_s + NameOf(widget));
         Press(widget, tabs->tabRect(m_dice.below(tabs->count())).center());
-    } else if (how < 14) {
+    } else if (how < 18) {
         Note(u"press twice "_s + NameOf(widget));
-        pressTwice(widget, place);
+        pressTwice(widget, place, anyButton());
     } else {
         const auto* button = qobject_cast<QAbstractButton*>(&widget);
         Note(u"press "_s + NameOf(widget) + (button ? u" \"%1\""_s.arg(button->text()) : QString()));
-        Press(widget, place, m_dice.chance(5) ? Qt::RightButton : Qt::LeftButton);
+        Press(widget, place, anyButton());
     }
+}
+
+QString Monkey::textFor(const QWidget& field)
+{
+    // The wild hands, too, mostly give a date for a date.
+    const bool fits = m_isCareful || (qobject_cast<const DateField*>(&field) && m_dice.chance(80));
+    return fits ? fittingText(m_dice, field) : oddText(m_dice);
 }
 
 void Monkey::touchText(QWidget& widget)
 {
-    const bool isDate = qobject_cast<DateField*>(&widget) && m_dice.chance(80); // else the run would soon be over
-    const QString text = isDate ? localDateText(QDate(2026, 1, 1).addDays(m_dice.below(400))) : oddText(m_dice);
+    const QString text = textFor(widget);
     Note(u"type "_s + NameOf(widget) + u' ' + shortened(text));
     const QPointer<QWidget> kept(&widget);
     Press(widget, widget.rect().center());
-    if (kept && QApplication::activePopupWidget() == nullptr && m_dice.chance(70)) {
+    if (kept && QApplication::activePopupWidget() == nullptr && (m_isCareful || m_dice.chance(70))) {
         pressKey(widget, Qt::Key_A, Qt::ControlModifier, u"\x01"_s);
     }
     if (kept) {
@@ -191,7 +222,7 @@ void Monkey::touchItems(QWidget& widget)
     }
     if (QWidget* editor = QApplication::focusWidget();
         editor && m_dice.chance(50) && editor->window() == view.window()) {
-        const QString text = oddText(m_dice);
+        const QString text = textFor(*editor);
         Note(u"  type "_s + shortened(text));
         typeText(*editor, text);
     }
@@ -218,12 +249,19 @@ void Monkey::touchTree()
     tree.scrollTo(index);
     const QPoint place = tree.visualRect(index).center();
     Note(u"node "_s + shortened(index.data().toString()));
+    const QPoint elsewhere(m_dice.below(2 * tree.viewport()->width()), m_dice.below(tree.viewport()->height()));
     if (m_dice.chance(15)) {
         Press(*tree.viewport(), place, Qt::RightButton);
     } else if (m_dice.chance(10)) {
-        pressTwice(*tree.viewport(), place);
+        pressTwice(*tree.viewport(), place, anyButton());
+    } else if (m_dice.chance(10)) {
+        Note(u"  and drag"_s);
+        drag(*tree.viewport(), place, elsewhere, anyButton());
+    } else if (m_dice.chance(10)) {
+        Note(u"  and release elsewhere"_s);
+        pressAndReleaseElsewhere(*tree.viewport(), place, elsewhere, anyButton());
     } else {
-        Press(*tree.viewport(), place);
+        Press(*tree.viewport(), place, anyButton());
     }
 }
 
@@ -240,9 +278,27 @@ void Monkey::touchButton()
     }
 }
 
+// From field to field, and then one key.
+void Monkey::walk(QWidget& root)
+{
+    const bool isForward = m_dice.chance(80);
+    for (int step = m_dice.below(15); step >= 0; --step) {
+        QWidget* focus = QApplication::focusWidget();
+        if (!focus || focus->window() != root.window() || !focus->isVisible()) {
+            break;
+        }
+        pressKey(*focus, isForward ? Qt::Key_Tab : Qt::Key_Backtab, isForward ? Qt::NoModifier : Qt::ShiftModifier,
+                 isForward ? u"\t"_s : QString());
+    }
+    pressAnyKey(root);
+}
+
 void Monkey::pressAnyKey(QWidget& root)
 {
     const Key& key = m_dice.pick(keys);
+    if (m_isCareful && changesText(key)) {
+        return;
+    }
     QWidget* focus = QApplication::focusWidget();
     QWidget& target = focus && focus->window() == root.window() && focus->isVisible() ? *focus : root;
     Note(u"key %1 "_s.arg(QKeySequence(QKeyCombination(key.modifiers, static_cast<Qt::Key>(key.key))).toString()) +

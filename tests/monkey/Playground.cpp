@@ -1,5 +1,6 @@
 #include "Playground.h"
 
+#include "CarefulOwner.h"
 #include "OddTexts.h"
 #include "model/ShopSession.h"
 #include "model/shop_file/RandomShop.h"
@@ -27,13 +28,15 @@ void writeRandomShop(const ApplicationFolder& folder, unsigned seed)
 
 } // namespace
 
-Playground::Playground(const QString& root, Dice& dice)
-    : m_root(root), m_shop(root + u"/a/b/c/d/shop"_s), m_files(root + u"/a/b/c/d/files/"_s)
+Playground::Playground(const QString& root, Dice& dice, bool isCareful)
+    : m_isCareful(isCareful), m_root(root), m_shop(root + u"/a/b/c/d/shop"_s), m_files(root + u"/a/b/c/d/files/"_s)
 {
     if (!QFile::exists(folder().countriesFile())) {
         copySampleShop();
         makeOddFiles();
-        changeShop(dice);
+        if (!m_isCareful) {
+            changeShop(dice);
+        }
     }
 }
 
@@ -106,7 +109,7 @@ QString Playground::oneOf(Dice& dice, const QString& folder) const
 QString Playground::packedFile(Dice& dice) const
 {
     QString backup = oneOf(dice, folder().backupsFolder());
-    if (backup.isEmpty() || dice.chance(70)) {
+    if (backup.isEmpty() || m_isCareful || dice.chance(70)) {
         return backup;
     }
     QString cut = m_files + u"cut.kvb"_s;
@@ -117,7 +120,7 @@ QString Playground::packedFile(Dice& dice) const
 
 QString Playground::chosenFile(Dice& dice, const QString& filter)
 {
-    switch (dice.below(20)) {
+    switch (m_isCareful ? 5 : dice.below(20)) {
     case 0:
     case 1:
         return {};
@@ -135,8 +138,8 @@ QString Playground::chosenFile(Dice& dice, const QString& filter)
     }
     if (filter.contains(u".txt"_s)) {
         QString path = m_files + u"products.txt"_s;
-        WriteFile(path, oddImportFile(dice));
+        WriteFile(path, m_isCareful ? fittingImportFile(dice) : oddImportFile(dice));
         return path;
     }
-    return oneOf(dice, m_files);
+    return m_isCareful ? m_files + u"blue.png"_s : oneOf(dice, m_files);
 }

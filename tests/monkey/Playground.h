@@ -12,7 +12,7 @@ class Playground
 {
 public:
     // Below that folder. A shop that lies there already stays as it is.
-    Playground(const QString& root, Dice& dice);
+    Playground(const QString& root, Dice& dice, bool isCareful);
 
     ApplicationFolder folder() const { return ApplicationFolder(m_shop); }
     // A folder for the user's settings.
@@ -28,6 +28,7 @@ private:
     QString packedFile(Dice& dice) const;
     QString oneOf(Dice& dice, const QString& folder) const;
 
+    bool m_isCareful; // nothing is missing, and every file fits
     QString m_root;
     QString m_shop;
     QString m_files;

@@ -64,7 +64,8 @@ private:
 class Program
 {
 public:
-    Program(const QString& folder, std::uint32_t seed) : m_dice(seed), m_playground(folder, m_dice), m_server(seed)
+    Program(const QString& folder, std::uint32_t seed, PlayedBy player)
+        : m_player(player), m_dice(seed), m_playground(folder, m_dice, player == PlayedBy::CarefulOwner), m_server(seed)
     {
         QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, m_playground.settings());
     }
@@ -88,7 +89,10 @@ public:
         static_cast<void>(QTest::qWaitForWindowActive(m_window.get())); // else the first keys go here or there
     }
 
-    void play(int& stepsLeft) { Monkey(*m_window, *m_preview, m_dice, stepsLeft, m_server.address()).play(); }
+    QString play(int& stepsLeft)
+    {
+        return Monkey(*m_window, *m_preview, m_dice, m_player, stepsLeft, m_server.address()).play();
+    }
 
     QByteArray save()
     {
@@ -98,10 +102,11 @@ public:
     }
 
 private:
+    PlayedBy m_player;
     Dice m_dice;
     Playground m_playground;
     OddServer m_server;
-    MonkeyPrompts m_prompts{m_dice, m_playground};
+    MonkeyPrompts m_prompts{m_dice, m_playground, m_player == PlayedBy::CarefulOwner};
     FixedClock m_clock{QDate(2026, 7, 15)};
     EndingErrors m_errors;
     RecordingPreview* m_preview = nullptr; // the window's
@@ -110,19 +115,23 @@ private:
 
 } // namespace
 
-int runMonkey(const QString& folder, std::uint32_t seed, int steps)
+int runMonkey(const QString& folder, std::uint32_t seed, int steps, PlayedBy player)
 {
-    Program program(folder, seed);
+    Program program(folder, seed, player);
     while (steps > 0) {
         program.start();
-        program.play(steps);
+        const QString disagreement = program.play(steps);
+        if (!disagreement.isEmpty()) {
+            Note(u"Out of step: "_s + disagreement);
+            return OutOfStep;
+        }
     }
     return Done;
 }
 
 int checkShop(const QString& folder)
 {
-    Program program(folder, 1);
+    Program program(folder, 1, PlayedBy::WildHands);
     QByteArray former;
     // What reading makes plainer shows in the second file. From then on nothing changes.
     for (int turn = 1; turn <= 3; ++turn) {

@@ -2,6 +2,8 @@
 // are steps. Everything that happens follows from the seed, as far as the clock does not come into it.
 #pragma once
 
+#include "Monkey.h"
+
 #include <QString>
 
 #include <cstdint>
@@ -11,13 +13,15 @@ enum RunEnd : int {
     Done = 0,
     // By a run-time error, told as the program tells it.
     FatalError = 40,
-    // The same before there was a window: the shop that was left behind does not open any more.
+    // The same before there was a window: the shop that an earlier start left cannot be opened.
     FailedStart = 41,
-    // A shop that is opened and saved becomes another one each time.
+    // A shop changes each time that it is opened and saved.
     Unsettled = 42,
+    // Tree and catalogue have got out of step.
+    OutOfStep = 43,
 };
 
 // The folder is where the run's files are made.
-int runMonkey(const QString& folder, std::uint32_t seed, int steps);
-// Opens and saves, again and again, what a run has left behind in that folder.
+int runMonkey(const QString& folder, std::uint32_t seed, int steps, PlayedBy player);
+// Opens and saves, several times, the shop that a run has left in that folder.
 int checkShop(const QString& folder);

@@ -94,8 +94,10 @@ void Runs::run(std::uint32_t seed)
 {
     const QTemporaryDir folder;
     const QStringList there{u"--folder"_s, folder.path()};
-    const QStringList way{u"--alone"_s, u"--seed"_s, QString::number(seed), u"--steps"_s,
-                          QString::number(m_plan.steps)};
+    QStringList way{u"--alone"_s, u"--seed"_s, QString::number(seed), u"--steps"_s, QString::number(m_plan.steps)};
+    if (m_plan.isCareful) {
+        way << u"--careful"_s;
+    }
     QByteArray output;
     int code = runProcess(m_program, way + there, output);
     const QByteArray end = code == FatalError ? endOf(output) : "all steps";
@@ -124,8 +126,9 @@ void Runs::run(std::uint32_t seed)
 
 void Runs::showEnds() const
 {
-    std::printf("%u runs from seed %u:\n", m_nextSeed - m_plan.firstSeed, m_plan.firstSeed);
+    const unsigned int runs = m_nextSeed - m_plan.firstSeed;
+    std::printf("%u runs from seed %u, and how they ended:\n", runs, m_plan.firstSeed);
     for (auto end = m_ends.begin(); end != m_ends.end(); ++end) {
-        std::printf("%5d  %s\n", end.value(), end.key().constData());
+        std::printf("%5d  %5.1f%%  %s\n", end.value(), 100.0 * end.value() / runs, end.key().constData());
     }
 }

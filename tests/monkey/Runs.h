@@ -21,6 +21,7 @@ public:
         int seconds = 20; // no new run is begun after this time
         int steps = 150;  // of a run
         int atATime = 4;
+        bool isCareful = false;
         bool isTalkative = false; // tells the end of each run
         bool goesOnBehindDefects = false;
     };

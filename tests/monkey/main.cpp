@@ -1,9 +1,10 @@
 // The monkey: presses at random on the real window and finds crashes, hangs, and errors that are none of the program's.
 //
 //   monkey [--seed N] [--seconds S] [--steps N]     runs from seed N on, until the time is over; --jobs at a time,
-//                                                   --talk tells of each, --on goes on behind a defect
+//                                                   --talk tells of each, --on goes on after a defect,
+//                                                   --careful plays the careful owner
 //   monkey --alone --folder F --seed N [--steps N]  one run in this process, to look at a defect
-//   monkey --check --folder F                       opens and saves what that run has left behind
+//   monkey --check --folder F                       opens and saves the shop that the run has left
 #include "Run.h"
 #include "Runs.h"
 #include "shell/Theme.h"
@@ -36,9 +37,10 @@ void addOptions(QCommandLineParser& parser)
                        {u"steps"_s, u"Of a run."_s, u"N"_s, u"150"_s},
                        {u"jobs"_s, u"Runs at a time."_s, u"N"_s, u"4"_s},
                        {u"talk"_s, u"Tell the end of each run."_s},
-                       {u"on"_s, u"Go on behind a defect."_s},
+                       {u"on"_s, u"Go on after a defect."_s},
+                       {u"careful"_s, u"Play the careful owner, who types what each field asks for."_s},
                        {u"alone"_s, u"One run in this process."_s},
-                       {u"check"_s, u"Look in this process at what a run has left behind."_s},
+                       {u"check"_s, u"Open and save, in this process, the shop that a run has left."_s},
                        {u"folder"_s, u"Of that run."_s, u"FOLDER"_s}});
 }
 
@@ -67,12 +69,13 @@ int main(int argc, char** argv)
         applyTheme(application);
         QLocale::setDefault(QLocale(qEnvironmentVariable("TARNWICK_TEST_LOCALE", u"en_US"_s)));
         const QString folder = parser.value(u"folder"_s);
-        return parser.isSet(u"check"_s) ? checkShop(folder) : runMonkey(folder, seed, steps);
+        const PlayedBy player = parser.isSet(u"careful"_s) ? PlayedBy::CarefulOwner : PlayedBy::WildHands;
+        return parser.isSet(u"check"_s) ? checkShop(folder) : runMonkey(folder, seed, steps, player);
     }
     const QCoreApplication application(argc, argv);
     // Asked for here: the library makes the path when it is first asked, and not for several threads at once.
     const QString program = QCoreApplication::applicationFilePath();
     Runs runs(program, {seed, parser.value(u"seconds"_s).toInt(), steps, parser.value(u"jobs"_s).toInt(),
-                        parser.isSet(u"talk"_s), parser.isSet(u"on"_s)});
+                        parser.isSet(u"careful"_s), parser.isSet(u"talk"_s), parser.isSet(u"on"_s)});
     return runs.runAll() ? 0 : 1;
 }
