@@ -106,11 +106,13 @@ TEST_F(Import, WithoutAShopLeavesTheTreeEmpty)
 {
     window.reset();
     ASSERT_TRUE(QFile::remove(files.path(u"shop.xml"_s)));
-    prompts.expectMessage(QString(), u"Error in the configuration XML file. No 'Shop' node."_s);
+    prompts.expectMessage(u"Ambrel eCommerce Software"_s, u"Error in the configuration XML file. No 'Shop' node."_s);
     start();
+    WriteFile(files.path(u"products.txt"_s), "Sencha,fine,Tea\n");
+    prompts.answerFile(files.path(u"products.txt"_s));
     prompts.expectMessage(u"Ambrel eCommerce Software"_s, RuntimeError(ErrorNumber::ObjectNotSet).description(),
                           PromptIcon::Warning);
-    import("Sencha,fine,Tea\n");
+    trigger("mnuImport");
     EXPECT_EQ(root(), nullptr);
 }
 
