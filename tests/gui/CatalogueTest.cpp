@@ -3,10 +3,13 @@
 #include "model/CategoryClass.h"
 #include "model/ProductClass.h"
 #include "shell/CatalogueTree.h"
+#include "shell/ShortcartButton.h"
 #include "shell/Theme.h"
 #include "support/WindowTest.h"
 
+#include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -140,6 +143,32 @@ TEST_F(Catalogue, GetsANewCategoryBelowACategory)
     // After its siblings, whatever their kind.
     EXPECT_EQ(selected()->parent->children.back().get(), selected());
     EXPECT_EQ(selected()->parent->children.size(), 3U);
+}
+
+TEST_F(Catalogue, TakesADoubleClickOnAToolbarButtonForOneClick)
+{
+    const auto twice = [](QWidget* first, QWidget* second) {
+        QTest::mouseClick(first, Qt::LeftButton);
+        QMouseEvent press(QEvent::MouseButtonDblClick, QPoint(5, 5), second->mapToGlobal(QPoint(5, 5)), Qt::LeftButton,
+                          Qt::LeftButton, {});
+        QCoreApplication::sendEvent(second, &press);
+        QTest::mouseRelease(second, Qt::LeftButton, {}, QPoint(5, 5));
+    };
+    const auto picture = [this](const char* button) {
+        return find<ShortcartButton>(button)->findChild<QLabel*>(u"IconImg"_s);
+    };
+    const auto categories = [this] { return window->session().shop->categories.Count(); };
+    const auto before = categories();
+    twice(picture("ShopNewCategorySBtn"), picture("ShopNewCategorySBtn"));
+    EXPECT_EQ(categories(), before + 1);
+    // The category's toolbar now stands where the shop's was.
+    clickNode(u"ID_SHOP"_s);
+    twice(picture("ShopNewCategorySBtn"), picture("NewProductSBtn"));
+    EXPECT_EQ(categories(), before + 2);
+    EXPECT_TRUE(window->session().shop->categories.Item(before + 2)->products.isEmpty());
+    // The next press is one again.
+    click("NewProductSBtn");
+    EXPECT_EQ(window->session().shop->categories.Item(before + 2)->products.Count(), 1);
 }
 
 TEST_F(Catalogue, GetsANewProduct)

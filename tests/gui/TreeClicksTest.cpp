@@ -133,7 +133,10 @@ TEST_F(TreeClicks, OpenAndCloseANodeByADoubleClickThatIsOneClick)
     ASSERT_TRUE(tree()->isExpanded(tea));
     int clicks = 0;
     QObject::connect(tree(), &CatalogueTree::nodeClicked, tree(), [&] { ++clicks; });
+    press(placeOf("ID2"));
+    release(placeOf("ID2"));
     QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, {}, placeOf("ID2"));
+    release(placeOf("ID2"));
     EXPECT_FALSE(tree()->isExpanded(tea));
     EXPECT_EQ(window->SelectedNode, node("ID2"));
     EXPECT_EQ(clicks, 1);
