@@ -4,7 +4,6 @@
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
 #include "base/UserPrompts.h"
-#include "design/ApplicationTitle.h"
 #include "model/ObjectsCollection.h"
 #include "model/ProductClass.h"
 

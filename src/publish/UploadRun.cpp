@@ -1,5 +1,6 @@
 #include "publish/UploadRun.h"
 
+#include "base/ApplicationTitle.h"
 #include "base/FileBytes.h"
 #include "base/ProgramVersion.h"
 #include "base/RuntimeError.h"

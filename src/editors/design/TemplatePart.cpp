@@ -1,5 +1,6 @@
 #include "editors/design/TemplatePart.h"
 
+#include "base/ApplicationTitle.h"
 #include "base/FileBytes.h"
 #include "base/TextFile.h"
 #include "editors/PanelHost.h"

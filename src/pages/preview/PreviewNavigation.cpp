@@ -1,6 +1,7 @@
 #include "pages/preview/PreviewNavigation.h"
 
 #include "base/Numbers.h"
+#include "design/PageTable.h"
 #include "model/ProductClass.h"
 #include "pages/TemplateUtils.h"
 #include "pages/preview/PreviewUrl.h"
