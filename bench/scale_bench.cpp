@@ -15,7 +15,7 @@
 #include "shell/MainForm.h"
 #include "shell/ShortcartButton.h"
 #include "shell/StartUp.h"
-#include "shell/Theme.h"
+#include "look/Theme.h"
 
 #include <QAction>
 #include <QApplication>

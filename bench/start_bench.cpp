@@ -12,7 +12,7 @@
 #include "shell/BrowserPreview.h"
 #include "shell/MainForm.h"
 #include "shell/StartUp.h"
-#include "shell/Theme.h"
+#include "look/Theme.h"
 #include "shell/browser/PreviewBrowser.h"
 
 #include <QApplication>

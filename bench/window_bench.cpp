@@ -15,7 +15,7 @@
 #include "shell/ImportIntoTree.h"
 #include "shell/MainForm.h"
 #include "shell/StartUp.h"
-#include "shell/Theme.h"
+#include "look/TreeLook.h"
 
 #include <QApplication>
 #include <QDir>

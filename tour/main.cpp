@@ -1,6 +1,6 @@
 #include "Tour.h"
+#include "look/Theme.h"
 #include "shell/FatalErrorBox.h"
-#include "shell/Theme.h"
 #include "shell/browser/PreviewBrowser.h"
 
 #include <QApplication>
@@ -65,7 +65,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     applyTheme(application);
     if (options.dark) {
-        QApplication::setPalette(darkPalette());
+        showScheme(Scheme::Dark);
     }
     TourPrompts prompts;
     FatalErrorBox errors(prompts);

@@ -1,6 +1,6 @@
 #include "shell/CatalogueTree.h"
 
-#include "shell/Theme.h"
+#include "look/TreeLook.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -8,13 +8,6 @@
 #include <utility>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// The background of the selected node: darker than the tree, so that the light pictures stay clear on it.
-constexpr QRgb selectionColour = qRgb(38, 51, 82);
-
-} // namespace
 
 CatalogueTree::CatalogueTree(FatalErrorHandler& errors, QWidget* parent)
     : QTreeView(parent), m_model(new CatalogueTreeModel(this))
@@ -27,16 +20,10 @@ CatalogueTree::CatalogueTree(FatalErrorHandler& errors, QWidget* parent)
     setUniformRowHeights(true);
     setEditTriggers(NoEditTriggers);
     setExpandsOnDoubleClick(true);
-    setIconSize(QSize(20, 20));
     setFrameShape(QFrame::NoFrame);
     setTextElideMode(Qt::ElideRight);
 
-    QPalette colours = palette();
-    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::HighlightedText}) {
-        colours.setColor(role, QColor::fromRgb(TreeTextColour));
-    }
-    colours.setColor(QPalette::Highlight, QColor::fromRgb(selectionColour));
-    setPalette(colours);
+    dressTree(*this);
 
     connectGuarded(errors, this, &QTreeView::expanded, this,
                    [this](const QModelIndex& index) { m_model->setImage(m_model->nodeOf(index), TreeImage::Opened); });

@@ -1,6 +1,7 @@
 #include "shell/MainForm.h"
 
 #include "editors/Panel.h"
+#include "look/TreeLook.h"
 #include "model/ShopClass.h"
 #include "model/shop_file/ShopFile.h"
 #include "shell/CatalogueTree.h"
@@ -8,7 +9,6 @@
 #include "shell/PanelSet.h"
 #include "shell/ProgressFrames.h"
 #include "shell/ShortcartButton.h"
-#include "shell/Theme.h"
 #include "shell/TreePane.h"
 #include "shell/Twips.h"
 
@@ -125,9 +125,7 @@ void MainForm::CreateShop()
         return;
     }
     AddShopToTheTree();
-    QPalette colours = m_parts->CategoriesAndProductsTree->palette();
-    colours.setColor(QPalette::Base, QColor::fromRgb(TreeColour));
-    m_parts->CategoriesAndProductsTree->setPalette(colours);
+    setTreeGround(*m_parts->CategoriesAndProductsTree);
     m_session->log.WriteLoadLog(u"End Sub CreateShop"_s);
 }
 

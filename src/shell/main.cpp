@@ -1,9 +1,9 @@
+#include "look/Theme.h"
 #include "shell/BrowserPreview.h"
 #include "shell/DialogPrompts.h"
 #include "shell/FatalErrorBox.h"
 #include "shell/MainForm.h"
 #include "shell/StartUp.h"
-#include "shell/Theme.h"
 #include "shell/browser/PreviewBrowser.h"
 
 #include <QApplication>

@@ -1,10 +1,10 @@
 // The tree and the commands that add, remove and copy its nodes, in the real window.
 #include "editors/Panel.h"
+#include "look/TreeLook.h"
 #include "model/CategoryClass.h"
 #include "model/ProductClass.h"
 #include "shell/CatalogueTree.h"
 #include "shell/ShortcartButton.h"
-#include "shell/Theme.h"
 #include "support/WindowTest.h"
 
 #include <QLabel>

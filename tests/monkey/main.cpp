@@ -7,7 +7,7 @@
 //   monkey --check --folder F                       opens and saves the shop that the run has left
 #include "Run.h"
 #include "Runs.h"
-#include "shell/Theme.h"
+#include "look/Theme.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

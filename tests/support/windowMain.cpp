@@ -1,5 +1,5 @@
 // The main routine of the tests with windows.
-#include "shell/Theme.h"
+#include "look/Theme.h"
 
 #include <QApplication>
 #include <QLocale>
