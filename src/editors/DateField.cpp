@@ -2,11 +2,17 @@
 
 #include "base/Dates.h"
 #include "base/RuntimeError.h"
+#include "look/Measures.h"
+#include "look/Paint.h"
+#include "look/Tones.h"
+#include "look/Type.h"
 
 #include <QAbstractItemView>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScreen>
 #include <QTextCharFormat>
 #include <QToolButton>
@@ -16,15 +22,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr QRgb inUseColour = qRgb(255, 255, 255);
-constexpr QRgb greyedColour = qRgb(192, 192, 192);
-// Both backgrounds are light, whatever the palette.
-constexpr QRgb textColour = qRgb(31, 37, 51);
-constexpr QRgb placeholderColour = qRgb(84, 92, 110);
-
-constexpr QRgb weekendOnLight = qRgb(178, 36, 36);
-constexpr QRgb weekendOnDark = qRgb(255, 148, 138);
 
 std::optional<QDate> dateIn(const QString& text)
 {
@@ -56,9 +53,9 @@ void DateField::setInUse(bool inUse)
     setReadOnly(!inUse);
     QPalette colours = palette();
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
-        colours.setColor(group, QPalette::Base, inUse ? inUseColour : greyedColour);
-        colours.setColor(group, QPalette::Text, textColour);
-        colours.setColor(group, QPalette::PlaceholderText, placeholderColour);
+        colours.setColor(group, QPalette::Base, tone(inUse ? Tone::DateInUse : Tone::DateOff));
+        colours.setColor(group, QPalette::Text, tone(inUse ? Tone::DateText : Tone::DateOffText));
+        colours.setColor(group, QPalette::PlaceholderText, tone(inUse ? Tone::DatePlaceholder : Tone::DateOffText));
     }
     setPalette(colours);
 }
@@ -103,29 +100,69 @@ MonthCalendar::MonthCalendar(const Clock& clock, QWidget* parent)
     connect(this, &QCalendarWidget::activated, this, pick); // with the Enter key
 }
 
-// Plain arrows on the bar in the place of the style's own, and a weekend that is readable in either palette.
+// The bar of month and year on the ground of the days, with plain angles, and a weekend like any day.
 void MonthCalendar::dress()
 {
+    setContentsMargins(1, 1, 1, 1);
+    if (auto* bar = findChild<QWidget*>(u"qt_calendar_navigationbar"_s)) {
+        bar->setBackgroundRole(QPalette::Base);
+        QPalette colours = bar->palette(); // its buttons write in the colour of a selected text
+        colours.setColor(QPalette::HighlightedText, tone(Tone::Text));
+        bar->setPalette(colours);
+        bar->layout()->setContentsMargins(Measure::Tight, Measure::Tight, Measure::Tight, Measure::Tight);
+    }
     for (const auto& [name, arrow] :
-         {std::pair("qt_calendar_prevmonth", u"\u2039"), {"qt_calendar_nextmonth", u"\u203a"}}) {
+         {std::pair("qt_calendar_prevmonth", Qt::LeftArrow), {"qt_calendar_nextmonth", Qt::RightArrow}}) {
         if (auto* button = findChild<QToolButton*>(QLatin1String(name))) {
             button->setIcon(QIcon());
-            button->setText(QString::fromUtf16(arrow));
-            QFont font = button->font();
-            font.setPointSizeF(font.pointSizeF() * 1.5);
-            font.setBold(true);
-            button->setFont(font);
-            QPalette colours = palette();
-            // The bar's ground is that of a selection.
-            colours.setColor(QPalette::ButtonText, colours.color(QPalette::HighlightedText));
-            button->setPalette(colours);
+            button->setArrowType(arrow);
+            button->setFixedSize(Measure::Target + Measure::Tight, Measure::Target);
         }
     }
-    const bool isDark = palette().color(QPalette::Base).lightness() < 128;
-    QTextCharFormat weekend;
-    weekend.setForeground(QColor::fromRgb(isDark ? weekendOnDark : weekendOnLight));
-    setWeekdayTextFormat(Qt::Saturday, weekend);
-    setWeekdayTextFormat(Qt::Sunday, weekend);
+    for (const char* name : {"qt_calendar_monthbutton", "qt_calendar_yearbutton"}) {
+        if (auto* button = findChild<QToolButton*>(QLatin1String(name))) {
+            button->setMinimumHeight(Measure::Target);
+            button->setFont(boldFont());
+        }
+    }
+    for (int day = Qt::Monday; day <= Qt::Sunday; ++day) {
+        QTextCharFormat format;
+        format.setForeground(tone(Tone::Text));
+        setWeekdayTextFormat(static_cast<Qt::DayOfWeek>(day), format);
+    }
+    QTextCharFormat heads;
+    heads.setForeground(tone(Tone::Muted));
+    setHeaderTextFormat(heads);
+    m_days->setMinimumHeight(7 * rowHeight(fontMetrics()));
+}
+
+void MonthCalendar::paintCell(QPainter* painter, const QRect& room, QDate date) const
+{
+    const bool isChosen = date == selectedDate();
+    const bool isOfMonth = date.month() == monthShown() && date.year() == yearShown();
+    if (isChosen) {
+        fillRounded(*painter, QRectF(room).adjusted(2, 1, -2, -1), Measure::Radius, tone(Tone::Accent));
+    }
+    painter->save();
+    painter->setFont(date == m_clock.today() ? boldFont() : font());
+    painter->setPen(tone(isChosen ? Tone::OnAccent : isOfMonth ? Tone::Text : Tone::Muted));
+    painter->drawText(room, Qt::AlignCenter, locale().toString(date.day()));
+    painter->restore();
+}
+
+void MonthCalendar::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    fillSharp(painter, rect(), tone(Tone::Field));
+    drawRing(painter, rect(), 0, Measure::Hairline, tone(Tone::Edge));
+}
+
+void MonthCalendar::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange && m_days) {
+        dress();
+    }
+    QCalendarWidget::changeEvent(event);
 }
 
 void MonthCalendar::openUnder(QLineEdit& field)

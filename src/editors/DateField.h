@@ -43,10 +43,15 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+protected:
+    void paintCell(QPainter* painter, const QRect& room, QDate date) const override;
+    void paintEvent(QPaintEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
 private:
     void dress();
 
     const Clock& m_clock;
-    QAbstractItemView* m_days; // the part with the keyboard's focus
+    QAbstractItemView* m_days = nullptr; // the part with the keyboard's focus
     QLineEdit* m_field = nullptr;
 };

@@ -1,15 +1,15 @@
 #include "editors/LinkLabel.h"
 
+#include "look/Measures.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
 
 namespace {
 
-// Pixels around the text, room for the focus frame. At the sides hardly any, so that a link stands in line with the
-// texts above it.
-constexpr int sideMargin = 1;
-constexpr int margin = 3;
+// Pixels beside the text, room for the focus ring.
+constexpr int sideMargin = 4;
 
 } // namespace
 
@@ -24,7 +24,8 @@ LinkLabel::LinkLabel(const char* name, const QString& text, QWidget* parent) : Q
 
 QSize LinkLabel::sizeHint() const
 {
-    return fontMetrics().size(Qt::TextSingleLine, text()) + QSize(2 * sideMargin, 2 * margin);
+    const int words = fontMetrics().size(Qt::TextSingleLine, text()).width();
+    return {std::max(words + 2 * sideMargin, Measure::Target), rowHeight(fontMetrics())};
 }
 
 void LinkLabel::paintEvent(QPaintEvent* /*event*/)
@@ -35,7 +36,8 @@ void LinkLabel::paintEvent(QPaintEvent* /*event*/)
     painter.setFont(underlined);
     painter.setPen(isEnabled() ? palette().color(QPalette::Link)
                                : palette().color(QPalette::Disabled, QPalette::WindowText));
-    painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
+    painter.drawText(rect().adjusted(sideMargin, 0, -sideMargin, 0),
+                     Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text());
     if (hasFocus()) {
         QStyleOptionFocusRect option;
         option.initFrom(this);

@@ -4,9 +4,14 @@
 #include "base/RuntimeError.h"
 #include "base/WholeNumbers.h"
 
+#include <QLocale>
+
+using namespace Qt::StringLiterals;
+
 NumericBox::NumericBox(Takes takes, QWidget* parent) : QLineEdit(parent), m_takes(takes)
 {
     setAlignment(Qt::AlignRight);
+    setPlaceholderText(takes == Takes::WholeNumber ? u"0"_s : QLocale().toString(0.0, 'f', 2)); // its form
     connect(this, &QLineEdit::textEdited, this, &NumericBox::check);
     connect(this, &QLineEdit::cursorPositionChanged, this, [this](int /*from*/, int to) {
         if (text() == m_accepted) {

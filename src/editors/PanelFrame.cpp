@@ -2,9 +2,11 @@
 
 #include "editors/ScrollColumn.h"
 #include "editors/SubmitReset.h"
+#include "look/Measures.h"
+#include "look/Section.h"
+#include "look/WordLabel.h"
 
 #include <QFormLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -14,8 +16,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int fieldWidth = 620; // pixels; a line of text that is longer is hard to read
 constexpr int besideScrollBar = 4;
+constexpr int leastLabelColumn = 112; // pixels, so that the fields of a panel's forms stand in one line
 
 } // namespace
 
@@ -28,20 +30,16 @@ PanelFrame::PanelFrame(const QString& heading, QWidget* panel) : QFrame(panel)
     around->addWidget(this);
 
     m_whole = new QVBoxLayout(this);
-    m_whole->setContentsMargins(16, 12, 16, 12);
-    m_whole->setSpacing(10);
-    auto* title = new QLabel(heading, this);
-    QFont font = title->font();
-    font.setPointSizeF(font.pointSizeF() * 1.4);
-    font.setBold(true);
-    title->setFont(font);
+    m_whole->setContentsMargins(16, Measure::Wide, 16, Measure::Wide);
+    m_whole->setSpacing(Measure::Wide);
+    auto* title = new WordLabel(WordLabel::Kind::Title, heading, this);
     title->setWordWrap(true);
     m_whole->addWidget(title);
 
     auto* content = new QWidget(this);
     m_groups = new QVBoxLayout(content);
     m_groups->setContentsMargins(0, 0, besideScrollBar, 0);
-    m_groups->setSpacing(12);
+    m_groups->setSpacing(Measure::Section);
     m_groups->addStretch(1);
     m_whole->addWidget(new ScrollColumn(content, this), 1);
 }
@@ -57,11 +55,11 @@ void PanelFrame::addGroup(QWidget* group, bool stretches)
 
 QFormLayout* PanelFrame::addForm(const QString& caption, bool stretches)
 {
-    auto* group = new QGroupBox(caption, this);
+    auto* group = new Section(caption, this);
     auto* form = new QFormLayout(group);
-    form->setContentsMargins(14, 10, 14, 14);
-    form->setHorizontalSpacing(14);
-    form->setVerticalSpacing(9);
+    form->setContentsMargins(0, Measure::Gap, 0, 0);
+    form->setHorizontalSpacing(Measure::Wide);
+    form->setVerticalSpacing(Measure::Gap);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     addGroup(group, stretches);
@@ -70,10 +68,10 @@ QFormLayout* PanelFrame::addForm(const QString& caption, bool stretches)
 
 QVBoxLayout* PanelFrame::addColumn(const QString& caption, bool stretches)
 {
-    auto* group = new QGroupBox(caption, this);
+    auto* group = new Section(caption, this);
     auto* column = new QVBoxLayout(group);
-    column->setContentsMargins(14, 10, 14, 14);
-    column->setSpacing(9);
+    column->setContentsMargins(0, Measure::Tight, 0, 0);
+    column->setSpacing(0);
     addGroup(group, stretches);
     return column;
 }
@@ -88,10 +86,20 @@ void PanelFrame::addButtons(PanelHost& host)
 void addField(QFormLayout* form, const QString& label, QWidget* field, const char* name)
 {
     named(field, name, label);
-    field->setMaximumWidth(fieldWidth);
+    form->addRow(captionOf(label, field), field);
+}
+
+QLabel* captionOf(const QString& label, QWidget* field)
+{
     auto* caption = new QLabel(label, field->parentWidget());
     caption->setBuddy(field);
-    form->addRow(caption, field);
+    caption->setMinimumSize(leastLabelColumn - Measure::Wide, controlHeight(caption->fontMetrics()));
+    return caption;
+}
+
+void setAside(const QFormLayout* form, QWidget* aside)
+{
+    qobject_cast<Section*>(form->parentWidget())->setAside(aside);
 }
 
 QLineEdit* textField(QWidget* parent)

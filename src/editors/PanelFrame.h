@@ -7,6 +7,7 @@
 
 class PanelHost;
 class QFormLayout;
+class QLabel;
 class QLineEdit;
 class QVBoxLayout;
 
@@ -43,6 +44,19 @@ Widget* named(Widget* widget, const char* name, const QString& accessibleName)
 
 // Appends a field under its name, with a label that is its buddy.
 void addField(QFormLayout* form, const QString& label, QWidget* field, const char* name);
+
+// The label of a field, as wide as those of the other fields.
+QLabel* captionOf(const QString& label, QWidget* field);
+
+// Puts something small to the right end of the heading of a form's group.
+void setAside(const QFormLayout* form, QWidget* aside);
+
+// How wide a field is whose text has an end; names, links and descriptions get all the room. In pixels.
+namespace FieldWidth {
+constexpr int Number = 120;
+constexpr int Date = 140;
+constexpr int Short = 280; // codes, units
+} // namespace FieldWidth
 
 // A field for one line of text of any length.
 QLineEdit* textField(QWidget* parent);

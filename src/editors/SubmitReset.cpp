@@ -2,6 +2,7 @@
 
 #include "editors/EditorIcon.h"
 #include "editors/PanelHost.h"
+#include "look/Measures.h"
 
 #include <QHBoxLayout>
 
@@ -18,6 +19,7 @@ SubmitReset::SubmitReset(PanelHost& host, QWidget* parent)
     imgButtonReset->setObjectName(u"imgButtonReset"_s);
     imgButtonReset->setIcon(editorIcon("reset"));
     imgButtonReset->setToolTip(u"Brings back what was there before"_s);
+    imgButtonSubmit->setDefault(true);
     for (QPushButton* button : {imgButtonSubmit, imgButtonReset}) {
         button->setAccessibleName(button->text());
     }
@@ -28,6 +30,7 @@ SubmitReset::SubmitReset(PanelHost& host, QWidget* parent)
 
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(Measure::Gap);
     row->addStretch(1);
     row->addWidget(imgButtonSubmit);
     row->addWidget(imgButtonReset);

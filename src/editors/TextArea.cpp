@@ -1,5 +1,7 @@
 #include "editors/TextArea.h"
 
+#include "look/Measures.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -13,6 +15,7 @@ TextArea::TextArea(QWidget* parent) : QPlainTextEdit(parent)
 {
     setTabChangesFocus(true);
     setMinimumHeight(leastHeight);
+    document()->setDocumentMargin(Measure::Gap - Measure::FieldFrame);
 }
 
 QSize TextArea::sizeHint() const

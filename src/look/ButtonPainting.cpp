@@ -6,6 +6,8 @@
 
 #include <QStyleOption>
 
+#include <algorithm>
+
 namespace {
 
 bool has(const QStyleOption& option, QStyle::StateFlag flag)
@@ -65,6 +67,26 @@ void paintButton(const QStyleOptionButton& option, QPainter& painter)
         const bool isDefault = option.features.testFlag(QStyleOptionButton::DefaultButton);
         drawRing(painter, option.rect, radius, Measure::Hairline, tone(isDefault ? Tone::Accent : Tone::ButtonLine));
     }
+}
+
+void paintButtonLabel(const QStyleOptionButton& option, QPainter& painter, const QStyle& style)
+{
+    constexpr int besidePicture = 6;
+    const bool isOn = has(option, QStyle::State_Enabled);
+    const int words = option.fontMetrics.size(Qt::TextShowMnemonic, option.text).width();
+    const int picture = option.icon.isNull() ? 0 : option.iconSize.width() + (words > 0 ? besidePicture : 0);
+    QRect room(0, 0, std::min(picture + words, option.rect.width()), option.rect.height());
+    room.moveCenter(option.rect.center());
+    if (!option.icon.isNull()) {
+        const QRect place(room.left(), room.center().y() - option.iconSize.height() / 2, option.iconSize.width(),
+                          option.iconSize.height());
+        option.icon.paint(&painter, QStyle::visualRect(option.direction, option.rect, place), Qt::AlignCenter,
+                          isOn ? QIcon::Normal : QIcon::Disabled);
+    }
+    const int underline =
+        style.styleHint(QStyle::SH_UnderlineShortcut, &option) ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
+    style.drawItemText(&painter, QStyle::visualRect(option.direction, option.rect, room.adjusted(picture, 0, 0, 0)),
+                       Qt::AlignCenter | underline, option.palette, isOn, option.text, QPalette::ButtonText);
 }
 
 void paintToolButton(const QStyleOption& option, QPainter& painter)

@@ -4,6 +4,7 @@
 #include "look/Paint.h"
 #include "look/Tones.h"
 
+#include <QAbstractItemView>
 #include <QStyle>
 #include <QStyleOption>
 #include <QWidget>
@@ -39,13 +40,21 @@ void paintArrow(QPainter& painter, const QRect& room, Qt::ArrowType direction, b
     drawChevron(painter, room, direction, tone(isOn ? Tone::Muted : Tone::Off));
 }
 
+// A field over a cell of a grid fills the cell to its corners.
+bool isOverCell(const QWidget* widget)
+{
+    const QWidget* viewport = widget ? widget->parentWidget() : nullptr;
+    return viewport && qobject_cast<const QAbstractItemView*>(viewport->parentWidget());
+}
+
 } // namespace
 
 void paintField(const QStyleOption& option, QPainter& painter, const QWidget* widget)
 {
     const Edge edge = edgeOf(option, widget);
-    fillRounded(painter, option.rect, Measure::Radius, option.palette.color(QPalette::Base));
-    drawRing(painter, option.rect, Measure::Radius, edge.width, edge.colour);
+    const int radius = isOverCell(widget) ? 0 : Measure::Radius;
+    fillRounded(painter, option.rect, radius, option.palette.color(QPalette::Base));
+    drawRing(painter, option.rect, radius, edge.width, edge.colour);
 }
 
 void paintComboBox(const QStyleOptionComboBox& option, QPainter& painter, const QWidget* widget, const QStyle& style)

@@ -133,6 +133,18 @@ void ShopStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     case PE_IndicatorBranch:
         paintBranch(*option, *painter);
         return;
+    case PE_IndicatorArrowUp:
+        drawChevron(*painter, option->rect, Qt::UpArrow, option->palette.color(QPalette::ButtonText));
+        return;
+    case PE_IndicatorArrowDown:
+        drawChevron(*painter, option->rect, Qt::DownArrow, option->palette.color(QPalette::ButtonText));
+        return;
+    case PE_IndicatorArrowLeft:
+        drawChevron(*painter, option->rect, Qt::LeftArrow, option->palette.color(QPalette::ButtonText));
+        return;
+    case PE_IndicatorArrowRight:
+        drawChevron(*painter, option->rect, Qt::RightArrow, option->palette.color(QPalette::ButtonText));
+        return;
     case PE_FrameTabBarBase:
         paintTabLine(*option, *painter);
         return;
@@ -153,6 +165,12 @@ void ShopStyle::drawControl(ControlElement element, const QStyleOption* option, 
         proxy()->drawControl(CE_PushButtonBevel, option, painter, widget);
         proxy()->drawControl(CE_PushButtonLabel, option, painter, widget);
         return;
+    case CE_PushButtonLabel:
+        if (const auto* button = as<QStyleOptionButton>(option)) {
+            paintButtonLabel(*button, *painter, *this);
+            return;
+        }
+        break;
     case CE_ItemViewItem:
         if (const auto* cell = as<QStyleOptionViewItem>(option)) {
             QStyleOptionViewItem coloured = *cell;
@@ -221,6 +239,12 @@ void ShopStyle::drawControl(ControlElement element, const QStyleOption* option, 
         break;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+QPixmap ShopStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const
+{
+    // A picture is not dimmed because its row is chosen.
+    return mode == QIcon::Selected ? pixmap : QProxyStyle::generatedIconPixmap(mode, pixmap, option);
 }
 
 void ShopStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,

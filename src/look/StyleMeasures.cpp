@@ -5,6 +5,7 @@
 #include "look/SectionPainting.h"
 #include "look/ShopStyle.h"
 
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QListView>
 #include <QStyleOption>
@@ -19,11 +20,16 @@ constexpr int comboArrow = 28;
 constexpr int behindWords = 6; // room for the ring around the words of a check box
 constexpr int treeIndentation = 24;
 
+bool isOfCalendar(const QWidget* view)
+{
+    return qobject_cast<const QCalendarWidget*>(view->parentWidget()) != nullptr;
+}
+
 // What stands on either side of a text in a cell, less one.
 int cellMargin(const QWidget* widget)
 {
     if (qobject_cast<const QTableView*>(widget)) {
-        return Measure::Wide - 1;
+        return isOfCalendar(widget) ? 0 : Measure::Wide - 1;
     }
     if (qobject_cast<const QTreeView*>(widget)) {
         return 2; // twice three between picture and text
@@ -109,8 +115,6 @@ QRect ShopStyle::subElementRect(SubElement element, const QStyleOption* option, 
                    QRect(QPoint(Measure::Box + 2, option->rect.top()), QPoint(words.right(), option->rect.bottom())))
             .adjusted(0, 2, 0, -2);
     }
-    case SE_HeaderLabel:
-        return option->rect.adjusted(Measure::Wide, 0, -Measure::Tight, 0);
     case SE_ProgressBarGroove:
     case SE_ProgressBarContents:
         return option->rect;
@@ -175,6 +179,8 @@ int ShopStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_CheckBoxLabelSpacing:
     case PM_RadioButtonLabelSpacing:
         return Measure::Gap;
+    case PM_HeaderMargin:
+        return Measure::Wide;
     case PM_FocusFrameHMargin:
         return cellMargin(widget);
     case PM_TreeViewIndentation:

@@ -74,7 +74,8 @@ void paintRow(const QStyleOptionViewItem& option, QPainter& painter)
 
 void paintCell(const QStyleOptionViewItem& option, QPainter& painter, const QWidget* widget)
 {
-    const bool isInGrid = qobject_cast<const QTableView*>(widget) != nullptr;
+    const bool isInGrid =
+        qobject_cast<const QTableView*>(widget) && !qobject_cast<const QCalendarWidget*>(widget->parentWidget());
     const bool isInTree = widget && widget->inherits("QTreeView");
     if (isChosen(option)) {
         fillSharp(painter, option.rect, chosenGround(option.palette));

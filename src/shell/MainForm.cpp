@@ -18,6 +18,13 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// What a desktop puts around a window, in pixels: it is not known before the window is shown.
+constexpr QSize usualFrame(16, 40);
+
+} // namespace
+
 MainForm::MainForm(std::unique_ptr<ShopSession> session, const PreviewFactory& makePreview,
                    std::function<void()> startAgain, FatalErrorHandler& errors)
     : m_errors(errors),
@@ -60,7 +67,7 @@ void MainForm::load()
     move(0, 0);
     InitUserControls();
     m_session->log.WriteLoadLog(u"User Controls Initialized"_s);
-    resize(QSize(pixels(11900), pixels(8550)).boundedTo(screen()->availableSize()));
+    resize(QSize(pixels(11900), pixels(8550)).boundedTo(screen()->availableSize() - usualFrame));
     m_parts->arrangeOverlays(size());
     CreateShop();
     m_templates->parseTemplates();
@@ -99,6 +106,8 @@ void MainForm::connectParts()
     connectGuarded(m_errors, m_parts->CategoriesAndProductsTree, &CatalogueTree::popUpRequested, this,
                    &MainForm::showPopUp);
 
+    // Where the line at the foot stands is known when it has been laid out.
+    m_parts->frmCopyright->installEventFilter(this);
     for (QWidget* surface : {static_cast<QWidget*>(this), m_parts->ToolbarFrame->parentWidget(),
                              static_cast<QWidget*>(m_parts->ToolbarFrame), static_cast<QWidget*>(m_parts->ShopToolbar),
                              m_parts->CategoriesAndProductsTree->viewport()}) {
@@ -155,6 +164,7 @@ void MainForm::ShowFrame(Panel* ActiveFrame, qint16 Code)
     }
     if (!ActiveFrame) {
         VisibleFrame = nullptr;
+        markCurrentButtons();
         return;
     }
     if (!runCatalogueCommand(ActiveFrame, Code)) {
@@ -167,6 +177,7 @@ void MainForm::ShowFrame(Panel* ActiveFrame, qint16 Code)
     ActiveFrame->show();
     ActiveFrame->SetActiveObject(ActiveObject);
     VisibleFrame = ActiveFrame;
+    markCurrentButtons();
 }
 
 void MainForm::ShowToolbar(QFrame* toolbar)
@@ -207,7 +218,24 @@ void MainForm::SetMode(qint16 mode)
         }
     }
     WorkMode = mode;
+    markCurrentButtons();
     m_session->log.WriteLoadLog(u"End Sub SetMode"_s);
+}
+
+// The button of the mode, and the one that leads to the panel on screen.
+void MainForm::markCurrentButtons()
+{
+    const std::pair<const char*, qint16> modeButtons[] = {
+        {"ProductCatalogSBtn", CatalogueMode}, {"ShopDesignSBtn", DesignMode}, {"PreviewBrowserSBtn", PreviewMode}};
+    for (const auto& [name, mode] : modeButtons) {
+        button(name)->setCurrent(WorkMode == mode);
+    }
+    for (const ButtonRow& row : buttonTable()) {
+        if (row.frame != ButtonFrame::ToolbarFrame && row.code == PanelCode::Show) {
+            ShortcartButton* shortcart = button(row.name);
+            shortcart->setCurrent(VisibleFrame && shortcart->ShortCartFrameToActivate == VisibleFrame);
+        }
+    }
 }
 
 void MainForm::ShowCataloguePane(bool flag)
@@ -272,6 +300,9 @@ bool MainForm::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::MouseMove) {
         const QPoint place = static_cast<QMouseEvent*>(event)->position().toPoint();
         ClearButtonHover(place.x(), place.y());
+    }
+    if (watched == m_parts->frmCopyright && (event->type() == QEvent::Move || event->type() == QEvent::Resize)) {
+        m_parts->arrangeOverlays(size());
     }
     return QMainWindow::eventFilter(watched, event);
 }

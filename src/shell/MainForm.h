@@ -91,6 +91,7 @@ private:
     void makeMenus();
     void makePopUp();
 
+    void markCurrentButtons();
     void ShowCataloguePane(bool flag);
     void ShowPreviewPane(bool flag);
     void ShowDesignPane(bool flag);

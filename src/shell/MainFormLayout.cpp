@@ -1,5 +1,8 @@
 #include "shell/MainFormLayout.h"
 
+#include "look/LinedFrame.h"
+#include "look/Measures.h"
+#include "look/WordLabel.h"
 #include "shell/CatalogueTree.h"
 #include "shell/ContentRoom.h"
 #include "shell/ProgressFrames.h"
@@ -17,11 +20,11 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int designMenuColumns = 2;
-constexpr int betweenButtons = 10; // pixels, so that long titles stay apart
+constexpr int betweenButtons = Measure::Tight;
+constexpr int panelText = pixels(100) + Measure::Section; // where the text of a panel begins in its holder
 
-QFrame* namedFrame(const char* name, QWidget* parent)
+QFrame* named(QFrame* frame, const char* name)
 {
-    auto* frame = new QFrame(parent);
     frame->setObjectName(QLatin1String(name));
     return frame;
 }
@@ -38,7 +41,7 @@ Layout* tightLayout(QWidget* widget, int spacing = 0)
 // A frame that holds panels, all in the same cell; only one is visible at a time.
 QFrame* panelHolder(const char* name, QWidget* parent)
 {
-    QFrame* holder = namedFrame(name, parent);
+    QFrame* holder = named(new QFrame(parent), name);
     auto* layout = tightLayout<QGridLayout>(holder);
     layout->setContentsMargins(pixels(100), 0, pixels(150), pixels(100));
     return holder;
@@ -71,9 +74,9 @@ MainFormLayout::MainFormLayout(QWidget* central, QWidget* preview, const Applica
 
 void MainFormLayout::makeToolbarFrame(QWidget* parent)
 {
-    ToolbarFrame = namedFrame("ToolbarFrame", parent);
+    ToolbarFrame = named(new LinedFrame(Qt::BottomEdge, parent), "ToolbarFrame");
     ToolbarFrame->setAutoFillBackground(true);
-    ToolbarFrame->setBackgroundRole(QPalette::Button);
+    ToolbarFrame->setBackgroundRole(QPalette::Light); // as the menu bar above it
     auto* row = tightLayout<QHBoxLayout>(ToolbarFrame, betweenButtons);
     row->setContentsMargins(8, 4, pixels(100), 4);
     LogoPic = new QLabel(ToolbarFrame);
@@ -90,7 +93,6 @@ void MainFormLayout::makeCatalogue(QWidget* parent, FatalErrorHandler& errors)
     imgSplitter->setObjectName(u"imgSplitter"_s);
     imgSplitter->setChildrenCollapsible(false);
     imgSplitter->setOpaqueResize(false);
-    imgSplitter->setHandleWidth(6);
 
     CategoriesAndProductsTree = new CatalogueTree(errors, imgSplitter);
     treePane = new TreePane(CategoriesAndProductsTree, imgSplitter);
@@ -104,8 +106,9 @@ void MainFormLayout::makeCatalogue(QWidget* parent, FatalErrorHandler& errors)
 
     QWidget* right = rightRoom->content();
     auto* column = tightLayout<QVBoxLayout>(right);
-    ContextToolbarFrame = namedFrame("ContextToolbarFrame", right);
-    ContextToolbarFrame->setFixedHeight(pixels(980));
+    ContextToolbarFrame = named(new QFrame(right), "ContextToolbarFrame");
+    ContextToolbarFrame->setMinimumHeight(pixels(980));
+    ContextToolbarFrame->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     MainFrame = panelHolder("MainFrame", right);
     column->addWidget(ContextToolbarFrame);
     column->addWidget(MainFrame, 1);
@@ -113,9 +116,9 @@ void MainFormLayout::makeCatalogue(QWidget* parent, FatalErrorHandler& errors)
     auto* toolbars = tightLayout<QGridLayout>(ContextToolbarFrame);
     for (auto [toolbar, name] : {std::pair(&ShopToolbar, "ShopToolbar"), std::pair(&CategoryToolbar, "CategoryToolbar"),
                                  std::pair(&ProductToolbar, "ProductToolbar")}) {
-        *toolbar = namedFrame(name, ContextToolbarFrame);
+        *toolbar = named(new QFrame(ContextToolbarFrame), name);
         auto* row = tightLayout<QHBoxLayout>(*toolbar, betweenButtons);
-        row->setContentsMargins(4, 6, 4, 0);
+        row->setContentsMargins(panelText, 6, 4, 0);
         row->addStretch(1);
         toolbars->addWidget(*toolbar, 0, 0);
     }
@@ -125,7 +128,7 @@ void MainFormLayout::makeDesign(QWidget* parent)
 {
     designPane = new QWidget(parent);
     auto* row = tightLayout<QHBoxLayout>(designPane, 8);
-    ShopDesignMenuFrame = namedFrame("ShopDesignMenuFrame", designPane);
+    ShopDesignMenuFrame = named(new QFrame(designPane), "ShopDesignMenuFrame");
     auto* menu = tightLayout<QGridLayout>(ShopDesignMenuFrame, 4);
     menu->setContentsMargins(8, 12, 8, 8);
     menu->setRowStretch(static_cast<int>(buttonTable().size()), 1);
@@ -136,12 +139,12 @@ void MainFormLayout::makeDesign(QWidget* parent)
 
 void MainFormLayout::makeCopyright(QWidget* parent)
 {
-    frmCopyright = namedFrame("frmCopyright", parent);
+    frmCopyright = named(new LinedFrame(Qt::TopEdge, parent), "frmCopyright");
     auto* row = tightLayout<QHBoxLayout>(frmCopyright);
-    row->setContentsMargins(8, 4, 8, 4);
-    lblCopyright = new QLabel(u"Ambrel eCommerce Software. All rights reserved."_s, frmCopyright);
+    row->setContentsMargins(Measure::Gap, Measure::Tight, Measure::Gap, Measure::Tight);
+    lblCopyright =
+        new WordLabel(WordLabel::Kind::Small, u"Ambrel eCommerce Software. All rights reserved."_s, frmCopyright);
     lblCopyright->setObjectName(u"lblCopyright"_s);
-    lblCopyright->setForegroundRole(QPalette::PlaceholderText);
     row->addWidget(lblCopyright);
 }
 
@@ -183,7 +186,7 @@ void MainFormLayout::arrangeOverlays(const QSize& window) const
     if (!isArranged(window)) {
         return;
     }
-    PrBar->setGeometry(pixels(50), frmCopyright->y() + 4, pixels(3000), 18);
+    PrBar->setGeometry(pixels(50), frmCopyright->y() + 2, pixels(3000), frmCopyright->height() - 4);
     SaveProgressFrame->move(pixels(2160), pixels(2760));
     ImportProgressFrame->move(pixels(2160), pixels(2760));
 }

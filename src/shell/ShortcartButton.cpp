@@ -3,20 +3,29 @@
 #include "base/ApplicationFolder.h"
 #include "base/LoadLog.h"
 #include "editors/SecondPress.h"
+#include "look/Measures.h"
+#include "look/Paint.h"
+#include "look/Tones.h"
 #include "shell/Twips.h"
 
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QStyleOptionFocusRect>
-#include <QVBoxLayout>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
 constexpr int pictureSize = 48; // pixels a side at 100%
+constexpr int leastWidth = 108;
+constexpr int leastHeight = 80;
+constexpr int besideTitle = Measure::Tight;
+constexpr int titleTop = pictureSize;
+constexpr int belowTitle = Measure::Tight;
+constexpr int markWidth = 2; // of the line at the foot of the current button
 
 QIcon builtInPicture(const char* name)
 {
@@ -44,22 +53,18 @@ ShortcartButton::ShortcartButton(const ButtonRow& row, const ApplicationFolder& 
     setObjectName(objectNameOf(row.name));
     setAccessibleName(m_title);
     setFocusPolicy(focusPolicyOf(row.frame));
-    setMinimumWidth(96);
     setMouseTracking(true);
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 
     IconImg->setObjectName(u"IconImg"_s);
     IconImg->setToolTip(m_title);
-    IconImg->setAlignment(Qt::AlignCenter);
+    IconImg->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     IconImg->setMouseTracking(true);
     TitleLbl->setObjectName(u"TitleLbl"_s);
     TitleLbl->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     TitleLbl->setWordWrap(true);
-
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 2);
-    layout->setSpacing(2);
-    layout->addWidget(IconImg);
-    layout->addWidget(TitleLbl, 1);
+    TitleLbl->setAttribute(Qt::WA_TransparentForMouseEvents); // a press on the words is one on the picture
     showPicture(builtInPicture(row.icon));
 
     log.WriteLoadLog(u"UserControl "_s + m_title + u" loaded"_s);
@@ -69,6 +74,35 @@ void ShortcartButton::showPicture(const QIcon& icon)
 {
     m_icon = icon;
     IconImg->setPixmap(m_icon.pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF()));
+}
+
+void ShortcartButton::setCurrent(bool isCurrent)
+{
+    if (m_isCurrent != isCurrent) {
+        m_isCurrent = isCurrent;
+        setAccessibleDescription(isCurrent ? u"Current"_s : QString());
+        update();
+    }
+}
+
+// As wide as the title needs in two lines.
+QSize ShortcartButton::sizeHint() const
+{
+    const QFontMetrics metrics = TitleLbl->fontMetrics();
+    int words = metrics.horizontalAdvance(m_title);
+    for (qsizetype blank = m_title.indexOf(u' '); blank >= 0; blank = m_title.indexOf(u' ', blank + 1)) {
+        words = std::min(words, std::max(metrics.horizontalAdvance(m_title.first(blank)),
+                                         metrics.horizontalAdvance(m_title.sliced(blank + 1))));
+    }
+    return {std::max(leastWidth, words + 2 * besideTitle),
+            std::max(leastHeight, titleTop + 2 * metrics.lineSpacing() + belowTitle)};
+}
+
+void ShortcartButton::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    IconImg->setGeometry(rect());
+    TitleLbl->setGeometry(rect().adjusted(besideTitle, titleTop, -besideTitle, 0));
 }
 
 void ShortcartButton::Activate()
@@ -119,6 +153,7 @@ void ShortcartButton::mousePressEvent(QMouseEvent* event)
     }
     m_pressed = true;
     swallowSecondPress();
+    update();
     // Only a press counts: the focus also comes back with the window's activation and from a box that closes.
     if (window()->focusWidget() != this) {
         setFocus(Qt::MouseFocusReason);
@@ -130,6 +165,7 @@ void ShortcartButton::mouseReleaseEvent(QMouseEvent* event)
 {
     const bool clicked = m_pressed && event->button() == Qt::LeftButton && rect().contains(event->position().toPoint());
     m_pressed = false;
+    update();
     if (!clicked) {
         return;
     }
@@ -150,15 +186,24 @@ void ShortcartButton::keyPressEvent(QKeyEvent* event)
     }
 }
 
-void ShortcartButton::paintEvent(QPaintEvent* event)
+void ShortcartButton::paintEvent(QPaintEvent* /*event*/)
 {
-    QWidget::paintEvent(event);
+    QPainter painter(this);
+    if (m_pressed) {
+        fillRounded(painter, rect(), Measure::LargeRadius, tone(Tone::Pressed));
+    } else if (m_isCurrent) {
+        fillRounded(painter, rect(), Measure::LargeRadius, tone(Tone::Soft));
+    } else if (underMouse()) {
+        fillRounded(painter, rect(), Measure::LargeRadius, tone(Tone::Hover));
+    }
+    if (m_isCurrent) {
+        drawRing(painter, rect(), Measure::LargeRadius, Measure::Hairline, tone(Tone::SoftLine));
+        painter.setClipRect(rect().adjusted(0, height() - markWidth, 0, 0));
+        fillRounded(painter, rect(), Measure::LargeRadius, tone(Tone::Accent));
+        painter.setClipping(false);
+    }
     if (hasFocus()) {
-        QPainter painter(this);
-        QStyleOptionFocusRect option;
-        option.initFrom(this);
-        option.backgroundColor = palette().color(QPalette::Window);
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+        drawRing(painter, rect(), Measure::LargeRadius, Measure::Ring, tone(Tone::Accent));
     }
 }
 

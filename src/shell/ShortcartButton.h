@@ -1,5 +1,6 @@
-// The main window's kind of button: a picture over a title. It lights up under the mouse and opens a panel. It knows
-// its panel and its code and asks for the change of panel by a signal; it knows nothing of the catalogue.
+// The one kind of button of the main window: a picture with a title over its foot that lights up under the mouse and
+// opens a panel. The picture's label covers the whole of it, so that a press on the title is one on the picture. It
+// knows its panel and its code and asks for the change of panel by a signal; it knows nothing of the catalogue.
 #pragma once
 
 #include "shell/ButtonPictures.h"
@@ -30,6 +31,13 @@ public:
 
     QString ShortCartTitle() const { return m_title; }
 
+    // Marks the button of the mode or of the panel that is on screen, with a ground and a line.
+    void setCurrent(bool isCurrent);
+    bool isCurrent() const { return m_isCurrent; }
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
     Panel* ShortCartFrameToActivate = nullptr;
     qint16 Code = 0;
 
@@ -49,6 +57,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void hover(int x, int y);
@@ -61,4 +70,5 @@ private:
     QLabel* IconImg;
     QLabel* TitleLbl;
     bool m_pressed = false;
+    bool m_isCurrent = false;
 };

@@ -1,36 +1,28 @@
 #include "shell/TreePane.h"
 
+#include "look/Tones.h"
 #include "shell/Twips.h"
 
+#include <QEvent>
 #include <QFrame>
 
 namespace {
 
 constexpr int besideTree = pixels(80); // where the shadow shows
 
-// The shadow falls on the window's background: on a dark one it is darker still, and its light edge only a little
-// lighter.
-struct ShadowTones
-{
-    QRgb white, gray, darkGray;
-};
-constexpr ShadowTones onLight = {qRgb(255, 255, 255), qRgb(198, 204, 216), qRgb(178, 186, 202)};
-constexpr ShadowTones onDark = {qRgb(66, 73, 90), qRgb(20, 22, 28), qRgb(14, 16, 20)};
-
-const ShadowTones& shadowOn(const QWidget* ground)
-{
-    return ground->palette().color(QPalette::Window).lightness() < 128 ? onDark : onLight;
-}
-
-QFrame* shadowFrame(const char* name, QRgb colour, QWidget* parent)
+QFrame* shadowFrame(const char* name, QWidget* parent)
 {
     auto* frame = new QFrame(parent);
     frame->setObjectName(QLatin1String(name));
     frame->setAutoFillBackground(true);
-    QPalette palette = frame->palette();
-    palette.setColor(QPalette::Window, QColor::fromRgb(colour));
-    frame->setPalette(palette);
     return frame;
+}
+
+void fill(QFrame* frame, Tone ground)
+{
+    QPalette palette = frame->palette();
+    palette.setColor(QPalette::Window, tone(ground));
+    frame->setPalette(palette);
 }
 
 } // namespace
@@ -38,10 +30,11 @@ QFrame* shadowFrame(const char* name, QRgb colour, QWidget* parent)
 TreePane::TreePane(QWidget* tree, QWidget* parent)
     : QWidget(parent),
       m_tree(tree),
-      frmTreeShadowWhite(shadowFrame("frmTreeShadowWhite", shadowOn(parent).white, this)),
-      frmTreeShadowGray(shadowFrame("frmTreeShadowGray", shadowOn(parent).gray, this)),
-      frmTreeShadowDarkGray(shadowFrame("frmTreeShadowDarkGray", shadowOn(parent).darkGray, this))
+      frmTreeShadowWhite(shadowFrame("frmTreeShadowWhite", this)),
+      frmTreeShadowGray(shadowFrame("frmTreeShadowGray", this)),
+      frmTreeShadowDarkGray(shadowFrame("frmTreeShadowDarkGray", this))
 {
+    colourShadow();
     m_tree->setParent(this);
     setMinimumWidth(pixels(1500) + besideTree);
     m_tree->raise();
@@ -53,6 +46,21 @@ void TreePane::showTree(bool flag)
                             static_cast<QWidget*>(frmTreeShadowDarkGray), m_tree}) {
         widget->setVisible(flag);
     }
+}
+
+void TreePane::colourShadow()
+{
+    fill(frmTreeShadowWhite, Tone::ShadowWhite);
+    fill(frmTreeShadowGray, Tone::ShadowGray);
+    fill(frmTreeShadowDarkGray, Tone::ShadowDarkGray);
+}
+
+void TreePane::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange) {
+        colourShadow();
+    }
+    QWidget::changeEvent(event);
 }
 
 void TreePane::resizeEvent(QResizeEvent* event)

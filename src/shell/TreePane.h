@@ -17,8 +17,11 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
+    void colourShadow();
+
     QWidget* m_tree;
     QFrame* frmTreeShadowWhite;
     QFrame* frmTreeShadowGray;

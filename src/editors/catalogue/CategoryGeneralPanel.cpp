@@ -5,6 +5,7 @@
 #include "editors/TextArea.h"
 #include "editors/catalogue/ObjectOf.h"
 #include "editors/design/pickers/BrowseImageControl.h"
+#include "look/WordLabel.h"
 #include "model/CategoryClass.h"
 
 #include <QFormLayout>
@@ -17,13 +18,13 @@ using namespace Qt::StringLiterals;
 CategoryGeneralPanel::CategoryGeneralPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
 {
     auto* frame = new PanelFrame(u"Category general properties"_s, this);
-    IdLbl = named(new QLabel(frame), "IdLbl", QString());
+    IdLbl = named(new WordLabel(WordLabel::Kind::Small), "IdLbl", QString());
     CategoryNameTxt = textField(frame);
     CategoryDescriptionTxt = new TextArea(frame);
     BrowseImageControl1 = named(new BrowseImageControl(host, frame), "BrowseImageControl1", u"Picture"_s);
 
     QFormLayout* form = frame->addForm(u"The category"_s, true);
-    form->addRow(IdLbl);
+    setAside(form, IdLbl);
     addField(form, u"Name"_s, CategoryNameTxt, "CategoryNameTxt");
     addField(form, u"Description"_s, CategoryDescriptionTxt, "CategoryDescriptionTxt");
     frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);

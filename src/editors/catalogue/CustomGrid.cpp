@@ -5,6 +5,7 @@
 #include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
 #include "editors/catalogue/GridPictures.h"
+#include "look/Measures.h"
 #include "model/ShopSession.h"
 
 #include <QHeaderView>
@@ -33,8 +34,8 @@ constexpr int besideColumns = pixels(1200); // what the columns of text leave of
 constexpr int besideTaxColumns = pixels(100);
 constexpr std::array chargeWidths = {pixels(2500), pixels(1500), pixels(400), linkWidth};
 constexpr int narrowestColumn = 60; // pixels: with very many columns the grid scrolls
-constexpr int besideTitle = 12;     // pixels of a column that its title does not get
-constexpr int aroundTitle = 8;      // pixels above and below a title
+constexpr int besideTitle = 16;     // pixels of a column that its title does not get
+constexpr int aroundTitle = 12;     // pixels above and below a title
 
 // What stands in a cell of the "Use" column beside its picture.
 enum UseRole { CheckedRole = Qt::UserRole, ModelIndexRole };
@@ -51,10 +52,10 @@ CustomGrid::CustomGrid(PanelHost& host, QWidget* parent)
     BaseGrd->setSelectionMode(QAbstractItemView::SingleSelection);
     BaseGrd->setEditTriggers(QAbstractItemView::NoEditTriggers);
     BaseGrd->setTabKeyNavigation(false);
-    BaseGrd->setAlternatingRowColors(true);
+    BaseGrd->setShowGrid(false); // the style draws the lines between rows
     BaseGrd->setItemDelegate(newGridDelegate(BaseGrd));
     BaseGrd->verticalHeader()->hide();
-    BaseGrd->verticalHeader()->setDefaultSectionSize(BaseGrd->fontMetrics().height() + 12);
+    BaseGrd->verticalHeader()->setDefaultSectionSize(gridRowHeight(BaseGrd->fontMetrics()));
     BaseGrd->horizontalHeader()->setSectionsClickable(false);
     BaseGrd->horizontalHeader()->setHighlightSections(false);
     BaseGrd->horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -62,6 +63,7 @@ CustomGrid::CustomGrid(PanelHost& host, QWidget* parent)
                                                      Qt::Alignment(Qt::TextWordWrap));
     BaseGrd->setMinimumHeight(110);
     BaseGrd->installEventFilter(this);
+    ForGridTxt->setTextMargins(Measure::Tight, 0, Measure::Tight, 0); // over the text of the cell
     ForGridTxt->setMaxLength(std::numeric_limits<int>::max());
     ForGridTxt->installEventFilter(this);
     ForGridTxt->hide();
@@ -256,7 +258,7 @@ void CustomGrid::fitHeader()
         const QRect text = header->fontMetrics().boundingRect(room, Qt::TextWordWrap, title->text());
         textHeight = std::max(textHeight, text.height());
     }
-    header->setFixedHeight(textHeight + aroundTitle);
+    header->setFixedHeight(std::max(textHeight + aroundTitle, gridHeaderHeight(header->fontMetrics())));
 }
 
 // What a click does --------------------------------------------------------------------------------------------------
@@ -318,6 +320,18 @@ void CustomGrid::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     arrangeColumns();
     placeEditor();
+}
+
+void CustomGrid::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::PaletteChange) {
+        for (int row = 0; row < BaseGrd->rowCount(); ++row) {
+            if (QTableWidgetItem* link = BaseGrd->item(row, linkColumn())) {
+                link->setForeground(palette().link());
+            }
+        }
+    }
+    QWidget::changeEvent(event);
 }
 
 void CustomGrid::Hide()

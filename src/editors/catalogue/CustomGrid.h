@@ -58,6 +58,7 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void changeEvent(QEvent* event) override;
 
 private:
     int linkColumn() const { return BaseGrd->columnCount() - 1; }

@@ -7,11 +7,11 @@
 #include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
 #include "editors/catalogue/CustomGrid.h"
+#include "look/Measures.h"
 #include "model/ShopSession.h"
 #include "model/clsDiscount.h"
 
 #include <QButtonGroup>
-#include <QFormLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -65,7 +65,7 @@ void DiscountEditor::makeOptions(PanelFrame* frame)
             const bool isSpecific = m_percent == Percent::Specific;
             m_percentBox = named(new NumericBox(NumericBox::Takes::NormalisedNumber, frame),
                                  isSpecific ? "SpecificTxt" : "ApplyTxt", u"Percent"_s);
-            m_percentBox->setFixedWidth(90);
+            m_percentBox->setFixedWidth(FieldWidth::Number);
             row->addWidget(m_percentBox);
         }
         row->addStretch(1);
@@ -73,7 +73,7 @@ void DiscountEditor::makeOptions(PanelFrame* frame)
             lblInherit = named(new QLabel(frame), "lblInherit", u"What is inherited"_s);
             lblInherit->setWordWrap(true);
             lblInherit->setTextFormat(Qt::PlainText);
-            lblInherit->setIndent(24); // under the caption of its option
+            lblInherit->setIndent(Measure::Box + Measure::Gap); // under the caption of its option
             column->addWidget(lblInherit);
         }
     }
@@ -82,15 +82,24 @@ void DiscountEditor::makeOptions(PanelFrame* frame)
 void DiscountEditor::makeDates(PanelFrame* frame)
 {
     DateMV = new MonthCalendar(m_host.session().clock, frame);
-    QFormLayout* form = frame->addForm(u"Valid from and to, both days included"_s);
     DateFromTxt = new DateField(*DateMV, frame);
     DateToTxt = new DateField(*DateMV, frame);
-    addField(form, u"First day"_s, DateFromTxt, "DateFromTxt");
-    addField(form, u"Last day"_s, DateToTxt, "DateToTxt");
-    for (DateField* field : {DateFromTxt, DateToTxt}) {
-        field->setFixedWidth(140);
+    auto* row = new QHBoxLayout;
+    row->setContentsMargins(0, Measure::Tight, 0, 0);
+    row->setSpacing(Measure::Wide);
+    for (const auto& [field, name, label] :
+         {std::tuple(DateFromTxt, "DateFromTxt", u"First day"_s), {DateToTxt, "DateToTxt", u"Last day"_s}}) {
+        named(field, name, label);
+        field->setFixedWidth(FieldWidth::Date);
         field->setPlaceholderText(u"open"_s);
+        auto* caption = new QLabel(label, frame);
+        caption->setBuddy(field);
+        row->addWidget(caption);
+        row->addWidget(field);
+        row->addSpacing(Measure::Wide);
     }
+    row->addStretch(1);
+    frame->addColumn(u"Valid from and to, both days included"_s)->addLayout(row);
 }
 
 void DiscountEditor::makeBands(PanelFrame* frame)

@@ -6,6 +6,7 @@
 #include "editors/TextArea.h"
 #include "editors/catalogue/ObjectOf.h"
 #include "editors/design/pickers/BrowseImageControl.h"
+#include "look/WordLabel.h"
 #include "model/ProductClass.h"
 
 #include <QCheckBox>
@@ -19,7 +20,7 @@ using namespace Qt::StringLiterals;
 ProductGeneralPanel::ProductGeneralPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
 {
     auto* frame = new PanelFrame(u"Product general properties"_s, this);
-    IdLbl = named(new QLabel(frame), "IdLbl", QString());
+    IdLbl = named(new WordLabel(WordLabel::Kind::Small), "IdLbl", QString());
     ProductNameTxt = textField(frame);
     ProductDescriptionTxt = new TextArea(frame);
     ProductCodeTxt = textField(frame);
@@ -30,13 +31,15 @@ ProductGeneralPanel::ProductGeneralPanel(PanelHost& host, QWidget* parent) : Pan
     BrowseImageControl1 = named(new BrowseImageControl(host, frame), "BrowseImageControl1", u"Picture"_s);
 
     QFormLayout* form = frame->addForm(u"The product"_s, true);
-    form->addRow(IdLbl);
+    setAside(form, IdLbl);
     addField(form, u"Name"_s, ProductNameTxt, "ProductNameTxt");
     addField(form, u"Description"_s, ProductDescriptionTxt, "ProductDescriptionTxt");
     addField(form, u"Code"_s, ProductCodeTxt, "ProductCodeTxt");
     addPriceRow(form);
     addField(form, u"Unit"_s, ProductUnitTxt, "ProductUnitTxt");
     addField(form, u"Link"_s, ProductLinkTxt, "ProductLinkTxt");
+    ProductCodeTxt->setMaximumWidth(FieldWidth::Short);
+    ProductUnitTxt->setMaximumWidth(FieldWidth::Short);
     frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);
     frame->addButtons(host);
 
@@ -50,15 +53,13 @@ ProductGeneralPanel::ProductGeneralPanel(PanelHost& host, QWidget* parent) : Pan
 void ProductGeneralPanel::addPriceRow(QFormLayout* form)
 {
     named(ProductPriceTxt, "ProductPriceTxt", u"Price"_s);
-    ProductPriceTxt->setFixedWidth(140);
-    auto* caption = new QLabel(u"Price"_s, form->parentWidget());
-    caption->setBuddy(ProductPriceTxt);
+    ProductPriceTxt->setFixedWidth(FieldWidth::Number);
     auto* row = new QHBoxLayout;
-    row->setSpacing(18);
+    row->setSpacing(24);
     row->addWidget(ProductPriceTxt);
     row->addWidget(chkForSale);
     row->addStretch(1);
-    form->addRow(caption, row);
+    form->addRow(captionOf(u"Price"_s, ProductPriceTxt), row);
 }
 
 void ProductGeneralPanel::SetActiveObject(const CatalogueObject& object)

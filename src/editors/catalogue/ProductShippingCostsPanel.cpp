@@ -49,7 +49,7 @@ ProductShippingCostsPanel::ProductShippingCostsPanel(PanelHost& host, QWidget* p
     WeightTxt = new NumericBox(NumericBox::Takes::Number, frame);
     QFormLayout* weight = frame->addForm(u"Weight"_s);
     addField(weight, u"Weight (kg)"_s, WeightTxt, "WeightTxt");
-    WeightTxt->setFixedWidth(140);
+    WeightTxt->setFixedWidth(FieldWidth::Number);
     m_costForm = frame->addForm(u"Costs by shipping type"_s);
     addPair();
 
@@ -63,7 +63,7 @@ void ProductShippingCostsPanel::addPair()
     QWidget* group = m_costForm->parentWidget();
     auto* label = named(new QLabel(group), "ShippingTypeNameLbl", QString());
     auto* box = named(textField(group), "ShippingTypeCostTxt", QString());
-    box->setFixedWidth(140);
+    box->setFixedWidth(FieldWidth::Number);
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(box);
     m_costForm->addRow(label, box);

@@ -7,6 +7,7 @@
 #include "editors/PanelHost.h"
 #include "editors/catalogue/ObjectOf.h"
 #include "editors/catalogue/RelatedProducts.h"
+#include "look/TreeLook.h"
 #include "model/ShopSession.h"
 
 #include <QGridLayout>
@@ -23,7 +24,7 @@ namespace {
 
 const QString productPrefix = u"PROD"_s;
 
-QLabel* captionOf(QWidget* field, const QString& text)
+QLabel* listCaption(QWidget* field, const QString& text)
 {
     auto* caption = new QLabel(text, field->parentWidget());
     caption->setBuddy(field);
@@ -45,30 +46,21 @@ ProductsRelatedPanel::ProductsRelatedPanel(PanelHost& host, QWidget* parent)
     AllProductsTree->setMinimumWidth(180);
     AllProductsTree->setModel(m_nodes);
     // The pictures of the nodes are drawn for a dark ground.
-    QPalette colours = AllProductsTree->palette();
-    const QColor ground = colours.color(QPalette::Highlight);
-    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
-        colours.setColor(group, QPalette::Base, ground);
-        for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText}) { // the second is the branches'
-            colours.setColor(group, role, colours.color(QPalette::HighlightedText));
-        }
-        colours.setColor(group, QPalette::Highlight, ground.darker(190));
-    }
-    AllProductsTree->setPalette(colours);
+    dressTree(*AllProductsTree);
+    setTreeGround(*AllProductsTree);
     auto* ToRelatedLbl = new LinkLabel("ToRelatedLbl", u"Add >"_s, frame);
     auto* FromRelatedLbl = new LinkLabel("FromRelatedLbl", u"< Remove"_s, frame);
     RelatedProductsLst = named(new QListView(frame), "RelatedProductsLst", u"Related to this product"_s);
     RelatedProductsLst->setUniformItemSizes(true);
-    RelatedProductsLst->setSpacing(1);
     RelatedProductsLst->setMinimumWidth(140);
     RelatedProductsLst->setModel(m_related);
 
     auto* grid = new QGridLayout;
-    grid->addWidget(captionOf(AllProductsTree, u"All products"_s), 0, 0);
+    grid->addWidget(listCaption(AllProductsTree, u"All products"_s), 0, 0);
     grid->addWidget(AllProductsTree, 1, 0, 4, 1);
     grid->addWidget(ToRelatedLbl, 2, 1);
     grid->addWidget(FromRelatedLbl, 3, 1);
-    grid->addWidget(captionOf(RelatedProductsLst, u"Related to this product"_s), 0, 2);
+    grid->addWidget(listCaption(RelatedProductsLst, u"Related to this product"_s), 0, 2);
     grid->addWidget(RelatedProductsLst, 1, 2, 4, 1);
     grid->setRowStretch(1, 1);
     grid->setRowStretch(4, 1);

@@ -5,6 +5,8 @@
 #include "editors/PanelHost.h"
 #include "editors/TextArea.h"
 #include "editors/catalogue/ObjectOf.h"
+#include "look/Measures.h"
+#include "look/WordLabel.h"
 #include "model/ShopSession.h"
 
 #include <QFormLayout>
@@ -18,7 +20,7 @@ using namespace Qt::StringLiterals;
 ShopGeneralPanel::ShopGeneralPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
 {
     auto* frame = new PanelFrame(u"Shop general properties"_s, this);
-    IdLbl = named(new QLabel(frame), "IdLbl", QString());
+    IdLbl = named(new WordLabel(WordLabel::Kind::Small), "IdLbl", QString());
     ShopNameTxt = textField(frame);
     txtCurrency = textField(frame);
     ShopDescriptionTxt = new TextArea(frame);
@@ -27,15 +29,16 @@ ShopGeneralPanel::ShopGeneralPanel(PanelHost& host, QWidget* parent) : Panel(par
     auto* lblClearAll = new LinkLabel("lblClearAll", u"Clear all"_s, frame);
 
     QFormLayout* form = frame->addForm(u"The shop"_s);
-    form->addRow(IdLbl);
+    setAside(form, IdLbl);
     addField(form, u"Name"_s, ShopNameTxt, "ShopNameTxt");
     addField(form, u"Currency"_s, txtCurrency, "txtCurrency");
     addField(form, u"Description"_s, ShopDescriptionTxt, "ShopDescriptionTxt");
     QVBoxLayout* countries = frame->addColumn(u"Countries that the shop delivers to"_s, true);
     lstCountries->setMinimumHeight(120);
-    lstCountries->setSpacing(2);
+    txtCurrency->setMaximumWidth(FieldWidth::Short);
     countries->addWidget(lstCountries, 1);
     auto* links = new QHBoxLayout;
+    links->setSpacing(Measure::Section);
     links->addWidget(lblCheckAll);
     links->addWidget(lblClearAll);
     links->addStretch(1);

@@ -4,6 +4,7 @@
 #include "editors/PanelHost.h"
 #include "editors/design/FontAndColorEditorPanel.h"
 #include "editors/design/pickers/DialogButtons.h"
+#include "look/Measures.h"
 #include "model/ShopSession.h"
 
 #include <QVBoxLayout>
@@ -18,8 +19,9 @@ CSSManagementForm::CSSManagementForm(PanelHost& host, QWidget* parent)
     FontAndColorEditorPanel1->setObjectName(u"FontAndColorEditorPanel1"_s);
     const DialogButtons buttons = makeDialogButtons(this);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 16, 16, 16);
-    column->setSpacing(14);
+    column->setContentsMargins(Measure::DialogMargin, Measure::DialogMargin, Measure::DialogMargin,
+                               Measure::DialogMargin);
+    column->setSpacing(Measure::Section);
     column->addWidget(FontAndColorEditorPanel1);
     column->addLayout(buttons.row);
 

@@ -6,12 +6,12 @@
 
 namespace {
 
-constexpr int columnGap = 18; // pixels
-constexpr int rowGap = 7;
+constexpr int columnGap = 16; // pixels
 
 } // namespace
 
-ColumnGrid::ColumnGrid(int mostColumns, QWidget* parent) : QWidget(parent), m_mostColumns(mostColumns)
+ColumnGrid::ColumnGrid(int mostColumns, int rowGap, QWidget* parent)
+    : QWidget(parent), m_mostColumns(mostColumns), m_rowGap(rowGap)
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
 }
@@ -74,7 +74,7 @@ QSize ColumnGrid::sizeOf(int columns) const
     const int rows = (count + columns - 1) / columns;
     const QSize one = cell();
     return {std::max(0, columns * (one.width() + columnGap) - columnGap),
-            std::max(0, rows * (one.height() + rowGap) - rowGap)};
+            std::max(0, rows * (one.height() + m_rowGap) - m_rowGap)};
 }
 
 void ColumnGrid::arrange()
@@ -84,7 +84,7 @@ void ColumnGrid::arrange()
     const int step = (width() + columnGap) / columns;
     for (std::size_t i = 0; i < m_widgets.size(); ++i) {
         const int place = static_cast<int>(i);
-        m_widgets[i]->setGeometry(place % columns * step, place / columns * (height + rowGap), step - columnGap,
+        m_widgets[i]->setGeometry(place % columns * step, place / columns * (height + m_rowGap), step - columnGap,
                                   height);
     }
 }

@@ -11,8 +11,8 @@ class ColumnGrid : public QWidget
     Q_OBJECT
 
 public:
-    // Never more columns than that.
-    ColumnGrid(int mostColumns, QWidget* parent);
+    // Never more columns than that; so many pixels between its rows.
+    ColumnGrid(int mostColumns, int rowGap, QWidget* parent);
 
     // The grid owns the widget afterwards.
     void add(QWidget* widget);
@@ -36,4 +36,5 @@ private:
 
     std::vector<QWidget*> m_widgets;
     int m_mostColumns;
+    int m_rowGap;
 };

@@ -5,10 +5,11 @@
 #include "design/PageTable.h"
 #include "editors/PanelHost.h"
 #include "editors/design/PageOptions.h"
+#include "look/Measures.h"
+#include "look/Section.h"
 #include "model/ShopSession.h"
 
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -67,7 +68,6 @@ QWidget* CustomPageManager::makeEditor()
 {
     CustomPagesListCtl->setObjectName(u"CustomPagesListCtl"_s);
     CustomPagesListCtl->setAccessibleName(u"Pages"_s); // a list takes none from its caption
-    CustomPagesListCtl->setSpacing(1);
     AddPageBtn->setObjectName(u"AddPageBtn"_s);
     DeletePageBtn->setObjectName(u"DeletePageBtn"_s);
     PageNameTextCtl->setObjectName(u"PageNameTextCtl"_s);
@@ -75,7 +75,7 @@ QWidget* CustomPageManager::makeEditor()
     PageContentTextCtl->setTabChangesFocus(true);
     PageContentTextCtl->setMinimumHeight(140);
 
-    auto* group = new QGroupBox(u"Your pages"_s, this);
+    auto* group = new Section(u"Your pages"_s, this);
     const auto caption = [group](const QString& text, QWidget* field) {
         auto* label = new QLabel(text, group);
         label->setBuddy(field);
@@ -86,9 +86,9 @@ QWidget* CustomPageManager::makeEditor()
     buttons->addWidget(AddPageBtn);
     buttons->addWidget(DeletePageBtn);
     auto* grid = new QGridLayout(group);
-    grid->setContentsMargins(14, 10, 14, 14);
-    grid->setHorizontalSpacing(18);
-    grid->setVerticalSpacing(6);
+    grid->setContentsMargins(0, Measure::Tight, 0, 0);
+    grid->setHorizontalSpacing(Measure::Section);
+    grid->setVerticalSpacing(Measure::Tight);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(3, 1);
     grid->addWidget(caption(u"&Pages"_s, CustomPagesListCtl), 0, 0);

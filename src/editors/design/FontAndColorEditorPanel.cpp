@@ -5,6 +5,8 @@
 #include "design/CSSClass.h"
 #include "editors/PanelHost.h"
 #include "editors/design/ColourText.h"
+#include "look/Measures.h"
+#include "look/SwatchButton.h"
 #include "model/ShopSession.h"
 
 #include <QCheckBox>
@@ -77,9 +79,9 @@ FontAndColorEditorPanel::FontAndColorEditorPanel(PanelHost& host, QWidget* paren
     around->addWidget(Frame1);
 
     auto* form = new QFormLayout(Frame1);
-    form->setContentsMargins(16, 12, 16, 14);
-    form->setHorizontalSpacing(14);
-    form->setVerticalSpacing(10);
+    form->setContentsMargins(Measure::Section, Measure::Gap, Measure::Section, Measure::Section);
+    form->setHorizontalSpacing(Measure::Section);
+    form->setVerticalSpacing(Measure::Gap);
     makeFontRow();
     makeColourRow(host);
 
@@ -132,7 +134,7 @@ void FontAndColorEditorPanel::makeColourRow(PanelHost& host)
     using Setter = void (FontAndColorEditorPanel::*)(const QString&);
     const auto colourButton = [&](const char* name, const QString& caption, const QString& accessibleName,
                                   const QString& colour, Setter set) {
-        auto* button = new QPushButton(Frame1);
+        auto* button = new SwatchButton(Frame1);
         button->setObjectName(QLatin1String(name));
         button->setAccessibleName(accessibleName);
         button->setIconSize(SwatchIconSize);

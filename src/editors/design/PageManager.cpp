@@ -6,27 +6,14 @@
 #include "editors/design/ManagerTables.h"
 #include "editors/design/PageOptions.h"
 #include "editors/design/TemplatePart.h"
+#include "look/Measures.h"
+#include "look/WordLabel.h"
 #include "model/ShopSession.h"
 
-#include <QLabel>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-QLabel* newHeading(const QString& text, QWidget* parent)
-{
-    auto* heading = new QLabel(text, parent);
-    QFont font = heading->font();
-    font.setPointSizeF(font.pointSizeF() * 1.4);
-    font.setBold(true);
-    heading->setFont(font);
-    return heading;
-}
-
-} // namespace
 
 PageManager::PageManager(PanelHost& host, ShopPage page, QWidget* parent)
     : Panel(parent),
@@ -39,13 +26,14 @@ PageManager::PageManager(PanelHost& host, ShopPage page, QWidget* parent)
     const QString heading = captionText(m_table.heading);
     setAccessibleName(heading);
     m_tabs->setObjectName(u"PagesTab"_s);
+    m_tabs->setDocumentMode(true);
     m_tabs->addTab(new ScrollColumn(m_options, m_tabs), u"Page"_s);
     m_tabs->addTab(m_template, u"Template"_s);
 
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 12, 16, 12);
-    column->setSpacing(10);
-    column->addWidget(newHeading(heading, this));
+    column->setContentsMargins(Measure::Section, Measure::Wide, Measure::Section, Measure::Wide);
+    column->setSpacing(Measure::Wide);
+    column->addWidget(new WordLabel(WordLabel::Kind::Title, heading, this));
     column->addWidget(m_tabs, 1);
     column->addWidget(new SubmitReset(host, this));
 }

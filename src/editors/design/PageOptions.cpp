@@ -9,11 +9,14 @@
 #include "editors/design/frmSelectImageOrText.h"
 #include "editors/design/pickers/frmSelectedCustomPages.h"
 #include "editors/design/pickers/ucSelectCustPage.h"
+#include "look/Measures.h"
+#include "look/Section.h"
+#include "look/SwatchButton.h"
+#include "look/WordLabel.h"
 #include "model/ShopSession.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -64,8 +67,8 @@ QString describe(const clsSelectedCustomPages& pages)
 PageOptions::PageOptions(PanelHost& host, const ManagerTable& table, QWidget* parent)
     : QWidget(parent), m_host(host), m_table(table), m_column(new QVBoxLayout(this))
 {
-    m_column->setContentsMargins(14, 12, 14, 12);
-    m_column->setSpacing(12);
+    m_column->setContentsMargins(0, Measure::Wide, Measure::Tight, Measure::Wide);
+    m_column->setSpacing(Measure::Wide);
     for (const OptionGroup& group : table.groups) {
         makeGroup(group);
     }
@@ -78,10 +81,11 @@ PageOptions::PageOptions(PanelHost& host, const ManagerTable& table, QWidget* pa
 
 QVBoxLayout* PageOptions::newGroup(const QString& caption)
 {
-    auto* box = new QGroupBox(caption, this);
+    const bool isFirst = m_column->count() == 0; // the line below the tabs serves it
+    auto* box = new Section(caption, this, isFirst ? Section::Line::None : Section::Line::Above);
     auto* column = new QVBoxLayout(box);
-    column->setContentsMargins(14, 10, 14, 14);
-    column->setSpacing(9);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(Measure::Tight);
     m_column->addWidget(box);
     return column;
 }
@@ -97,7 +101,7 @@ QPushButton* PageOptions::namedButton(const char* name, const QString& caption)
 void PageOptions::makeGroup(const OptionGroup& group)
 {
     QVBoxLayout* column = newGroup(captionText(group.caption));
-    auto* grid = new ColumnGrid(mostColumns, this);
+    auto* grid = new ColumnGrid(mostColumns, 0, this);
     for (const SwitchRow& row : group.switches) {
         auto* box = new QCheckBox(captionText(row.caption), grid);
         box->setObjectName(QLatin1String(row.control));
@@ -107,7 +111,8 @@ void PageOptions::makeGroup(const OptionGroup& group)
     column->addWidget(grid);
 
     auto* form = new QFormLayout;
-    form->setHorizontalSpacing(14);
+    form->setHorizontalSpacing(Measure::Wide);
+    form->setVerticalSpacing(Measure::Gap);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     for (const TextRow& row : group.texts) {
         auto* field = new QLineEdit(this);
@@ -115,6 +120,7 @@ void PageOptions::makeGroup(const OptionGroup& group)
         field->setMaximumWidth(row.width);
         auto* caption = new QLabel(captionText(row.caption), this);
         caption->setBuddy(field);
+        caption->setMinimumHeight(controlHeight(caption->fontMetrics()));
         form->addRow(caption, field);
         m_texts.emplace_back(row.option, field);
     }
@@ -123,9 +129,8 @@ void PageOptions::makeGroup(const OptionGroup& group)
 
 QLabel* PageOptions::addChoice(QGridLayout* grid, QPushButton* button)
 {
-    auto* label = new QLabel(this);
+    auto* label = new WordLabel(WordLabel::Kind::Quiet, {}, this);
     label->setObjectName(button->objectName() + u"Value"_s);
-    label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     const int row = grid->rowCount();
     grid->addWidget(button, row, 0);
@@ -139,8 +144,9 @@ void PageOptions::makeImagesAndLists()
         return;
     }
     auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(14);
-    grid->setVerticalSpacing(8);
+    grid->setContentsMargins(0, Measure::Gap, 0, 0);
+    grid->setHorizontalSpacing(Measure::Section);
+    grid->setVerticalSpacing(Measure::Gap);
     grid->setColumnStretch(1, 1);
     newGroup(m_table.lists.empty() ? u"Buttons"_s : u"Buttons and links"_s)->addLayout(grid);
     for (const SlotRow& row : m_table.imageSlots) {
@@ -162,11 +168,13 @@ void PageOptions::makeImagesAndLists()
 void PageOptions::makeStyles()
 {
     QVBoxLayout* column = newGroup(u"Colours and fonts"_s);
-    m_styleGroup = qobject_cast<QGroupBox*>(column->parentWidget());
-    auto* grid = new ColumnGrid(mostColumns, m_styleGroup);
+    column->setContentsMargins(0, Measure::Gap, 0, 0);
+    m_styleGroup = column->parentWidget();
+    auto* grid = new ColumnGrid(mostColumns, Measure::Gap, m_styleGroup);
     column->addWidget(grid);
     for (const StyleRow& row : m_table.styles) {
-        QPushButton* button = namedButton(row.style, captionText(row.caption));
+        auto* button = new SwatchButton(captionText(row.caption), this);
+        button->setAutoDefault(false);
         button->setObjectName(u"btnCSS_"_s + QLatin1String(row.style));
         button->setIconSize(SwatchIconSize);
         grid->add(button);

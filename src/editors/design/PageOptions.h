@@ -14,7 +14,6 @@
 class PanelHost;
 class QCheckBox;
 class QGridLayout;
-class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -57,7 +56,7 @@ private:
     PanelHost& m_host;
     const ManagerTable& m_table;
     QVBoxLayout* m_column;
-    QGroupBox* m_styleGroup = nullptr;
+    QWidget* m_styleGroup = nullptr;
     frmSelectedCustomPages* m_pagesForm = nullptr;
     // In the order of the table's rows.
     std::vector<std::pair<DesignOption, QCheckBox*>> m_switches;

@@ -6,6 +6,7 @@
 #include "editors/PanelHost.h"
 #include "editors/design/ManagerTables.h"
 #include "editors/design/TemplateEditor.h"
+#include "look/Measures.h"
 #include "model/ShopSession.h"
 #include "template_engine/Templates_Set.h"
 
@@ -36,8 +37,8 @@ TemplatePart::TemplatePart(PanelHost& host, const ManagerTable& table, QWidget* 
     buttons->addWidget(RestoreTemplateBtn);
     buttons->addStretch(1);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(14, 12, 14, 12);
-    column->setSpacing(10);
+    column->setContentsMargins(0, Measure::Gap, 0, 0);
+    column->setSpacing(Measure::Gap);
     column->addWidget(AdvancedCh);
     column->addWidget(m_editor, 1);
     column->addLayout(buttons);

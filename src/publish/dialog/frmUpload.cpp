@@ -93,12 +93,13 @@ void frmUpload::layOutControls()
     fields->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     fields->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     fields->setHorizontalSpacing(16);
-    fields->setVerticalSpacing(10);
+    fields->setVerticalSpacing(8);
     fields->addRow(u"ADDRESS"_s, txtURL); // makes the label the field's own
     fields->addRow(u"LOGIN"_s, txtLogin);
     fields->addRow(u"PASSWORD"_s, txtPassword);
 
     auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(8);
     buttons->addStretch();
     buttons->addWidget(OkBtn);
     buttons->addWidget(CancelBtn);
@@ -109,8 +110,8 @@ void frmUpload::layOutControls()
     ProgressBar->setSizePolicy(policy);
 
     auto* all = new QVBoxLayout(this);
-    all->setContentsMargins(20, 18, 20, 16);
-    all->setSpacing(14);
+    all->setContentsMargins(20, 20, 20, 20);
+    all->setSpacing(12);
     all->addLayout(fields);
     all->addWidget(lblSignUp, 0, Qt::AlignLeft);
     all->addWidget(ProgressBar);
