@@ -6,6 +6,7 @@
 #include "base/Clock.h"
 #include "base/FileBytes.h"
 #include "editors/Panel.h"
+#include "look/Theme.h"
 #include "model/CategoryClass.h"
 #include "model/ProductClass.h"
 #include "model/shop_file/ShopFile.h"
@@ -15,7 +16,6 @@
 #include "shell/MainForm.h"
 #include "shell/ShortcartButton.h"
 #include "shell/StartUp.h"
-#include "look/Theme.h"
 
 #include <QAction>
 #include <QApplication>

@@ -8,11 +8,11 @@
 #include "NoPrompts.h"
 #include "base/Clock.h"
 #include "base/FileBytes.h"
+#include "look/Theme.h"
 #include "model/shop_file/ShopFile.h"
 #include "shell/BrowserPreview.h"
 #include "shell/MainForm.h"
 #include "shell/StartUp.h"
-#include "look/Theme.h"
 #include "shell/browser/PreviewBrowser.h"
 
 #include <QApplication>

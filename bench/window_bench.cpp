@@ -10,12 +10,12 @@
 #include "Ratios.h"
 #include "base/Clock.h"
 #include "editors/EditorIcon.h"
+#include "look/TreeLook.h"
 #include "pages/preview/PreviewSurface.h"
 #include "shell/CatalogueTree.h"
 #include "shell/ImportIntoTree.h"
 #include "shell/MainForm.h"
 #include "shell/StartUp.h"
-#include "look/TreeLook.h"
 
 #include <QApplication>
 #include <QDir>

@@ -133,7 +133,6 @@ void MonthCalendar::dress()
     QTextCharFormat heads;
     heads.setForeground(tone(Tone::Muted));
     setHeaderTextFormat(heads);
-    m_days->setMinimumHeight(7 * rowHeight(fontMetrics()));
 }
 
 void MonthCalendar::paintCell(QPainter* painter, const QRect& room, QDate date) const
@@ -165,11 +164,19 @@ void MonthCalendar::changeEvent(QEvent* event)
     QCalendarWidget::changeEvent(event);
 }
 
+// Seven rows of seven days below the bar.
+QSize MonthCalendar::sizeOfMonth() const
+{
+    const auto* bar = findChild<const QWidget*>(u"qt_calendar_navigationbar"_s);
+    const int row = rowHeight(fontMetrics());
+    return {7 * (row + Measure::Section) + 2, bar->sizeHint().height() + 7 * row + 2};
+}
+
 void MonthCalendar::openUnder(QLineEdit& field)
 {
     m_field = &field;
     setSelectedDate(dateIn(field.text()).value_or(m_clock.today()));
-    adjustSize();
+    setFixedSize(sizeOfMonth());
     QPoint place = field.mapToGlobal(QPoint(0, field.height()));
     if (const QScreen* screen = field.screen()) {
         // Inside the screen, when there is no room below.

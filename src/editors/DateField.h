@@ -50,6 +50,7 @@ protected:
 
 private:
     void dress();
+    QSize sizeOfMonth() const;
 
     const Clock& m_clock;
     QAbstractItemView* m_days = nullptr; // the part with the keyboard's focus

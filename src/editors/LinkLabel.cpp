@@ -9,7 +9,7 @@
 namespace {
 
 // Pixels beside the text, room for the focus ring.
-constexpr int sideMargin = 4;
+constexpr int sideMargin = 3;
 
 } // namespace
 

@@ -93,7 +93,8 @@ QLabel* captionOf(const QString& label, QWidget* field)
 {
     auto* caption = new QLabel(label, field->parentWidget());
     caption->setBuddy(field);
-    caption->setMinimumSize(leastLabelColumn - Measure::Wide, controlHeight(caption->fontMetrics()));
+    caption->setMinimumWidth(leastLabelColumn - Measure::Wide);
+    caption->setFixedHeight(controlHeight(caption->fontMetrics())); // on the middle of the field, or of its first line
     return caption;
 }
 

@@ -36,8 +36,9 @@ void paintHeaderLabel(const QStyleOptionHeader& option, QPainter& painter, const
     painter.setFont(boldFont());
     const bool isOn = option.state.testFlag(QStyle::State_Enabled);
     painter.setPen(tone(isOn ? Tone::Text : Tone::Off));
-    style.drawItemText(&painter, option.rect, static_cast<int>(option.textAlignment), option.palette, isOn,
-                       option.text);
+    const bool isCentred = option.textAlignment.testFlag(Qt::AlignHCenter);
+    const QRect words = option.rect.adjusted(isCentred ? 0 : Measure::Wide, 0, isCentred ? 0 : -Measure::Tight, 0);
+    style.drawItemText(&painter, words, static_cast<int>(option.textAlignment), option.palette, isOn, option.text);
     painter.restore();
 }
 
@@ -179,20 +180,16 @@ void ShopStyle::drawControl(ControlElement element, const QStyleOption* option, 
             return;
         }
         break;
-    case CE_HeaderSection:
-    case CE_HeaderEmptyArea:
+    case CE_Header:
         if (const auto* header = as<QStyleOptionHeader>(option)) {
             paintHeaderSection(*header, *painter);
-        } else {
-            painter->fillRect(option->rect, tone(Tone::Header));
-        }
-        return;
-    case CE_HeaderLabel:
-        if (const auto* header = as<QStyleOptionHeader>(option)) {
             paintHeaderLabel(*header, *painter, *this);
             return;
         }
         break;
+    case CE_HeaderEmptyArea:
+        fillSharp(*painter, option->rect, tone(Tone::Header));
+        return;
     case CE_TabBarTabShape:
         if (const auto* tab = as<QStyleOptionTab>(option)) {
             paintTab(*tab, *painter);
@@ -266,6 +263,14 @@ void ShopStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
     case CC_GroupBox:
         if (const auto* box = as<QStyleOptionGroupBox>(option)) {
             paintGroupBox(*box, *painter);
+            return;
+        }
+        break;
+    case CC_ToolButton:
+        if (const auto* button = as<QStyleOptionToolButton>(option)) {
+            QStyleOptionToolButton plain = *button;
+            plain.features &= ~QStyleOptionToolButton::HasMenu; // no angle over the end of its words
+            QProxyStyle::drawComplexControl(control, &plain, painter, widget);
             return;
         }
         break;

@@ -179,8 +179,6 @@ int ShopStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_CheckBoxLabelSpacing:
     case PM_RadioButtonLabelSpacing:
         return Measure::Gap;
-    case PM_HeaderMargin:
-        return Measure::Wide;
     case PM_FocusFrameHMargin:
         return cellMargin(widget);
     case PM_TreeViewIndentation:

@@ -45,7 +45,8 @@ void paintBar(const QStyleOptionViewItem& option, QPainter& painter)
 
 bool hasOwnSelection(const QPalette& palette)
 {
-    return palette.color(QPalette::Active, QPalette::Highlight) != tone(Tone::Accent);
+    const QColor chosen = palette.color(QPalette::Active, QPalette::Highlight);
+    return chosen != tone(Tone::Accent) && chosen != tone(Tone::Soft); // the second is that of a cell
 }
 
 QPalette cellPalette(const QPalette& palette)

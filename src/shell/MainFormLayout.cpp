@@ -175,7 +175,7 @@ void MainFormLayout::makeButtons(const ApplicationFolder& folder, LoadLog& log)
         if (auto* grid = qobject_cast<QGridLayout*>(frame->layout())) {
             grid->addWidget(button, place / designMenuColumns, place % designMenuColumns);
         } else {
-            qobject_cast<QHBoxLayout*>(frame->layout())->insertWidget(place, button);
+            qobject_cast<QHBoxLayout*>(frame->layout())->insertWidget(place, button, 0, Qt::AlignTop);
         }
         buttons.insert(row.name, button);
     }

@@ -21,6 +21,7 @@ namespace {
 
 constexpr int pictureSize = 48; // pixels a side at 100%
 constexpr int leastWidth = 108;
+constexpr int longestLine = 112; // a title that is longer stands in two lines
 constexpr int leastHeight = 80;
 constexpr int besideTitle = Measure::Tight;
 constexpr int titleTop = pictureSize;
@@ -90,11 +91,13 @@ QSize ShortcartButton::sizeHint() const
 {
     const QFontMetrics metrics = TitleLbl->fontMetrics();
     int words = metrics.horizontalAdvance(m_title);
-    for (qsizetype blank = m_title.indexOf(u' '); blank >= 0; blank = m_title.indexOf(u' ', blank + 1)) {
+    const bool isLong = words > longestLine;
+    for (qsizetype blank = m_title.indexOf(u' '); isLong && blank >= 0; blank = m_title.indexOf(u' ', blank + 1)) {
         words = std::min(words, std::max(metrics.horizontalAdvance(m_title.first(blank)),
                                          metrics.horizontalAdvance(m_title.sliced(blank + 1))));
     }
-    return {std::max(leastWidth, words + 2 * besideTitle),
+    // The label breaks its lines a little early.
+    return {std::max(leastWidth, words + 2 * besideTitle + 2),
             std::max(leastHeight, titleTop + 2 * metrics.lineSpacing() + belowTitle)};
 }
 

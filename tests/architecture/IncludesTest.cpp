@@ -33,6 +33,7 @@ const QMap<QString, QStringList>& allowedFolders()
                                            u"editors"_s};
     static const QMap<QString, QStringList> table = {
         {u"base"_s, {}},
+        {u"look"_s, {}},
         {u"template_engine"_s, {u"base"_s}},
         {u"design"_s, {u"base"_s}},
         {u"model"_s, {u"design"_s, u"base"_s}},
@@ -42,12 +43,12 @@ const QMap<QString, QStringList>& allowedFolders()
         {u"pages"_s, {u"model"_s, u"design"_s, u"template_engine"_s, u"base"_s}},
         {u"pages/preview"_s, {u"pages"_s, u"model"_s, u"design"_s, u"template_engine"_s, u"base"_s}},
         {u"publish/dialog"_s, {u"publish"_s, u"design"_s, u"base"_s}},
-        {u"editors"_s, withoutWindows},
-        {u"editors/design/pickers"_s, QStringList{u"editors"_s} + withoutWindows},
-        {u"editors/design"_s, QStringList{u"editors/design/pickers"_s, u"editors"_s} + withoutWindows},
-        {u"editors/catalogue"_s, QStringList{u"editors/design/pickers"_s, u"editors"_s} + withoutWindows},
+        {u"editors"_s, QStringList{u"look"_s} + withoutWindows},
+        {u"editors/design/pickers"_s, QStringList{u"editors"_s, u"look"_s} + withoutWindows},
+        {u"editors/design"_s, QStringList{u"editors/design/pickers"_s, u"editors"_s, u"look"_s} + withoutWindows},
+        {u"editors/catalogue"_s, QStringList{u"editors/design/pickers"_s, u"editors"_s, u"look"_s} + withoutWindows},
         {u"shell/browser"_s, {u"pages/preview"_s, u"base"_s}},
-        {u"shell"_s, QStringList{u"shell/browser"_s, u"publish/dialog"_s} + allEditors + withoutWindows},
+        {u"shell"_s, QStringList{u"shell/browser"_s, u"publish/dialog"_s, u"look"_s} + allEditors + withoutWindows},
     };
     return table;
 }
@@ -144,9 +145,9 @@ TEST(Architecture, OnlyTheFoldersWithWindowsUseWidgets)
     const QStringList names = widgetHeaders.entryList(QDir::Files);
     ASSERT_GT(names.size(), 100);
     const QSet<QString> widgets(names.begin(), names.end());
-    const QStringList withWindows = {u"editors"_s,           u"editors/design/pickers"_s, u"editors/design"_s,
-                                     u"editors/catalogue"_s, u"publish/dialog"_s,         u"shell"_s,
-                                     u"shell/browser"_s};
+    const QStringList withWindows = {u"look"_s,           u"editors"_s,           u"editors/design/pickers"_s,
+                                     u"editors/design"_s, u"editors/catalogue"_s, u"publish/dialog"_s,
+                                     u"shell"_s,          u"shell/browser"_s};
     for (const Include& include : allIncludes()) {
         const QString header = include.header.section(u'/', -1);
         const bool windowHeader = !include.own && (widgets.contains(header) || include.header.startsWith(u"QtWidgets"));

@@ -120,7 +120,7 @@ void PageOptions::makeGroup(const OptionGroup& group)
         field->setMaximumWidth(row.width);
         auto* caption = new QLabel(captionText(row.caption), this);
         caption->setBuddy(field);
-        caption->setMinimumHeight(controlHeight(caption->fontMetrics()));
+        caption->setFixedHeight(controlHeight(caption->fontMetrics()));
         form->addRow(caption, field);
         m_texts.emplace_back(row.option, field);
     }
