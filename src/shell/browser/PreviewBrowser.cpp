@@ -155,8 +155,8 @@ void PreviewBrowser::showDocument()
 
 bool PreviewBrowser::endProcess() const
 {
-    const auto process = static_cast<pid_t>(m_page->renderProcessPid());
-    return process > 0 && endProcess(process);
+    const qint64 process = m_page->renderProcessPid();
+    return process > 0 && ::endProcess(process);
 }
 
 void PreviewBrowser::processEnded()
