@@ -225,8 +225,9 @@ void MainForm::SetMode(qint16 mode)
 // The button of the mode, and the one that leads to the panel on screen.
 void MainForm::markCurrentButtons()
 {
-    const std::pair<const char*, qint16> modeButtons[] = {
-        {"ProductCatalogSBtn", CatalogueMode}, {"ShopDesignSBtn", DesignMode}, {"PreviewBrowserSBtn", PreviewMode}};
+    const std::pair<ButtonName, qint16> modeButtons[] = {{ButtonName::ProductCatalogSBtn, CatalogueMode},
+                                                         {ButtonName::ShopDesignSBtn, DesignMode},
+                                                         {ButtonName::PreviewBrowserSBtn, PreviewMode}};
     for (const auto& [name, mode] : modeButtons) {
         button(name)->setCurrent(WorkMode == mode);
     }

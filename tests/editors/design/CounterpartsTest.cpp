@@ -17,7 +17,7 @@ TEST_F(Counterparts, EveryPageWithAnAdvancedOptionHasItsManagerOnePanelAndOneBut
 {
     openDesign();
     const QList<PageManager*> panels = window->findChildren<PageManager*>();
-    const QHash<QString, ShortcartButton*> buttons = window->parts().buttons;
+    const auto buttons = window->parts().buttons;
     for (const PageRow& row : pageTable()) {
         SCOPED_TRACE(row.name.data());
         const auto isItsPanel = [&](const PageManager* panel) { return panel->page() == row.page; };
