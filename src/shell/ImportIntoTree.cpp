@@ -18,21 +18,18 @@ ImportIntoTree::ImportIntoTree(MainForm& window) : m_window(window), m_formerCal
     if (tree.rootNode()) {
         collect(tree.rootNode());
     }
+    // A category whose node has gone with another one's has no place in the tree for what is imported into it.
     SessionCallbacks& callbacks = m_window.session().callbacks;
     callbacks.AddCategoryToTheTree = [this](const std::shared_ptr<CategoryClass>& parent,
                                             const std::shared_ptr<CategoryClass>& category) {
         if (TreeNode* above = nodeOf(parent.get())) {
             m_nodes.insert(category.get(), m_window.AddCategoryToTheTree(above, category));
-        } else {
-            m_window.session().objects.Add(category, nodeKey(category->id));
         }
     };
     callbacks.AddProductToTheTree = [this](const std::shared_ptr<CategoryClass>& category,
                                            const std::shared_ptr<ProductClass>& product) {
         if (TreeNode* above = nodeOf(category.get())) {
             m_window.AddProductToTheTree(above, product);
-        } else {
-            m_window.session().objects.Add(product, nodeKey(product->id));
         }
     };
     tree.beginAppending();

@@ -317,9 +317,10 @@ TEST_F(MainWindow, ReloadsThePanelOnReset)
     window->ShowFrame(nullptr, 0);
 }
 
-TEST_F(MainWindow, OpensAtItsOwnSizeOrAtTheScreens)
+TEST_F(MainWindow, OpensAtItsOwnSizeOrAtWhatTheScreenLeavesInsideAFrame)
 {
-    const QSize expected = QSize(1190, 855).boundedTo(window->screen()->availableSize());
+    const QSize frame(16, 40);
+    const QSize expected = QSize(1190, 855).boundedTo(window->screen()->availableSize() - frame);
     EXPECT_EQ(window->size(), expected);
     EXPECT_EQ(window->pos(), QPoint(0, 0));
 }
