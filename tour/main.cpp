@@ -68,7 +68,7 @@ int main(int argc, char** argv)
         showScheme(Scheme::Dark);
     }
     TourPrompts prompts;
-    FatalErrorBox errors(prompts);
+    FatalErrorBox errors(prompts, [] { return false; });
     guarded(errors, [&] { Tour(options.folder, options.size, prompts, errors).walk(options.withPages); });
     return 0;
 }

@@ -1,6 +1,6 @@
 #include "base/Dates.h"
 
-#include "base/RuntimeError.h"
+#include "base/Circumstances.h"
 
 #include <QLocale>
 
@@ -71,29 +71,8 @@ std::optional<int> digitsOnly(QStringView text)
     return number;
 }
 
-} // namespace
-
-QString localDateText(const QDate& date)
-{
-    const QString form = localForm();
-    QString text;
-    for (qsizetype at = 0; at < form.size();) {
-        const qsizetype length = runLength(form, at);
-        if (form[at] == u'd') {
-            text += padded(date.day(), length);
-        } else if (form[at] == u'M') {
-            text += padded(date.month(), length);
-        } else if (form[at] == u'y') {
-            text += padded(date.year(), length);
-        } else {
-            text += QStringView(form).sliced(at, length);
-        }
-        at += length;
-    }
-    return text;
-}
-
-QDate dateFromLocalText(const QString& text)
+// The date that the text is. Error 13 when it is none.
+QDate readLocalDate(const QString& text)
 {
     const QString form = localForm();
     QStringView rest(text);
@@ -119,6 +98,33 @@ QDate dateFromLocalText(const QString& text)
         throw RuntimeError(ErrorNumber::TypeMismatch);
     }
     return {year, month, day};
+}
+
+} // namespace
+
+QString localDateText(const QDate& date)
+{
+    const QString form = localForm();
+    QString text;
+    for (qsizetype at = 0; at < form.size();) {
+        const qsizetype length = runLength(form, at);
+        if (form[at] == u'd') {
+            text += padded(date.day(), length);
+        } else if (form[at] == u'M') {
+            text += padded(date.month(), length);
+        } else if (form[at] == u'y') {
+            text += padded(date.year(), length);
+        } else {
+            text += QStringView(form).sliced(at, length);
+        }
+        at += length;
+    }
+    return text;
+}
+
+QDate dateFromLocalText(const QString& text)
+{
+    return during([&] { return inQuotes(text) + " is no date."_L1; }, [&] { return readLocalDate(text); });
 }
 
 QString shopFileDateText(const QDate& date)

@@ -1,5 +1,6 @@
 #include "base/Numbers.h"
 
+#include "base/Circumstances.h"
 #include "base/RuntimeError.h"
 
 #include <QLocale>
@@ -189,10 +190,10 @@ double numberFromText(const QString& text)
     // The locale takes the words for infinite and for no number, which are no numbers here, and gives an infinite one
     // with a failure for what is too large.
     if (!ok && std::isinf(number)) {
-        throw RuntimeError(ErrorNumber::Overflow);
+        throw RuntimeError(ErrorNumber::Overflow).because(inQuotes(text) + " is too large."_L1);
     }
     if (!ok || !std::isfinite(number)) {
-        throw RuntimeError(ErrorNumber::TypeMismatch);
+        throw RuntimeError(ErrorNumber::TypeMismatch).because(inQuotes(text) + " is no number."_L1);
     }
     return number;
 }

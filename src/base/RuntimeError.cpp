@@ -47,6 +47,13 @@ RuntimeError::RuntimeError(ErrorNumber number, const QString& description)
 {
 }
 
+RuntimeError RuntimeError::because(const QString& cause) const
+{
+    RuntimeError error = *this;
+    error.addCircumstance(cause);
+    return error;
+}
+
 void failAt(ErrorNumber number, const QString& path)
 {
     throw RuntimeError(number, usualDescription(number) + ": "_L1 + path);

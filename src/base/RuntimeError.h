@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 #include <exception>
 
@@ -38,10 +39,18 @@ public:
     const QString& description() const { return m_description; }
     const char* what() const noexcept override { return m_utf8.constData(); }
 
+    // The cause in plain words, where it is known, and what was going on: sentences for the owner, from the innermost
+    // work outwards. during() in Circumstances.h adds them while the error passes.
+    const QStringList& circumstances() const { return m_circumstances; }
+    void addCircumstance(const QString& sentence) { m_circumstances.append(sentence); }
+    // The same error with its cause.
+    RuntimeError because(const QString& cause) const;
+
 private:
     ErrorNumber m_number;
     QString m_description;
     QByteArray m_utf8;
+    QStringList m_circumstances;
 };
 
 // Raises the error with its usual description and the path of the file or folder that it is about.

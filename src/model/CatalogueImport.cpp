@@ -8,6 +8,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype pathField = 2;
@@ -17,7 +19,7 @@ constexpr qsizetype pathField = 2;
 void CatalogueImport::addProduct(QStringList& fields, std::shared_ptr<CategoryClass> top)
 {
     if (fields.size() <= pathField) {
-        throw RuntimeError(ErrorNumber::SubscriptOutOfRange);
+        throw RuntimeError(ErrorNumber::SubscriptOutOfRange).because(u"The line has fewer than three fields."_s);
     }
     const QString path = std::move(fields[pathField]);
     std::shared_ptr<CategoryClass> category = std::move(top);

@@ -1,6 +1,6 @@
 #include "model/ObjectsCollection.h"
 
-#include "base/RuntimeError.h"
+#include "base/Circumstances.h"
 
 #include <algorithm>
 
@@ -36,12 +36,14 @@ QString shopNodeKey()
 
 const std::shared_ptr<CategoryClass>& ObjectsCollection::Category(const QString& id) const
 {
-    return nodeOf<CategoryClass>(Item(nodeKey(id)));
+    return during([&] { return u"There is no category with the id %1 in the catalogue."_s.arg(inQuotes(id)); },
+                  [&]() -> const auto& { return nodeOf<CategoryClass>(Item(nodeKey(id))); });
 }
 
 const std::shared_ptr<ProductClass>& ObjectsCollection::Product(const QString& id) const
 {
-    return nodeOf<ProductClass>(Item(nodeKey(id)));
+    return during([&] { return u"There is no product with the id %1 in the catalogue."_s.arg(inQuotes(id)); },
+                  [&]() -> const auto& { return nodeOf<ProductClass>(Item(nodeKey(id))); });
 }
 
 const KeyedCollection<CatalogueObject>& ObjectsCollection::items() const

@@ -1,5 +1,6 @@
 #include "model/clsDiscount.h"
 
+#include "base/Circumstances.h"
 #include "base/Dates.h"
 #include "base/Numbers.h"
 #include "base/RuntimeError.h"
@@ -37,7 +38,7 @@ int StatusFromWord(const QString& word)
             return row.number;
         }
     }
-    throw RuntimeError(ErrorNumber::InvalidUseOfNull);
+    throw RuntimeError(ErrorNumber::InvalidUseOfNull).because(inQuotes(word) + " is no word for a discount."_L1);
 }
 
 QString StatusToWord(int number)
@@ -126,11 +127,17 @@ QString clsDiscount::Value(const QString& price) const
 // The first band around the price wins. Both limits are exclusive: this is meant.
 QString clsDiscount::bandFor(const QString& price) const
 {
+    const auto failing = [] {
+        return u"A discount by bands of prices needs a price, and two limits in every row of its bands."_s;
+    };
     for (const clsDependedDiscount& band : *ParentDependDiscounts) {
-        const double number = numberFromText(price);
-        const double from = numberFromText(band.PriceFrom());
-        const double to = numberFromText(band.PriceTo());
-        if (from < number && number < to) {
+        const bool isInBand = during(failing, [&] {
+            const double number = numberFromText(price);
+            const double from = numberFromText(band.PriceFrom());
+            const double to = numberFromText(band.PriceTo());
+            return from < number && number < to;
+        });
+        if (isInBand) {
             return band.Value();
         }
     }

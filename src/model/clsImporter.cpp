@@ -1,9 +1,14 @@
 #include "model/clsImporter.h"
 
+#include "base/Circumstances.h"
 #include "base/TextFile.h"
 #include "model/CatalogueImport.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -68,13 +73,20 @@ void clsImporter::Import(const QString& fileName)
 {
     const QString text = readTextFile(fileName).text;
     CatalogueImport catalogue(currentShop(m_session.services));
-    int lines = 0;
+    int line = 0;
+    const auto inWords = [&] {
+        return u"Line %1 of the import file %2 was being read."_s.arg(line).arg(
+            inQuotes(QFileInfo(fileName).fileName()));
+    };
     for (qsizetype at = 0; at < text.size();) {
         const qsizetype end = lineEnd(text, at);
-        QStringList fields = PSplit(QStringView(text).sliced(at, end - at));
-        catalogue.addProduct(fields);
+        ++line;
+        during(inWords, [&] {
+            QStringList fields = PSplit(QStringView(text).sliced(at, end - at));
+            catalogue.addProduct(fields);
+        });
         at = end + (QStringView(text).mid(end, 2) == u"\r\n" ? 2 : 1);
-        if (m_progress && ++lines % linesBetweenReports == 0) {
+        if (m_progress && line % linesBetweenReports == 0) {
             m_progress(at, text.size());
         }
     }

@@ -2,6 +2,8 @@
 
 #include "design/PageTable.h"
 
+using namespace Qt::StringLiterals;
+
 TemplateNames shopTemplateNames()
 {
     return {nameOf(ShopPage::Layout), pageNamesBy(&PageRow::reading)};
@@ -27,7 +29,9 @@ ShopDesignClass& PageContext::design() const
 clsCart& PageContext::cart() const
 {
     if (m_session->Cart == nullptr) {
-        throw RuntimeError(ErrorNumber::ObjectNotSet);
+        throw RuntimeError(ErrorNumber::ObjectNotSet)
+            .because(
+                u"The cart is gone since the closing of the program was cancelled. The next start has one again."_s);
     }
     return *m_session->Cart;
 }

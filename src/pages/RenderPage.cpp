@@ -1,8 +1,11 @@
 #include "pages/RenderPage.h"
 
+#include "base/Circumstances.h"
 #include "design/PageTable.h"
 #include "pages/PageFillers.h"
 #include "pages/TemplateUtils.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,6 +21,37 @@ constexpr PageFiller fillers[] = {
     {ShopPage::Header, addHeaderPage},     {ShopPage::Search, addSearchPage},     {ShopPage::Cart, addCartPage},
     {ShopPage::Checkout, addCheckoutPage},
 };
+
+// What the page is about, by name; empty when that is the shop, or nothing.
+QString nameOfObject(const PageObject& pageObject)
+{
+    if (const auto* category = std::get_if<std::shared_ptr<CategoryClass>>(&pageObject); category && *category) {
+        return (*category)->name;
+    }
+    if (const auto* product = std::get_if<std::shared_ptr<ProductClass>>(&pageObject); product && *product) {
+        return (*product)->name;
+    }
+    if (const auto* page = std::get_if<std::shared_ptr<CustomPageClass>>(&pageObject); page && *page) {
+        return (*page)->pageName;
+    }
+    if (const auto* results = std::get_if<std::shared_ptr<SearchResults>>(&pageObject); results && *results) {
+        return (*results)->word;
+    }
+    return {};
+}
+
+QString pageInWords(const QString& pageName, const PageObject& pageObject)
+{
+    const QString name = nameOfObject(pageObject);
+    return u"The page %1%2 was being made."_s.arg(inQuotes(pageName),
+                                                  name.isEmpty() ? name : " of "_L1 + inQuotes(name));
+}
+
+const Template& templateOf(const PageContext& context, const QString& pageName)
+{
+    return during([&] { return u"The template \"%1.html\" could not be read."_s.arg(pageName); },
+                  [&]() -> const Template& { return *context.templates().templates.Item(pageName); });
+}
 
 } // namespace
 
@@ -36,6 +70,9 @@ Variables pageVariables(const PageContext& context, const QString& pageName, con
 
 QString RenderPage(const PageContext& context, const QString& pageName, const PageObject& pageObject)
 {
-    const Variables vars = pageVariables(context, pageName, pageObject);
-    return context.templates().templates.Item(pageName)->Get_String(vars);
+    return during([&] { return pageInWords(pageName, pageObject); },
+                  [&] {
+                      const Variables vars = pageVariables(context, pageName, pageObject);
+                      return templateOf(context, pageName).Get_String(vars);
+                  });
 }

@@ -8,8 +8,19 @@ using namespace Qt::StringLiterals;
 
 void FatalErrorBox::fatalError(const RuntimeError& error) noexcept
 {
-    const QString text = u"Run-time error '%1':\n\n%2"_s.arg(static_cast<int>(error.number())).arg(error.description());
-    m_prompts.showMessage(u"Ambrel eCommerce Software"_s, text, PromptIcon::Critical);
+    m_prompts.showMessage(u"Ambrel eCommerce Software"_s, textOf(error), PromptIcon::Critical);
     // Not exit(): it runs destructors, and a window that they close may ask and save.
     std::_Exit(EXIT_FAILURE);
+}
+
+QString FatalErrorBox::textOf(const RuntimeError& error) const
+{
+    QString text = u"Run-time error '%1':\n\n"_s.arg(static_cast<int>(error.number())) + error.description();
+    if (!error.circumstances().isEmpty()) {
+        text += u"\n\n"_s + error.circumstances().join(u'\n');
+    }
+    if (m_isWorkKept()) {
+        text += u"\n\nWhat was not saved is offered at the next start, except what was typed in the open panel."_s;
+    }
+    return text;
 }

@@ -4,15 +4,24 @@
 
 #include "base/Guarded.h"
 
+#include <functional>
+
 class UserPrompts;
 
 class FatalErrorBox : public FatalErrorHandler
 {
 public:
-    explicit FatalErrorBox(UserPrompts& prompts) : m_prompts(prompts) {}
+    // isWorkKept tells whether there is an unsaved shop that the next start offers.
+    FatalErrorBox(UserPrompts& prompts, std::function<bool()> isWorkKept)
+        : m_prompts(prompts), m_isWorkKept(std::move(isWorkKept))
+    {
+    }
 
     [[noreturn]] void fatalError(const RuntimeError& error) noexcept override;
 
 private:
+    QString textOf(const RuntimeError& error) const;
+
     UserPrompts& m_prompts;
+    std::function<bool()> m_isWorkKept;
 };

@@ -20,7 +20,7 @@ int main(int argc, char** argv)
     applyTheme(application);
 
     DialogPrompts prompts;
-    FatalErrorBox errors(prompts);
+    FatalErrorBox errors(prompts, [] { return false; });
     const SystemClock clock;
     const ProgramServices services{ApplicationFolder(QApplication::applicationDirPath()), prompts, clock, errors,
                                    [] { QProcess::startDetached(QApplication::applicationFilePath(), {}); }};

@@ -1,10 +1,28 @@
 #include "template_engine/Templates_Set.h"
 
-#include "base/RuntimeError.h"
+#include "base/Circumstances.h"
+#include "template_engine/TemplateParser.h"
 
 #include <utility>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// Parses a template. A mistake is told with its line, 1-based.
+void parse(Template& page, const QString& file)
+{
+    try {
+        page.Parse();
+    } catch (TemplateError& error) {
+        const QStringView ahead = QStringView(page.template_text).first(error.position());
+        const auto line = ahead.count(u'\r') + ahead.count(u'\n') + 1; // the two never end one line together here
+        error.addCircumstance(u"Line %1 of the template \"%2.html\" is not understood."_s.arg(line).arg(file));
+        throw;
+    }
+}
+
+} // namespace
 
 QString linesEndedByCr(const QString& text)
 {
@@ -37,7 +55,7 @@ void Templates_Set::loadAll()
     const QString layoutText = readTemplate(m_templateNames.frame);
     layout_template = std::make_shared<Template>(names);
     layout_template->template_text = layoutText;
-    layout_template->Parse();
+    parse(*layout_template, m_templateNames.frame);
     templates.Clear();
     for (const QString& page : std::as_const(m_templateNames.pages)) {
         load_template(page, page);
@@ -57,7 +75,7 @@ void Templates_Set::load_template(const QString& file, const QString& key)
 {
     auto page = std::make_shared<Template>(names);
     page->template_text = readTemplate(file);
-    page->Parse();
+    parse(*page, file);
     templates.Add(page, key);
 }
 

@@ -21,15 +21,36 @@ public:
     }
 };
 
-TEST(FatalErrorDeathTest, EndsTheProcessWithItsNumberInOneBoxAndExitCodeOne)
+// What the box shows for an error, and how the process ends.
+void expectBox(const RuntimeError& error, bool isWorkKept, const char* shown)
 {
     EXPECT_EXIT(
         {
             WritingPrompts prompts;
-            FatalErrorBox box(prompts);
-            guarded(box, [] { throw RuntimeError(ErrorNumber::DuplicateKey, u"what happened"_s); });
+            FatalErrorBox box(prompts, [isWorkKept] { return isWorkKept; });
+            guarded(box, [&] { throw error; });
         },
-        testing::ExitedWithCode(1), "Ambrel eCommerce Software\\|Run-time error '457':\n\nwhat happened\\|1");
+        testing::ExitedWithCode(1), shown);
+}
+
+TEST(FatalErrorDeathTest, EndsTheProcessWithItsNumberInOneBoxAndExitCodeOne)
+{
+    expectBox(RuntimeError(ErrorNumber::DuplicateKey, u"what happened"_s), false,
+              "^Ambrel eCommerce Software\\|Run-time error '457':\n\nwhat happened\\|1\n$");
+}
+
+TEST(FatalErrorDeathTest, TellsTheCauseAndWhatWasGoingOnFromTheInsideOut)
+{
+    RuntimeError error = RuntimeError(ErrorNumber::TypeMismatch).because(u"The cause."_s);
+    error.addCircumstance(u"The page."_s);
+    expectBox(error, false, "Run-time error '13':\n\nType mismatch\n\nThe cause.\nThe page.\\|1");
+}
+
+TEST(FatalErrorDeathTest, SaysThatUnsavedWorkIsOfferedWhereThereIsSome)
+{
+    expectBox(RuntimeError(ErrorNumber::TypeMismatch), true,
+              "Type mismatch\n\nWhat was not saved is offered at the next start, except what was typed in the open "
+              "panel.\\|1");
 }
 
 } // namespace

@@ -113,6 +113,15 @@ TEST_F(Importing, EndsAtAnEmptyLineAndKeepsWhatCameBefore)
     EXPECT_EQ(productNames(*session.shop->categories.Item(1)), QStringList{u"a"_s});
 }
 
+TEST_F(Importing, TellsTheLineThatIsNotUnderstood)
+{
+    const QString path = session.folder.path() + u"/products.txt"_s;
+    WriteFile(path, "a,1,x\r\nb,2,x\ntwo,fields\nc,3,x\n");
+    EXPECT_EQ(circumstancesOf([&] { clsImporter(session).Import(path); }),
+              (QStringList{u"The line has fewer than three fields."_s,
+                           u"Line 3 of the import file \"products.txt\" was being read."_s}));
+}
+
 TEST_F(Importing, IgnoresFurtherFields)
 {
     EXPECT_EQ(import("a,b,c,d,e\n"), 0);

@@ -108,3 +108,16 @@ int errorOf(Work&& work)
     }
     return 0;
 }
+
+// What the run-time error that the work raises tells of its cause and of what was going on; nothing when it raises
+// none.
+template <class Work>
+QStringList circumstancesOf(Work&& work)
+{
+    try {
+        work();
+    } catch (const RuntimeError& error) {
+        return error.circumstances();
+    }
+    return {};
+}

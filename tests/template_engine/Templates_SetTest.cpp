@@ -260,3 +260,13 @@ TEST_F(TemplatesSet, TheEncodingOfEachFileIsKnown)
     EXPECT_EQ(errorOf([&] { set.ReLoad(u"main"_s, u"main"_s); }), 5);
     EXPECT_EQ(set.encodingOf(u"main"_s), TextEncoding::Windows1252);
 }
+
+TEST_F(TemplatesSet, ToldOfAMistakeNamesTheTemplateAndTheLine)
+{
+    write(u"menu"_s, "<!--1.2.0-->\r\nfirst\nsecond <!--:if:x=1:--> never closed\r\n");
+    EXPECT_EQ(circumstancesOf([&] { set.ReLoad(u"menu"_s, u"menu"_s); }),
+              QStringList{u"Line 3 of the template \"menu.html\" is not understood."_s});
+    write(u"cart"_s, "<!--:");
+    EXPECT_EQ(circumstancesOf([&] { set.ReLoad(u"cart"_s, u"cart"_s); }),
+              QStringList{u"Line 1 of the template \"cart.html\" is not understood."_s});
+}

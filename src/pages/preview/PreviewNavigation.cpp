@@ -1,5 +1,6 @@
 #include "pages/preview/PreviewNavigation.h"
 
+#include "base/Circumstances.h"
 #include "base/Numbers.h"
 #include "design/PageTable.h"
 #include "model/ProductClass.h"
@@ -227,7 +228,12 @@ void PreviewNavigation::showNamedPage(const QString& name)
     } else if (name == ShoppingCartPageName) {
         showCart();
     } else {
-        m_page.ShowPreviewPage(nameOf(ShopPage::CustomPage), shop()->CustomPages.Item(name));
+        const auto& page = during(
+            [&] {
+                return u"There is no custom page %1, which a link or a choice of pages asks for."_s.arg(inQuotes(name));
+            },
+            [&]() -> const auto& { return shop()->CustomPages.Item(name); });
+        m_page.ShowPreviewPage(nameOf(ShopPage::CustomPage), page);
     }
 }
 

@@ -181,6 +181,8 @@ TEST_F(PreviewNavigationTest, ThePreviewOpensWithTheHomePage)
     home.Clear();
     home.Add(u"gone"_s);
     EXPECT_EQ(errorOf([&] { navigation.openPreview(); }), 5);
+    EXPECT_EQ(circumstancesOf([&] { navigation.openPreview(); }),
+              QStringList{u"There is no custom page \"gone\", which a link or a choice of pages asks for."_s});
 }
 
 TEST_F(PreviewNavigationTest, TheSearchLooksAtNamesAndDescriptionsOfProductsOnly)
