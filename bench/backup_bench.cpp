@@ -136,7 +136,8 @@ private:
 bool backUp(const SampleShop& shop)
 {
     NoPrompts prompts;
-    clsPacker packer(shop.folder(), prompts);
+    const SystemClock clock;
+    clsPacker packer(shop.folder(), prompts, clock);
     QString name = u"big"_s;
     return packer.BackUp(name);
 }
@@ -144,7 +145,8 @@ bool backUp(const SampleShop& shop)
 bool restore(const SampleShop& shop)
 {
     NoPrompts prompts;
-    clsPacker packer(shop.folder(), prompts);
+    const SystemClock clock;
+    clsPacker packer(shop.folder(), prompts, clock);
     return packer.Restore(shop.path(u"backups/big.kvb"_s));
 }
 

@@ -82,9 +82,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const MemoryFile written;
     const ApplicationFolder folder(u"/shop"_s);
     NoPrompts prompts;
+    const SystemClock clock;
 
     given.fill(data, size);
-    clsPacker packer(folder, prompts, u"1.2.0"_s);
+    clsPacker packer(folder, prompts, clock, u"1.2.0"_s);
     const PackedStatus status = packer.ReadFile(given.path());
     const qint32 told = size >= 8 ? qFromLittleEndian<qint32>(data + 4) : 0;
     promise(packer.Count() <= std::max(told, 0), "no more entries than the header counts");
@@ -108,7 +109,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (isReturnable) {
         written.fill(nullptr, 0);
         promise(packer.WriteFile(written.path()), "what was read can be written");
-        clsPacker again(folder, prompts, u"1.2.0"_s);
+        clsPacker again(folder, prompts, clock, u"1.2.0"_s);
         promise(again.ReadFile(written.path()) == PackedStatus::SameVersion && again.Count() == packer.Count() &&
                     again.Compressed() == packer.Compressed(),
                 "what was written can be read");

@@ -4,20 +4,21 @@
 #include "base/RuntimeError.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <optional>
 
 using namespace Qt::StringLiterals;
 
-void backUpFromMenu(const BackUpServices& services)
+std::optional<BackUpReport> backUpFromMenu(const BackUpServices& services)
 {
-    clsPacker packer(services.folder, services.prompts);
+    clsPacker packer(services.folder, services.prompts, services.clock);
     packer.WriteError = [&services] {
         services.prompts.showMessage(services.plainTitle, u"Backuping: file saving error ocured"_s, PromptIcon::None);
     };
     const std::optional<QString> answer = services.prompts.askText(u"Backing up"_s, u"Enter file name"_s);
     if (!answer || answer->isEmpty()) {
-        return;
+        return std::nullopt;
     }
     // Made before anything is looked at, so that it is there even when the backup fails.
     const QString folder = services.folder.backupsFolder();
@@ -25,9 +26,15 @@ void backUpFromMenu(const BackUpServices& services)
         failAt(ErrorNumber::PathFileAccess, folder);
     }
     QString name = *answer;
-    if (!packer.BackUp(name)) {
-        services.prompts.showMessage(u"Error"_s, u"Creating backup is failed"_s, PromptIcon::Critical);
+    const bool made = packer.BackUp(name);
+    for (const QString& fileSpec : packer.leftOut()) {
+        services.log.WriteLoadLog(u"Backup: left out, since it cannot be packed: "_s + fileSpec);
     }
+    if (!made) {
+        services.prompts.showMessage(u"Error"_s, u"Creating backup is failed"_s, PromptIcon::Critical);
+        return std::nullopt;
+    }
+    return BackUpReport{name, QFileInfo(folder + name).size(), packer.leftOut().size()};
 }
 
 bool restoreFromMenu(const BackUpServices& services)
@@ -37,7 +44,7 @@ bool restoreFromMenu(const BackUpServices& services)
     if (path.isEmpty()) {
         return false;
     }
-    clsPacker packer(services.folder, services.prompts);
+    clsPacker packer(services.folder, services.prompts, services.clock);
     if (!packer.Restore(path)) {
         services.prompts.showMessage(u"Error"_s, u"Restore backup is failed"_s, PromptIcon::Critical);
         return false;

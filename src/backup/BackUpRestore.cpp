@@ -1,32 +1,26 @@
 #include "backup/BackUpRestore.h"
 
 #include "backup/PackedStream.h"
+#include "backup/PresentShop.h"
 #include "backup/clsPacker.h"
 #include "base/RuntimeError.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
+
+#include <new>
+#include <numeric>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// The paths in a packed file.
-constexpr QLatin1StringView shopEntry = "shop.xml"_L1;
-constexpr QLatin1StringView picturesPrefix = "pictures\\"_L1;
-constexpr QLatin1StringView templatesPrefix = "templates\\"_L1;
-
 bool isFolder(const QString& path)
 {
     return QFileInfo(path).isDir();
-}
-
-void makeFolder(const QString& folder)
-{
-    if (!isFolder(folder) && !QDir().mkpath(folder)) {
-        failAt(ErrorNumber::PathFileAccess, folder);
-    }
 }
 
 // Deletes all files of a folder, hidden ones and links included; sub-folders stay. Makes the folder if it is not there.
@@ -41,7 +35,7 @@ void PrepareFolder(const QString& folder)
     }
 }
 
-// The last three letters decide, so that "x.Kvb" gets a second extension and "x.okvb" none; this is meant.
+// The last three characters decide: "x.Kvb" deliberately gets a second extension, and "x.okvb" gets none.
 QString completedName(const QString& name)
 {
     const bool complete = name.contains(u'.') && (name.endsWith("KVB"_L1) || name.endsWith("kvb"_L1));
@@ -56,6 +50,23 @@ bool staysInFolder(QStringView name, const QString& fileName)
 }
 
 } // namespace
+
+QStringList fileNames(const QString& folder)
+{
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Unsorted);
+}
+
+bool canBePacked(const QString& fileName)
+{
+    return !fileName.contains(u'\\');
+}
+
+void makeFolder(const QString& folder)
+{
+    if (!isFolder(folder) && !QDir().mkpath(folder)) {
+        failAt(ErrorNumber::PathFileAccess, folder);
+    }
+}
 
 QString restoredPath(const ApplicationFolder& folder, const QString& fileSpec, bool withTemplates)
 {
@@ -79,8 +90,8 @@ bool clsPacker::BackUp(QString& name)
         raiseReadError(PackedStatus::FileMissing);
         return false;
     }
-    // A file that cannot be read or is empty is left out without a word.
-    AddFile(shopEntry);
+    m_leftOut.clear();
+    addOrLeaveOut(shopEntry);
     if (!isFolder(m_folder.picturesFolder())) {
         m_prompts.showMessage(u"Error"_s, u"Picture folder not found"_s, PromptIcon::Critical);
         return false;
@@ -94,7 +105,7 @@ bool clsPacker::BackUp(QString& name)
     makeFolder(m_folder.backupsFolder());
     name = completedName(name);
     if (!WriteFile(m_folder.backupsFolder() + name)) {
-        // WriteFile has raised it already: whoever listens hears it twice, and this is meant.
+        // WriteFile has raised it already: whoever listens deliberately hears it twice.
         raiseWriteError();
         return false;
     }
@@ -104,10 +115,22 @@ bool clsPacker::BackUp(QString& name)
 
 void clsPacker::addFolder(const QString& folder, const QString& prefix)
 {
-    for (const QString& name : QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Unsorted)) {
-        // The format separates folders by backslashes: it has no way to hold one in a name.
-        if (!name.contains(u'\\')) {
-            AddFile(prefix + name);
+    for (const QString& name : fileNames(folder)) {
+        if (canBePacked(name)) {
+            addOrLeaveOut(prefix + name);
+        } else {
+            m_leftOut << prefix + name;
+        }
+    }
+}
+
+void clsPacker::addOrLeaveOut(const QString& fileSpec)
+{
+    // An empty file is no loss: it is left out without being counted.
+    if (AddFile(fileSpec) == AddFileResult::CannotLoad) {
+        const QFileInfo file(m_folder.path() + u'/' + QString(fileSpec).replace(u'\\', u'/'));
+        if (!file.isFile() || file.size() > 0) {
+            m_leftOut << fileSpec;
         }
     }
 }
@@ -127,13 +150,16 @@ bool clsPacker::Restore(const QString& path)
     }
     // Templates belong to their version of the program: an older backup leaves those of this installation alone.
     const bool withTemplates = status != PackedStatus::OlderVersion;
+    if (!mayReplacePresentShop(withTemplates)) {
+        return false;
+    }
     if (withTemplates) {
         PrepareFolder(m_folder.templatesFolder());
     }
     PrepareFolder(m_folder.picturesFolder());
     const QFileInfo shop(m_folder.shopFile());
     if ((shop.exists() || shop.isSymLink()) && !QFile::remove(m_folder.shopFile())) {
-        // The pictures, and perhaps the templates, are gone by now, and this is meant.
+        // There is no way back here: the pictures, and perhaps the templates, are gone by now.
         m_prompts.showMessage(u"Restoring canceled"_s, u"Can't remove shop.xml"_s, PromptIcon::Critical);
         return false;
     }
@@ -144,9 +170,58 @@ bool clsPacker::Restore(const QString& path)
         }
         // A copy is inflated and goes, so that the container does not grow to the size of the whole shop.
         clsFileData copy(*entry);
-        PackedStream file(target, PackedStream::Mode::Write);
+        PackedStream file(target, PackedStream::Mode::Write, *m_calls);
         copy.PutDataToFile(file);
+        file.cutBehindWritten(); // two entries may have one target: the later one is the file
         file.close();
     }
+    removeOldKeptShops(m_folder, path);
     return true;
+}
+
+bool clsPacker::mayReplacePresentShop(bool withTemplates)
+{
+    QString kept;
+    bool safe = false;
+    try {
+        kept = keepPresentShop(m_folder, m_version, m_clock.now(), *m_calls);
+        safe = hasRoomToRestore(withTemplates);
+    } catch (const RuntimeError&) {
+        safe = false;
+    } catch (const std::bad_alloc&) {
+        safe = false;
+    }
+    if (safe || m_prompts.askYesNoWithDefaultNo(u"Restoring"_s,
+                                                u"The present shop could not be kept. Restore all the same?"_s)) {
+        return true;
+    }
+    if (!kept.isEmpty()) {
+        QFile::remove(kept);
+    }
+    return false;
+}
+
+bool clsPacker::hasRoomToRestore(bool withTemplates)
+{
+    const std::optional<qint64> freeRoom = m_calls->freeRoom(m_folder.path());
+    if (!freeRoom) {
+        return true;
+    }
+    const qint64 room = *freeRoom + sizeOfPresentShop(m_folder, withTemplates);
+    // What an entry claims bounds what can come out of it, and costs nothing to ask; only where that is too much are
+    // the bytes themselves counted.
+    return sizeOfRestored(withTemplates, &clsFileData::mostRestored) <= room ||
+           sizeOfRestored(withTemplates, &clsFileData::restoredSize) <= room;
+}
+
+qint64 clsPacker::sizeOfRestored(bool withTemplates, qint64 (clsFileData::*sizeOf)())
+{
+    QHash<QString, qint64> sizes; // of two entries of one target, the later one counts
+    for (const std::unique_ptr<clsFileData>& entry : m_entries) {
+        const QString target = restoredPath(m_folder, entry->FileSpec(), withTemplates);
+        if (!target.isEmpty()) {
+            sizes[target] = ((*entry).*sizeOf)();
+        }
+    }
+    return std::accumulate(sizes.cbegin(), sizes.cend(), qint64{0});
 }

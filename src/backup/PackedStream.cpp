@@ -90,6 +90,19 @@ QByteArray PackedStream::readBytes(qint64 count)
 void PackedStream::write(const QByteArray& bytes)
 {
     m_writable.file->write(bytes);
+    m_written += bytes.size();
+}
+
+void PackedStream::seekToStart()
+{
+    m_writable.file->seek(0);
+}
+
+void PackedStream::cutBehindWritten()
+{
+    if (m_writable.file->size() > m_written) {
+        m_writable.file->cut(m_written);
+    }
 }
 
 void PackedStream::close()

@@ -44,8 +44,11 @@ public:
     // Exactly that many bytes; a count below 0 is an error, too.
     QByteArray readBytes(qint64 count);
 
-    // ErrorNumber::DiskFull when the disk is full, DeviceError on any other failure; so do the next two.
+    // ErrorNumber::DiskFull when the disk is full, DeviceError on any other failure; so for all that follow.
     void write(const QByteArray& bytes);
+    void seekToStart();
+    // Cuts off what an older, longer file has behind the last byte written.
+    void cutBehindWritten();
     // Closes the file here, so that a failure is told.
     void close();
     // Closes a file that is to stay when the power is cut: it and its name are then on the disk.
@@ -54,7 +57,8 @@ public:
 private:
     QString m_path;
     WritableFile m_writable;
-    qint64 m_left = 0; // bytes that are still to be read
+    qint64 m_left = 0;    // bytes that are still to be read
+    qint64 m_written = 0; // bytes that were written
 };
 
 // The text of a field: UTF-8 when its bytes are that, else Windows-1252.

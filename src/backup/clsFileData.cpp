@@ -78,7 +78,7 @@ bool clsFileData::CompressData()
     m_compressed = m_errorCode == Z_OK;
     m_compressedSize = 0;
     if (m_compressed) {
-        // Whether it became smaller is not asked, and this is meant.
+        // Deliberately kept even when it did not become smaller.
         cutTo(buffer, length);
         m_compressedSize = static_cast<qint32>(length);
         m_data = std::move(buffer);
@@ -210,7 +210,7 @@ void clsFileData::PutDataToFile(PackedStream& file)
 
 std::optional<QByteArray> clsFileData::inflated()
 {
-    const qint64 room = std::min(roomFor(m_size), mostFrom(m_data.size()));
+    const qint64 room = inflatedRoom();
     QByteArray buffer(room + 1, Qt::Uninitialized);
     auto length = static_cast<uLongf>(room);
     m_errorCode = uncompress(outputOf(buffer), &length, inputOf(m_data), static_cast<uLong>(m_data.size()));
@@ -219,4 +219,24 @@ std::optional<QByteArray> clsFileData::inflated()
     }
     cutTo(buffer, length);
     return buffer;
+}
+
+qint64 clsFileData::restoredSize()
+{
+    if (m_compressed) {
+        if (const std::optional<QByteArray> plain = inflated()) {
+            return plain->size();
+        }
+    }
+    return m_data.size();
+}
+
+qint64 clsFileData::mostRestored()
+{
+    return m_compressed ? std::max<qint64>(inflatedRoom(), m_data.size()) : m_data.size();
+}
+
+qint64 clsFileData::inflatedRoom() const
+{
+    return std::min(roomFor(m_size), mostFrom(m_data.size()));
 }

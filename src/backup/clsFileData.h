@@ -52,13 +52,18 @@ public:
     bool Compressed() const { return m_compressed; }
     // Deflates or inflates the bytes in memory; what fails changes nothing.
     void setCompressed(bool compressed);
-    // Writes the plain bytes at the file's position, without a length. Bytes that cannot be inflated are written as
-    // they are, without a word, and this is meant. Error 57 or 61 when writing fails.
+    // Writes the plain bytes at the file's position, without a length. Bytes that cannot be inflated are deliberately
+    // written as they are, without a word. ErrorNumber::DeviceError or DiskFull when writing fails.
     void PutDataToFile(PackedStream& file);
+    // How many bytes PutDataToFile would write, found by inflating them, and an upper bound of it that costs nothing.
+    qint64 restoredSize();
+    qint64 mostRestored();
 
 private:
     // The plain bytes of deflated ones, nothing when they cannot be inflated. Never more than the buffer rule allows.
     std::optional<QByteArray> inflated();
+    // The room that zlib is given for the plain bytes.
+    qint64 inflatedRoom() const;
 
     ApplicationFolder m_folder;
     bool m_compressed = false;

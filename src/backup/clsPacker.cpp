@@ -8,9 +8,9 @@
 #include <new>
 #include <utility>
 
-clsPacker::clsPacker(const ApplicationFolder& folder, UserPrompts& prompts, const QString& version,
+clsPacker::clsPacker(const ApplicationFolder& folder, UserPrompts& prompts, const Clock& clock, const QString& version,
                      std::shared_ptr<const FileCalls> calls)
-    : m_folder(folder), m_prompts(prompts), m_version(version), m_calls(std::move(calls))
+    : m_folder(folder), m_prompts(prompts), m_clock(clock), m_version(version), m_calls(std::move(calls))
 {
 }
 
@@ -36,7 +36,7 @@ AddFileResult clsPacker::AddFile(const QString& relativePath)
             result = AddFileResult::CannotLoad;
         }
     }
-    // Raised for a key that is present too, which had no beginning; this is meant.
+    // Raised for a key that is present too, which had no beginning.
     raiseWorking(true);
     return result;
 }
@@ -76,7 +76,7 @@ PackedStatus clsPacker::readContainer()
     PackedStream file(FileSpec, PackedStream::Mode::Read);
     const PackedHeader header = readHeader(file);
     PackedStatus status = PackedStatus::SameVersion;
-    // Versions are compared as texts, so that 1.10.0 is older than 1.9.0; this is meant.
+    // Versions are deliberately compared as texts, so that 1.10.0 is older than 1.9.0.
     if (header.version < m_version) {
         status = PackedStatus::OlderVersion;
     } else if (header.version > m_version) {

@@ -3,6 +3,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QStorageInfo>
 
 #include <filesystem>
 #include <system_error>
@@ -123,6 +124,13 @@ public:
 };
 
 } // namespace
+
+std::optional<qint64> FileCalls::freeRoom(const QString& folder) const
+{
+    const QStorageInfo storage(folder);
+    const qint64 room = storage.isValid() && storage.isReady() ? storage.bytesAvailable() : -1;
+    return room >= 0 ? std::optional(room) : std::nullopt;
+}
 
 std::unique_ptr<FileCalls> generalFileCalls()
 {

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 // An open file, read or written from its start on. Closed with the object at the latest. Whatever fails raises a
 // RuntimeError that names the path: ErrorNumber::DiskFull, PermissionDenied or OutOfMemory where the system says so,
@@ -60,6 +61,8 @@ public:
     // Returns when the names in the folder are on the disk. Does nothing where the file system answers that it cannot.
     // ErrorNumber::DeviceError or DiskFull when it fails.
     virtual void flushFolder(const QString& folder) const = 0;
+    // The bytes that may still be written below the folder; nothing where the file system does not answer.
+    virtual std::optional<qint64> freeRoom(const QString& folder) const;
 };
 
 // The calls of this operating system.

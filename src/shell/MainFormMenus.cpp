@@ -120,12 +120,13 @@ void MainForm::showUpload()
 
 void MainForm::backUpHandler()
 {
-    backUpFromMenu({m_session->folder, m_session->prompts, applicationTitle()});
+    backUpFromMenu({m_session->folder, m_session->prompts, m_session->clock, m_session->log, applicationTitle()});
 }
 
 void MainForm::restoreHandler()
 {
-    if (!restoreFromMenu({m_session->folder, m_session->prompts, applicationTitle()})) {
+    if (!restoreFromMenu(
+            {m_session->folder, m_session->prompts, m_session->clock, m_session->log, applicationTitle()})) {
         return;
     }
     // The restored shop is the one to keep: the window closes without asking, and the new process loads it.

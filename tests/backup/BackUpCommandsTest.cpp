@@ -2,6 +2,7 @@
 
 #include "backup/BackUpFixture.h"
 
+#include <QDir>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -29,7 +30,8 @@ protected:
     }
 
     const ApplicationFolder folder = files.folder();
-    const BackUpServices services{folder, prompts, u"The program"_s};
+    LoadLog log{folder};
+    const BackUpServices services{folder, prompts, clock, log, u"The program"_s};
 };
 
 } // namespace
@@ -85,6 +87,40 @@ TEST_F(BackUpCommandsTest, WithoutAChoiceNothingIsRestored)
 {
     backedUpAndChanged();
     prompts.answerFile(QString());
+    EXPECT_FALSE(restoreFromMenu(services));
+    EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), "changed");
+}
+
+TEST_F(BackUpCommandsTest, FilesThatAreLeftOutAreNamedInTheLogAndCounted)
+{
+    WriteFile(files.path(u"pictures/empty.png"_s), "");
+    WriteFile(files.path(u"pictures/a\\b.png"_s), "x");
+    // Larger than an entry may be; it takes no room on the disk.
+    QFile large(files.path(u"pictures/large.png"_s));
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(Q_INT64_C(2147483648)));
+    askedFor(u"may"_s);
+    prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
+    const std::optional<BackUpReport> report = backUpFromMenu(services);
+    ASSERT_TRUE(report);
+    EXPECT_EQ(report->fileName, u"may.kvb"_s);
+    EXPECT_EQ(report->size, fileBytes(files.path(u"backups/may.kvb"_s)).size());
+    EXPECT_EQ(report->leftOut, 2);
+    const QByteArray logged = fileBytes(files.path(u"load.log"_s));
+    EXPECT_TRUE(logged.contains("pictures\\a\\b.png\"\r\n")) << logged.toStdString();
+    EXPECT_TRUE(logged.contains("pictures\\large.png\"\r\n")) << logged.toStdString();
+    EXPECT_EQ(logged.count('\n'), 2);
+}
+
+TEST_F(BackUpCommandsTest, ARestoreThatIsStoppedIsAFailure)
+{
+    const QString path = backedUpAndChanged();
+    QDir().mkpath(files.path(u"elsewhere"_s));
+    ASSERT_TRUE(QFile::rename(path, files.path(u"elsewhere/may.kvb"_s)));
+    ASSERT_TRUE(QDir().rmdir(files.path(u"backups"_s)));
+    WriteFile(files.path(u"backups"_s), "in the way");
+    prompts.answerFile(files.path(u"elsewhere/may.kvb"_s));
+    prompts.answerDefaultNo(u"Restoring"_s, u"The present shop could not be kept. Restore all the same?"_s, false);
+    prompts.expectMessage(u"Error"_s, u"Restore backup is failed"_s, PromptIcon::Critical);
     EXPECT_FALSE(restoreFromMenu(services));
     EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), "changed");
 }

@@ -64,6 +64,12 @@ QMap<QString, QByteArray> filesBelow(const QString& folder)
     return found;
 }
 
+QMap<QString, QByteArray> withoutBackUps(QMap<QString, QByteArray> files)
+{
+    files.removeIf([](const auto& file) { return file.key().startsWith(u"backups/"); });
+    return files;
+}
+
 BackUpTest::BackUpTest()
 {
     listenTo(packer);

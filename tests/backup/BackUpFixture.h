@@ -27,6 +27,9 @@ QByteArray noise(qsizetype size, quint32 seed);
 // All files below a folder, hidden ones too, by their relative paths.
 QMap<QString, QByteArray> filesBelow(const QString& folder);
 
+// The same files without those in backups/.
+QMap<QString, QByteArray> withoutBackUps(QMap<QString, QByteArray> files);
+
 class BackUpTest : public testing::Test
 {
 protected:
@@ -42,7 +45,8 @@ protected:
 
     TemporaryShopFolder files;
     RecordingPrompts prompts;
-    clsPacker packer{files.folder(), prompts, QStringLiteral("1.2.0")};
+    FixedClock clock{QDate(2026, 7, 15)}; // 14:03:05
+    clsPacker packer{files.folder(), prompts, clock, QStringLiteral("1.2.0")};
     QStringList events;
 };
 

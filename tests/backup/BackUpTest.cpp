@@ -49,7 +49,7 @@ TEST_F(BackUpTest, TheShopItsPicturesAndItsTemplatesArePacked)
     EXPECT_TRUE(packer.Compressed());
     EXPECT_FALSE(packer.Changed());
 
-    clsPacker reader(files.folder(), prompts, u"1.2.0"_s);
+    clsPacker reader(files.folder(), prompts, clock, u"1.2.0"_s);
     EXPECT_EQ(reader.ReadFile(files.path(u"backups/may.kvb"_s)), PackedStatus::SameVersion);
     EXPECT_EQ(entriesOf(reader), (QStringList{u"shop.xml"_s, u"pictures\\cup.png"_s, u"templates\\main.html"_s}));
     EXPECT_TRUE(reader.Compressed());
@@ -95,7 +95,7 @@ TEST_F(BackUpTest, TheNameIsCompleted)
     for (const auto& expected : cases) {
         SCOPED_TRACE(expected.typed.toStdString());
         prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
-        clsPacker one(files.folder(), prompts, u"1.2.0"_s);
+        clsPacker one(files.folder(), prompts, clock, u"1.2.0"_s);
         QString name = expected.typed;
         EXPECT_TRUE(one.BackUp(name));
         EXPECT_EQ(name, expected.completed);
@@ -198,7 +198,7 @@ TEST_F(BackUpTest, WithoutAShopFileNothingIsWritten)
     EXPECT_FALSE(QFile::exists(files.path(u"backups"_s)));
     // A folder of that name is no shop file.
     QDir().mkpath(files.path(u"shop.xml"_s));
-    clsPacker another(files.folder(), prompts, u"1.2.0"_s);
+    clsPacker another(files.folder(), prompts, clock, u"1.2.0"_s);
     listenTo(another);
     EXPECT_FALSE(another.BackUp(name));
     EXPECT_EQ(takeEvents(), expected);

@@ -18,7 +18,7 @@ protected:
     }
 
     const std::shared_ptr<RecordingFileCalls> calls = std::make_shared<RecordingFileCalls>();
-    clsPacker durable{files.folder(), prompts, u"1.2.0"_s, calls};
+    clsPacker durable{files.folder(), prompts, clock, u"1.2.0"_s, calls};
 };
 
 } // namespace

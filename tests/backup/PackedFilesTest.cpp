@@ -141,7 +141,7 @@ TEST_F(PackedFilesTest, EveryReferenceFileHasItsStatusItsEventsAndItsEntries)
 {
     for (const auto& [name, reading] : readings()) {
         SCOPED_TRACE(name.toStdString());
-        clsPacker reader(files.folder(), prompts, u"1.2.0"_s);
+        clsPacker reader(files.folder(), prompts, clock, u"1.2.0"_s);
         listenTo(reader);
         EXPECT_EQ(reader.ReadFile(referencePath(name)), reading.status);
         EXPECT_EQ(reader.Count(), reading.entries);
@@ -228,7 +228,7 @@ TEST_F(PackedFilesTest, VersionsAreComparedAsTexts)
     };
     for (const auto& pair : cases) {
         SCOPED_TRACE(pair.file.toStdString());
-        clsPacker reader(files.folder(), prompts, pair.program);
+        clsPacker reader(files.folder(), prompts, clock, pair.program);
         QByteArray bytes = QByteArray(8, '\0') + static_cast<char>(pair.file.size()) + '\0' + pair.file;
         bytes += QByteArray(2, '\0');
         EXPECT_EQ(reader.ReadFile(packedFile(bytes)), pair.status);
@@ -280,7 +280,7 @@ TEST_F(PackedFilesTest, WhereverAFileIsCutItCannotBeReadAndTheEntriesSoFarStay)
     const QByteArray whole = referenceBytes(u"current"_s);
     int entriesBefore = 0;
     for (qsizetype size = 0; size < whole.size(); ++size) {
-        clsPacker reader(files.folder(), prompts, u"1.2.0"_s);
+        clsPacker reader(files.folder(), prompts, clock, u"1.2.0"_s);
         listenTo(reader);
         EXPECT_EQ(reader.ReadFile(packedFile(whole.first(size))), PackedStatus::CannotRead) << size;
         EXPECT_EQ(takeEvents(), (QStringList{u"Working(False)"_s, u"Working(True)"_s, u"ReadError(2)"_s}));
@@ -295,7 +295,7 @@ TEST_F(PackedFilesTest, APathThatIsEmptyOrLeadsToNoFileIsToldTwice)
     for (const QString& path : {QString(), files.path(u"gone"_s), files.path(u"pictures"_s), u"/dev/null"_s,
                                 QString(files.path(u"a"_s) + QChar(0) + u"b"_s)}) {
         SCOPED_TRACE(path.toStdString());
-        clsPacker reader(files.folder(), prompts, u"1.2.0"_s);
+        clsPacker reader(files.folder(), prompts, clock, u"1.2.0"_s);
         listenTo(reader);
         reader.Add(u"kept"_s);
         EXPECT_EQ(reader.ReadFile(path), PackedStatus::CannotRead);

@@ -23,7 +23,8 @@ protected:
         WriteFile(files.path(u"countries.txt"_s), "Norway");
     }
 
-    QMap<QString, QByteArray> onDisk() const { return filesBelow(files.folder().path()); }
+    // All files but those that the restores kept of the shop before.
+    QMap<QString, QByteArray> onDisk() const { return withoutBackUps(filesBelow(files.folder().path())); }
 
     const QMap<QString, QByteArray> oldShop = {
         {u"shop.xml"_s, "<old/>"},
@@ -80,11 +81,11 @@ TEST_F(RestoreTest, ANewerVersionRestoresNothing)
 TEST_F(RestoreTest, OlderAndNewerAreThoseOfTheTexts)
 {
     // 1.10.0 is newer than 1.9.0, but its text is not.
-    clsPacker program190(files.folder(), prompts, u"1.9.0"_s);
+    clsPacker program190(files.folder(), prompts, clock, u"1.9.0"_s);
     EXPECT_TRUE(program190.Restore(referencePath(u"version_1_10_0"_s)));
     EXPECT_EQ(onDisk(), referenceShopWithOldTemplates);
     // 1.2.0 is older than 1.10.0, but its text is not.
-    clsPacker program1100(files.folder(), prompts, u"1.10.0"_s);
+    clsPacker program1100(files.folder(), prompts, clock, u"1.10.0"_s);
     const QString path = referencePath(u"current"_s);
     prompts.expectMessage(u"Restoring canceled"_s,
                           u"File version is newer than the version of application.\r\n"_s + path, PromptIcon::Warning);
@@ -105,7 +106,7 @@ TEST_F(RestoreTest, WhatCannotBeReadTouchesNothing)
         EXPECT_EQ(onDisk(), oldShop);
     }
     prompts.expectMessage(u"Restoring"_s, u"File restore failure.\r\n"_s, PromptIcon::Critical);
-    clsPacker withoutPath(files.folder(), prompts, u"1.2.0"_s);
+    clsPacker withoutPath(files.folder(), prompts, clock, u"1.2.0"_s);
     EXPECT_FALSE(withoutPath.Restore(QString()));
     EXPECT_EQ(onDisk(), oldShop);
 }

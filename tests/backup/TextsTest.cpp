@@ -31,14 +31,14 @@ protected:
         RecordingPrompts scene;
         scene.answerText(u"Backing up"_s, u"Enter file name"_s, name);
         expect(boxes, scene);
-        backUpFromMenu({folder, scene, u"The program"_s});
+        backUpFromMenu({folder, scene, clock, log, u"The program"_s});
     }
     bool restore(const QString& file, const std::vector<Box>& boxes)
     {
         RecordingPrompts scene;
         scene.answerFile(file);
         expect(boxes, scene);
-        return restoreFromMenu({folder, scene, u"The program"_s});
+        return restoreFromMenu({folder, scene, clock, log, u"The program"_s});
     }
     void makeFreshShop()
     {
@@ -50,6 +50,7 @@ protected:
     void remove(const QString& name) { QDir(files.path(name)).removeRecursively(); }
 
     const ApplicationFolder folder = files.folder();
+    LoadLog log{folder};
 
 private:
     static void expect(const std::vector<Box>& boxes, RecordingPrompts& scene)

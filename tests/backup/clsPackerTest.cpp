@@ -222,7 +222,7 @@ TEST_F(PackerTest, AnEmptyPathMeansTheStoredOneWhichAWriteDoesNotChange)
     EXPECT_TRUE(packer.WriteFile());
     EXPECT_EQ(fileBytes(files.path(u"stored.kvb"_s)), fileBytes(files.path(u"other.kvb"_s)));
 
-    clsPacker reader(files.folder(), prompts, u"1.2.0"_s);
+    clsPacker reader(files.folder(), prompts, clock, u"1.2.0"_s);
     reader.FileSpec = files.path(u"other.kvb"_s);
     EXPECT_EQ(reader.ReadFile(), PackedStatus::SameVersion);
     EXPECT_EQ(reader.Count(), 1);
@@ -262,7 +262,7 @@ TEST_F(PackerTest, AWriteThatFailsRaisesTheErrorBehindTheEnd)
 TEST_F(PackerTest, WithoutListenersEverythingWorksTheSame)
 {
     useReferenceShop();
-    clsPacker quiet(files.folder(), prompts, u"1.2.0"_s);
+    clsPacker quiet(files.folder(), prompts, clock, u"1.2.0"_s);
     EXPECT_EQ(quiet.AddFile(u"shop.xml"_s), AddFileResult::Added);
     EXPECT_TRUE(quiet.WriteFile(files.path(u"out.kvb"_s)));
     EXPECT_FALSE(quiet.WriteFile(files.path(u"pictures"_s)));
@@ -272,7 +272,7 @@ TEST_F(PackerTest, WithoutListenersEverythingWorksTheSame)
 TEST_F(PackerTest, TheVersionIsTheProgramsUnlessToldOtherwise)
 {
     useReferenceShop();
-    clsPacker own(files.folder(), prompts);
+    clsPacker own(files.folder(), prompts, clock);
     own.AddFile(u"shop.xml"_s);
     ASSERT_TRUE(own.WriteFile(files.path(u"out.kvb"_s)));
     const QByteArray bytes = fileBytes(files.path(u"out.kvb"_s));

@@ -74,6 +74,11 @@ private:
 void RecordingFileCalls::Log::note(const QString& call)
 {
     calls << call;
+    failIfAsked(call);
+}
+
+void RecordingFileCalls::Log::failIfAsked(const QString& call) const
+{
     if (error && call.startsWith(failingCall)) {
         throw RuntimeError(*error);
     }
@@ -81,8 +86,11 @@ void RecordingFileCalls::Log::note(const QString& call)
 
 std::unique_ptr<OpenFile> RecordingFileCalls::open(const QString& path, Access access) const
 {
+    // Only a file that can be opened is noted.
+    const QString call = accessWord(access) + lastName(path);
+    m_log->failIfAsked(call);
     std::unique_ptr<OpenFile> file = m_calls->open(path, access);
-    m_log->note(accessWord(access) + lastName(path));
+    m_log->note(call);
     return std::make_unique<File>(std::move(file), m_log);
 }
 

@@ -18,6 +18,14 @@ public:
     void rename(const QString& from, const QString& to) const override;
     void flushFolder(const QString& folder) const override;
 
+    std::optional<qint64> freeRoom(const QString& folder) const override
+    {
+        return free ? *free : m_calls->freeRoom(folder);
+    }
+
+    // What freeRoom answers, when it is set: nothing stands for a file system that does not answer.
+    std::optional<std::optional<qint64>> free;
+
     // From now on, a call whose line begins so raises that error instead of being done.
     void failAtCall(const QString& beginning, ErrorNumber number);
     QStringList takeCalls() const { return std::exchange(m_log->calls, {}); }
@@ -28,6 +36,7 @@ private:
     {
         // Keeps the line, and raises what was asked for.
         void note(const QString& call);
+        void failIfAsked(const QString& call) const;
 
         QStringList calls;
         QString failingCall;

@@ -1,0 +1,24 @@
+// The shop that is on the disk when a restore begins. It is kept as a packed file under backups/, named after the
+// moment, so that a restore can be undone by another one. Free functions: they look at the disk each time.
+#pragma once
+
+#include "base/ApplicationFolder.h"
+#include "base/OperatingSystem.h"
+
+#include <QDateTime>
+#include <QString>
+
+// Packs what there is of the shop, without deflating it, as "before restore yyyy-mm-dd hh.mm.ss.kvb". What is missing,
+// empty or cannot be read is left out; where nothing is left, no file is made. One file of the shop is in memory at a
+// time. A second that has its file already is taken for the next one that has none. The result is the path of the new
+// file, empty when there is none; the file is on the disk then. ErrorNumber::DiskFull, PermissionDenied, PathFileAccess
+// or DeviceError when it cannot be written; no part of it is left then.
+QString keepPresentShop(const ApplicationFolder& folder, const QString& version, const QDateTime& moment,
+                        const FileCalls& calls);
+
+// Deletes the files of keepPresentShop but for the last three, and never the one that was restored just now. One that
+// cannot be deleted stays.
+void removeOldKeptShops(const ApplicationFolder& folder, const QString& restored);
+
+// The size in bytes of the files that a restore removes.
+qint64 sizeOfPresentShop(const ApplicationFolder& folder, bool withTemplates);
