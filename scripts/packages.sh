@@ -5,7 +5,7 @@ BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-webengine-dev qt6-
   libcurl4-openssl-dev)
 RUN_PACKAGES=(libqt6webenginewidgets6 libqt6svg6 libcurl4 qt6-qpa-plugins fonts-dejavu-core)
 VIRTUAL_DISPLAY_PACKAGES=(xvfb xauth)
-TEST_PACKAGES=(libgtest-dev libgmock-dev git php-cli tidy)
+TEST_PACKAGES=(libexpat1-dev libgtest-dev libgmock-dev git php-cli tidy)
 LINT_PACKAGES=(clang clang-format clang-tidy libclang-rt-14-dev)
 BENCH_PACKAGES=(libbenchmark-dev libctemplate-dev pkg-config php-cli curl)
 

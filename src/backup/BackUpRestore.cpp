@@ -126,8 +126,8 @@ void clsPacker::addFolder(const QString& folder, const QString& prefix)
 
 void clsPacker::addOrLeaveOut(const QString& fileSpec)
 {
-    // An empty file is no loss: it is left out without being counted.
-    if (AddFile(fileSpec) == AddFileResult::CannotLoad) {
+    if (AddFile(fileSpec) != AddFileResult::Added) {
+        // An empty file is no loss.
         const QFileInfo file(m_folder.path() + u'/' + QString(fileSpec).replace(u'\\', u'/'));
         if (!file.isFile() || file.size() > 0) {
             m_leftOut << fileSpec;

@@ -4,6 +4,7 @@
 #include "backup/PackedHeader.h"
 #include "backup/PackedStream.h"
 #include "backup/clsFileData.h"
+#include "base/KeyedCollection.h"
 #include "base/RuntimeError.h"
 
 #include <QDir>
@@ -123,9 +124,11 @@ QString keepPresentShop(const ApplicationFolder& folder, const QString& version,
 {
     const QString path = freePath(folder.backupsFolder(), moment);
     GrowingPackedFile packed(path, version, calls);
+    KeyedCollection<int> packedSpecs; // a packed file with two names that differ by case alone could not be read
     for (const QString& fileSpec : shopFileSpecs(folder)) {
         clsFileData entry(folder);
-        if (entry.Load(fileSpec, false)) {
+        if (!packedSpecs.hasKey(fileSpec) && entry.Load(fileSpec, false)) {
+            packedSpecs.Add(0, fileSpec);
             if (!packed.isBegun()) {
                 makeFolder(folder.backupsFolder());
             }

@@ -9,7 +9,7 @@
 #include <QString>
 
 // Packs what there is of the shop, without deflating it, as "before restore yyyy-mm-dd hh.mm.ss.kvb". What is missing,
-// empty or cannot be read is left out; where nothing is left, no file is made. One file of the shop is in memory at a
+// empty or cannot be packed is left out; where nothing is left, no file is made. One file of the shop is in memory at a
 // time. A second that has its file already is taken for the next one that has none. The result is the path of the new
 // file, empty when there is none; the file is on the disk then. ErrorNumber::DiskFull, PermissionDenied, PathFileAccess
 // or DeviceError when it cannot be written; no part of it is left then.

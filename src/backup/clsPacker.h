@@ -48,7 +48,8 @@ public:
     // when backups/ cannot be made.
     bool BackUp(QString& name);
     // The files that the last backup had to leave out, as a packed file would name them: those that cannot be read, are
-    // too large or have a backslash in their names. Empty files are none of them.
+    // too large, have a backslash in their names, or names that differ from another one's by case alone. Empty files
+    // are none of them.
     const QStringList& leftOut() const { return m_leftOut; }
     // A new, empty entry. ErrorNumber::DuplicateKey when the key is there already.
     clsFileData& Add(const QString& key);

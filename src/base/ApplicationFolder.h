@@ -18,8 +18,8 @@ public:
     QString templatesFolder() const;
     QString picturesFolder() const;
     QString backupsFolder() const;
-    // The file of that name under pictures/. Error 53 for a name that would lead out of that folder (it is treated like
-    // a file that is not there).
+    // The file of that name under pictures/. ErrorNumber::FileNotFound for a name that would lead out of that folder:
+    // it is treated like a file that is not there.
     QString pictureFile(const QString& name) const;
 
 private:

@@ -42,7 +42,8 @@ QString padded(int number, qsizetype digits)
     return QString::number(number).rightJustified(digits, u'0');
 }
 
-// Takes up to `most` digits off the front of the text. Error 13 when there are fewer than `fewest`.
+// Takes up to `most` digits off the front of the text. ErrorNumber::TypeMismatch when there are fewer than
+// `fewest`.
 int takeNumber(QStringView& text, qsizetype fewest, qsizetype most)
 {
     int number = 0;

@@ -8,8 +8,8 @@
 // A date as local date text.
 QString localDateText(const QDate& date);
 
-// Local date text as a date of the years 100 to 9999. Error 13 when the text is no date of that form: nothing but the
-// numbers and what the locale puts between them, the year in four digits.
+// Local date text as a date of the years 100 to 9999. ErrorNumber::TypeMismatch when the text is no date of that form:
+// nothing but the numbers and what the locale puts between them, the year in four digits.
 QDate dateFromLocalText(const QString& text);
 
 // A date in the shop file's form "dd.mm.yyyy".

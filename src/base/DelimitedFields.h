@@ -1,4 +1,4 @@
-// The simple lists that people keep in text files: fields one a line, or several separated by commas.
+// The simple lists that people keep in text files: one field per line, or several separated by commas.
 #pragma once
 
 #include <QString>

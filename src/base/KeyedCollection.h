@@ -35,7 +35,8 @@ public:
 
     // Appends an item without a key.
     void Add(T item) { m_items.push_back(std::move(item)); }
-    // Appends an item under a key. Error 457 when the key is there already; the collection is then unchanged.
+    // Appends an item under a key. ErrorNumber::DuplicateKey, and nothing changed, when the key is there
+    // already.
     void Add(T item, const QString& key)
     {
         if (!m_keys) {
@@ -53,10 +54,10 @@ public:
     // Makes room for that many items, and for their keys when there are none yet.
     void reserve(int count) { m_items.reserve(static_cast<std::size_t>(count)); }
 
-    // The item at a position, 1-based. Error 9 when there is none.
+    // The item at a position, 1-based. ErrorNumber::SubscriptOutOfRange when there is none.
     T& Item(int index) { return m_items[checkedPosition(index)]; }
     const T& Item(int index) const { return m_items[checkedPosition(index)]; }
-    // The item under a key. Error 5 when there is none.
+    // The item under a key. ErrorNumber::InvalidArgument when there is none.
     T& Item(const QString& key) { return m_items[checkedPosition(key)]; }
     const T& Item(const QString& key) const { return m_items[checkedPosition(key)]; }
 

@@ -1,4 +1,4 @@
-// load.log: what the program did since it was started, one quoted line an event. The file is opened and closed for
+// load.log: what the program did since it was started, one quoted line per event. The file is opened and closed for
 // every line, so that a crash loses none.
 #pragma once
 
@@ -13,7 +13,7 @@ public:
 
     // Deletes the file of the last session; a failure is ignored.
     void reset();
-    // Appends the message between double quotes, ended by CR LF. Error 75 (or 70, 61, 57) when that cannot be done.
+    // Appends the message between double quotes, ended by CR LF. Errors as for appendFileBytes.
     void WriteLoadLog(const QString& message);
 
 private:

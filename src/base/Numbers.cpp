@@ -58,7 +58,8 @@ Decimal decimalFromScientific(std::string_view text)
     return decimal;
 }
 
-// The number rounded to so many significant digits. Error 6 when it is infinite or no number, which no text can say.
+// The number rounded to so many significant digits. ErrorNumber::Overflow when it is infinite or no
+// number, which no text can say.
 template <class Number>
 Decimal roundedDecimal(Number number, int significantDigits)
 {

@@ -10,20 +10,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Windows-1252's own letters at 0x80 to 0x9F. Its five undefined bytes stand for the control characters of the same
-// number, so that every byte has a letter of its own and comes back.
+// Windows-1252's own characters at 0x80 to 0x9F. Its five undefined bytes stand for the control characters of the same
+// number, so that every byte has a character of its own and comes back.
 constexpr std::array<char16_t, 32> windows1252{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                                0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,
                                                0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
                                                0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-std::optional<char> windows1252Byte(char16_t letter)
+std::optional<char> windows1252Byte(char16_t character)
 {
-    if (letter < 0x80 || (letter >= 0xA0 && letter <= 0xFF)) {
-        return static_cast<char>(letter);
+    if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) {
+        return static_cast<char>(character);
     }
     for (std::size_t i = 0; i < windows1252.size(); ++i) {
-        if (windows1252[i] == letter) {
+        if (windows1252[i] == character) {
             return static_cast<char>(0x80 + i);
         }
     }

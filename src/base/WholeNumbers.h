@@ -3,7 +3,7 @@
 
 #include <QString>
 
-// A locale's number text as a whole number; a fraction is rounded half to even. Error 13 when the text is no number, 6
-// when it is out of range.
+// A locale's number text as a whole number; a fraction is rounded half to even. ErrorNumber::TypeMismatch when the
+// text is no number, Overflow when it is out of range.
 qint16 int16FromText(const QString& text);
 qint32 int32FromText(const QString& text);

@@ -129,7 +129,7 @@ QString ColorToHex(int& colour)
     parts[0] = colour & 0xFF;
     colour /= 256;
     parts[1] = colour & 0xFF;
-    colour /= 256; // consuming the caller's variable is meant
+    colour /= 256; // deliberately consumes the caller's variable
     parts[2] = colour & 0xFF;
     QString text = u"#"_s;
     for (const int part : parts) {

@@ -32,7 +32,7 @@ bool CollectionHasKey(const KeyedCollection<T>& collection, const QString& key)
 }
 
 // "#RRGGBB" (every "#" is dropped, what stands behind six digits is not looked at) as a colour number with red in the
-// low byte. Error 13 when a pair is missing, cut short or not hexadecimal.
+// low byte. ErrorNumber::TypeMismatch when a pair is missing, cut short or not hexadecimal.
 int ColorFromHex(const QString& text);
 
 // A colour number as "#RRGGBB". The argument is consumed: it is left divided by 256 twice.

@@ -5,7 +5,7 @@
 #include <QByteArrayView>
 
 // Whether the bytes, UTF-8 without byte order mark and declaration, are one element with nothing but white space,
-// comments, instructions and one document type beside it; hold only letters that XML allows; no stray "&", "<" or
+// comments, instructions and one document type beside it; hold only characters that XML allows; no stray "&", "<" or
 // "]]>"; no attribute twice. A document type with declarations of its own is refused: nobody would read them. The byte
 // behind the last one must be there and be zero, as behind those of a QByteArray.
 // `hasSections`, when it is given, is set when there is a CDATA section.

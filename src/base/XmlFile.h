@@ -1,5 +1,5 @@
 // Reading and writing of whole XML documents. A document that is not well-formed reads as an empty one: nothing of a
-// failed parse is looked at. Texts survive a round trip exactly: blanks, tabs, line ends, non-ASCII letters.
+// failed parse is looked at. Texts survive a round trip exactly: blanks, tabs, line ends, characters outside ASCII.
 //
 // How a document stands in memory: elements and texts only, no comments, no instructions, no white space between
 // elements. A text that is the first thing in its element sits in the element itself (value(), and no child node);

@@ -4,7 +4,7 @@
 #include <QByteArray>
 #include <QString>
 
-// A document's text. A byte order mark in it is a letter like any other.
+// A document's text. A byte order mark in it is a character like any other.
 QString textFromUtf8(QByteArrayView utf8);
 
 // A text as a document can hold it: without the characters that XML has no form for.

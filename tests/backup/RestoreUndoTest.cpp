@@ -220,3 +220,14 @@ TEST_F(RestoreUndo, OfTwoEntriesOfOneTargetTheLaterIsTheFileWithoutATailOfTheFor
     ASSERT_TRUE(restorer.Restore(path));
     EXPECT_EQ(shopFiles().value(u"pictures/cup.png"_s), "short");
 }
+
+TEST_F(RestoreUndo, TheKeptFileCanBeReadWhateverTheNamesAre)
+{
+    WriteFile(files.path(u"pictures/OWN.png"_s), "differs by case alone");
+    WriteFile(files.path(u"pictures/a\\b.png"_s), "a backslash");
+    WriteFile(files.path(u"pictures/.hidden \u00FC"_s), "hidden");
+    ASSERT_TRUE(restorer.Restore(referencePath(u"no_entries"_s)));
+    ASSERT_TRUE(restorer.Restore(files.path(u"backups/"_s + keptName)));
+    EXPECT_EQ(shopFiles().size(), 4);
+    EXPECT_EQ(shopFiles().value(u"pictures/.hidden \u00FC"_s), "hidden");
+}
