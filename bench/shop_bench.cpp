@@ -216,7 +216,7 @@ int main(int argc, char** argv)
     bool allReached = true;
     for (const Result& result : results) {
         std::printf("%d products\n", result.products);
-        allReached &= judge("  read the file into the object tree : parse", result.ours.read / result.plain.read, 2.5);
+        allReached &= judge("  read the file into the object tree : parse", result.ours.read / result.plain.read, 2.8);
         allReached &= judge("  write the object tree to the file : save a ready DOM",
                             result.ours.write / result.plain.write, 2.7);
         allReached &= judge("  peak memory of reading : of a parse", result.ours.memory / result.plain.memory, 2.0);

@@ -1,6 +1,5 @@
 #include "base/FileBytes.h"
 
-#include "base/LargePages.h"
 #include "base/RuntimeError.h"
 
 #include <QFile>
@@ -39,7 +38,6 @@ QByteArray readFileBytes(const QString& path, const FileCalls& calls)
     }
     // One byte more than expected, so that the end is seen without another round.
     QByteArray bytes(expectedSize + 1, Qt::Uninitialized);
-    useLargePages(bytes.data(), bytes.size());
     qsizetype filled = 0;
     while (const qint64 count = file->read(bytes.data() + filled, bytes.size() - filled)) {
         filled += count;

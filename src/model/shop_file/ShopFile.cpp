@@ -1,21 +1,16 @@
 #include "model/shop_file/ShopFile.h"
 
 #include "base/FileBytes.h"
-#include "base/LargePages.h"
 #include "base/XMLUtils.h"
 #include "base/XmlFile.h"
 #include "model/ShopSession.h"
 #include "model/shop_file/ShopReading.h"
-
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
 bool loadShop(ShopSession& session)
 {
     session.log.WriteLoadLog(u"Start shop creating"_s);
-    // The document and the objects made of it take about four times the room of the file.
-    const LargePagesOnHeap heap(4 * QFileInfo(session.folder.shopFile()).size());
     XmlFile file;
     file.load(session.folder.shopFile());
     const bool isShop = readShop(session, file);
