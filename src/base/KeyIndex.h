@@ -3,11 +3,12 @@
 // searched one by one; a table of hashes is made when there are more.
 #pragma once
 
+#include <QSharedData>
 #include <QString>
 
 #include <vector>
 
-class KeyIndex
+class KeyIndex : public QSharedData
 {
 public:
     // The 0-based position of a key, -1 when there is none.

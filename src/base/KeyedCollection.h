@@ -1,14 +1,14 @@
 // The list of nearly everything in the model: ordered, found by 1-based position or by an optional text key. Keys are
 // compared without regard to case, as QString's case-insensitive comparison does. Finding by key is O(1) on average,
-// adding O(1) amortised, removing O(n).
+// adding O(1) amortised, removing O(n). A copy shares the keys until one of the two gets or loses one.
 #pragma once
 
 #include "base/KeyIndex.h"
 #include "base/RuntimeError.h"
 
+#include <QExplicitlySharedDataPointer>
 #include <QString>
 
-#include <memory>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -19,20 +19,6 @@ class KeyedCollection
     static_assert(!std::is_same_v<T, bool>, "a vector of bool has no items to refer to");
 
 public:
-    KeyedCollection() = default;
-    KeyedCollection(const KeyedCollection& other)
-        : m_items(other.m_items), m_keys(other.m_keys ? std::make_unique<KeyIndex>(*other.m_keys) : nullptr)
-    {
-    }
-    KeyedCollection(KeyedCollection&&) noexcept = default;
-    KeyedCollection& operator=(const KeyedCollection& other)
-    {
-        KeyedCollection copy(other);
-        return *this = std::move(copy);
-    }
-    KeyedCollection& operator=(KeyedCollection&&) noexcept = default;
-    ~KeyedCollection() = default;
-
     // Appends an item without a key.
     void Add(T item) { m_items.push_back(std::move(item)); }
     // Appends an item under a key. ErrorNumber::DuplicateKey, and nothing changed, when the key is there
@@ -40,9 +26,10 @@ public:
     void Add(T item, const QString& key)
     {
         if (!m_keys) {
-            m_keys = std::make_unique<KeyIndex>();
+            m_keys = new KeyIndex; // owned by the pointer
             m_keys->reserve(static_cast<int>(m_items.capacity()));
         }
+        m_keys.detach();
         if (!m_keys->insert(key, Count())) {
             throw RuntimeError(ErrorNumber::DuplicateKey);
         }
@@ -99,11 +86,12 @@ private:
     void removePosition(std::size_t position)
     {
         if (m_keys) {
+            m_keys.detach();
             m_keys->removePosition(static_cast<int>(position));
         }
         m_items.erase(m_items.begin() + static_cast<std::ptrdiff_t>(position));
     }
 
     std::vector<T> m_items;
-    std::unique_ptr<KeyIndex> m_keys; // made with the first key
+    QExplicitlySharedDataPointer<KeyIndex> m_keys; // made with the first key
 };

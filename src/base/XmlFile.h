@@ -25,6 +25,8 @@ public:
     void parse(QByteArray bytes);
 
     const pugi::xml_document& document() const { return m_document; }
+    // How many bytes the document was parsed from; 0 for an empty one.
+    qsizetype size() const { return m_bytes.size(); }
 
 private:
     QByteArray m_bytes;

@@ -1,5 +1,6 @@
 #include "base/XmlReading.h"
 
+#include "base/RuntimeError.h"
 #include "base/XMLUtils.h"
 #include "base/XmlText.h"
 
@@ -80,7 +81,7 @@ bool hasTextInside(const pugi::xml_node& node)
 void findFirstDescendants(const pugi::xml_node& element, std::span<const char* const> names,
                           std::span<pugi::xml_node> hits)
 {
-    std::size_t missing = names.size();
+    auto missing = static_cast<std::size_t>(std::count_if(hits.begin(), hits.end(), isEmpty));
     std::size_t likely = 0;
     for (pugi::xml_node at = nodeBehind(element, element); !isEmpty(at) && missing > 0; at = nodeBehind(at, element)) {
         const std::size_t place = placeOf(at.name(), names, likely);
@@ -90,6 +91,29 @@ void findFirstDescendants(const pugi::xml_node& element, std::span<const char* c
             --missing;
         }
     }
+}
+
+QString XmlTexts::text(const pugi::xml_node& node)
+{
+    if (!node.first_child()) {
+        return textFromUtf8(node.value());
+    }
+    QByteArray text;
+    for (pugi::xml_node at = node; !isEmpty(at); at = nodeBehind(at, node)) {
+        const char* piece = at.value();
+        const auto length = static_cast<qsizetype>(std::strlen(piece));
+        m_allowance -= length + 1;
+        if (m_allowance < 0) {
+            throw RuntimeError(ErrorNumber::OutOfMemory);
+        }
+        text.append(piece, length);
+    }
+    return textFromUtf8(text);
+}
+
+QString XmlTexts::textOr(const pugi::xml_node& found, const QString& defaultText)
+{
+    return found ? text(found) : defaultText;
 }
 
 void FlatElements::gather(const pugi::xml_node& element)
@@ -105,73 +129,113 @@ void FlatElements::gather(const pugi::xml_node& element)
             // The end of a row of siblings: go on behind their parent.
             const Place parent = m_open.back();
             m_open.pop_back();
-            m_rows[parent].end = m_rows.size();
+            m_rows[parent].end = static_cast<Place>(m_rows.size());
             at = m_open.empty() ? pugi::xml_node() : m_rows[parent].node.next_sibling();
             continue;
         }
-        const std::size_t name = nameOf(at.name(), likely);
+        const std::uint32_t name = nameOf(at.name(), likely);
         if (name != none) {
             likely = name + 1;
         }
-        m_rows.push_back({at, m_rows.size() + 1, name});
+        const auto place = static_cast<Place>(m_rows.size());
+        m_rows.push_back({at, place + 1, name});
         const pugi::xml_node child = at.first_child();
         if (isEmpty(child)) {
             at = at.next_sibling();
         } else {
-            m_open.push_back(m_rows.size() - 1);
+            m_open.push_back(place);
             at = child;
         }
     }
 }
 
-std::size_t FlatElements::nameOf(const char* name, std::size_t likely) const
+std::uint32_t FlatElements::nameOf(const char* name, std::size_t likely) const
 {
     const std::size_t place = placeOf(name, m_names, likely);
-    return place < m_names.size() ? place : none;
+    return place < m_names.size() ? static_cast<std::uint32_t>(place) : none;
 }
 
 void FlatElements::findFirst(Place below, std::span<Place> hits) const
 {
     std::fill(hits.begin(), hits.end(), none);
     for (Place place = below + 1; place < m_rows[below].end; ++place) {
-        const std::size_t name = m_rows[place].name;
+        const std::uint32_t name = m_rows[place].name;
         if (name != none && hits[name] == none) {
             hits[name] = place;
         }
     }
 }
 
-FlatElements::Place FlatElements::next(std::size_t name, Place behind, Place below) const
+// From the end to the start, the first element of each name behind the place is always known; it lies below the place
+// when the place has not ended before it. The rows come out in reverse.
+void FlatElements::findRows(std::size_t rowName, Place below, std::span<const std::size_t> wanted,
+                            std::vector<Place>& rows, std::vector<Place>& hits) const
 {
-    for (Place place = behind + 1; place < m_rows[below].end; ++place) {
-        if (m_rows[place].name == name) {
-            return place;
-        }
-    }
-    return none;
-}
-
-void FlatElements::findNumbered(const char* prefix, int firstNumber, Place below, std::span<Place> hits) const
-{
-    std::fill(hits.begin(), hits.end(), none);
-    for (Place place = below + 1; place < m_rows[below].end; ++place) {
-        if (m_rows[place].name != none) {
+    rows.clear();
+    hits.clear();
+    std::vector<Place> next(m_names.size(), none);
+    for (Place place = m_rows[below].end; --place > below;) {
+        const Row& row = m_rows[place];
+        if (row.name == none) {
             continue;
         }
-        const int number = numberBehind(m_rows[place].node.name(), prefix) - firstNumber;
-        if (number >= 0 && number < static_cast<int>(hits.size()) && hits[static_cast<std::size_t>(number)] == none) {
-            hits[static_cast<std::size_t>(number)] = place;
+        if (row.name == rowName) {
+            rows.push_back(place);
+            for (std::size_t i = wanted.size(); i-- > 0;) {
+                const Place hit = next[wanted[i]];
+                hits.push_back(hit < row.end ? hit : none);
+            }
         }
+        next[row.name] = place;
     }
+    std::reverse(rows.begin(), rows.end());
+    std::reverse(hits.begin(), hits.end());
 }
 
-QString FlatElements::text(Place place, const QString& defaultText) const
+void FlatElements::findNumbered(const char* prefix, int firstNumber, int count, Place below,
+                                std::vector<Numbered>& hits) const
 {
-    if (place == none) {
-        return defaultText;
+    hits.clear();
+    for (Place place = below + 1; place < m_rows[below].end; ++place) {
+        if (m_rows[place].name == none) {
+            const int index = numberBehind(m_rows[place].node.name(), prefix) - firstNumber;
+            if (index >= 0 && index < count) {
+                hits.push_back({index, place});
+            }
+        }
     }
-    const char* raw = rawText(place);
-    return raw != nullptr ? textFromUtf8(raw) : nodeText(m_rows[place].node);
+    const auto isBefore = [](const Numbered& a, const Numbered& b) { return a.index < b.index; };
+    const auto isSame = [](const Numbered& a, const Numbered& b) { return a.index == b.index; };
+    if (!std::is_sorted(hits.begin(), hits.end(), isBefore)) {
+        std::stable_sort(hits.begin(), hits.end(), isBefore);
+    }
+    hits.erase(std::unique(hits.begin(), hits.end(), isSame), hits.end());
+}
+
+void FlatElements::findNumberedRows(std::size_t rowName, Place below, const char* prefix, int firstNumber, int count,
+                                    std::vector<Place>& hits) const
+{
+    hits.clear();
+    std::vector<Place> next(static_cast<std::size_t>(count), none);
+    for (Place place = m_rows[below].end; --place > below;) {
+        const Row& row = m_rows[place];
+        if (row.name == rowName) {
+            for (auto hit = next.rbegin(); hit != next.rend(); ++hit) {
+                hits.push_back(*hit < row.end ? *hit : none);
+            }
+        } else if (row.name == none) {
+            const int index = numberBehind(row.node.name(), prefix) - firstNumber;
+            if (index >= 0 && index < count) {
+                next[static_cast<std::size_t>(index)] = place;
+            }
+        }
+    }
+    std::reverse(hits.begin(), hits.end());
+}
+
+QString FlatElements::text(Place place, XmlTexts& texts, const QString& defaultText) const
+{
+    return place == none ? defaultText : texts.text(m_rows[place].node);
 }
 
 const char* FlatElements::rawText(Place place) const
@@ -179,17 +243,9 @@ const char* FlatElements::rawText(Place place) const
     return m_rows[place].end == place + 1 ? m_rows[place].node.value() : nullptr;
 }
 
-std::vector<pugi::xml_node> findNumberedDescendants(const pugi::xml_node& element, const char* prefix, int firstNumber,
-                                                    int count)
+bool isNamed(const pugi::xml_node& node, const char* name)
 {
-    std::vector<pugi::xml_node> hits(static_cast<std::size_t>(count));
-    for (pugi::xml_node at = nextNode(element, element); at; at = nextNode(at, element)) {
-        const int place = numberBehind(at.name(), prefix) - firstNumber;
-        if (place >= 0 && place < count && !hits[static_cast<std::size_t>(place)]) {
-            hits[static_cast<std::size_t>(place)] = at;
-        }
-    }
-    return hits;
+    return std::strcmp(node.name(), name) == 0;
 }
 
 std::vector<pugi::xml_node> allDescendants(const pugi::xml_node& element, const char* name)

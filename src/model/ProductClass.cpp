@@ -35,22 +35,6 @@ const std::shared_ptr<clsSelectedImage>& ProductClass::selectedImage()
     return m_selectedImage;
 }
 
-const std::shared_ptr<TextCollection>& ProductClass::ShippingCosts()
-{
-    if (!m_shippingCosts) {
-        m_shippingCosts = std::make_shared<TextCollection>();
-    }
-    return m_shippingCosts;
-}
-
-const std::shared_ptr<TextCollection>& ProductClass::Taxes()
-{
-    if (!m_taxes) {
-        m_taxes = std::make_shared<TextCollection>();
-    }
-    return m_taxes;
-}
-
 void ProductClass::setRelatedIds(const QStringList& ids)
 {
     related = ids.isEmpty() ? noRelated() : ids + noRelated();

@@ -6,6 +6,7 @@
 #include "base/XmlNode.h"
 #include "design/clsSelectedImage.h"
 #include "model/ModelServices.h"
+#include "model/ProductTexts.h"
 #include "model/clsPrice.h"
 
 #include <QString>
@@ -14,8 +15,6 @@
 #include <memory>
 
 struct ShopReading;
-
-using TextCollection = KeyedCollection<QString>;
 
 class ProductClass
 {
@@ -48,11 +47,9 @@ public:
     bool hasSelectedImage() const { return m_selectedImage != nullptr; }
     void setSelectedImage(std::shared_ptr<clsSelectedImage> image) { m_selectedImage = std::move(image); }
     // The product's own cost per shipping type, under the type's name. Made on first use; a clone has the same object.
-    const std::shared_ptr<TextCollection>& ShippingCosts();
-    void setShippingCosts(std::shared_ptr<TextCollection> costs) { m_shippingCosts = std::move(costs); }
+    const std::shared_ptr<TextCollection>& ShippingCosts() { return m_shippingCosts.table(); }
     // "Y" or "N" for each tax of the shop, by position. Made on first use; a clone has the same object.
-    const std::shared_ptr<TextCollection>& Taxes();
-    void setTaxes(std::shared_ptr<TextCollection> taxes) { m_taxes = std::move(taxes); }
+    const std::shared_ptr<TextCollection>& Taxes() { return m_taxes.table(); }
 
     // How many ids of related products there are: the spare entry does not count.
     int relatedCount() const { return static_cast<int>(related.size()) - 1; }
@@ -80,8 +77,8 @@ private:
     const ModelServices* m_services;
     std::shared_ptr<clsPrice> m_price;
     std::shared_ptr<clsSelectedImage> m_selectedImage;
-    std::shared_ptr<TextCollection> m_shippingCosts;
-    std::shared_ptr<TextCollection> m_taxes;
+    ProductTexts m_shippingCosts;
+    ProductTexts m_taxes;
 };
 
 // The copy of a product that stands behind a line of the preview's cart: its price is a copy of its own, ShippingCosts,

@@ -208,6 +208,26 @@ TEST(KeyedCollection, ACopyIsIndependentOfItsSource)
     EXPECT_EQ(source.indexOf(u"ke"_s), 4);
 }
 
+TEST(KeyedCollection, ACopyHasTheKeysAndChangesByItself)
+{
+    KeyedCollection<QString> source;
+    for (const QString& text : {u"a"_s, u"b"_s, u"c"_s}) {
+        source.Add(text, u"k"_s + text);
+    }
+    KeyedCollection<QString> copy = source;
+    copy.Item(u"kb"_s) = u"B"_s;
+    copy.Remove(u"ka"_s);
+    copy.Add(u"d"_s, u"kd"_s);
+    EXPECT_EQ(source.Count(), 3);
+    EXPECT_EQ(source.Item(u"ka"_s), u"a"_s);
+    EXPECT_EQ(source.Item(u"kb"_s), u"b"_s);
+    EXPECT_FALSE(source.hasKey(u"kd"_s));
+    EXPECT_EQ(copy.Item(1), u"B"_s);
+    EXPECT_EQ(copy.indexOf(u"kd"_s), 3);
+    source.Add(u"e"_s, u"ke"_s);
+    EXPECT_FALSE(copy.hasKey(u"ke"_s));
+}
+
 TEST(KeyedCollection, AMovedCollectionKeepsItsKeys)
 {
     KeyedCollection<QString> source = letters();

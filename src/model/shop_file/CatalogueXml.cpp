@@ -1,6 +1,7 @@
 #include "model/shop_file/CatalogueXml.h"
 
 #include "base/Numbers.h"
+#include "base/RuntimeError.h"
 #include "base/XMLUtils.h"
 #include "base/XmlReading.h"
 #include "model/CategoryClass.h"
@@ -13,24 +14,11 @@
 
 #include <array>
 #include <cstdio>
-#include <cstring>
 #include <vector>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// What is looked up in a category, in the order of the file.
-namespace inCategory {
-enum Element : std::size_t { Id, Name, Description, Picture, Width, Height, Discount, Count };
-constexpr std::array<const char*, Count> names = {"Id",    "Name",   "Description", "Picture",
-                                                  "Width", "Height", "Discount"};
-} // namespace inCategory
-
-bool isNamed(const pugi::xml_node& node, const char* name)
-{
-    return std::strcmp(node.name(), name) == 0;
-}
 
 // Sub-categories are read before products, whatever the order of the file.
 void readChildren(const pugi::xml_node& element, const std::shared_ptr<CategoryClass>& category, ShopClass& owner,
@@ -90,24 +78,28 @@ pugi::xml_node addNumberedElement(pugi::xml_node parent, const char* prefix, int
 void CategoryClass::FromXML(const pugi::xml_node& element, ShopClass& owner,
                             const std::shared_ptr<CategoryClass>& parent, ShopReading& reading)
 {
-    checkCategoryLevel(parent.get());
+    if (++reading.categoryLevel > MaximumCategoryLevel) {
+        throw RuntimeError(ErrorNumber::OutOfStackSpace);
+    }
     shop = &owner;
     parentCategory = parent;
-    std::array<pugi::xml_node, inCategory::Count> found;
-    findFirstDescendants(element, inCategory::names, found);
-    id = textOr(found[inCategory::Id], QString());
+    const CategoryLookUp::Found found = reading.categories.find(element, reading.categoryLevel);
+    const auto textOf = [&](inCategory::Element element, const QString& defaultText = QString()) {
+        return reading.categories.text(element, found, defaultText, reading.texts);
+    };
+    id = textOf(inCategory::Id);
     if (id.isEmpty()) {
         id = owner.getNextProductId();
     }
-    // A category without a name gets the name of a product without one: this is meant.
-    name = textOr(found[inCategory::Name], u"UNDEFINED_PRODUCT_NAME"_s);
-    Description = textOr(found[inCategory::Description], QString());
-    readNodeImage(*this, textOr(found[inCategory::Picture], QString()), textOr(found[inCategory::Width], u"0"_s),
-                  textOr(found[inCategory::Height], u"0"_s));
+    name = textOf(inCategory::Name, u"UNDEFINED_PRODUCT_NAME"_s); // deliberately the same as for a product
+    Description = textOf(inCategory::Description);
+    readNodeImage(*this, textOf(inCategory::Picture), textOf(inCategory::Width, u"0"_s),
+                  textOf(inCategory::Height, u"0"_s));
     if (found[inCategory::Discount]) {
-        readLevelDiscount(found[inCategory::Discount], *Discount(), u"No"_s);
+        reading.levelDiscount.read(found[inCategory::Discount], *Discount(), u"No"_s, reading);
     }
     readChildren(element, shared_from_this(), owner, reading);
+    --reading.categoryLevel;
 }
 
 void CategoryClass::ToXML(pugi::xml_node element)

@@ -1,12 +1,13 @@
-// What the reading and writing of shops, categories and products share. The element tables of the two kinds of node
-// stand in CatalogueXml.cpp, that of the shop in ShopXml.cpp.
+// What the reading and writing of shops, categories and products share. The elements of a category are named in
+// CategoryLookUp.h, those of a product in ProductReading.h, those of the shop in ShopXml.cpp.
 #pragma once
 
 #include <QString>
 
 #include <pugixml.hpp>
 
-// "True" and "False", exact case, else a number that counts as true when it is not zero. Error 13 for any other text.
+// "True" and "False", exact case, else a number that counts as true when it is not zero. ErrorNumber::TypeMismatch for
+// any other text.
 bool booleanFromWord(const QString& word);
 QString booleanToWord(bool value);
 

@@ -1,17 +1,14 @@
 // The elements of discounts in the shop file: those of the shop and of a category, which act on the levels below, and
-// those of a product's price.
+// those of a product's price. How the first kind is read stands in LevelDiscount.h, the second in ProductXml.cpp.
 #pragma once
 
-#include <QString>
-
-#include <pugixml.hpp>
+#include "base/XmlNode.h"
 
 class clsDiscount;
 
-// Status, dates, ApplyToAll and the bands. Error 94 when Status, or the default in its place, is no status word.
-void readLevelDiscount(const pugi::xml_node& element, clsDiscount& discount, const QString& defaultStatus);
-// Error 13 when a date is no date, 94 when the status has no word.
+// Status, dates, ApplyToAll and the bands. ErrorNumber::TypeMismatch when a date is no date,
+// ErrorNumber::InvalidUseOfNull when the status has no word.
 void writeLevelDiscount(pugi::xml_node element, clsDiscount& discount);
 
-// Status, dates and Specific; they are read with the product. Errors as above.
+// Status, dates and Specific. Errors as above.
 void writePriceDiscount(pugi::xml_node element, const clsDiscount& discount);

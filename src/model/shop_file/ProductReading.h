@@ -1,9 +1,8 @@
-// What the reading of one product after another keeps between them: the walk over a product's elements and the texts
-// that many products share. A part of ShopReading.
+// What the reading of one product after another keeps between them: the walk over a product's elements. A part of
+// ShopReading.
 #pragma once
 
 #include "base/XmlReading.h"
-#include "model/shop_file/TextPool.h"
 
 #include <array>
 #include <cstddef>
@@ -49,6 +48,5 @@ inline constexpr std::array<const char*, Count> names = {
 struct ProductReading
 {
     FlatElements elements{inProduct::names};
-    std::vector<FlatElements::Place> numbered;
-    TextPool pool;
+    std::vector<FlatElements::Numbered> numbered;
 };

@@ -11,6 +11,7 @@
 #include "model/shop_file/DiscountXml.h"
 #include "model/shop_file/NodeImageXml.h"
 #include "model/shop_file/ShopReading.h"
+#include "model/shop_file/TableRows.h"
 
 #include <array>
 
@@ -21,11 +22,13 @@ namespace {
 using Place = FlatElements::Place;
 constexpr Place none = FlatElements::none;
 
+constexpr std::array<std::size_t, 2> inMultiplePrice = {inProduct::PriceDescription, inProduct::MPrice};
+
 // A product's element while it is read.
 class ProductElement
 {
 public:
-    ProductElement(const pugi::xml_node& element, ProductReading& reading) : m_reading(reading)
+    ProductElement(const pugi::xml_node& element, ShopReading& reading) : m_reading(reading)
     {
         elements().gather(element);
         elements().findFirst(0, m_found);
@@ -35,7 +38,14 @@ public:
     // A text of the product's own.
     QString text(inProduct::Element name, const QString& defaultText = QString()) const
     {
-        return elements().text(m_found[name], defaultText);
+        return elements().text(m_found[name], m_reading.texts, defaultText);
+    }
+    // The same for one that the category above has, too, when it lacks its own.
+    QString text(inProduct::Element name, inCategory::Element nameAbove, const QString& defaultText = QString()) const
+    {
+        const QString* known =
+            has(name) ? m_reading.categories.known(nameAbove, elements().node(m_found[name])) : nullptr;
+        return known != nullptr ? *known : text(name, defaultText);
     }
     // A text that other products are likely to have, too.
     QString sharedText(inProduct::Element name, const QString& defaultText = QString()) const
@@ -47,54 +57,42 @@ public:
     {
         const Found found = foundBelow(m_found[inProduct::Discount]);
         discount.Status = StatusFromWord(sharedAt(found[inProduct::Status], u"No"_s));
-        readDate(found[inProduct::DateFrom], discount.DateFrom);
-        readDate(found[inProduct::DateTo], discount.DateTo);
+        discount.DateFrom = m_reading.pool.date(sharedAt(found[inProduct::DateFrom], QString()));
+        discount.DateTo = m_reading.pool.date(sharedAt(found[inProduct::DateTo], QString()));
         discount.setSpecific(sharedAt(found[inProduct::Specific], u"0"_s));
     }
 
-    void readShipping(ProductClass& product, const ShopClass& shop) const
+    void readShipping(ProductClass& product) const
     {
-        const Place shipping = m_found[inProduct::Shipping];
-        const Found found = foundBelow(shipping);
+        const Found found = foundBelow(m_found[inProduct::Shipping]);
         product.ShippingStatus = sharedAt(found[inProduct::ShippingStatus], u"No"_s);
         product.Weight = sharedAt(found[inProduct::Weight], u"0"_s);
-        if (!shop.ShippingTypeName || shop.ShippingTypeName->isEmpty()) {
-            return;
-        }
-        const int typeCount = shop.ShippingTypeName->Count();
-        m_reading.numbered.resize(static_cast<std::size_t>(typeCount));
-        elements().findNumbered("ShippingCost", 1, shipping, m_reading.numbered);
-        TextCollection& costs = *product.ShippingCosts();
-        costs.reserve(typeCount);
-        for (int i = 1; i <= typeCount; ++i) {
-            costs.Add(sharedAt(m_reading.numbered[static_cast<std::size_t>(i - 1)], QString()),
-                      shop.ShippingTypeName->Item(i));
-        }
     }
 
     // A price of a variant is read by the plain number scan, which stops at a comma, though the writer writes one where
-    // the user's locale has it: this is meant.
+    // the user's locale has it. Shops rely on both.
     void readMultiPrices(clsPrice& price) const
     {
-        for (Place row = m_found[inProduct::MultiplePrice]; row != none;
-             row = elements().next(inProduct::MultiplePrice, row, 0)) {
-            const Found found = foundBelow(row);
+        if (!has(inProduct::MultiplePrice)) {
+            return;
+        }
+        for (TableRows rows(elements(), inProduct::MultiplePrice, 0, inMultiplePrice, m_reading); rows.next();) {
             const std::shared_ptr<clsMultiPrice> multiPrice = price.AddMultiPrice();
-            multiPrice->Description = sharedAt(found[inProduct::PriceDescription], QString());
-            multiPrice->Value = scannedNumber(sharedAt(found[inProduct::MPrice], QString()));
+            multiPrice->Description = rows.text(0);
+            multiPrice->Value = scannedNumber(rows.text(1));
         }
     }
 
     // Files of older versions have the ids at any depth. Versions are compared as text, so that 1.10.0 counts as older
-    // than 1.2.0: this is meant.
-    QStringList relatedIds(const QString& fileVersion) const
+    // than 1.2.0: an order that written files depend on.
+    QStringList relatedIds() const
     {
         const pugi::xml_node related =
             has(inProduct::Related) ? elements().node(m_found[inProduct::Related]) : pugi::xml_node();
         QStringList ids;
-        if (fileVersion < u"1.2.0"_s) {
+        if (m_reading.fileVersion < u"1.2.0"_s) {
             for (const pugi::xml_node& found : allDescendants(related, "RId")) {
-                ids.append(nodeText(found));
+                ids.append(m_reading.texts.text(found));
             }
             return ids;
         }
@@ -107,19 +105,23 @@ public:
         return ids;
     }
 
-    void readTaxes(TextCollection& taxes, int taxCount) const
+    // The numbered elements below one, as rows of a table of `count`.
+    ProductTexts::Rows numberedTexts(inProduct::Element below, const char* prefix, int firstNumber, int count) const
     {
-        m_reading.numbered.resize(static_cast<std::size_t>(taxCount));
-        elements().findNumbered("Tax", 0, m_found[inProduct::ProductTaxes], m_reading.numbered);
-        for (const Place place : m_reading.numbered) {
-            taxes.Add(sharedAt(place, u"N"_s));
+        std::vector<FlatElements::Numbered>& numbered = m_reading.products.numbered;
+        elements().findNumbered(prefix, firstNumber, count, m_found[below], numbered);
+        ProductTexts::Rows rows;
+        rows.reserve(numbered.size());
+        for (const FlatElements::Numbered& element : numbered) {
+            rows.emplace_back(element.index + 1, sharedAt(element.place, QString()));
         }
+        return rows;
     }
 
 private:
     using Found = std::array<Place, inProduct::Count>;
 
-    FlatElements& elements() const { return m_reading.elements; }
+    FlatElements& elements() const { return m_reading.products.elements; }
 
     Found foundBelow(Place place) const
     {
@@ -130,20 +132,7 @@ private:
 
     QString sharedAt(Place place, const QString& defaultText) const
     {
-        if (place == none) {
-            return defaultText;
-        }
-        const char* raw = elements().rawText(place);
-        return raw != nullptr ? m_reading.pool.text(raw) : elements().text(place);
-    }
-
-    // The date of a file as local text; what is no date counts as none.
-    void readDate(Place place, QString& date) const
-    {
-        const QString text = sharedAt(place, QString());
-        if (!text.isEmpty()) {
-            date = m_reading.pool.date(text);
-        }
+        return m_reading.text(elements(), place, defaultText);
     }
 
     static QString scannedNumber(const QString& text)
@@ -157,9 +146,37 @@ private:
         return isPlain ? text : numberToText(Val(text));
     }
 
-    ProductReading& m_reading;
+    ShopReading& m_reading;
     Found m_found{};
 };
+
+// A product's costs where its element names none: an empty one for each shipping type, under the type's name. None when
+// the shop has no types. ErrorNumber::DuplicateKey when two types have one name.
+const std::shared_ptr<const TextCollection>& shippingCostsPattern(const ShopClass& shop, ShopReading& reading)
+{
+    if (!reading.shippingCosts && shop.ShippingTypeName && !shop.ShippingTypeName->isEmpty()) {
+        auto pattern = std::make_shared<TextCollection>();
+        pattern->reserve(shop.ShippingTypeName->Count());
+        for (const QString& type : *shop.ShippingTypeName) {
+            pattern->Add(QString(), type);
+        }
+        reading.shippingCosts = std::move(pattern);
+    }
+    return reading.shippingCosts;
+}
+
+// A product's choice of taxes where its element says nothing: "N" for each.
+const std::shared_ptr<const TextCollection>& taxesPattern(const ShopClass& shop, ShopReading& reading)
+{
+    if (!reading.taxes) {
+        auto pattern = std::make_shared<TextCollection>();
+        for (int i = 0; i < shop.Taxes.Count(); ++i) {
+            pattern->Add(u"N"_s);
+        }
+        reading.taxes = std::move(pattern);
+    }
+    return reading.taxes;
+}
 
 } // namespace
 
@@ -168,14 +185,14 @@ void ProductClass::FromXML(const pugi::xml_node& element, ShopClass& owner,
 {
     shop = &owner;
     category = parent;
-    const ProductElement read(element, reading.products);
+    const ProductElement read(element, reading);
     reading.designSeenInCategory = reading.designSeenInCategory || read.has(inProduct::ShopDesign);
-    id = read.text(inProduct::Id);
+    id = read.text(inProduct::Id, inCategory::Id);
     if (id.isEmpty()) {
         id = owner.getNextProductId();
     }
-    name = read.text(inProduct::Name, u"UNDEFINED_PRODUCT_NAME"_s);
-    Description = read.text(inProduct::Description);
+    name = read.text(inProduct::Name, inCategory::Name, u"UNDEFINED_PRODUCT_NAME"_s);
+    Description = read.text(inProduct::Description, inCategory::Description);
     Code = read.text(inProduct::Code);
     clsPrice& price = *Price();
     price.Value = read.sharedText(inProduct::Price);
@@ -188,16 +205,21 @@ void ProductClass::FromXML(const pugi::xml_node& element, ShopClass& owner,
         read.readDiscount(*price.Discount());
     }
     if (read.has(inProduct::Shipping)) {
-        read.readShipping(*this, owner);
+        read.readShipping(*this);
+        if (const auto& pattern = shippingCostsPattern(owner, reading)) {
+            m_shippingCosts.setRead(pattern,
+                                    read.numberedTexts(inProduct::Shipping, "ShippingCost", 1, pattern->Count()));
+        }
     }
     read.readMultiPrices(price);
-    setRelatedIds(read.relatedIds(reading.fileVersion));
+    setRelatedIds(read.relatedIds());
     if (read.has(inProduct::ProductTaxes)) {
-        read.readTaxes(*Taxes(), owner.Taxes.Count());
+        const auto& pattern = taxesPattern(owner, reading);
+        m_taxes.setRead(pattern, read.numberedTexts(inProduct::ProductTaxes, "Tax", 0, pattern->Count()));
     }
 }
 
-// ProductTaxes is not written: the choices live for the session only. This is meant.
+// ProductTaxes is deliberately not written: the choices live for the session only.
 void ProductClass::ToXML(pugi::xml_node element)
 {
     static const QString container = u"HUERAGA"_s;
@@ -217,9 +239,8 @@ void ProductClass::ToXML(pugi::xml_node element)
     AddChildElement(shipping, "Weight", NormalizeDecimal(Weight));
     if (const std::shared_ptr<TextCollection>& types = currentShop(*m_services).ShippingTypeName) {
         for (int i = 1; i <= types->Count(); ++i) {
-            const int cost = m_shippingCosts ? m_shippingCosts->indexOf(types->Item(i)) : 0;
-            addNumberedElement(shipping, "ShippingCost", i,
-                               cost != 0 ? NormalizeDecimal(m_shippingCosts->Item(cost)) : QString());
+            const QString* cost = m_shippingCosts.find(types->Item(i));
+            addNumberedElement(shipping, "ShippingCost", i, cost != nullptr ? NormalizeDecimal(*cost) : QString());
         }
     }
     for (const std::shared_ptr<clsMultiPrice>& multiPrice : Price()->MultiPriceCollection()) {

@@ -31,7 +31,7 @@ bool readShop(ShopSession& session, const XmlFile& file)
     if (!element) {
         return false;
     }
-    ShopReading reading{session.LoadedShopVersion, {}};
+    ShopReading reading(session.LoadedShopVersion, file.size());
     session.shop->FromXML(element, reading);
     return true;
 }

@@ -6,6 +6,11 @@
 #include "base/XmlReading.h"
 #include "model/ShopClass.h"
 #include "model/shop_file/CatalogueXml.h"
+#include "model/shop_file/ShopReading.h"
+#include "model/shop_file/TableRows.h"
+
+#include <array>
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -13,17 +18,20 @@ namespace {
 
 // The table of costs has a place for every frame and every type, whatever a file names; a hostile one asks for more
 // than there can be memory for.
-constexpr qint64 mostCostPlaces = 10'000'000;
-constexpr int mostShippingTypes = 1'000;
+constexpr std::size_t mostCostPlaces = 1'000'000;
+constexpr std::size_t mostShippingTypes = 1'000;
+
+// In the names of a table, the row itself comes first; these are the places of the others.
+template <std::size_t Count>
+constexpr std::array<std::size_t, Count> otherColumns = [] {
+    std::array<std::size_t, Count> columns{};
+    std::iota(columns.begin(), columns.end(), std::size_t{1});
+    return columns;
+}();
 
 std::shared_ptr<TextCollection> newTexts()
 {
     return std::make_shared<TextCollection>();
-}
-
-QString textBelow(const pugi::xml_node& row, const char* name)
-{
-    return GetNodeText(row, name, QString());
 }
 
 QString numbered(QLatin1StringView prefix, int number)
@@ -50,63 +58,89 @@ std::shared_ptr<TextCollection> countriesFrom(const pugi::xml_node& element)
     return countries;
 }
 
-void readShippingTypes(const pugi::xml_node& element, ShopClass& shop)
+int readShippingTypes(const pugi::xml_node& element, ShopClass& shop, ShopReading& reading)
 {
     if (!element) {
-        return;
+        return 0;
     }
-    const std::vector<pugi::xml_node> rows = allDescendants(element, "Type");
-    if (rows.size() > mostShippingTypes) {
+    constexpr std::array names = {"Type", "Name", "Description"};
+    FlatElements elements(names);
+    elements.gather(element);
+    TableRows rows(elements, 0, 0, otherColumns<2>, reading);
+    if (rows.count() > mostShippingTypes) {
         throw RuntimeError(ErrorNumber::OutOfMemory);
     }
     shop.ShippingTypeName = newTexts();
     shop.ShippingTypeDescription = newTexts();
-    for (const pugi::xml_node& row : rows) {
-        const int number = shop.ShippingTypeName->Count();
-        shop.ShippingTypeName->Add(textBelow(row, "Name"), numbered("ship_name"_L1, number));
-        shop.ShippingTypeDescription->Add(textBelow(row, "Description"), numbered("ship_desc"_L1, number));
+    for (int number = 0; rows.next(); ++number) {
+        shop.ShippingTypeName->Add(rows.text(0), numbered("ship_name"_L1, number));
+        shop.ShippingTypeDescription->Add(rows.text(1), numbered("ship_desc"_L1, number));
     }
+    return static_cast<int>(rows.count());
 }
 
 // The number of columns comes from the shipping types, not from the rows.
-void readShippingCosts(const pugi::xml_node& element, int typeCount, ShopClass& shop)
+void readShippingCosts(const pugi::xml_node& element, int typeCount, ShopClass& shop, ShopReading& reading)
 {
-    const std::vector<pugi::xml_node> rows = allDescendants(element, "CostsFrame");
-    if (rows.empty()) {
+    if (!element) {
         return;
     }
-    if (static_cast<qint64>(rows.size()) * typeCount > mostCostPlaces) {
+    constexpr std::array names = {"CostsFrame", "From", "To"};
+    FlatElements elements(names);
+    elements.gather(element);
+    TableRows rows(elements, 0, 0, otherColumns<2>, reading);
+    if (rows.count() == 0) {
+        return;
+    }
+    if (rows.count() * static_cast<std::size_t>(typeCount) > mostCostPlaces) {
         throw RuntimeError(ErrorNumber::OutOfMemory);
     }
+    std::vector<FlatElements::Place> places;
+    elements.findNumberedRows(0, 0, "Cost", 1, typeCount, places);
+    TextCollection costs; // of one frame after the other; all share the keys
+    for (int type = 0; type < typeCount; ++type) {
+        costs.Add(QString(), numbered("cost"_L1, type));
+    }
+    std::vector<FlatElements::Place> known(static_cast<std::size_t>(typeCount), FlatElements::none);
     shop.ShippingCostFrameFrom = newTexts();
     shop.ShippingCostFrameTo = newTexts();
     shop.ShippingCosts = std::make_shared<KeyedCollection<TextCollection>>();
-    for (const pugi::xml_node& row : rows) {
-        const int frame = shop.ShippingCosts->Count();
-        shop.ShippingCostFrameFrom->Add(textBelow(row, "From"), numbered("from"_L1, frame));
-        shop.ShippingCostFrameTo->Add(textBelow(row, "To"), numbered("to"_L1, frame));
-        TextCollection costs;
-        for (const pugi::xml_node& cost : findNumberedDescendants(row, "Cost", 1, typeCount)) {
-            costs.Add(textOr(cost, QString()), numbered("cost"_L1, costs.Count()));
+    auto place = places.cbegin();
+    for (int frame = 0; rows.next(); ++frame) {
+        shop.ShippingCostFrameFrom->Add(rows.text(0), numbered("from"_L1, frame));
+        shop.ShippingCostFrameTo->Add(rows.text(1), numbered("to"_L1, frame));
+        for (int type = 0; type < typeCount; ++type, ++place) {
+            FlatElements::Place& former = known[static_cast<std::size_t>(type)];
+            if (*place != former) { // else the frame above lies around this one and has the same cost
+                former = *place;
+                costs.Item(type + 1) = reading.text(elements, *place, QString());
+            }
         }
-        shop.ShippingCosts->Add(std::move(costs));
+        shop.ShippingCosts->Add(costs);
     }
 }
 
-void readTaxesAndCharges(const pugi::xml_node& taxes, const pugi::xml_node& charges, ShopClass& shop)
+void readTaxesAndCharges(const pugi::xml_node& taxes, const pugi::xml_node& charges, ShopClass& shop,
+                         ShopReading& reading)
 {
-    for (const pugi::xml_node& row : allDescendants(taxes, "Type")) {
+    constexpr std::array inTax = {"Type", "Name", "Percent", "Used"};
+    FlatElements taxElements(inTax);
+    taxElements.gather(taxes);
+    for (TableRows rows(taxElements, 0, 0, otherColumns<3>, reading); rows.next();) {
         clsTax tax;
-        tax.TaxName = textBelow(row, "Name");
-        tax.setPercent(textBelow(row, "Percent"));
-        tax.setIsCheckedString(GetNodeText(row, "Used", u"N"_s));
+        tax.TaxName = rows.text(0);
+        tax.setPercent(rows.text(1));
+        tax.setIsCheckedString(rows.text(2, u"N"_s));
         shop.Taxes.Add(std::move(tax));
     }
-    for (const pugi::xml_node& row : allDescendants(charges, "Type")) {
+    constexpr std::array inCharge = {"Type", "Destination", "Cost", "Used"};
+    FlatElements chargeElements(inCharge);
+    chargeElements.gather(charges);
+    for (TableRows rows(chargeElements, 0, 0, otherColumns<3>, reading); rows.next();) {
         clsCharge charge;
-        charge.Destination = textBelow(row, "Destination");
-        charge.Cost = textBelow(row, "Cost");
-        charge.setIsCheckedString(GetNodeText(row, "Used", u"N"_s));
+        charge.Destination = rows.text(0);
+        charge.Cost = rows.text(1);
+        charge.setIsCheckedString(rows.text(2, u"N"_s));
         shop.Charges.Add(std::move(charge));
     }
 }

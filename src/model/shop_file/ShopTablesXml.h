@@ -11,16 +11,21 @@
 #include <pugixml.hpp>
 
 class ShopClass;
+struct ShopReading;
 
-// The countries of the element. Error 91 without the element, 457 when one stands twice.
+// The countries of the element. ErrorNumber::ObjectNotSet without the element, ErrorNumber::DuplicateKey when one
+// stands twice.
 std::shared_ptr<TextCollection> countriesFrom(const pugi::xml_node& element);
-// Without their elements, or without rows in the case of the costs, the shop's tables stay as they are. Error 7 for
-// more rows than there can be memory for.
-void readShippingTypes(const pugi::xml_node& element, ShopClass& shop);
-void readShippingCosts(const pugi::xml_node& element, int typeCount, ShopClass& shop);
-void readTaxesAndCharges(const pugi::xml_node& taxes, const pugi::xml_node& charges, ShopClass& shop);
+// Without their elements, or without rows in the case of the costs, the shop's tables stay as they are.
+// ErrorNumber::OutOfMemory for more than 1,000 shipping types, and for a table of more than a million costs. The first
+// returns how many types there are.
+int readShippingTypes(const pugi::xml_node& element, ShopClass& shop, ShopReading& reading);
+void readShippingCosts(const pugi::xml_node& element, int typeCount, ShopClass& shop, ShopReading& reading);
+void readTaxesAndCharges(const pugi::xml_node& taxes, const pugi::xml_node& charges, ShopClass& shop,
+                         ShopReading& reading);
 
-// Error 91 when one of tables that belong together is absent, 9 when one is shorter.
+// ErrorNumber::ObjectNotSet when one of tables that belong together is absent, ErrorNumber::SubscriptOutOfRange when
+// one is shorter.
 void writeCountries(pugi::xml_node element, const TextCollection& countries);
 void writeShippingTypes(pugi::xml_node element, const ShopClass& shop);
 void writeShippingCosts(pugi::xml_node element, const ShopClass& shop);

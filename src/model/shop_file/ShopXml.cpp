@@ -14,7 +14,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -53,11 +52,6 @@ constexpr std::array<const char*, Count> names = {"Version",
                                                   "Taxes",
                                                   "Charges"};
 } // namespace inShop
-
-bool isNamed(const pugi::xml_node& node, const char* name)
-{
-    return std::strcmp(node.name(), name) == 0;
-}
 
 // The first element of the design at any depth. Categories are not walked over again when they have none.
 pugi::xml_node designElement(const pugi::xml_node& shop, bool isInCategory)
@@ -156,25 +150,28 @@ void ShopClass::FromXML(const pugi::xml_node& element, ShopReading& reading)
     Version = programVersion();
     std::array<pugi::xml_node, inShop::Count> found;
     findFirstDescendants(element, inShop::names, found);
-    reading.fileVersion = textOr(found[inShop::Version], QString());
-    shop_currency = textOr(found[inShop::Currency], QString());
-    ShippingChargesAreSelected = booleanFromWord(textOr(found[inShop::ShippingChargesAreSelected], u"False"_s));
-    TaxesAreSelected = booleanFromWord(textOr(found[inShop::TaxesAreSelected], u"False"_s));
-    MaxProductId = textOr(found[inShop::MaxProductId], u"1"_s);
-    name = textOr(found[inShop::Name], u"UNDEFINED_SHOP_NAME"_s);
-    Description = textOr(found[inShop::Description], QString());
+    const auto textOf = [&](inShop::Element which, const QString& defaultText = QString()) {
+        return reading.texts.textOr(found[which], defaultText);
+    };
+    reading.fileVersion = textOf(inShop::Version);
+    shop_currency = textOf(inShop::Currency);
+    ShippingChargesAreSelected = booleanFromWord(textOf(inShop::ShippingChargesAreSelected, u"False"_s));
+    TaxesAreSelected = booleanFromWord(textOf(inShop::TaxesAreSelected, u"False"_s));
+    MaxProductId = textOf(inShop::MaxProductId, u"1"_s);
+    name = textOf(inShop::Name, u"UNDEFINED_SHOP_NAME"_s);
+    Description = textOf(inShop::Description);
     if (found[inShop::Discount]) {
-        readLevelDiscount(found[inShop::Discount], *m_discount, u"1"_s); // "1" is no status word: this is meant
+        // A discount without a status is an error: "1" is no status word.
+        reading.levelDiscount.read(found[inShop::Discount], *m_discount, u"1"_s, reading);
     }
     log.WriteLoadLog(u"ShopDiscount loaded from XML"_s);
     SelectedCountries = countriesFrom(found[inShop::SelectedCountries]);
     log.WriteLoadLog(u"SelectedCountries loaded from XML"_s);
-    readShippingTypes(found[inShop::Shipping], *this);
+    const int typeCount = readShippingTypes(found[inShop::Shipping], *this, reading);
     log.WriteLoadLog(u"ShopShipping loaded from XML"_s);
-    const auto typeCount = static_cast<int>(allDescendants(found[inShop::Shipping], "Type").size());
-    readShippingCosts(found[inShop::ShippingCosts], typeCount, *this);
+    readShippingCosts(found[inShop::ShippingCosts], typeCount, *this, reading);
     log.WriteLoadLog(u"ShopShippingCosts loaded from XML"_s);
-    readTaxesAndCharges(found[inShop::Taxes], found[inShop::Charges], *this);
+    readTaxesAndCharges(found[inShop::Taxes], found[inShop::Charges], *this, reading);
     log.WriteLoadLog(u"Taxes loaded from XML"_s);
     readCategories(element, *this, reading);
     log.WriteLoadLog(u"root categories loaded from XML"_s);

@@ -28,6 +28,9 @@ QString TextPool::text(const char* utf8)
 
 QString TextPool::date(const QString& fileDate)
 {
+    if (fileDate.isEmpty()) {
+        return {};
+    }
     for (const Date& known : m_dates) {
         if (known.fileDate == fileDate) {
             return known.local;
