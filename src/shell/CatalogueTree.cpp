@@ -102,7 +102,7 @@ void CatalogueTree::mouseDoubleClickEvent(QMouseEvent* event)
         return;
     }
     if (m_clicked.isValid() && index == m_clicked) {
-        setExpanded(index, !isExpanded(index));
+        setExpanded(index, m_model->hasChildren(index) && !isExpanded(index));
     } else {
         mousePressEvent(event);
     }

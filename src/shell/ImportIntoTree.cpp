@@ -49,7 +49,7 @@ void ImportIntoTree::collect(TreeNode* node)
     const CatalogueObject& object = m_window.session().objects.Item(node->key);
     if (const auto* category = std::get_if<std::shared_ptr<CategoryClass>>(&object)) {
         m_nodes.insert(category->get(), node);
-    } else if (node->image != TreeImage::Product) {
+    } else if (std::holds_alternative<std::shared_ptr<ShopClass>>(object)) {
         m_nodes.insert(nullptr, node);
     }
     for (const auto& child : node->children) {

@@ -142,6 +142,16 @@ TEST_F(TreeClicks, OpenAndCloseANodeByADoubleClickThatIsOneClick)
     EXPECT_EQ(clicks, 1);
 }
 
+TEST_F(TreeClicks, KeepThePictureOfAProductThatIsClickedTwice)
+{
+    press(placeOf("ID4"));
+    release(placeOf("ID4"));
+    QTest::mouseDClick(tree()->viewport(), Qt::LeftButton, {}, placeOf("ID4"));
+    release(placeOf("ID4"));
+    EXPECT_EQ(node("ID4")->image, TreeImage::Product);
+    expectSencha();
+}
+
 TEST_F(TreeClicks, RenameTheNodeOfThePanelsObject)
 {
     press(placeOf("ID2"));

@@ -161,7 +161,9 @@ QString TreeCheck::ofChildren(const TreeNode& node) const
         isBehindLoaded = !isLoaded;
         const bool isStray = !isRoot && !isLoaded && roots.contains(child->key);
         if (!isStray) {
-            (child->image == TreeImage::Product ? shown.products : shown.categories) << child->key;
+            const bool isProduct =
+                objects.hasKey(child->key) && std::holds_alternative<ProductRef>(objects.Item(child->key));
+            (isProduct ? shown.products : shown.categories) << child->key;
         }
     }
     QStringList expected = contents.categories;
