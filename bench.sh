@@ -5,8 +5,12 @@ set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
 
-need "${BUILD_PACKAGES[@]}" "${BENCH_PACKAGES[@]}"
+need "${BUILD_PACKAGES[@]}" "${BENCH_PACKAGES[@]}" "${VIRTUAL_DISPLAY_PACKAGES[@]}"
 cmake --preset bench --log-level=WARNING
+
+# What a click costs is measured on a screen.
+screen=()
+[ -n "${DISPLAY:-}" ] || screen=(xvfb-run -a -s "-screen 0 1920x1200x24")
 
 if [ $# -gt 0 ]; then
   program=${1%_bench}_bench
@@ -16,13 +20,13 @@ if [ $# -gt 0 ]; then
     exit 2
   fi
   cmake --build --preset bench --target "$program"
-  exec "build/bench/bench/$program" "$@"
+  exec "${screen[@]}" "build/bench/bench/$program" "$@"
 fi
 
 cmake --build --preset bench --target benchmarks
 failed=0
 for program in build/bench/bench/*_bench; do
   echo "== ${program##*/}"
-  "$program" || failed=1
+  "${screen[@]}" "$program" || failed=1
 done
 exit "$failed"

@@ -12,7 +12,7 @@ class MedianReporter : public benchmark::ConsoleReporter
 public:
     MedianReporter() : ConsoleReporter(OO_Tabular) {}
 
-    void reportRuns(const std::vector<Run>& runs) override
+    void ReportRuns(const std::vector<Run>& runs) override
     {
         for (const Run& run : runs) {
             if (run.run_type == Run::RT_Aggregate && run.aggregate_name == "median") {
@@ -20,7 +20,7 @@ public:
                 medians[run.run_name.function_name] = seconds * 1e6;
             }
         }
-        ConsoleReporter::reportRuns(runs);
+        ConsoleReporter::ReportRuns(runs);
     }
 
     std::map<std::string, double> medians; // microseconds of processor time

@@ -1,7 +1,7 @@
 // From the start of the process to the first painted window, on a shop of 10,000 products, against an empty
-// QWebEngineView in a QMainWindow. Ours may take twice as long as that, and the time that reading the shop takes, which
-// is measured in the same run. Every start is a process of its own, and the wall times count; they are taken in turns,
-// and the medians are compared.
+// QWebEngineView in a QMainWindow. Ours, whose browser comes later, may take a tenth longer than that, and the time
+// that reading the shop takes, which is measured in the same run. Every start is a process of its own, and the wall
+// times count; they are taken in turns, and the medians are compared.
 //
 // The program is the real one with its browser. It runs without a screen and draws without a graphics card.
 #include "CupShop.h"
@@ -35,7 +35,7 @@ namespace {
 
 constexpr int rounds = 9;
 constexpr int products = 10'000;
-constexpr double wantedAtMost = 2.0;
+constexpr double wantedAtMost = 1.1;
 
 [[noreturn]] void giveUp(const QString& what)
 {
@@ -134,7 +134,6 @@ void prepareEnvironment(const QString& home)
     qputenv("XDG_CACHE_HOME", folder + "/cache");
     qputenv("XDG_DATA_HOME", folder + "/data");
     qputenv("XDG_RUNTIME_DIR", folder + "/run");
-    qputenv("QT_QUICK_BACKEND", "software");
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS", "--disable-gpu --log-level=3");
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -270,6 +270,18 @@ TEST_F(PreviewBrowserTest, AFailureInAnActionReachesTheErrorHandlerAndLeavesTheP
     errors.numbers.clear();
 }
 
+TEST_F(PreviewBrowserTest, AFaceThatIsNotThereFallsToASansOne)
+{
+    show(u"<span id=a style=\"font-family: 'No Such Face'\">Willow iii</span><br>"
+         "<span id=b style='font-family: sans-serif'>Willow iii</span><br>"
+         "<span id=c style='font-family: serif'>Willow iii</span>"_s);
+    const auto width = [this](const QString& id) {
+        return script(u"document.querySelector('%1').getBoundingClientRect().width"_s.arg(id)).toDouble();
+    };
+    EXPECT_EQ(width(u"#a"_s), width(u"#b"_s));
+    EXPECT_NE(width(u"#a"_s), width(u"#c"_s));
+}
+
 TEST_F(PreviewBrowserTest, ABlankPageIsShownOnRequest)
 {
     show(u"<p id=p>text</p>"_s);

@@ -59,6 +59,9 @@ PreviewEnginePage::PreviewEnginePage(QWebEngineProfile* profile, NavigationRules
     for (const QWebEngineSettings::WebAttribute attribute : SettingsOff) {
         settings()->setAttribute(attribute, false);
     }
+    // A face that this computer does not have falls to a sans one, as the shop's own styles would have it.
+    settings()->setFontFamily(QWebEngineSettings::StandardFont,
+                              settings()->fontFamily(QWebEngineSettings::SansSerifFont));
     scripts().insert(m_watch.script());
     // A link with a target of its own and the middle button stay in this window.
     connect(this, &QWebEnginePage::newWindowRequested, this, [this](const QWebEngineNewWindowRequest& request) {
