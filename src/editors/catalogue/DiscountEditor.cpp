@@ -12,6 +12,7 @@
 #include "model/clsDiscount.h"
 
 #include <QButtonGroup>
+#include <QFormLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -82,24 +83,15 @@ void DiscountEditor::makeOptions(PanelFrame* frame)
 void DiscountEditor::makeDates(PanelFrame* frame)
 {
     DateMV = new MonthCalendar(m_host.session().clock, frame);
+    QFormLayout* form = frame->addForm(u"Valid from and to, both days included"_s);
     DateFromTxt = new DateField(*DateMV, frame);
     DateToTxt = new DateField(*DateMV, frame);
-    auto* row = new QHBoxLayout;
-    row->setContentsMargins(0, Measure::Tight, 0, 0);
-    row->setSpacing(Measure::Wide);
-    for (const auto& [field, name, label] :
-         {std::tuple(DateFromTxt, "DateFromTxt", u"First day"_s), {DateToTxt, "DateToTxt", u"Last day"_s}}) {
-        named(field, name, label);
+    addField(form, u"First day"_s, DateFromTxt, "DateFromTxt");
+    addField(form, u"Last day"_s, DateToTxt, "DateToTxt");
+    for (DateField* field : {DateFromTxt, DateToTxt}) {
         field->setFixedWidth(FieldWidth::Date);
         field->setPlaceholderText(u"open"_s);
-        auto* caption = new QLabel(label, frame);
-        caption->setBuddy(field);
-        row->addWidget(caption);
-        row->addWidget(field);
-        row->addSpacing(Measure::Wide);
     }
-    row->addStretch(1);
-    frame->addColumn(u"Valid from and to, both days included"_s)->addLayout(row);
 }
 
 void DiscountEditor::makeBands(PanelFrame* frame)

@@ -1,0 +1,126 @@
+// What the window shows of where one is, and where its signs stand.
+#include "look/Theme.h"
+#include "look/Tones.h"
+#include "shell/ShortcartButton.h"
+#include "support/WindowTest.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QTest>
+
+#include <set>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Look : public WindowTest
+{
+protected:
+    void SetUp() override
+    {
+        useSampleShop();
+        start();
+    }
+    void TearDown() override { showScheme(Scheme::Light); }
+
+    QStringList currentButtons() const
+    {
+        QStringList names;
+        for (const ButtonRow& row : buttonTable()) {
+            const ShortcartButton* button = window->parts().buttons.value(row.name);
+            if (button->isCurrent()) {
+                names << button->objectName();
+            }
+        }
+        return names;
+    }
+};
+
+TEST_F(Look, MarksTheButtonsOfTheModeAndOfThePanelOnScreen)
+{
+    const struct
+    {
+        const char* node; // clicked first, or none
+        const char* press;
+        QStringList marked;
+    } rows[] = {
+        {"ID_SHOP", nullptr, {u"ProductCatalogSBtn"_s, u"ShopGeneralSBtn"_s}},
+        {nullptr, "ShopTaxesSBtn", {u"ProductCatalogSBtn"_s, u"ShopTaxesSBtn"_s}},
+        {"ID20", "ProductPriceSbtn", {u"ProductCatalogSBtn"_s, u"ProductPriceSbtn"_s}},
+        // A button that makes something new leads to a panel, but is never the current one.
+        {"ID2", "NewProductSBtn", {u"ProductCatalogSBtn"_s, u"ProductGeneralSBtn"_s}},
+        {nullptr, "ShopDesignSBtn", {u"ShopDesignSBtn"_s, u"MainPageDesignSBtn"_s}},
+        {nullptr, "FooterDesignSBtn", {u"ShopDesignSBtn"_s, u"FooterDesignSBtn"_s}},
+        {nullptr, "PreviewBrowserSBtn", {u"PreviewBrowserSBtn"_s, u"FooterDesignSBtn"_s}},
+        {nullptr, "ProductCatalogSBtn", {u"ProductCatalogSBtn"_s, u"ShopGeneralSBtn"_s}},
+    };
+    for (const auto& row : rows) {
+        if (row.node) {
+            clickNode(QLatin1String(row.node));
+        }
+        if (row.press) {
+            click(row.press);
+        }
+        EXPECT_EQ(currentButtons(), row.marked) << (row.press ? row.press : row.node);
+    }
+}
+
+TEST_F(Look, MarksAModeThatAMenuLeadsToAsOneThatAButtonDoes)
+{
+    trigger("mnuShopDesign");
+    EXPECT_EQ(currentButtons(), (QStringList{u"ShopDesignSBtn"_s, u"MainPageDesignSBtn"_s}));
+}
+
+TEST_F(Look, DrawsGroundAndLineBehindTheCurrentButtonInBothLooks)
+{
+    auto* button = find<ShortcartButton>("ShopGeneralSBtn");
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        showScheme(scheme);
+        QCoreApplication::processEvents();
+        const QImage shown = button->grab().toImage();
+        EXPECT_EQ(shown.pixelColor(8, shown.height() / 2), toneIn(scheme, Tone::Soft));
+        EXPECT_EQ(shown.pixelColor(shown.width() / 2, shown.height() - 1), toneIn(scheme, Tone::Accent));
+    }
+}
+
+TEST_F(Look, PutsTheBarOfAClickOverTheBottomLineFromTheStart)
+{
+    const QWidget* line = find("frmCopyright");
+    EXPECT_GT(line->y(), 0);
+    EXPECT_TRUE(line->geometry().contains(find("PrBar")->geometry().center()));
+    EXPECT_EQ(find("PrBar")->x(), 5);
+}
+
+TEST(LookSheet, SaysTheColoursThatTheCodeHas)
+{
+    const QString sheet = QString::fromUtf8(fileBytes(QStringLiteral(TARNWICK_SOURCE_DIR "/docs/look.md")));
+    static const QRegularExpression line(uR"re(^\| `([a-z-]+)` \| (#[0-9A-F]{6}) \|(?: (#[0-9A-F]{6}) \|)?)re"_s,
+                                         QRegularExpression::MultilineOption);
+    std::set<QString> told;
+    auto lines = line.globalMatch(sheet);
+    while (lines.hasNext()) {
+        const QRegularExpressionMatch match = lines.next();
+        told.insert(match.captured(1));
+        bool isKnown = false;
+        for (const ToneRow& row : toneTable()) {
+            if (match.captured(1) == QLatin1String(row.name)) {
+                isKnown = true;
+                EXPECT_EQ(QColor(match.captured(2)), QColor::fromRgb(row.light)) << row.name;
+                const QString dark = match.captured(3).isEmpty() ? match.captured(2) : match.captured(3);
+                EXPECT_EQ(QColor(dark), QColor::fromRgb(row.dark)) << row.name;
+            }
+        }
+        EXPECT_TRUE(isKnown) << match.captured(1).toStdString();
+    }
+    EXPECT_EQ(told.size(), toneTable().size());
+}
+
+TEST(LookSheet, HasItsColoursInTheOrderOfTheirNames)
+{
+    for (std::size_t place = 0; place < toneTable().size(); ++place) {
+        EXPECT_EQ(static_cast<std::size_t>(toneTable()[place].tone), place) << toneTable()[place].name;
+    }
+}
+
+} // namespace
