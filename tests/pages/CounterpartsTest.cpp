@@ -15,6 +15,7 @@ protected:
     CounterpartsTest()
     {
         const auto tea = addCategory(u"2"_s, u"Tea"_s);
+        addCategory(u"4"_s, u"Green"_s, tea);
         const auto sencha = addProduct(u"3"_s, u"Sencha"_s, u"20"_s, tea);
         addToCart(sencha, u"20"_s, u"1"_s);
         auto results = std::make_shared<SearchResults>();
@@ -77,6 +78,25 @@ TEST_F(CounterpartsTest, EveryImageSlotStandsOnAPage)
             stands = stands || hasVariable(variables(row.page), slot.tag + u"_FILENAME"_s);
         }
         EXPECT_TRUE(stands) << slot.tag.data();
+    }
+}
+
+TEST_F(CounterpartsTest, EveryOptionOfWhatVisitorsSeeStandsOnAPage)
+{
+    const QString limits = u"_Limit_Desc"_s;
+    for (const DesignOptionRow& option : designOptionTable()) {
+        if (option.name.endsWith(u"_Advanced")) {
+            continue; // of the editors alone
+        }
+        QString variable = option.name.endsWith(limits) ? u"cut_count"_s : option.name;
+        if (option.option == DesignOption::Footer_CopyrightText) {
+            variable = u"COPYRIGHT_TEXT"_s;
+        }
+        bool stands = false;
+        for (const PageRow& row : pageTable()) {
+            stands = stands || hasVariable(variables(row.page), variable);
+        }
+        EXPECT_TRUE(stands) << option.element;
     }
 }
 

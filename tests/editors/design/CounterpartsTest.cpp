@@ -6,6 +6,7 @@
 #include "shell/ShortcartButton.h"
 
 #include <algorithm>
+#include <map>
 
 using namespace Qt::StringLiterals;
 
@@ -34,6 +35,28 @@ TEST_F(Counterparts, EveryPageWithAnAdvancedOptionHasItsManagerOnePanelAndOneBut
         } else {
             EXPECT_EQ(errorOf([&] { managerTable(row.page); }), 5);
         }
+    }
+}
+
+TEST_F(Counterparts, EveryOptionHasOneControlAndEveryAdvancedOneItsCheckBox)
+{
+    std::map<DesignOption, int> controls;
+    for (const PageRow& row : pageTable()) {
+        if (!row.advanced) {
+            continue;
+        }
+        ++controls[*row.advanced];
+        for (const OptionGroup& group : managerTable(row.page).groups) {
+            for (const SwitchRow& box : group.switches) {
+                ++controls[box.option];
+            }
+            for (const TextRow& text : group.texts) {
+                ++controls[text.option];
+            }
+        }
+    }
+    for (const DesignOptionRow& option : designOptionTable()) {
+        EXPECT_EQ(controls[option.option], 1) << option.element;
     }
 }
 
