@@ -39,8 +39,9 @@ target_compile_options(tarnwick_options INTERFACE ${TARNWICK_PCH_OPTIONS})
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-# tarnwick_library(NAME source... [WINDOWS] LINKS library...) makes one folder's library. What stands in LINKS is all that
-# the folder may include from: a wrong include does not link. WINDOWS: it has widgets of its own.
+# tarnwick_library(NAME source... [WINDOWS] LINKS library...) makes one folder's library. LINKS names the folders that it
+# may include from. All folders share one include path, so a wrong include compiles: tests/architecture finds it.
+# WINDOWS: it has widgets of its own.
 function(tarnwick_library name)
   cmake_parse_arguments(ARG "WINDOWS" "" "LINKS" ${ARGN})
   add_library(${name} STATIC ${ARG_UNPARSED_ARGUMENTS})

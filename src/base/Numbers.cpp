@@ -9,6 +9,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 #include <string_view>
 
 using namespace Qt::StringLiterals;
@@ -202,6 +203,14 @@ double numberFromText(const QString& text)
 double numberOrZero(const QString& text)
 {
     return text.isEmpty() ? 0 : numberFromText(text);
+}
+
+float singleFrom(double number)
+{
+    if (std::abs(number) > static_cast<double>(std::numeric_limits<float>::max())) {
+        throw RuntimeError(ErrorNumber::Overflow);
+    }
+    return static_cast<float>(number);
 }
 
 double Val(const QString& text)

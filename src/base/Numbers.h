@@ -14,8 +14,11 @@ QString NormalizeDecimal(const QString& text);
 // A locale's number text as a double. Blanks around it are allowed; group separators only where the locale puts them.
 // ErrorNumber::TypeMismatch when the text is no number, an empty text included; Overflow when it is out of range.
 double numberFromText(const QString& text);
-// The same, and 0 for an empty text.
+// The same, but 0 for an empty text.
 double numberOrZero(const QString& text);
+
+// The nearest single. ErrorNumber::Overflow when the number is beyond the largest one.
+float singleFrom(double number);
 
 // The plain number scan: blanks ahead are skipped, then one sign, digits and one "." are read, whatever the locale, up
 // to the first character that is no part of that. 0 when nothing was read. An exponent is not read.

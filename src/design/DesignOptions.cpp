@@ -24,6 +24,11 @@ std::span<const DesignOptionRow> designOptionsOf(DesignGroup group)
     return {first, last};
 }
 
+bool isYes(QStringView word)
+{
+    return word == u"Yes";
+}
+
 std::optional<DesignOption> designOptionByName(QStringView name)
 {
     for (const DesignOptionRow& row : designOptionTable()) {

@@ -124,13 +124,18 @@ struct DesignOptionRow
     QString defaultText;
 };
 
-inline constexpr std::size_t DesignOptionCount = 93;
+#define TARNWICK_OPTION_COUNT(group, name, defaultText) +1
+inline constexpr std::size_t DesignOptionCount = 0 TARNWICK_DESIGN_OPTIONS(TARNWICK_OPTION_COUNT);
+#undef TARNWICK_OPTION_COUNT
 
 // All options in the order of the file; a row's position is the number of its option.
 std::span<const DesignOptionRow> designOptionTable();
 
 // The options of one group, in the order of the file.
 std::span<const DesignOptionRow> designOptionsOf(DesignGroup group);
+
+// True for the word that turns a switch of the design on; the case counts.
+bool isYes(QStringView word);
 
 // The option of that name, exact case; nothing when there is none.
 std::optional<DesignOption> designOptionByName(QStringView name);

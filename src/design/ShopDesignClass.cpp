@@ -93,7 +93,7 @@ void ShopDesignClass::setOption(DesignOption option, const QString& text)
 
 bool ShopDesignClass::isOn(DesignOption option) const
 {
-    return Option(option) == "Yes"_L1;
+    return isYes(Option(option));
 }
 
 void ShopDesignClass::setCartPage_Checkout_Button(std::shared_ptr<clsSelectedImage> image)

@@ -3,8 +3,6 @@
 #include "pages/ProductRows.h"
 #include "pages/TemplateUtils.h"
 
-#include <cmath>
-#include <limits>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -20,17 +18,13 @@ constexpr DesignOption LineOptions[] = {
     CartPage_IncludeRelated,   CartPage_IncludeShipping,    CartPage_IncludeTaxes,
 };
 
-// The sum of the page: a single, rounded after each line. It has no tax and no charge, unlike the cart's own total.
+// The sum of the page: a single, rounded after each line. Unlike the cart's own total it holds no tax and no charge.
 class Total
 {
 public:
     void addLine(const QString& price, const QString& quantity)
     {
-        const double sum = static_cast<double>(m_sum) + numberOrZero(price) * numberOrZero(quantity);
-        if (std::abs(sum) > static_cast<double>(std::numeric_limits<float>::max())) {
-            throw RuntimeError(ErrorNumber::Overflow);
-        }
-        m_sum = static_cast<float>(sum);
+        m_sum = singleFrom(static_cast<double>(m_sum) + numberOrZero(price) * numberOrZero(quantity));
     }
 
     float sum() const { return m_sum; }
@@ -40,7 +34,7 @@ private:
 };
 
 // Adds "price" and "new_price" of a line, and its cost to the total. The discount is asked for with the text that is
-// discounted already, unlike on the category page: this is meant.
+// discounted already, deliberately unlike the category page.
 void addPrices(Variables& row, const clsCartProduct& line, Total& total)
 {
     const std::shared_ptr<clsPrice>& price = line.ParentProduct()->Price();
@@ -60,44 +54,31 @@ void addPrices(Variables& row, const clsCartProduct& line, Total& total)
     row.Add(u"new_price", ifDiscounted(*price, selected, selected));
 }
 
-// A member of a tax that is asked for by its name. Error 438 when a tax has no such member.
-QString memberOf(const clsTax& tax, QStringView name)
+// A tax's name is asked for by the word "TaxNames", which no tax knows: a product with a tax deliberately fails the
+// page.
+void failForATax(ProductClass& product)
 {
-    if (name == "TaxName"_L1) {
-        return tax.TaxName;
+    if (product.Taxes()->isEmpty()) {
+        return;
     }
-    if (name == "Percent"_L1) {
-        return tax.Percent();
+    if (product.shop == nullptr) {
+        throw RuntimeError(ErrorNumber::ObjectNotSet);
     }
-    throw RuntimeError(ErrorNumber::NoSuchMember);
+    for (int i = 1; i <= product.shop->Taxes.Count(); ++i) {
+        if (product.Taxes()->Item(i) == "Y"_L1) {
+            throw RuntimeError(ErrorNumber::NoSuchMember);
+        }
+    }
 }
 
-// Adds "taxes" and "hastaxes". The list has a row in any case, one without variables when there is no tax. The name is
-// asked for by a word that no tax knows, so that a product with a tax fails the page: this is meant.
+// Adds "taxes" and "hastaxes". The list has a row in any case: one without variables when there is no tax.
 void addTaxes(Variables& row, const PageContext& context, ProductClass& product)
 {
+    failForATax(product);
     VariableRows rows;
-    if (!product.Taxes()->isEmpty()) {
-        if (product.shop == nullptr) {
-            throw RuntimeError(ErrorNumber::ObjectNotSet);
-        }
-        const KeyedCollection<clsTax>& taxes = product.shop->Taxes;
-        for (int i = 1; i <= taxes.Count(); ++i) {
-            if (product.Taxes()->Item(i) != "Y"_L1) {
-                continue;
-            }
-            Variables tax = context.newVariables();
-            tax.Add(u"tax_name", memberOf(taxes.Item(i), u"TaxNames"));
-            tax.Add(u"tax_percent", taxes.Item(i).Percent());
-            rows.push_back(std::move(tax));
-        }
-    }
-    const bool hasTaxes = !rows.empty();
-    if (!hasTaxes) {
-        rows.push_back(context.newVariables());
-    }
+    rows.push_back(context.newVariables());
     row.Add(u"taxes", std::move(rows));
-    row.Add(u"hastaxes", hasTaxes ? u"yes"_s : QString());
+    row.Add(u"hastaxes", QString());
 }
 
 VariableRows lineRows(const PageContext& context, Total& total)
@@ -135,7 +116,7 @@ void addCartPage(Variables& vars, const PageContext& context, const PageObject&)
 {
     addOptions(vars, context.design(), PageOptions);
     addSlotVariables(vars, context, ImageSlot::CartPage_Checkout_Button);
-    // An empty cart has nothing more, not even an empty guard.
+    // An empty cart adds nothing more, not even HAS_ITEMS.
     if (context.cart().Count() == 0) {
         return;
     }

@@ -38,7 +38,7 @@ VariableRows subCategoryRows(const PageContext& context, const CategoryClass& ca
     return rows;
 }
 
-// An empty price counts as "0" for the discounted text of this page only: this is meant.
+// On this page only, an empty price counts as "0" for the discounted text.
 void addPrices(Variables& row, const std::shared_ptr<clsPrice>& price)
 {
     row.Add(u"price", priceVariable(price));

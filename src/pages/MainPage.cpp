@@ -43,7 +43,7 @@ Variables categoryRow(const PageContext& context, CategoryClass& category, const
         row.Add(u"Main_TwoLevel", subCategoryRows(context, category));
     }
 
-    // The first and the last band as they are stored, not the smallest and the largest: this is meant.
+    // Deliberately the first and the last band in the stored order, not the smallest and the largest.
     const clsDependedDiscounts& bands = *discount.DependedDiscounts();
     if (bands.Count() != 0) {
         row.Add(u"min_discount", bands.Item(1).Value());

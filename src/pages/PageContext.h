@@ -18,7 +18,7 @@ public:
     {
     }
 
-    // Each raises error 91 when there is none.
+    // Each raises ErrorNumber::ObjectNotSet when there is none.
     const std::shared_ptr<ShopClass>& sharedShop() const;
     ShopClass& shop() const { return *sharedShop(); }
     ShopDesignClass& design() const;

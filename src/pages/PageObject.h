@@ -16,7 +16,7 @@
 // What a search found. A page counts the word as the first of its items and the products as those behind it.
 struct SearchResults
 {
-    QString word; // as it stood in the request
+    QString word; // as it stands in the request
     std::vector<std::shared_ptr<ProductClass>> products;
 };
 
@@ -24,7 +24,7 @@ using PageObject =
     std::variant<std::monostate, std::shared_ptr<ShopClass>, std::shared_ptr<CategoryClass>,
                  std::shared_ptr<ProductClass>, std::shared_ptr<CustomPageClass>, std::shared_ptr<SearchResults>>;
 
-// The object of that type. Error 91 when there is none, 13 when it is of another type.
+// The object of that type. ErrorNumber::ObjectNotSet when there is none, TypeMismatch when it is of another type.
 template <class T>
 T& pageObjectAs(const PageObject& object)
 {

@@ -42,8 +42,8 @@ QString ifDiscounted(clsPrice& price, const QString& askedPrice, const QString& 
     return price.Discount()->Value(askedPrice).isEmpty() ? QString() : discountedText;
 }
 
-// One look at the discount serves both questions. The new price is worked out even if nothing shows it: a price that is
-// no number fails its page.
+// The discount is asked once for both. The new price is worked out even if no template shows it: a price that is no
+// number fails its page.
 QString newPriceIfDiscounted(clsPrice& price, const QString& askedPrice)
 {
     const QString percentage = price.Discount()->Value(askedPrice);

@@ -1,4 +1,4 @@
-// What the category, product, search and cart pages show alike: prices, variants, shortened descriptions, related
+// What the category, product, search and cart pages have in common: prices, variants, shortened descriptions, related
 // products and the path from the root down to a category.
 #pragma once
 
@@ -38,15 +38,15 @@ struct VariantOptions
 // The rows of "MultiplePrice". Only the first row has "first_price".
 VariableRows variantRows(const PageContext& context, clsPrice& price, const VariantOptions& options);
 
-// Shortens descriptions for one page: tags become blanks, and the text is cut after so many words. A page keeps one for
-// all its rows.
+// Shortens descriptions for one page: tags become blanks, and the text is cut after a number of words. A page keeps one
+// for all its rows.
 class DescriptionCutter
 {
 public:
     // The option holds the number of words; 0 and an empty text cut nothing.
     DescriptionCutter(const ShopDesignClass& design, DesignOption limit);
 
-    // Error 6 for a text whose words reach too far, see clsRegExp::Replace.
+    // ErrorNumber::Overflow for a text whose words reach too far, see clsRegExp::Replace.
     QString cut(const QString& description) { return m_tags.Replace(description, m_blank, m_words); }
 
 private:
@@ -55,8 +55,8 @@ private:
     int m_words;
 };
 
-// The rows of "related", none when the product has no related products. Error 5 for an id that is no longer in the
-// catalogue, 13 for the id of a category.
+// The rows of "related", none when the product has no related products. ErrorNumber::InvalidArgument for an id that is
+// no longer in the catalogue, TypeMismatch for the id of a category.
 VariableRows relatedRows(const PageContext& context, const ProductClass& product);
 // Adds "hasrelated", and behind it "related" when there are related products.
 void addRelated(Variables& vars, const PageContext& context, const ProductClass& product);

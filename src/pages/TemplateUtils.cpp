@@ -11,11 +11,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isYes(const QString& word)
-{
-    return word == "Yes"_L1;
-}
-
 QString typeWord(ImageSelection type)
 {
     return type == ImageSelection::Image ? u"IMAGE"_s : u"TEXT"_s;

@@ -25,11 +25,11 @@ QString serverAddress();
 // The rule of one style, as it stands in a style sheet. Nothing is checked or escaped.
 QString GetCssText(const CSSClass& style);
 
-// The path of a picture under pictures/; a name with a ":" in it is an address of its own and comes back as it is.
+// The path of a picture under pictures/; a name that contains a ":" is a complete address and is returned as it is.
 QString FullPicturePath(const ApplicationFolder& folder, const QString& name);
 
-// The path of a category's picture; empty when it has none. Error 438 when the name has a ":" in it: the picture itself
-// is then asked for, which a category does not have. This is meant.
+// The path of a category's picture; empty when it has none. ErrorNumber::NoSuchMember when the name contains a ":":
+// then the picture itself is asked for, which a category deliberately does not have.
 QString SelectedPicturePath(const ApplicationFolder& folder, CategoryClass& category);
 
 // The five names of an image's variables: a key with five endings. Rows share one, so that no name is put together
@@ -46,8 +46,8 @@ private:
     std::array<QString, Count> m_names;
 };
 
-// Adds key + "_TYPE", "_FILENAME", "_TEXT", "_WIDTH" and "_HEIGHT". A slot that shows nothing has the type "TEXT", too:
-// this is meant. Errors as for clsSelectedImage::WidthBmp.
+// Adds key + "_TYPE", "_FILENAME", "_TEXT", "_WIDTH" and "_HEIGHT". A slot that shows nothing
+// deliberately has the type "TEXT", too. Errors as for clsSelectedImage::WidthBmp.
 void AddImageVariables(Variables& vars, const PageContext& context, clsSelectedImage& selectedImage,
                        const ImageKeys& keys);
 // The same for a slot of the design, whose key is its tag.

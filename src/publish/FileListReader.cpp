@@ -26,12 +26,12 @@ QString upgradeText()
     return lines.join("\r\n"_L1);
 }
 
-bool isDigit(QChar letter)
+bool isDigit(QChar character)
 {
-    return letter >= u'0' && letter <= u'9';
+    return character >= u'0' && character <= u'9';
 }
 
-// A size in decimal, whatever the user's locale is.
+// A size in decimal, in whatever locale.
 qint32 sizeFromText(QStringView text)
 {
     const QStringView digits = text.startsWith(u'-') ? text.sliced(1) : text;

@@ -56,13 +56,13 @@ pugi::xml_node nodeBehind(pugi::xml_node element, const pugi::xml_node& top)
 
 UploadPart partOf(const UploadItem& item, const ApplicationFolder& folder)
 {
-    // The backslashes are meant on every platform, as is the whole local path of shop and pictures: the server cuts the
-    // bare name behind the last one. Templates go by their bare name.
+    // On every platform the shop and the pictures go by their whole local path, with backslashes: the server takes the
+    // bare name from behind the last one. Templates go by their bare name.
     switch (item.kind) {
     case UploadItem::Kind::Shop:
         return {folder.shopFile(), folder.path() + "\\shop.xml"_L1, "text/xml"};
     case UploadItem::Kind::Picture:
-        // One type for all pictures, whatever their format; meant.
+        // Deliberately one type for all pictures, whatever their format.
         return {folder.pictureFile(item.name), folder.path() + "\\pictures\\"_L1 + item.name, "image/gif"};
     case UploadItem::Kind::Template:
         break;
@@ -136,8 +136,8 @@ void UploadPlan::addDesign(const pugi::xml_node& design)
     for (const pugi::xml_node& slot : slotNodes) {
         AddPictureIfNeeded(lastChildText(slot, "FileName"));
     }
-    // The shop file has its custom pages beside ShopDesign and none below it, so that their pictures stay where they
-    // are. Looking for them here is meant.
+    // The shop file has its custom pages beside ShopDesign and none below it, so their pictures do not go up. The
+    // search here is deliberate.
     for (const pugi::xml_node& page : allDescendants(design, "CustomPage")) {
         AddPictureIfNeeded(childText(page, "ImageName"));
     }

@@ -27,11 +27,11 @@ struct UploadItem
 struct UploadPart
 {
     QString localFile;
-    QString fileName; // as the server is told it
+    QString fileName; // as it is told to the server
     QByteArray contentType;
 };
 
-// Error 53 for a picture whose name leads out of pictures/: it counts as a file that is not there.
+// ErrorNumber::FileNotFound for a picture whose name leads out of pictures/: it counts as a file that is not there.
 UploadPart partOf(const UploadItem& item, const ApplicationFolder& folder);
 
 class UploadPlan
@@ -45,8 +45,8 @@ public:
     // Bare file names in the order found; keys are the names, without regard to case.
     KeyedCollection<QString> PicturesToUpload;
 
-    // Walks the shop file for pictures. A shop file that is missing or no XML has no Shop. Error 75 when there is no
-    // folder of pictures.
+    // Walks the shop file for pictures. A shop file that is missing or malformed has no Shop.
+    // ErrorNumber::PathFileAccess when there is no folder of pictures.
     Found walkShopFile();
 
     // Adds a picture unless the server has one of that name whose size the local file of exactly this name has. Equal

@@ -13,7 +13,7 @@ namespace {
 
 constexpr const char* boundary = "AaB03x";
 
-// An answer may be a page of any size, a box cannot show it.
+// An answer may be a page of any size, more than a box can show.
 constexpr qsizetype longestShownAnswer = 4000;
 
 QByteArray openingBoundary()
@@ -47,7 +47,7 @@ QString textOfStatus(int status, const QString& responseText)
         return known->text;
     }
     return "Uploading is failed.\r\n"_L1 + responseText.left(longestShownAnswer) +
-           u"Error #%1\r\n"_s.arg(status); // no line end ahead of it: meant
+           u"Error #%1\r\n"_s.arg(status); // deliberately without a line end ahead of it
 }
 
 void showRefusal(UserPrompts& prompts, int number, const QString& text)
@@ -115,7 +115,7 @@ QString readAnswer(const HttpAnswer& answer, UserPrompts& prompts)
         showRefusal(prompts, answer.status, textOfStatus(answer.status, responseText));
         return responseText;
     }
-    // Three letters count, whatever stands behind them.
+    // The first three characters count, whatever follows them.
     const QStringView inBandStatus = QStringView(responseText).left(3);
     if (inBandStatus == "401"_L1) {
         showRefusal(prompts, 0,

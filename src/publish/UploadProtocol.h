@@ -16,14 +16,14 @@ inline constexpr QLatin1StringView ListURL("admin/list.php");
 // What an answer is taken for when it stops the upload.
 inline constexpr QLatin1StringView errorResult("error");
 
-// The same for every request. The comma is meant: servers of this protocol expect it.
+// The same for every request. Servers of this protocol expect the comma.
 QByteArray requestContentType();
 
-// What was typed, with "http://" in front and "/" behind where they are missing. Case counts: another spelling of the
-// scheme, and a secure one, get a second scheme in front; this is meant.
+// What was typed, with "http://" in front and "/" behind where they are missing. The case counts: a scheme in another
+// case, and a secure one, deliberately get a second scheme in front.
 QString normalizedBaseUrl(const QString& typed);
 
-// The bytes that a text has in a request: one for each letter (Windows-1252) where that can hold it, else UTF-8.
+// The bytes of a text in a request: one per character (Windows-1252) where that can hold it, else UTF-8.
 QByteArray requestText(const QString& text);
 
 // Login, password (in clear) and program version: the whole body of a request for the list, and the head of all others.
@@ -38,6 +38,6 @@ QByteArray uploadBody(const QByteArray& head, const QString& fileName, const QBy
 QString answerText(const QByteArray& body);
 
 // Reads an answer, which must be one without a failure: its text, or the word "error". Shows a box where the answer is
-// a refusal. A status other than 200 shows its box and still gives the text, so that it does not stop an upload by
-// itself; this is meant.
+// a refusal. A status other than 200 shows its box and still gives the text: deliberately, it does not stop an upload
+// by itself.
 QString readAnswer(const HttpAnswer& answer, UserPrompts& prompts);

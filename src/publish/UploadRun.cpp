@@ -130,7 +130,7 @@ void UploadRun::listAnswered(const HttpAnswer& answer)
 void UploadRun::startSending()
 {
     UploadPlan plan(m_folder, m_serverFiles);
-    switch (plan.walkShopFile()) { // without a trap: its errors end the program, which is meant
+    switch (plan.walkShopFile()) { // deliberately not trapped: its errors end the program
     case UploadPlan::Found::NoShop:
         stopWithoutNode("Shop");
         return;
@@ -204,7 +204,7 @@ void UploadRun::stop()
     m_head.clear(); // holds the password
 }
 
-// The hourglass stays until the screen closes; this is meant.
+// The hourglass deliberately stays until the screen closes.
 void UploadRun::stopWithoutNode(const char* tag)
 {
     m_prompts.showMessage(applicationTitle(),

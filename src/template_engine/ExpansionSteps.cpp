@@ -35,7 +35,7 @@ inline void appendValue(const VariableValue& value, TextOutput& out)
     }
 }
 
-// Exact: with regard to case, and nothing is trimmed.
+// The case counts, and nothing is trimmed.
 inline bool hasText(const VariableValue& value, const QString& text)
 {
     const auto* ownText = std::get_if<QString>(&value);
@@ -88,7 +88,7 @@ ExpansionSteps::Action ExpansionSteps::actionOf(qint16 type)
     }
 }
 
-// Values are written as they are and never looked through for tags.
+// Values are written as they are and never searched for tags.
 void ExpansionSteps::run(const Variables& vars, std::size_t from, std::size_t to, TextOutput& out) const
 {
     for (std::size_t i = from; i < to;) {

@@ -18,8 +18,8 @@ public:
     ExpansionSteps() = default;
     ExpansionSteps(const ElementArray& elements, NameTable& names);
 
-    // Writes the text of all elements with these values, which work on the same table of names. Error 13 for a list in
-    // a value tag or in a comparison, and for a cycle over what is no list.
+    // Writes the text of all elements with these values, which share the table of names. ErrorNumber::TypeMismatch for
+    // a list in a value tag or in a comparison, and for a cycle over what is no list.
     void run(const Variables& vars, TextOutput& out) const { run(vars, 0, m_steps.size(), out); }
 
 private:

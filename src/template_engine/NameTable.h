@@ -1,9 +1,9 @@
 // The names of template variables, each known by a small number, so that an expansion compares numbers and no texts.
-// Names are alike without regard to case, as QString's case-insensitive comparison has it.
+// Names are compared without regard to case, as QString's case-insensitive comparison does.
 //
 // Templates_Set owns the one table of the program; its templates and all Variables that are poured into them work on
 // it. The table also keeps the shapes: a shape is the sequence of keys that a Variables was filled with, so rows that
-// are filled alike share one shape and hold nothing but their values.
+// are filled alike share one shape and hold only their values.
 #pragma once
 
 #include <QHash>
@@ -34,7 +34,7 @@ public:
     // The key at a slot, 0-based, as it was spelled when it was added.
     const QString& key(int slot) const;
 
-    // The shape with one more key. Error 457 when the name is among the keys already.
+    // The shape with one more key. ErrorNumber::DuplicateKey when the name is among the keys already.
     Shape* with(QStringView key)
     {
         if (m_latest != nullptr && m_latest->m_key == key) {
@@ -43,7 +43,7 @@ public:
         return findOrMakeNext(key);
     }
 
-    // The 0-based slot of a name, -1 when it is none of the keys.
+    // The 0-based slot of a name, -1 when it is not among the keys.
     int slotOf(NameId name) const
     {
         if (m_slots.empty() && m_size > 0) {

@@ -11,21 +11,21 @@
 class Template
 {
 public:
-    // The table of names that the Variables poured in will work on too; it must outlive the template.
+    // The table of names, which the Variables of an expansion must share; it must outlive the template.
     explicit Template(NameTable& names) : m_names(&names) {}
 
     // The source. Writing it does not parse it.
     QString template_text;
 
-    // Makes the elements of template_text. Raises TemplateError (5 or 6) and then leaves the old elements in place.
+    // Makes the elements of template_text. A TemplateError leaves the old elements in place.
     void Parse();
 
     // The elements in the order of the source, with their spare slot; those of a template that was never parsed have
     // none.
     const ElementArray& parts() const { return m_parts; }
 
-    // The text of the template with these values. Error 13 for a list in a value tag or in a comparison, and for a
-    // cycle over what is no list. A template that was never parsed gives nothing.
+    // The text of the template with these values. ErrorNumber::TypeMismatch for a list in a value tag or in a
+    // comparison, and for a cycle over what is no list. A template that was never parsed gives nothing.
     QString Get_String(const Variables& vars) const;
 
     static bool ItemExists(const Variables& vars, QStringView key) { return vars.exists(key); }

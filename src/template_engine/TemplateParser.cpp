@@ -20,7 +20,7 @@ struct KindWord
     qint16 type;
 };
 
-// Exact case: "IF" is no kind word.
+// The case counts: "IF" is no kind word.
 constexpr std::array KindWords{
     KindWord{u"default", ElementType::Default}, KindWord{u"static", ElementType::Static},
     KindWord{u"text", ElementType::Text},       KindWord{u"html", ElementType::Html},
@@ -158,7 +158,8 @@ ElementArray parse_text(QStringView text, qsizetype position)
         }
         const Tag tag = readTag(text, mark, position);
         next = tag.end;
-        // An empty tag is no tag: its characters and, meant so, the text ahead of it once more begin the next text.
+        // An empty tag is no tag. The next text deliberately begins with the text ahead of it, a second time, and
+        // with the tag's own characters.
         afterEmptyTag = tag.empty;
         if (!tag.empty) {
             pending = next = appendTag(parts, text, tag, position);

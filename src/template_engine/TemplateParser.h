@@ -1,4 +1,4 @@
-// Makes the elements of a template out of its text. Template::Parse uses it; the failure tells its place, so that an
+// Parses the text of a template into its elements. Template::Parse uses it; a failure tells its place, so that an
 // editor can point at it.
 #pragma once
 
@@ -8,8 +8,8 @@
 #include <QString>
 #include <QStringView>
 
-// A text that is no template: error 5 for a tag or block that is not closed, error 6 for one that ends too far from the
-// start of its text. The description says in words what is wrong.
+// A text that is no template: ErrorNumber::InvalidArgument for a tag or block that is not closed, Overflow for one that
+// ends too far from the start of its text. The description says in words what is wrong.
 class TemplateError : public RuntimeError
 {
 public:
@@ -18,7 +18,7 @@ public:
     {
     }
 
-    // Where the tag begins that makes the failure: 0-based, from the start of the template's text.
+    // Where the tag at fault begins: 0-based, from the start of the template's text.
     qsizetype position() const { return m_position; }
 
 private:

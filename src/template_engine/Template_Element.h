@@ -37,9 +37,11 @@ struct Template_Element
     QString Default;             // fallback of a value tag, comparison value of If and IfNot
     ElementArray Template_Parts; // the body of a block
 
-    // Makes Template_Parts an array with the upper bound n and nothing in it. Error 9 for an n below 0.
+    // Makes Template_Parts an array with the upper bound n and nothing in it. ErrorNumber::SubscriptOutOfRange for an n
+    // below 0.
     void ReDimSubElements(int n);
-    // Takes over the elements of an array, not its spare slot. Error 9 when Template_Parts is too short.
+    // Copies the elements of an array, not its spare slot. ErrorNumber::SubscriptOutOfRange when Template_Parts is too
+    // short.
     void addParts(const ElementArray& parts);
 
     // A readable dump of the element and its body, for diagnosis.

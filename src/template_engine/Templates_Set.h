@@ -35,13 +35,13 @@ public:
 
     // The folder of the templates, with its trailing separator.
     QString Path;
-    // By page name: "main", "category" and so on. A page whose file is missing or no template is absent.
+    // By page name: "main", "category" and so on. A page is absent when its file is missing or is no template.
     KeyedCollection<std::shared_ptr<Template>> templates;
     // The frame; nullptr until its file has been read.
     std::shared_ptr<Template> layout_template;
 
-    // Reads the frame and all pages. A failure ends it there and then, silently: what was read so far stays, the others
-    // are absent.
+    // Reads the frame and all pages. A failure ends the reading silently: what was read so far stays, the others are
+    // absent.
     void parseTemplates();
 
     // Reads one page again: the base name of its file, and its key in templates. A key that is not there yet is added.

@@ -45,17 +45,19 @@ public:
     // The table of the templates that will be expanded; it must outlive the Variables.
     explicit Variables(NameTable& names) : m_shape(names.emptyShape()) {}
 
-    // Appends a value. Error 457 when the key is there already, in whatever case; nothing is changed then.
+    // Appends a value. ErrorNumber::DuplicateKey when the key is there already, in whatever case; nothing is changed
+    // then.
     void Add(QStringView key, VariableValue value);
     void Add(QStringView key, VariableRows rows);
 
     int Count() const { return m_shape->size(); }
     bool exists(QStringView key) const;
-    // The key at a position, 1-based, spelled as it was added. Error 9 when there is no such position.
+    // The key at a position, 1-based, spelled as it was added. ErrorNumber::SubscriptOutOfRange when there is no
+    // such position.
     const QString& Key(int index) const;
-    // The value at a position, 1-based. Error 9 when there is no such position.
+    // The value at a position, 1-based. ErrorNumber::SubscriptOutOfRange when there is no such position.
     const VariableValue& Item(int index) const;
-    // The value under a key. Error 5 when there is none.
+    // The value under a key. ErrorNumber::InvalidArgument when there is none.
     const VariableValue& Item(QStringView key) const;
 
     const NameTable& names() const { return m_shape->names(); }
@@ -74,8 +76,9 @@ private:
 };
 
 // The text form of a value: a text as it stands, an integer in plain decimal, True or False, a single with at most
-// seven significant digits, an object's text. Error 13 for a list, 91 for an object that is not there.
+// seven significant digits, an object's text. ErrorNumber::TypeMismatch for a list, ObjectNotSet for a null
+// object.
 QString textOf(const VariableValue& value);
 
-// The rows of a list. Error 13 for everything else.
+// The rows of a list. ErrorNumber::TypeMismatch for everything else.
 const VariableRows& rowsOf(const VariableValue& value);

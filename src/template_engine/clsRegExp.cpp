@@ -8,8 +8,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The pattern of all pages is worked by hand: several times as fast as the engine, linear also for a text full of "<",
-// and indifferent to broken surrogate pairs, on which the engine gives up.
+// The pattern that all pages use is matched by hand: several times as fast as the engine, linear even for a text full
+// of "<", and indifferent to broken surrogate pairs, on which the engine gives up.
 constexpr QStringView TagPattern = u"<[^>]*>";
 
 QString replaceTags(const QString& text, const QString& replacement)

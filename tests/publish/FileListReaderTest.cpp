@@ -110,6 +110,16 @@ TEST(FileListReader, AWrongLineShowsItsErrorAndEndsTheUpload)
     }
 }
 
+TEST(FileListReader, BlanksAroundASizeAreAllowedAndNoneInsideIt)
+{
+    const ServerFileList list = parseFileLines(u"a| 12|x\r\nb|12  |x\r\nc| \t12 |x\r\n");
+    for (const clsFileProp& file : list) {
+        EXPECT_EQ(file.size, 12) << file.fileName.toStdString();
+    }
+    EXPECT_EQ(errorOf([] { parseFileLines(u"a|1 2|x\r\n"); }), 13);
+    EXPECT_EQ(errorOf([] { parseFileLines(u"a|  |x\r\n"); }), 13);
+}
+
 TEST(FileListReader, SizesReachToTheEndsOf32Bits)
 {
     const ServerFileList list = parseFileLines(u"a|2147483647|\r\nb|-2147483648|\r\nc|007|\r\n");

@@ -58,11 +58,6 @@ QComboBox* namedList(const char* name, const QStringList& entries, const QString
     return list;
 }
 
-bool isYes(const QString& word)
-{
-    return word == "Yes"_L1;
-}
-
 QString wordOf(bool on)
 {
     return on ? u"Yes"_s : u"No"_s;

@@ -8,9 +8,6 @@
 #include "pages/preview/PreviewUrl.h"
 #include "pages/preview/ProductSearch.h"
 
-#include <cmath>
-#include <limits>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -35,7 +32,7 @@ QString QueryOf(const QString& url)
     return url.sliced(serverAddress().size());
 }
 
-// The first rule that fits counts. Some rules look at the query only, some at the whole address: this is meant.
+// The first rule that fits counts. Deliberately, some rules look at the query only and some at the whole address.
 Request requestOf(const QString& url, const QString& query)
 {
     if (!url.contains(serverAddress())) {
@@ -90,11 +87,7 @@ float singleOfField(const QString& url, const QString& key)
 {
     QString text = GetUrlParam(url, key, u"0"_s);
     text.replace("%2C"_L1, ","_L1);
-    const double number = text.isEmpty() ? 0.0 : numberFromText(text);
-    if (std::abs(number) > static_cast<double>(std::numeric_limits<float>::max())) {
-        throw RuntimeError(ErrorNumber::Overflow);
-    }
-    return static_cast<float>(number);
+    return singleFrom(numberOrZero(text));
 }
 
 } // namespace
@@ -168,8 +161,8 @@ void PreviewNavigation::openPreview()
     }
 }
 
-// With no page chosen this asks for a custom page "Home Page", with a capital P, which is not the shop's own "Home
-// page": this is meant.
+// With no page chosen this deliberately asks for a custom page "Home Page", with a capital P, which is not the shop's
+// own "Home page".
 QString PreviewNavigation::homeQuery() const
 {
     const auto& pages = m_page.context().design().Pages(PageSelection::CustomPageAsMainPage)->selectedPages();
@@ -210,7 +203,7 @@ void PreviewNavigation::recalculateLine(const QString& url)
 void PreviewNavigation::showFoundProducts(const QString& url)
 {
     const auto results = std::make_shared<SearchResults>();
-    results->word = GetUrlParam(url, u"what"_s, {}); // not decoded: this is meant
+    results->word = GetUrlParam(url, u"what"_s, {}); // deliberately not decoded
     ProductSearch search(results->word);
     for (const CatalogueObject& object : m_session.objects.items()) {
         const auto* product = std::get_if<std::shared_ptr<ProductClass>>(&object);

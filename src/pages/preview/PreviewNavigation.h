@@ -21,17 +21,17 @@ public:
     // Both must outlive it.
     PreviewNavigation(ShopSession& session, PreviewPage& page) : m_session(session), m_page(page) {}
 
-    // What is to become of an address, as text with its escapes (letters outside ASCII stand as letters). Looks at
-    // nothing but the text and raises nothing.
+    // What is to become of an address, given as text with its escapes (characters outside ASCII stand unescaped). Looks
+    // at nothing but the text and raises nothing.
     static NavigationDecision judge(const QString& url);
 
-    // Does what the address asks for: changes the cart, shows a page. An address without an action does nothing. Error
-    // 5 when a category, product or custom page is not there, 13 when an id is of another kind or a tax or charge is no
-    // number; others as for ShowPreviewPage.
+    // Does what the address asks for: changes the cart, shows a page. An address without an action does nothing.
+    // ErrorNumber::InvalidArgument when a category, product or custom page is not there, TypeMismatch when an id is of
+    // another kind or a tax or charge is no number; others as for ShowPreviewPage.
     void act(const QString& url);
 
-    // Shows the page that the preview opens with: the shop's home page. Error 5 when it is a custom page that is not
-    // there; others as for ShowPreviewPage.
+    // Shows the page that the preview opens with: the shop's home page. ErrorNumber::InvalidArgument when it
+    // is a custom page that is not there; others as for ShowPreviewPage.
     void openPreview();
 
 private:

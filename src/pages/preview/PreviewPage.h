@@ -14,8 +14,8 @@ public:
     // All three must outlive it.
     PreviewPage(ShopSession& session, Templates_Set& templates, PreviewSurface& surface);
 
-    // Composes and shows a page. Errors as for RenderPage; the surface is then left as it was. Error 91 when the
-    // frame's template is not there.
+    // Composes and shows a page. Errors as for RenderPage; the surface is then left as it was.
+    // ErrorNumber::ObjectNotSet when the frame's template is not there.
     void ShowPreviewPage(const QString& pageName, const PageObject& pageObject);
 
     // What was shown, or was to be shown, last.

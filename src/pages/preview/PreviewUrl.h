@@ -7,8 +7,8 @@
 // The host of the pseudo-server that serverAddress names.
 QString serverHost();
 
-// The text behind the first key + "=", up to the next "&"; the default when the key is not there. The key is found
-// inside of longer keys, too ("id" in "product_id="): this is meant.
+// The text behind the first key + "=", up to the next "&"; the default when the key is not there. The key is
+// deliberately found inside longer keys, too ("id" in "product_id=").
 QString GetUrlParam(const QString& text, const QString& key, const QString& defaultText);
 
 // "%20" becomes a blank and "%2C" a point, so that a price typed with a comma is read as one. No other escape is

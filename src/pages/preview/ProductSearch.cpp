@@ -6,11 +6,11 @@ namespace {
 
 constexpr std::size_t UnitCount = 0x10000;
 
-// Marks in the table of known units. Both are no letters of any text.
+// Marks in the table of known units. Neither is a character of any text.
 constexpr char16_t NotMetYet = 0;
 constexpr char16_t SeveralUnits = 0xFFFF; // the upper case is longer, or the unit is half of a pair
 
-// One letter becomes three at the most.
+// One character becomes three at most.
 constexpr qsizetype LongestUpperCase = 3;
 
 bool isAscii(char16_t unit)
@@ -39,7 +39,7 @@ bool ProductSearch::isIn(const QString& text)
     return m_findsAll || m_matcher.indexIn(upperCase(text)) >= 0;
 }
 
-// Upper case goes letter by letter and looks at no neighbours, so the units outside ASCII can be learned one by one.
+// Upper case depends on no neighbours, so the units outside ASCII can be learned one by one.
 QStringView ProductSearch::upperCase(QStringView text)
 {
     const auto room = static_cast<std::size_t>(text.size() * LongestUpperCase);

@@ -1,4 +1,4 @@
-// The search of the shop: which texts contain a word, both in upper case as QString::toUpper has it, so that "strasse"
+// The search of the shop: which texts contain a word, both in the upper case of QString::toUpper, so that "strasse"
 // finds "Straße". Made for one run over the catalogue; it upper-cases every text into one buffer that it keeps, which
 // is several times faster than a new text for each.
 #pragma once

@@ -139,7 +139,7 @@ void NetworkHttpClient::post(const QString& url, const QByteArray& contentType, 
         curl_easy_setopt(transfer, CURLOPT_PROXYUSERNAME, proxy.user().toUtf8().constData());
         curl_easy_setopt(transfer, CURLOPT_PROXYPASSWORD, proxy.password().toUtf8().constData());
     }
-    curl_easy_setopt(transfer, CURLOPT_NOPROXY, ""); // the system's answer has it in
+    curl_easy_setopt(transfer, CURLOPT_NOPROXY, ""); // the system's answer takes the exceptions into account already
     curl_easy_setopt(transfer, CURLOPT_USERAGENT, ("Tarnwick/" + programVersion().toLatin1()).constData());
     curl_easy_setopt(transfer, CURLOPT_HTTPHEADER, request->headers);
     curl_easy_setopt(transfer, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(request->body.size()));
@@ -175,6 +175,6 @@ void NetworkHttpClient::finish(CURLcode result)
         answer.failure = TransferFailure{why, result};
     }
     const Done done = std::move(m_request->done);
-    m_request.reset(); // its memory goes before that of the next one comes
+    m_request.reset(); // frees its memory ahead of the next request
     done(answer);
 }

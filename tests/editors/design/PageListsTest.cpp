@@ -180,6 +180,18 @@ TEST_F(PageLists, TakeOneChoiceForTheHomePageAcrossBoxesAndList)
     EXPECT_EQ(chosen(lists[4]), QStringList());
 }
 
+TEST_F(PageLists, ShowTheFirstNameAloneWhereOneChoiceIsAllowed)
+{
+    for (const QStringList& names : {QStringList{u"About"_s, u"Care"_s}, QStringList{u"Care"_s, u"Home page"_s},
+                                     QStringList{u"Shopping cart page"_s, u"About"_s}}) {
+        choose(lists[4], names);
+        QDialog* form = openList(lists[4]);
+        EXPECT_EQ(ticked(form), names.mid(0, 1));
+        press(form, "OkBtn");
+        EXPECT_EQ(chosen(lists[4]), names.mid(0, 1));
+    }
+}
+
 TEST_F(PageLists, AreBackAtSeveralChoicesAfterTheHomePageWasChosen)
 {
     for (const char* button : {"OkBtn", "CancelBtn"}) {

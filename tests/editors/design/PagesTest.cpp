@@ -56,7 +56,8 @@ TEST_F(CustomPages, ReachTheShopFileWithTheirPicture)
 
 TEST_F(CustomPages, GoBackToTheirNameWhenTheNewOneIsEmptyOrTaken)
 {
-    for (const QString& name : {QString(), u"Care"_s, u"CARE"_s, u"Home page"_s, u"Shopping cart page"_s}) {
+    for (const QString& name : {QString(), u"Care"_s, u"CARE"_s, u"Home page"_s, u"HOME PAGE"_s,
+                                u"Shopping cart page"_s, u"SHOPPING CART PAGE"_s}) {
         SCOPED_TRACE(name.toStdString());
         select(1);
         type(nameField(), name);
