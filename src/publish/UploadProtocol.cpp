@@ -2,6 +2,7 @@
 
 #include "base/TextFile.h"
 #include "base/UserPrompts.h"
+#include "base/Utf8.h"
 #include "publish/VendorAddresses.h"
 
 #include <algorithm>
@@ -16,9 +17,21 @@ constexpr const char* boundary = "AaB03x";
 // An answer may be a page of any size, more than a box can show.
 constexpr qsizetype longestShownAnswer = 4000;
 
+QByteArray boundaryMark()
+{
+    return QByteArray("--") + boundary;
+}
+
 QByteArray openingBoundary()
 {
-    return QByteArray("--") + boundary + "\r\n";
+    return boundaryMark() + "\r\n";
+}
+
+// The line that begins there, with its LF.
+QByteArrayView lineAt(const QByteArray& body, qsizetype start)
+{
+    const qsizetype lineEnd = body.indexOf('\n', start);
+    return QByteArrayView(body).sliced(start, (lineEnd < 0 ? body.size() : lineEnd + 1) - start);
 }
 
 QByteArray field(const char* name, const QString& value)
@@ -96,12 +109,38 @@ QByteArray uploadBody(const QByteArray& head, const QString& fileName, const QBy
     return body;
 }
 
+bool holdsBoundary(const QByteArray& bytes)
+{
+    const QByteArray mark = boundaryMark();
+    for (qsizetype at = bytes.indexOf(mark); at >= 0; at = bytes.indexOf(mark, at + 1)) {
+        if (at == 0 || bytes[at - 1] == '\n') {
+            return true;
+        }
+    }
+    return false;
+}
+
+QString boundaryText()
+{
+    return QString::fromLatin1(boundaryMark());
+}
+
 QString answerText(const QByteArray& body)
 {
     QString text;
+    text.reserve(body.size());
     for (qsizetype at = 0; at < body.size();) {
-        const qsizetype lineEnd = body.indexOf('\n', at);
-        const qsizetype end = lineEnd < 0 ? body.size() : lineEnd + 1;
+        // Lines of one encoding are decoded together. A byte order mark counts only where a run begins.
+        const QByteArrayView first = lineAt(body, at);
+        const bool isUtf8 = isValidUtf8(first);
+        qsizetype end = at + first.size();
+        while (end < body.size()) {
+            const QByteArrayView next = lineAt(body, end);
+            if (isValidUtf8(next) != isUtf8 || next.startsWith("\xEF\xBB\xBF")) {
+                break;
+            }
+            end += next.size();
+        }
         text += decodeText(QByteArray::fromRawData(body.constData() + at, end - at)).text;
         at = end;
     }

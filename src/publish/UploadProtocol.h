@@ -34,6 +34,12 @@ QByteArray requestHead(const QString& login, const QString& password, const QStr
 QByteArray uploadBody(const QByteArray& head, const QString& fileName, const QByteArray& contentType,
                       const QByteArray& file);
 
+// True for bytes that a body cannot carry whole: one of their lines begins with the boundary, so that the server would
+// take what follows for a field or a file of its own. A line ends at LF, with or without a CR ahead of it.
+bool holdsBoundary(const QByteArray& bytes);
+// How the boundary stands at the beginning of such a line.
+QString boundaryText();
+
 // The text of an answer. A server holds file names as they came to it, so each line is UTF-8 or Windows-1252 by itself.
 QString answerText(const QByteArray& body);
 

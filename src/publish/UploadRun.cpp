@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +25,28 @@ QString submitLogText(const QString& what)
 QString noListText()
 {
     return submitLogText(u"Server error.\r\nServer didn't send image list."_s);
+}
+
+// The most that the answer with the list may have.
+constexpr qsizetype longestListAnswer = qsizetype{4} * 1024 * 1024;
+
+QString carriesBoundaryText(const QString& what)
+{
+    return u"%1 cannot be sent: a line that begins with \"%2\" ends what the server reads."_s.arg(what, boundaryText());
+}
+
+// How a box names an item.
+QString nameOf(const UploadItem& item)
+{
+    switch (item.kind) {
+    case UploadItem::Kind::Shop:
+        return u"The file shop.xml"_s;
+    case UploadItem::Kind::Picture:
+        return u"The picture "_s + item.name;
+    case UploadItem::Kind::Template:
+        break;
+    }
+    return u"The template "_s + item.name + ".html"_L1;
 }
 
 QString unknownErrorText()
@@ -73,13 +96,15 @@ void UploadRun::start()
     if (m_transferring) {
         return;
     }
+    const UploadFields fields = m_screen.fields(); // a change during the transfer is for the next one
+    if (refusesFields(fields)) {
+        return;
+    }
     m_screen.setHourglass(true);
     m_progress = 0;
     m_screen.showProgress(m_progress);
     m_transferring = true;
 
-    // A change of the fields during the transfer is for the next one.
-    const UploadFields fields = m_screen.fields();
     m_baseUrl = normalizedBaseUrl(fields.address);
     m_screen.setAddress(m_baseUrl);
     m_head = requestHead(fields.login, fields.password, programVersion());
@@ -111,6 +136,11 @@ void UploadRun::listAnswered(const HttpAnswer& answer)
         m_screen.closeScreen();
         return;
     }
+    if (answer.body.size() > longestListAnswer) {
+        fail({u"The answer is too long"_s, static_cast<int>(ErrorNumber::Overflow)}, noListText());
+        m_screen.closeScreen();
+        return;
+    }
     const QString result = readAnswer(answer, m_prompts);
     if (!m_transferring) {
         return; // the program ended while a box was shown
@@ -127,6 +157,39 @@ void UploadRun::listAnswered(const HttpAnswer& answer)
     startSending();
 }
 
+// A line that begins with the boundary would end the field, and what follows it could pass for another file.
+bool UploadRun::refusesFields(const UploadFields& fields)
+{
+    for (const auto& [name, value] :
+         {std::pair(u"The login"_s, fields.login), std::pair(u"The password"_s, fields.password)}) {
+        if (holdsBoundary(requestText(value))) {
+            m_prompts.showMessage(u"Uploading data"_s, carriesBoundaryText(name), PromptIcon::Warning);
+            return true;
+        }
+    }
+    return false;
+}
+
+// The same for the files and their names. All are searched before the first one goes up, so that nothing of the shop is
+// sent.
+bool UploadRun::refusesFiles()
+{
+    for (const UploadItem& item : m_items) {
+        bool holds = false;
+        // A file that cannot be read is told of in its own turn.
+        static_cast<void>(trapped([&] {
+            const UploadPart part = partOf(item, m_folder);
+            holds = holdsBoundary(requestText(part.fileName)) || holdsBoundary(readFileBytes(part.localFile));
+        }));
+        if (holds) {
+            stop();
+            m_prompts.showMessage(u"Uploading data"_s, carriesBoundaryText(nameOf(item)), PromptIcon::Warning);
+            return true;
+        }
+    }
+    return false;
+}
+
 void UploadRun::startSending()
 {
     UploadPlan plan(m_folder, m_serverFiles);
@@ -141,6 +204,9 @@ void UploadRun::startSending()
         break;
     }
     m_items = plan.items();
+    if (refusesFiles()) {
+        return;
+    }
     m_next = 0;
     m_progressStep = plan.ProgressStep();
     advance(2);

@@ -41,7 +41,9 @@ public:
 private:
     void post(QLatin1StringView page, const QByteArray& body, void (UploadRun::*answered)(const HttpAnswer&));
     void listAnswered(const HttpAnswer& answer);
+    bool refusesFields(const UploadFields& fields);
     void startSending();
+    bool refusesFiles();
     void sendNext();
     void sendItem(const UploadItem& item);
     void itemAnswered(const HttpAnswer& answer);

@@ -3,6 +3,10 @@
 #include "publish/PublishSupport.h"
 #include "publish/VendorAddresses.h"
 
+#include <algorithm>
+#include <ctime>
+#include <limits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -145,6 +149,79 @@ TEST(UploadProtocol, EachLineOfAnAnswerIsReadInItsOwnEncoding)
     EXPECT_EQ(answerText("\xEF\xBB\xBF"
                          "1.2.0|"),
               u"1.2.0|"_s);
+}
+
+TEST(UploadProtocol, RunsOfLinesInOneEncodingReadAsTheLinesByThemselves)
+{
+    const QList<QByteArray> lines = {"\xC3\xB6|1|x\r\n",   "\xF6|1|x\n", "\n",   "\xEF\xBB\xBF|\n",
+                                     "\xEF\xBB\xBF\xF6\n", "\xC3\n",     "\xB6", "plain\r\n"};
+    for (qsizetype first = 0; first < lines.size(); ++first) {
+        for (qsizetype second = 0; second < lines.size(); ++second) {
+            for (qsizetype third = 0; third < lines.size(); ++third) {
+                QByteArray body;
+                QString expected;
+                for (const qsizetype line : {first, second, third}) {
+                    if (!body.isEmpty() && !body.endsWith('\n')) {
+                        continue; // it would go on with an unfinished line
+                    }
+                    body += lines[line];
+                    expected += answerText(lines[line]);
+                }
+                EXPECT_EQ(answerText(body), expected) << body.toPercentEncoding().toStdString();
+            }
+        }
+    }
+}
+
+// The processor's time for reading an answer, in seconds; the best of three.
+double secondsToRead(const QByteArray& body)
+{
+    double best = std::numeric_limits<double>::max();
+    for (int turn = 0; turn < 3; ++turn) {
+        const std::clock_t start = std::clock();
+        EXPECT_EQ(answerText(body).size(), body.size());
+        best = std::min(best, static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
+    }
+    return best;
+}
+
+TEST(UploadProtocol, AnAnswerIsReadInATimeThatGrowsLikeItsLength)
+{
+    const qsizetype length = qsizetype{256} * 1024;
+    for (const QByteArray& line : {QByteArray("\n"), QByteArray("\xF6\n"), QByteArray("\n\xF6\n")}) {
+        const double once = secondsToRead(line.repeated(length / line.size()));
+        const double fourTimes = secondsToRead(line.repeated(4 * length / line.size()));
+        EXPECT_LT(fourTimes, 8 * once + 0.05) << line.toPercentEncoding().toStdString(); // a square would make 16 of it
+    }
+}
+
+TEST(UploadProtocol, FindsTheBoundaryAtTheBeginningOfALineOnly)
+{
+    const struct
+    {
+        QByteArray bytes;
+        bool holds;
+    } rows[] = {
+        {"--AaB03x", true},
+        {"--AaB03x--\r\n", true},
+        {"--AaB03xyz", true},
+        {"a\r\n--AaB03x\r\nb", true},
+        {"a\n--AaB03x", true},
+        {QByteArray("\0\n--AaB03x", 10), true},
+        {"x--AaB03x\n--AaB03x", true},
+        {"----AaB03x\n--AaB03x", true},
+        {"", false},
+        {"AaB03x", false},
+        {" --AaB03x", false},
+        {"a\r--AaB03x", false},
+        {"---AaB03x", false},
+        {"--aab03x", false},
+        {"a --AaB03x\r\nb", false},
+        {"\n--AaB03", false},
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(holdsBoundary(row.bytes), row.holds) << row.bytes.toPercentEncoding().toStdString();
+    }
 }
 
 } // namespace

@@ -255,6 +255,111 @@ TEST_F(UploadRunTest, AFileThatCannotBeOpenedIsAnUnknownError)
     }
 }
 
+TEST_F(UploadRunTest, AFileThatHoldsTheBoundaryIsNamedAndNothingOfTheShopIsSent)
+{
+    const QByteArray smuggled = "--AaB03x\r\nContent-Disposition: form-data; name=\"file[]\"; filename=\"x.php\"\r\n";
+    const struct
+    {
+        QString file;
+        QString named;
+        QByteArray ahead;
+    } rows[] = {
+        {u"shop.xml"_s, u"The file shop.xml"_s, "<Tarnwick><Shop><ShopDesign/><Name>\n"},
+        {u"pictures/pot.gif"_s, u"The picture pot.gif"_s, ""},
+        {u"templates/payed_ok.html"_s, u"The template payed_ok.html"_s, "<!--1.2.0-->\r\n"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.named.toStdString());
+        client.requests.clear();
+        screen.progress.clear();
+        const QByteArray before = fileBytes(files.path(row.file));
+        const QByteArray after = row.file == u"shop.xml"_s ? QByteArray("</Name></Shop></Tarnwick>") : QByteArray();
+        WriteFile(files.path(row.file), row.ahead + smuggled + after);
+        run.start();
+        prompts.expectMessage(u"Uploading data"_s,
+                              row.named + u" cannot be sent: a line that begins with \"--AaB03x\" ends what the server "
+                                          "reads."_s,
+                              PromptIcon::Warning);
+        client.answer(Answer(200, "1.2.0|"));
+        EXPECT_EQ(client.requests.size(), 1U); // the one for the list
+        EXPECT_EQ(screen.progress, std::vector<int>{0});
+        expectReady();
+        EXPECT_FALSE(QFile::exists(files.path(u"upload.log"_s)));
+        WriteFile(files.path(row.file), before);
+    }
+}
+
+TEST_F(UploadRunTest, AFileThatCannotBeReadKeepsNoOtherFromBeingSearched)
+{
+    ASSERT_TRUE(QFile::remove(files.path(u"pictures/cups.png"_s)));
+    WriteFile(files.path(u"templates/menu.html"_s), "--AaB03x");
+    run.start();
+    prompts.expectMessage(
+        u"Uploading data"_s,
+        u"The template menu.html cannot be sent: a line that begins with \"--AaB03x\" ends what the server reads."_s,
+        PromptIcon::Warning);
+    client.answer(Answer(200, "1.2.0|"));
+    EXPECT_EQ(client.requests.size(), 1U);
+}
+
+TEST_F(UploadRunTest, APictureThatTheServerHasIsNotSearched)
+{
+    WriteFile(files.path(u"pictures/cups.png"_s), "--AaB03x");
+    expectComplete();
+    run.start();
+    client.answerAll("cups.png|8|x\r\n");
+    EXPECT_EQ(screen.closings, 1);
+}
+
+TEST_F(UploadRunTest, ALoginOrPasswordThatBeginsLikeTheBoundaryIsNamedBeforeTheServerIsAsked)
+{
+    const struct
+    {
+        QString login;
+        QString password;
+        QString named;
+    } rows[] = {
+        {u"--AaB03x"_s, u"s3cret"_s, u"The login"_s},
+        {u"anna"_s, u"--AaB03x--"_s, u"The password"_s},
+    };
+    for (const auto& row : rows) {
+        screen.typed.login = row.login;
+        screen.typed.password = row.password;
+        prompts.expectMessage(u"Uploading data"_s,
+                              row.named + u" cannot be sent: a line that begins with \"--AaB03x\" ends what the server "
+                                          "reads."_s,
+                              PromptIcon::Warning);
+        run.start();
+        EXPECT_TRUE(client.requests.empty());
+        EXPECT_TRUE(screen.progress.empty());
+        expectReady();
+    }
+    screen.typed.login = u"a--AaB03x"_s;
+    screen.typed.password = u"s3cret"_s;
+    run.start();
+    EXPECT_EQ(client.requests.size(), 1U);
+}
+
+TEST_F(UploadRunTest, AListOfMoreThanFourMegabytesIsAFailure)
+{
+    const qsizetype most = qsizetype{4} * 1024 * 1024;
+    const QByteArray version = "1.2.0|";
+    run.start();
+    client.answer(Answer(200, version + QByteArray(most - version.size(), 'x'))); // a line without an end is not read
+    EXPECT_EQ(client.requests.size(), 2U);
+    run.abandon();
+
+    client.requests.clear();
+    run.start();
+    prompts.expectMessage(u"Uploading data"_s, noListText, PromptIcon::Critical);
+    client.answer(Answer(200, version + QByteArray(most + 1 - version.size(), 'x')));
+    EXPECT_EQ(client.requests.size(), 1U);
+    EXPECT_EQ(log(), "anna\r\nhttp://shop.test/\r\nThe answer is too long|6\r\n");
+    EXPECT_EQ(screen.closings, 1);
+    EXPECT_FALSE(run.isTransferring());
+    EXPECT_FALSE(screen.hourglass);
+}
+
 TEST_F(UploadRunTest, APictureNameThatLeadsOutOfItsFolderIsNotSent)
 {
     WriteFile(files.path(u"shop.xml"_s), "<Tarnwick><Shop><Category><Picture>../shop.xml</Picture></Category>"

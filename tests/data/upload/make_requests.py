@@ -34,7 +34,7 @@ TEMPLATES = ("cart category custompage footer header layout main menu product se
 
 PICTURES = {
     "cups.png": b"a row of cups",
-    "blue.png": bytes(range(256)) + b"\r\n--AaB03x--\r\n",
+    "blue.png": bytes(range(256)) + b"\r --AaB03x--\r\n",
     "pot.gif": b"",
     "logo.png": b"the logo\0\0",
 }
