@@ -15,10 +15,10 @@ SubmitReset::SubmitReset(PanelHost& host, QWidget* parent)
 {
     imgButtonSubmit->setObjectName(u"imgButtonSubmit"_s);
     imgButtonSubmit->setIcon(editorIcon("submit"));
-    imgButtonSubmit->setToolTip(u"Takes over what stands in this panel"_s);
+    imgButtonSubmit->setToolTip(u"Apply the changes made in this panel"_s);
     imgButtonReset->setObjectName(u"imgButtonReset"_s);
     imgButtonReset->setIcon(editorIcon("reset"));
-    imgButtonReset->setToolTip(u"Brings back what was there before"_s);
+    imgButtonReset->setToolTip(u"Discard the changes made in this panel"_s);
     imgButtonSubmit->setDefault(true);
     for (QPushButton* button : {imgButtonSubmit, imgButtonReset}) {
         button->setAccessibleName(button->text());

@@ -32,11 +32,11 @@ public:
 
     // Fills the grid from the shop's charges.
     void InitForCharges();
-    // Fills the grid: one column a title, as many rows as the first collection has items. With the tax flag the third
+    // Fills the grid: one column per title, as many rows as the first collection has items. With the tax flag the third
     // column shows which of the shop's taxes are in use.
     void Init(const QStringList& titles, const Columns& columns, bool isTaxGrid = false);
 
-    // Reads all rows back, one collection a column, under the keys "row1", "row2", ... Without rows the result is one
+    // Reads all rows back, one collection per column, under the keys "row1", "row2", ... Without rows the result is one
     // element, which is absent.
     Columns GetData() const;
     // Write all rows to the shop's list of charges, or of taxes.

@@ -83,7 +83,7 @@ void DiscountEditor::makeOptions(PanelFrame* frame)
 void DiscountEditor::makeDates(PanelFrame* frame)
 {
     DateMV = new MonthCalendar(m_host.session().clock, frame);
-    QFormLayout* form = frame->addForm(u"Valid from and to, both days included"_s);
+    QFormLayout* form = frame->addForm(u"Valid from and to (inclusive)"_s);
     DateFromTxt = new DateField(*DateMV, frame);
     DateToTxt = new DateField(*DateMV, frame);
     addField(form, u"First day"_s, DateFromTxt, "DateFromTxt");

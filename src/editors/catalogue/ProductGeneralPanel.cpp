@@ -96,7 +96,7 @@ void ProductGeneralPanel::SaveActiveObject()
     m_product->ForSale = chkForSale->isChecked();
 }
 
-// A link that begins with "https://" or with capitals gets the prefix too: this is meant.
+// A link that begins with "https://" or with capitals gets the prefix too, deliberately.
 void ProductGeneralPanel::completeLink()
 {
     const QString prefix = u"http://"_s;

@@ -30,7 +30,7 @@ enum Option { NoCharges, ByWeight, Individual };
 constexpr std::array shippingOptions = {
     ShippingOption{"NoChargesOpt", "No shipping charges", "No"_L1},
     ShippingOption{"ByWeightOpt", "By weight", "Weight"_L1},
-    ShippingOption{"IndividualOpt", "Costs of its own", "Individual"_L1},
+    ShippingOption{"IndividualOpt", "Individual costs", "Individual"_L1},
 };
 
 } // namespace

@@ -1,4 +1,4 @@
-// A panel without a purpose yet: it shows nothing of the product and saves nothing, which is meant.
+// A panel without a purpose yet: deliberately, it shows nothing of the product and saves nothing.
 #pragma once
 
 #include "editors/Panel.h"

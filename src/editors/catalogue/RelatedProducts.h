@@ -1,5 +1,5 @@
-// The list of related products that ProductsRelatedPanel edits: what is shown is a name, what is meant is an id. The
-// panel owns it.
+// The list of related products that ProductsRelatedPanel edits: it holds ids and shows names. The panel owns
+// it.
 #pragma once
 
 #include <QAbstractListModel>

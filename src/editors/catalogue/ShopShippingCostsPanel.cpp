@@ -24,7 +24,7 @@ std::shared_ptr<TextCollection> costColumn(const KeyedCollection<TextCollection>
     return column;
 }
 
-// One list of costs a frame, from the columns behind the frames' own.
+// One list of costs per frame, from the columns behind the frames' own.
 std::shared_ptr<KeyedCollection<TextCollection>> costsByFrame(const CustomGrid::Columns& columns)
 {
     auto costs = std::make_shared<KeyedCollection<TextCollection>>();

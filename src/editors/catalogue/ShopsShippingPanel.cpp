@@ -14,7 +14,7 @@ ShopsShippingPanel::ShopsShippingPanel(PanelHost& host, QWidget* parent) : Panel
 {
     auto* frame = new PanelFrame(u"Shipping types"_s, this);
     ShippingGrd = named(new CustomGrid(host, frame), "ShippingGrd", u"Shipping types"_s);
-    frame->addColumn(u"Ways in which the shop delivers"_s, true)->addWidget(ShippingGrd, 1);
+    frame->addColumn(u"Delivery options"_s, true)->addWidget(ShippingGrd, 1);
 }
 
 void ShopsShippingPanel::SetActiveObject(const CatalogueObject& object)

@@ -14,8 +14,8 @@ ucShippingCharges::ucShippingCharges(PanelHost& host, QWidget* parent) : Panel(p
 {
     auto* frame = new PanelFrame(u"Shipping charges"_s, this);
     cmbNoCharges = named(new QRadioButton(u"No shipping charges"_s, frame), "cmbNoCharges", u"No shipping charges"_s);
-    cmbSelectCharges = named(new QRadioButton(u"Charges of the list below"_s, frame), "cmbSelectCharges",
-                             u"Charges of the list below"_s);
+    cmbSelectCharges = named(new QRadioButton(u"Add the charges ticked below"_s, frame), "cmbSelectCharges",
+                             u"Add the charges ticked below"_s);
     gridCharges = named(new CustomGrid(host, frame), "gridCharges", u"Shipping charges"_s);
 
     QVBoxLayout* choice = frame->addColumn(u"Use of shipping charges"_s);

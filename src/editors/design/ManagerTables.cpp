@@ -36,7 +36,7 @@ constexpr SlotRow menuSlots[] = {
 constexpr ListRow menuLists[] = {
     {PageSelection::MenuCustomPageSelected, "lblSelectedCustomPageBttn", "Pages in the menu", true},
 };
-// Two styles bear one title: this is meant.
+// Two styles share a title, deliberately.
 constexpr StyleRow menuStyles[] = {
     {"General_menu",                  "General Menu Properties",   "Whole menu"},
     {"menu_in_menu",                  "Menu Properties",           "Links to pages"},
@@ -148,13 +148,13 @@ constexpr ManagerTable mainTable = {
 
 constexpr SwitchRow buyingSwitches[] = {
     {BuyingForm_IncludePageHeader, "chkIncludePageHeader", "Show the page header"},
-    {BuyingForm_IncludeBreadCrumb, "chkIncludeBreadcrumb", "Show the way back to the start"},
+    {BuyingForm_IncludeBreadCrumb, "chkIncludeBreadcrumb", "Show the breadcrumb trail"},
 };
 constexpr TextRow buyingTexts[] = {
     {BuyingForm_PageHeaderText, "txtPageHeader", "Page header:"},
 };
 constexpr OptionGroup buyingGroups[] = {{"What visitors see", buyingSwitches, buyingTexts}};
-// The first slot is never filled: the choice opens and changes nothing, and this is meant.
+// The first slot is never filled, deliberately: its dialog opens and changes nothing.
 constexpr SlotRow buyingSlots[] = {
     {std::nullopt,                         "imgRecalculateButton", "Recalculate button"},
     {ImageSlot::BuyingFormMakeOrderButton, "lblMakeOrder",         "Order button"},
@@ -162,7 +162,7 @@ constexpr SlotRow buyingSlots[] = {
 constexpr StyleRow buyingStyles[] = {
     {"Buyingform_general_page",  "General Page Properties",  "Whole page"},
     {"Buyingform_page_header",   "Page Header Properties",   "Page header"},
-    {"Buyingform_bredcrumb",     "Breadcrumb Properties",    "Way back to the start"},
+    {"Buyingform_bredcrumb",     "Breadcrumb Properties",    "Breadcrumb trail"},
     {"Buyingform_form_elements", "Form Elements Properties", "Fields of the form"},
 };
 constexpr ManagerTable buyingTable = {

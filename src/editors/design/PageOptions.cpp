@@ -40,7 +40,7 @@ ShopDesignClass& designOf(PanelHost& host)
 QString describe(const clsSelectedImage* image)
 {
     if (!image) {
-        return u"The page has no such button of its own"_s;
+        return u"Not used by this page"_s;
     }
     switch (image->SelectionType) {
     case ImageSelection::Text:

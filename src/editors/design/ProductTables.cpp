@@ -9,7 +9,7 @@ using enum DesignOption;
 namespace {
 
 constexpr const char* showHeader      = "Show the page header";
-constexpr const char* showBreadcrumb  = "Show the way back to the start";
+constexpr const char* showBreadcrumb  = "Show the breadcrumb trail";
 constexpr const char* showImage       = "Show the product image";
 constexpr const char* showName        = "Show the product name";
 constexpr const char* showDescription = "Show the product description";
@@ -31,7 +31,7 @@ constexpr const char* addButton = "Add-to-cart button";
 
 constexpr const char* wholePage   = "Whole page";
 constexpr const char* header      = "Page header";
-constexpr const char* breadcrumb  = "Way back to the start";
+constexpr const char* breadcrumb  = "Breadcrumb trail";
 constexpr const char* image       = "Product image";
 constexpr const char* name        = "Product name";
 constexpr const char* description = "Product description";

@@ -19,8 +19,8 @@ public:
     // The host and the table must outlive it.
     TemplatePart(PanelHost& host, const ManagerTable& table, QWidget* parent);
 
-    // Shows the page's template and that state of the advanced mode, without a question. Error 5 when the set has no
-    // template of the page.
+    // Shows the page's template and that state of the advanced mode, without a question.
+    // ErrorNumber::InvalidArgument when the set has no template of the page.
     void load(bool advanced);
     bool isAdvanced() const;
 

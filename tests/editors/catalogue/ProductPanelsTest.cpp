@@ -261,6 +261,21 @@ TEST_F(ProductShipping, PutsToUseWhatItsOptionNeeds)
     EXPECT_EQ(product("4")->Weight, u"3"_s);
 }
 
+TEST_F(ProductShipping, KeepsAnUnknownModeAfterThePanelShowedAnother)
+{
+    product("4")->ShippingStatus = u"Weight"_s;
+    showPanel("ProductShippingCostsPnl");
+    EXPECT_TRUE(in<QRadioButton>("ByWeightOpt")->isChecked());
+    window->ShowFrame(nullptr, PanelCode::Show);
+    product("4")->ShippingStatus = u"Pigeon"_s;
+    showPanel("ProductShippingCostsPnl");
+    for (const char* option : {"NoChargesOpt", "ByWeightOpt", "IndividualOpt"}) {
+        EXPECT_FALSE(in<QRadioButton>(option)->isChecked()) << option;
+    }
+    window->ShowFrame(nullptr, PanelCode::Show);
+    EXPECT_EQ(product("4")->ShippingStatus, u"Pigeon"_s);
+}
+
 TEST_F(ProductShipping, KeepsAnUnknownModeAndTheTableThatACloneShares)
 {
     useTypes({u"Post"_s});

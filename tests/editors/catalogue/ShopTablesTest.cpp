@@ -33,6 +33,20 @@ TEST_F(ShopTables, ShowTheTaxesWithTheirPictures)
     EXPECT_NE(picture(0).toImage(), picture(1).toImage());
 }
 
+TEST_F(ShopTables, ShareTheWidthOfTheTaxGridAmongItsColumns)
+{
+    click("ShopTaxesSBtn");
+    QCoreApplication::processEvents();
+    const auto* grid = in<CustomGrid>("TaxGrd");
+    const int column =
+        (grid->width() - 130) / 3; // the links and their margin take 120, and a tax grid's columns 10 more
+    ASSERT_GT(column, 60);
+    for (int place = 0; place < 3; ++place) {
+        EXPECT_EQ(grid->BaseGrd->columnWidth(place), column) << place;
+    }
+    EXPECT_EQ(grid->BaseGrd->columnWidth(3), 113);
+}
+
 TEST_F(ShopTables, PutATaxToUseOnlyWhenTaxesAreSelected)
 {
     click("ShopTaxesSBtn");

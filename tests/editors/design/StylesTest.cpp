@@ -154,6 +154,31 @@ TEST_F(Styles, OpenUnderTheirTitlesOnTheirValues)
     }
 }
 
+TEST_F(Styles, ShowTheirColoursOnTheirButtons)
+{
+    CSSClass& price = *shop().CSSs.Item(u"IDcategorypage_price"_s);
+    price.ForeGroundColor = u"#ff0000"_s;
+    price.BackGroundColor = u"#00ff00"_s;
+    openManager("CategoryPageDesignSBtn");
+    const auto swatch = [this] {
+        return in<QPushButton>("btnCSS_categorypage_price")->icon().pixmap(22, 16).toImage();
+    };
+    EXPECT_EQ(swatch().pixelColor(2, 2), QColor(u"#00ff00"_s));
+    bool hasText = false;
+    for (int y = 0; y < swatch().height(); ++y) {
+        for (int x = 0; x < swatch().width(); ++x) {
+            hasText = hasText || swatch().pixelColor(x, y) == QColor(u"#ff0000"_s);
+        }
+    }
+    EXPECT_TRUE(hasText);
+
+    QDialog* form = openStyle("categorypage_price");
+    prompts.answerColour(0xff0000); // blue: red is the low byte
+    press(part<QPushButton>(form, "BackGroundColorBtn"));
+    press(form, "OkBtn");
+    EXPECT_EQ(swatch().pixelColor(2, 2), QColor(u"#0000ff"_s));
+}
+
 TEST_F(Styles, AreWrittenToTheStyleByTheOkButton)
 {
     openManager("CategoryPageDesignSBtn");

@@ -71,7 +71,8 @@ void PicturesList::addPicture()
     PicturePathSetting setting;
     const QString chosen = m_host.session().prompts.chooseFile(setting.folder(), pictureFileFilter());
     const QFileInfo source(chosen);
-    setting.setFolder(chosen.isEmpty() ? QString() : source.path()); // a choice taken back forgets the folder: meant
+    setting.setFolder(chosen.isEmpty() ? QString()
+                                       : source.path()); // a cancelled choice forgets the folder, deliberately
     if (chosen.isEmpty()) {
         return;
     }

@@ -39,7 +39,7 @@ private:
     PanelHost& m_host;
 };
 
-// The filter of every choice of a picture file. The dots missing before jpg and gif are meant.
+// The filter of every choice of a picture file. The dots before jpg and gif are left out deliberately.
 QString pictureFileFilter();
 // The path of a picture's file. A name with a colon is an absolute path, any other stands under pictures/; empty for a
 // name that would lead out of that folder.

@@ -29,7 +29,7 @@ public:
     void SetActiveObject(const std::shared_ptr<clsSelectedCustomPages>& selection,
                          const KeyedCollection<std::shared_ptr<CustomPageClass>>& pages);
     // Writes what is chosen to the selection: the boxes first, then the list from top to bottom, in whatever order the
-    // user chose. Error 457 when a page of the list bears the name of a chosen box.
+    // user chose. ErrorNumber::DuplicateKey when a page of the list bears the name of a chosen box.
     void SaveActiveObject();
 
 private:
