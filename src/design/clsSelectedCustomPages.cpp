@@ -5,6 +5,8 @@
 #include "base/XMLUtils.h"
 #include "base/XmlReading.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 clsSelectedCustomPages::clsSelectedCustomPages(const DesignServices& services, const QString& tag)
@@ -20,6 +22,25 @@ void clsSelectedCustomPages::Add(const QString& name)
 void clsSelectedCustomPages::Clear()
 {
     m_selectedPages.Clear();
+}
+
+void clsSelectedCustomPages::rename(const QString& from, const QString& to)
+{
+    const int old = m_selectedPages.indexOf(from);
+    if (old == 0) {
+        return;
+    }
+    const int taken = m_selectedPages.indexOf(to);
+    KeyedCollection<QString> names;
+    for (int place = 1; place <= m_selectedPages.Count(); ++place) {
+        if (place != old) {
+            const QString& name = m_selectedPages.Item(place);
+            names.Add(name, name);
+        } else if (taken == 0 || taken == old) {
+            names.Add(to, to);
+        }
+    }
+    m_selectedPages = std::move(names);
 }
 
 void clsSelectedCustomPages::FromXML(const pugi::xml_node& node)

@@ -23,6 +23,9 @@ public:
     // Appends a name. Error 457 when it is there already.
     void Add(const QString& name);
     void Clear();
+    // Gives an entry another name at its place. An entry that has the new name already stays, and the old one goes;
+    // without an entry of the old name nothing happens.
+    void rename(const QString& from, const QString& to);
 
     // The node is the ShopDesign element. An empty Tag shows a box and changes nothing. Error 91 when a row of the
     // selection has no child, 457 when a name stands twice.

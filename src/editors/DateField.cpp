@@ -13,6 +13,7 @@
 #include <QLayout>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPushButton>
 #include <QScreen>
 #include <QTextCharFormat>
 #include <QToolButton>
@@ -46,6 +47,38 @@ bool isTyping(const QKeyEvent& event)
 DateField::DateField(MonthCalendar& calendar, QWidget* parent) : QLineEdit(parent), m_calendar(calendar)
 {
     setInUse(true);
+}
+
+bool DateField::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) { // on the day on which it is shown
+        setToolTip(u"A date such as %1, or nothing for an open end"_s.arg(m_calendar.exampleText()));
+    }
+    return QLineEdit::event(event);
+}
+
+void DateField::fill(const QString& text)
+{
+    m_former = text;
+    setText(text);
+}
+
+void DateField::settle()
+{
+    if (text().isEmpty() || dateIn(text())) {
+        m_former = text();
+    } else if (text() != m_former) {
+        setText(m_former);
+    }
+}
+
+void DateField::focusOutEvent(QFocusEvent* event)
+{
+    QLineEdit::focusOutEvent(event);
+    // Its calendar and its context menu do not take the focus away for good.
+    if (event->reason() != Qt::PopupFocusReason) {
+        settle();
+    }
 }
 
 void DateField::setInUse(bool inUse)
@@ -90,12 +123,11 @@ MonthCalendar::MonthCalendar(const Clock& clock, QWidget* parent)
     m_days->installEventFilter(this);
     dress();
 
-    const auto pick = [this](const QDate& date) {
-        if (m_field) {
-            m_field->setText(localDateText(date));
-        }
-        hide();
-    };
+    const auto pick = [this](const QDate& date) { write(localDateText(date)); };
+    auto* noDate = new QPushButton(u"No date"_s, this);
+    noDate->setObjectName(u"NoDateBtn"_s);
+    layout()->addWidget(noDate);
+    connect(noDate, &QPushButton::clicked, this, [this] { write(QString()); });
     connect(this, &QCalendarWidget::clicked, this, pick);   // with the mouse
     connect(this, &QCalendarWidget::activated, this, pick); // with the Enter key
 }
@@ -164,12 +196,26 @@ void MonthCalendar::changeEvent(QEvent* event)
     QCalendarWidget::changeEvent(event);
 }
 
-// Seven rows of seven days below the bar.
+// Seven rows of seven days between the bar and the button for no date.
 QSize MonthCalendar::sizeOfMonth() const
 {
     const auto* bar = findChild<const QWidget*>(u"qt_calendar_navigationbar"_s);
+    const auto* button = findChild<const QWidget*>(u"NoDateBtn"_s);
     const int row = rowHeight(fontMetrics());
-    return {7 * (row + Measure::Section) + 2, bar->sizeHint().height() + 7 * row + 2};
+    return {7 * (row + Measure::Section) + 2, bar->sizeHint().height() + 7 * row + button->sizeHint().height() + 2};
+}
+
+void MonthCalendar::write(const QString& text)
+{
+    if (m_field) {
+        m_field->setText(text);
+    }
+    hide();
+}
+
+QString MonthCalendar::exampleText() const
+{
+    return localDateText(m_clock.today());
 }
 
 void MonthCalendar::openUnder(QLineEdit& field)

@@ -64,6 +64,7 @@ CustomGrid::CustomGrid(PanelHost& host, QWidget* parent)
     BaseGrd->setMinimumHeight(110);
     BaseGrd->installEventFilter(this);
     ForGridTxt->setTextMargins(Measure::Tight, 0, Measure::Tight, 0); // over the text of the cell
+    BaseGrd->viewport()->installEventFilter(this);
     ForGridTxt->setMaxLength(std::numeric_limits<int>::max());
     ForGridTxt->installEventFilter(this);
     ForGridTxt->hide();

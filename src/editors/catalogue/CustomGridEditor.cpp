@@ -1,7 +1,9 @@
 // The grid's editor over a cell, and its keys.
+#include "editors/SecondPress.h"
 #include "editors/catalogue/CustomGrid.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 void CustomGrid::openEditor(int row, int column)
 {
@@ -62,6 +64,10 @@ bool CustomGrid::gridKey(const QKeyEvent& key)
 
 bool CustomGrid::eventFilter(QObject* watched, QEvent* event)
 {
+    if (watched == BaseGrd->viewport() && event->type() == QEvent::MouseButtonPress &&
+        BaseGrd->columnAt(static_cast<QMouseEvent*>(event)->pos().x()) == linkColumn()) {
+        swallowSecondPress(); // the link of the next row comes under the mouse
+    }
     if (watched == BaseGrd && event->type() == QEvent::KeyPress) {
         return gridKey(*static_cast<QKeyEvent*>(event));
     }

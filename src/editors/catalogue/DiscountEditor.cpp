@@ -104,8 +104,8 @@ void DiscountEditor::makeBands(PanelFrame* frame)
 
 void DiscountEditor::fill(clsDiscount& discount, const QString& inherited)
 {
-    DateFromTxt->setText(discount.DateFrom);
-    DateToTxt->setText(discount.DateTo);
+    DateFromTxt->fill(discount.DateFrom);
+    DateToTxt->fill(discount.DateTo);
     m_percentBox->fill(m_percent == Percent::Specific ? discount.Specific() : discount.ApplyToWhole());
     if (lblInherit) {
         lblInherit->setText(inherited);
@@ -142,6 +142,8 @@ void DiscountEditor::setEditable(bool isEditable)
 
 void DiscountEditor::write(clsDiscount& discount) const
 {
+    DateFromTxt->settle();
+    DateToTxt->settle();
     discount.DateFrom = DateFromTxt->text();
     discount.DateTo = DateToTxt->text();
     if (m_percent == Percent::Specific) {

@@ -16,8 +16,6 @@
 #include <QTreeView>
 #include <QVBoxLayout>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -80,18 +78,7 @@ void ProductsRelatedPanel::SetActiveObject(const CatalogueObject& object)
     if (!m_product) {
         return;
     }
-    QString key = nodeKey({});
-    const auto isGone = [this, &key, prefix = key.size()](const QString& id) {
-        key.truncate(prefix);
-        key += id; // without a text of its own for each of them
-        return !productUnder(key);
-    };
-    QStringList ids = m_product->related.first(m_product->relatedCount());
-    // From its end: of a long list, the products that the tree begins with are then the last that were touched.
-    if (std::any_of(ids.crbegin(), ids.crend(), isGone)) {
-        ids.removeIf(isGone);
-    }
-    m_related->setIds(ids);
+    m_related->setIds(m_product->related.first(m_product->relatedCount()));
     const TreeNode* root = CatalogueTreeFill(*m_nodes, productPrefix).fill(*m_host.session().shop);
     AllProductsTree->expand(m_nodes->indexOf(root));
 }
@@ -107,12 +94,13 @@ const ProductClass* ProductsRelatedPanel::productUnder(const QString& key) const
 QString ProductsRelatedPanel::nameOf(const QString& id) const
 {
     const ProductClass* product = productUnder(nodeKey(id));
-    return product ? product->name : QString();
+    return product ? product->name : u"(no product with the id %1)"_s.arg(id);
 }
 
 void ProductsRelatedPanel::toRelated()
 {
-    const TreeNode* node = m_nodes->nodeOf(AllProductsTree->currentIndex());
+    const QModelIndexList selected = AllProductsTree->selectionModel()->selectedIndexes();
+    const TreeNode* node = selected.isEmpty() ? nullptr : m_nodes->nodeOf(selected.front());
     if (!m_product || !node || !node->key.startsWith(productPrefix)) {
         return;
     }
@@ -124,7 +112,10 @@ void ProductsRelatedPanel::toRelated()
 
 void ProductsRelatedPanel::fromRelated()
 {
-    m_related->removeAt(RelatedProductsLst->currentIndex().row());
+    const QModelIndexList selected = RelatedProductsLst->selectionModel()->selectedIndexes();
+    if (!selected.isEmpty()) {
+        m_related->removeAt(selected.front().row());
+    }
 }
 
 void ProductsRelatedPanel::SaveActiveObject()

@@ -25,7 +25,7 @@ public:
     void ClearActiveObject() override;
 
 private:
-    // None for a product that is gone, which has no name to show.
+    // None for a product that is gone.
     const ProductClass* productUnder(const QString& key) const;
     QString nameOf(const QString& id) const;
     void toRelated();

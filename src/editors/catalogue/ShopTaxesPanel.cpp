@@ -30,8 +30,8 @@ ShopTaxesPanel::ShopTaxesPanel(PanelHost& host, QWidget* parent) : Panel(parent)
 {
     auto* frame = new PanelFrame(u"Taxes"_s, this);
     optNoTax = named(new QRadioButton(u"No taxes"_s, frame), "optNoTax", u"No taxes"_s);
-    optSelectTax =
-        named(new QRadioButton(u"Charge the taxes ticked below"_s, frame), "optSelectTax", u"Charge the taxes ticked below"_s);
+    optSelectTax = named(new QRadioButton(u"Charge the taxes ticked below"_s, frame), "optSelectTax",
+                         u"Charge the taxes ticked below"_s);
     TaxGrd = named(new CustomGrid(host, frame), "TaxGrd", u"Taxes"_s);
 
     QVBoxLayout* choice = frame->addColumn(u"Use of taxes"_s);

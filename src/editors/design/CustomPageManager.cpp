@@ -3,6 +3,9 @@
 #include "base/ApplicationTitle.h"
 #include "design/CustomPageClass.h"
 #include "design/PageTable.h"
+#include "design/ShopDesignClass.h"
+#include "design/clsSelectedCustomPages.h"
+#include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
 #include "editors/design/PageOptions.h"
 #include "look/Measures.h"
@@ -49,7 +52,7 @@ CustomPageManager::CustomPageManager(PanelHost& panelHost, QWidget* parent)
       CustomPagesListCtl(new QListWidget(this)),
       AddPageBtn(new QPushButton(u"&Add a page"_s, this)),
       DeletePageBtn(new QPushButton(u"&Delete the page"_s, this)),
-      PageNameTextCtl(new QLineEdit(this)),
+      PageNameTextCtl(textField(this)),
       PageContentTextCtl(new QPlainTextEdit(this))
 {
     options()->addAheadOfStyles(makeEditor(), 1);
@@ -59,7 +62,7 @@ CustomPageManager::CustomPageManager(PanelHost& panelHost, QWidget* parent)
     connectGuarded(host().errorHandler(), PageContentTextCtl, &QPlainTextEdit::textChanged, this, touched);
     connectGuarded(host().errorHandler(), AddPageBtn, &QPushButton::clicked, this, &CustomPageManager::addPage);
     connectGuarded(host().errorHandler(), DeletePageBtn, &QPushButton::clicked, this, &CustomPageManager::deletePage);
-    connectGuarded(host().errorHandler(), CustomPagesListCtl, &QListWidget::currentRowChanged, this,
+    connectGuarded(host().errorHandler(), CustomPagesListCtl, &QListWidget::itemSelectionChanged, this,
                    &CustomPageManager::pageSelected);
     openPage(nullptr);
 }
@@ -140,10 +143,12 @@ void CustomPageManager::selectPage(const ShopClass& shop, const CustomPageClass*
 
 void CustomPageManager::pageSelected()
 {
-    const int row = CustomPagesListCtl->currentRow();
-    if (m_filling || row < 0) {
+    // The current row is not asked: the tab key gives the list one without selecting it.
+    const QList<QListWidgetItem*> selected = CustomPagesListCtl->selectedItems();
+    if (m_filling || selected.isEmpty()) {
         return;
     }
+    const int row = CustomPagesListCtl->row(selected.front());
     ShopClass& shop = *host().session().shop;
     storeOpenPage(shop);
     openPage(shop.CustomPages.Item(row + 1));
@@ -179,10 +184,12 @@ void CustomPageManager::storeOpenPage(ShopClass& shop)
     rename(shop, name);
 }
 
-// The page keeps its place in the list and is found under its new name. The menus are not touched: a menu that shows
-// the former name goes on showing it.
+// The page keeps its place in the list and in the menus that show it, and is found under its new name.
 void CustomPageManager::rename(ShopClass& shop, const QString& name)
 {
+    for (std::size_t selection = 0; selection < PageSelectionCount; ++selection) {
+        shop.ShopDesign->Pages(static_cast<PageSelection>(selection))->rename(m_openPage->pageName, name);
+    }
     m_openPage->pageName = name;
     KeyedCollection<std::shared_ptr<CustomPageClass>> pages;
     for (const std::shared_ptr<CustomPageClass>& page : shop.CustomPages) {

@@ -3,6 +3,7 @@
 #include "base/UserPrompts.h"
 #include "base/XMLUtils.h"
 #include "design/CSSClass.h"
+#include "editors/ClosedList.h"
 #include "editors/PanelHost.h"
 #include "editors/design/ColourText.h"
 #include "look/Measures.h"
@@ -51,7 +52,7 @@ void select(QComboBox* list, const QStringList& entries, const QString& text)
 
 QComboBox* namedList(const char* name, const QStringList& entries, const QString& selected, QWidget* parent)
 {
-    auto* list = new QComboBox(parent);
+    auto* list = new ClosedList(parent);
     list->setObjectName(QLatin1String(name));
     list->addItems(entries);
     select(list, entries, selected);

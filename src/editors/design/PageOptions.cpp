@@ -2,6 +2,7 @@
 
 #include "base/RuntimeError.h"
 #include "design/CSSClass.h"
+#include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
 #include "editors/design/CSSManagementForm.h"
 #include "editors/design/ColourText.h"
@@ -115,7 +116,7 @@ void PageOptions::makeGroup(const OptionGroup& group)
     form->setVerticalSpacing(Measure::Gap);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     for (const TextRow& row : group.texts) {
-        auto* field = new QLineEdit(this);
+        QLineEdit* field = textField(this);
         field->setObjectName(QLatin1String(row.control));
         field->setMaximumWidth(row.width);
         auto* caption = new QLabel(captionText(row.caption), this);

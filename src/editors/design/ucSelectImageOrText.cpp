@@ -2,6 +2,7 @@
 
 #include "base/ApplicationTitle.h"
 #include "design/clsSelectedImage.h"
+#include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
 #include "editors/design/CSSManagementForm.h"
 #include "editors/design/pickers/DialogButtons.h"
@@ -21,7 +22,7 @@ ucSelectImageOrText::ucSelectImageOrText(PanelHost& host, QWidget* parent)
       m_host(host),
       m_pictures(new PicturesList(host, this)),
       chkText(new QCheckBox(u"Show a &text instead of an image"_s, this)),
-      txtText(new QLineEdit(this)),
+      txtText(textField(this)),
       btnCSS_Text(new QPushButton(u"Style of the text..."_s, this))
 {
     chkText->setObjectName(u"chkText"_s);

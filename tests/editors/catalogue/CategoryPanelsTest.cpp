@@ -233,7 +233,7 @@ TEST_F(CategoryPanels, CloseTheMonthOnEscapeAndOnAClickElsewhere)
     EXPECT_EQ(textIn("DateFromTxt"), QString());
 }
 
-TEST_F(CategoryPanels, KeepATextThatIsNoDate)
+TEST_F(CategoryPanels, LeaveATextThatIsNoDateWhileItIsTyped)
 {
     discount().Status = DiscountStatus::ToAll;
     click("CategoryDiscountSBtn");
@@ -248,6 +248,53 @@ TEST_F(CategoryPanels, KeepATextThatIsNoDate)
     calendar()->hide();
     EXPECT_EQ(textIn("DateFromTxt"), u"soon"_s);
     reset();
+}
+
+TEST_F(CategoryPanels, TakeTheFormerDateBackWhenAFieldIsLeftWithATextThatIsNone)
+{
+    const QString day = QLocale().language() == QLocale::German ? u"16.07.2026"_s : u"7/16/2026"_s;
+    discount().Status = DiscountStatus::ToAll;
+    discount().DateFrom = day;
+    discount().DateTo = u"some day"_s; // as a file may hold it
+    click("CategoryDiscountSBtn");
+    for (const char* field : {"DateFromTxt", "DateToTxt"}) {
+        in(field)->setFocus();
+        QTest::keyClicks(in(field), u"x"_s);
+        QTest::keyClick(in(field), Qt::Key_Tab);
+    }
+    EXPECT_EQ(textIn("DateFromTxt"), day);
+    EXPECT_EQ(textIn("DateToTxt"), u"some day"_s);
+
+    in<QLineEdit>("DateToTxt")->clear();
+    in<QLineEdit>("DateFromTxt")->setText(u"soon"_s); // not left before the gathering
+    window->ShowFrame(nullptr, PanelCode::GatherOnly);
+    EXPECT_EQ(discount().DateFrom, day);
+    in<QLineEdit>("DateFromTxt")->clear();
+    window->ShowFrame(nullptr, PanelCode::GatherOnly);
+    EXPECT_EQ(discount().DateFrom, QString());
+}
+
+TEST_F(CategoryPanels, TellTheFormOfADateInTheToolTip)
+{
+    discount().Status = DiscountStatus::ToAll;
+    click("CategoryDiscountSBtn");
+    clock.day = QDate(2031, 7, 3);
+    QHelpEvent toolTip(QEvent::ToolTip, QPoint(2, 2), in("DateToTxt")->mapToGlobal(QPoint(2, 2)));
+    QCoreApplication::sendEvent(in("DateToTxt"), &toolTip);
+    EXPECT_TRUE(
+        in("DateToTxt")->toolTip().contains(QLocale().language() == QLocale::German ? u"03.07.2031"_s : u"7/3/2031"_s))
+        << in("DateToTxt")->toolTip().toStdString();
+}
+
+TEST_F(CategoryPanels, ClearADateInTheMonth)
+{
+    discount().Status = DiscountStatus::ToAll;
+    discount().DateFrom = QLocale().language() == QLocale::German ? u"16.07.2026"_s : u"7/16/2026"_s;
+    click("CategoryDiscountSBtn");
+    clickField("DateFromTxt");
+    QTest::mouseClick(calendar()->findChild<QPushButton*>(u"NoDateBtn"_s), Qt::LeftButton);
+    EXPECT_FALSE(calendar()->isVisible());
+    EXPECT_EQ(textIn("DateFromTxt"), QString());
 }
 
 TEST_F(CategoryPanels, TakeAYearThatIsTypedIntoTheMonth)

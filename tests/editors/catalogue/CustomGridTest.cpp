@@ -317,4 +317,25 @@ TEST(TextAreas, KeepTheKindOfLineEndAndHardBlanksOfAChangedText)
     EXPECT_EQ(area.text(), u"one\ntwo\n3"_s);
 }
 
+TEST_F(Grid, RemovesOneRowByADoubleClick)
+{
+    grid->Init({u"One"_s, u"Two"_s}, {texts({u"a"_s, u"b"_s, u"c"_s}), texts({u"d"_s, u"e"_s, u"f"_s})});
+    QCoreApplication::processEvents();
+    QWidget* cells = grid->BaseGrd->viewport();
+    const QPoint place = grid->BaseGrd->visualItemRect(grid->BaseGrd->item(0, 2)).center();
+    const auto pressTwice = [&] {
+        QTest::mousePress(cells, Qt::LeftButton, {}, place);
+        QTest::mouseRelease(cells, Qt::LeftButton, {}, place);
+        QMouseEvent second(QEvent::MouseButtonDblClick, place, cells->mapToGlobal(place), Qt::LeftButton,
+                           Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(cells, &second);
+        QTest::mouseRelease(cells, Qt::LeftButton, {}, place);
+    };
+    pressTwice();
+    ASSERT_EQ(grid->BaseGrd->rowCount(), 2);
+    EXPECT_EQ(cell(grid.get(), 0, 0), u"b"_s);
+    QTest::mouseClick(cells, Qt::LeftButton, {}, place); // a single one still does
+    EXPECT_EQ(grid->BaseGrd->rowCount(), 1);
+}
+
 } // namespace

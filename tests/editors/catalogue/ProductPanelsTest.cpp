@@ -397,10 +397,24 @@ TEST_F(RelatedPanel, GivesAProductBack)
     EXPECT_EQ(listed().size(), 1);
 }
 
-TEST_F(RelatedPanel, PassesOverAProductThatIsGone)
+TEST_F(RelatedPanel, KeepsAnIdWhoseProductIsNotThere)
 {
-    product("4")->setRelatedIds({u"77"_s, u"5"_s, u"2"_s});
+    const QStringList ids = {u"77"_s, u"5"_s, u"2"_s};
+    product("4")->setRelatedIds(ids);
     reset();
+    EXPECT_EQ(listed(), (QStringList{u"77 (no product with the id 77)"_s, u"5 Mint"_s,
+                                     u"2 (no product with the id 2)"_s})); // 2 is a category
+    submit();
+    EXPECT_EQ(product("4")->related.first(product("4")->relatedCount()), ids);
+}
+
+TEST_F(RelatedPanel, TakesAndGivesBackNothingThatTheTabKeyReachedOnly)
+{
+    product("4")->setRelatedIds({u"5"_s});
+    reset();
+    in("RelatedProductsLst")->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(in<QListView>("RelatedProductsLst")->selectionModel()->selectedIndexes().isEmpty());
+    press("FromRelatedLbl");
     EXPECT_EQ(listed(), QStringList{u"5 Mint"_s});
 }
 

@@ -327,4 +327,13 @@ TEST_F(Limits, OfDescriptionsBecomeWholeNumbersWhenTheyAreStored)
     }
 }
 
+TEST_F(Limits, OfTextsAreNone)
+{
+    openDesign();
+    openManager("MainPageDesignSBtn");
+    in<QLineEdit>("txtPageHeader")->setText(QString(40'000, u'x'));
+    pressIn("imgButtonSubmit");
+    EXPECT_EQ(design().Option(DesignOption::Main_PageHeader).size(), 40'000);
+}
+
 } // namespace

@@ -70,15 +70,47 @@ TEST_F(CustomPages, GoBackToTheirNameWhenTheNewOneIsEmptyOrTaken)
     EXPECT_EQ(pages(), (QStringList{u"About"_s, u"DELIVERY"_s, u"Care"_s}));
 }
 
-TEST_F(CustomPages, LeaveTheSelectionsAloneWhenTheyAreRenamed)
+TEST_F(CustomPages, AreRenamedAtTheirPlaceInTheFiveSelections)
 {
-    const auto& selection = design().Pages(PageSelection::FooterCustomPageSelected);
-    selection->Clear();
-    selection->Add(u"Delivery"_s);
+    for (std::size_t i = 0; i < PageSelectionCount; ++i) {
+        const auto& selection = design().Pages(static_cast<PageSelection>(i));
+        selection->Clear();
+        for (const char* name : {"About", "Delivery", "Care"}) {
+            selection->Add(QLatin1String(name));
+        }
+    }
+    const auto& withTheNewName = design().Pages(PageSelection::MainPageMenuList);
+    withTheNewName->Clear();
+    withTheNewName->Add(u"Delivery"_s);
+    withTheNewName->Add(u"Home page"_s);
+    withTheNewName->Add(u"Shipping"_s); // left by a page that was deleted
     select(1);
     type(nameField(), u"Shipping"_s);
     pressIn("imgButtonSubmit");
-    EXPECT_EQ(namesOf(*selection), QStringList{u"Delivery"_s});
+    for (std::size_t i = 0; i < PageSelectionCount; ++i) {
+        const auto selection = static_cast<PageSelection>(i);
+        EXPECT_EQ(namesOf(*design().Pages(selection)), selection == PageSelection::MainPageMenuList
+                                                           ? (QStringList{u"Home page"_s, u"Shipping"_s})
+                                                           : (QStringList{u"About"_s, u"Shipping"_s, u"Care"_s}))
+            << i;
+    }
+    type(nameField(), u"SHIPPING"_s);
+    pressIn("imgButtonSubmit");
+    EXPECT_EQ(namesOf(*withTheNewName), (QStringList{u"Home page"_s, u"SHIPPING"_s}));
+}
+
+TEST_F(CustomPages, AreNotOpenedByTheTabKey)
+{
+    list()->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(list()->selectedItems().isEmpty());
+    EXPECT_FALSE(nameField()->isEnabled());
+}
+
+TEST_F(CustomPages, TakeANameOfAnyLength)
+{
+    select(0);
+    nameField()->setText(QString(40'000, u'x'));
+    EXPECT_EQ(nameField()->text().size(), 40'000);
 }
 
 TEST_F(CustomPages, AreNotRewrittenWhenNothingWasTyped)

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QTest>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -352,6 +353,19 @@ TEST_F(Styles, ShowASwitchAsOnOnlyForTheExactWord)
     QDialog* form = openStyle("general_header");
     EXPECT_FALSE(part<QCheckBox>(form, "Check1")->isChecked());
     press(form, "CancelBtn");
+}
+
+TEST_F(Styles, LeaveTheWheelOverAClosedListToThePanelAroundIt)
+{
+    openManager("FooterDesignSBtn");
+    auto* list = in<QComboBox>("FontNameLst");
+    ASSERT_GT(list->count(), 1);
+    list->setCurrentIndex(0);
+    QWheelEvent wheel(QPointF(5, 5), list->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    static_cast<QObject*>(list)->event(&wheel);
+    EXPECT_EQ(list->currentIndex(), 0);
+    EXPECT_FALSE(wheel.isAccepted()); // what is not accepted goes on to the widget around it
 }
 
 } // namespace
