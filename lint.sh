@@ -20,12 +20,13 @@ sources_of() {
   done | sort -u
 }
 
-need git clang-format shellcheck desktop-file-utils
+need git clang-format shellcheck desktop-file-utils appstream
 git ls-files '*.h' '*.cpp' | xargs -r clang-format --dry-run -Werror
 echo "clang-format: clean"
-git ls-files '*.sh' .ci/run | xargs -r shellcheck -x
+git ls-files '*.sh' .ci/run packaging/debian/tarnwick | xargs -r shellcheck -x
 desktop-file-validate packaging/tarnwick.desktop
-echo "shellcheck, desktop-file-validate: clean"
+appstreamcli validate --no-net packaging/debian/tarnwick.metainfo.xml >/dev/null
+echo "shellcheck, desktop-file-validate, appstreamcli: clean"
 
 files=()
 case ${1:-} in

@@ -1,12 +1,18 @@
 #!/usr/bin/env bash
-# Builds the portable archive and prints where it is. It needs no installation: unpack it and start Tarnwick in it.
+# Builds the portable archive and the Debian package, and prints where they are. With SOURCE_DATE_EPOCH the same sources
+# give the same bytes.
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
 
-need "${BUILD_PACKAGES[@]}"
+need "${BUILD_PACKAGES[@]}" "${RUN_PACKAGES[@]}" "${PACKAGING_PACKAGES[@]}"
 cmake --preset release --log-level=WARNING
-cmake --build --preset release
-cpack --config build/release/CPackConfig.cmake >build/release/cpack.log || { cat build/release/cpack.log; exit 1; }
-echo "Archive: $(find "$PWD/build/release/package" -maxdepth 1 -name '*.tar.gz')"
-echo "To run it, a machine needs: ${RUN_PACKAGES[*]}"
+cmake --build --preset release --target all debian_files
+for generator in TGZ DEB; do
+  cpack --config build/release/CPackConfig.cmake -G "$generator" >build/release/cpack.log ||
+    { cat build/release/cpack.log; exit 1; }
+done
+echo "Archive, which runs where it is unpacked on a machine with ${RUN_PACKAGES[*]}:"
+find "$PWD/build/release/package" -maxdepth 1 -name '*.tar.gz'
+echo "Debian package, which brings what it needs (apt install FILE):"
+find "$PWD/build/release/package" -maxdepth 1 -name '*.deb'

@@ -2,20 +2,6 @@
 // it uses; the lint build has no precompiled headers and finds out.
 #pragma once
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <cstdint>
-#include <cstring>
-#include <functional>
-#include <limits>
-#include <memory>
-#include <optional>
-#include <span>
-#include <utility>
-#include <variant>
-#include <vector>
-
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QDate>
@@ -31,4 +17,18 @@
 #include <QStringList>
 #include <QStringView>
 #include <QTimer>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <functional>
+#include <limits>
+#include <memory>
+#include <optional>
 #include <pugixml.hpp>
+#include <span>
+#include <utility>
+#include <variant>
+#include <vector>

@@ -4,5 +4,6 @@
 #include "core.h"
 
 #include <QTemporaryDir>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
