@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
 
-preset=test
+preset="test"
 if [ "${1:-}" = --coverage ]; then
   shift
   preset=coverage

@@ -50,7 +50,8 @@ QList<std::pair<QStringList, QString>> documentedRules()
 
 bool hasWindows(const QString& folder)
 {
-    return folder == u"look"_s || folder.startsWith(u"editors") || folder.startsWith(u"shell") || folder == u"publish/dialog"_s;
+    return folder == u"look"_s || folder.startsWith(u"editors") || folder.startsWith(u"shell") ||
+           folder == u"publish/dialog"_s;
 }
 
 // What each folder may include from, itself apart. A folder that is not listed is an error; each stands by itself,

@@ -1,5 +1,5 @@
-// The exact texts of the window's boxes. The tables of its menus, buttons and log lines stand in other tests beside this
-// one.
+// The exact texts of the window's boxes. The tables of its menus, buttons and log lines stand in other tests beside
+// this one.
 #include "support/WindowTest.h"
 
 #include <QTest>
