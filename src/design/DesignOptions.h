@@ -11,7 +11,7 @@
 #include <span>
 
 // OPTION(group, name, default): the default is what a file without the element gives.
-// Category_PageHeader is a text whose default is the word "No": this is meant.
+// Category_PageHeader is a text whose default is deliberately the word "No".
 // clang-format off
 #define TARNWICK_DESIGN_OPTIONS(OPTION)                        \
     OPTION(Footer, Footer_CopyrightText, "")                   \

@@ -31,7 +31,7 @@ public:
     void setSelectedPrice(const QString& price);
 
     // The description of the variant whose discounted value is SelectedPrice; empty for a product without variants.
-    // When no variant matches, the last answer is given again: this is meant.
+    // When no variant matches, the last answer is deliberately given again.
     QString PriceName();
 
 private:
@@ -65,7 +65,7 @@ public:
     // Removes all lines; tax and Charge stay.
     void Clear() { m_lines.Clear(); }
 
-    // The prices of all lines, whatever their quantities (this is meant), with tax and charge, rounded to two decimals,
+    // The prices of all lines, deliberately whatever their quantities, with tax and charge, rounded to two decimals,
     // as number text. Error 13 when a price is no number.
     QString TotalCost() const;
 

@@ -124,7 +124,7 @@ QString clsDiscount::Value(const QString& price) const
     return {}; // "ToAll" and "Depend" act on the levels below only
 }
 
-// The first band around the price wins. Both limits are exclusive: this is meant.
+// The first band around the price wins. Both limits are deliberately exclusive.
 QString clsDiscount::bandFor(const QString& price) const
 {
     const auto failing = [] {
@@ -186,12 +186,12 @@ void clsDiscount::sendTo(clsDiscount& child, const QString& percentage, bool isV
         child.ParentDependDiscounts = isValid ? ParentDependDiscounts : nullptr;
         break;
     case DiscountStatus::Depend:
-        // The child's percentage stays: it shows again when there are no bands. This is meant.
+        // The child's percentage stays: it deliberately shows again when there are no bands.
         if (isValid && m_dependedDiscounts && m_dependedDiscounts->Count() > 0) {
             child.ParentDependDiscounts = m_dependedDiscounts;
         }
         break;
-    default: // "Specific" sends nothing, and the child keeps what it had: this is meant
+    default: // "Specific" sends nothing, and the child deliberately keeps what it had
         break;
     }
 }

@@ -270,7 +270,7 @@ void Day::walkThePreview()
     };
     EXPECT_EQ(amountIn(u".cart-sum strong"_s), u"25 "_s + shop().shop_currency);
     visitor.clickToNewPage(u".cart-sum a[href*=checkout]"_s);
-    // The checkout's sum takes no quantities; this is meant.
+    // The checkout's sum deliberately takes no quantities.
     EXPECT_EQ(amountIn(u".summary .total strong"_s), localised(u"12.5"_s) + u' ' + shop().shop_currency);
 }
 

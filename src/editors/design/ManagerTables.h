@@ -80,7 +80,7 @@ const ManagerTable& managerTable(ShopPage page);
 // The same for the pages that show products, whose tables stand in a file of their own.
 const ManagerTable& productManagerTable(ShopPage page);
 
-// The question of all managers but the header's. Its spelling is meant.
+// The question of all managers but the header's. Its spelling is deliberate.
 inline constexpr const char* SwitchBackQuestion = "If you swich back from Advanced Mode all your changes made in the "
                                                   "template will be changed back to defaults. Do you want to continue?";
 
