@@ -84,8 +84,8 @@ void CategoryClass::FromXML(const pugi::xml_node& element, ShopClass& owner,
     shop = &owner;
     parentCategory = parent;
     const CategoryLookUp::Found found = reading.categories.find(element, reading.categoryLevel);
-    const auto textOf = [&](inCategory::Element element, const QString& defaultText = QString()) {
-        return reading.categories.text(element, found, defaultText, reading.texts);
+    const auto textOf = [&](inCategory::Element wanted, const QString& defaultText = QString()) {
+        return reading.categories.text(wanted, found, defaultText, reading.texts);
     };
     id = textOf(inCategory::Id);
     if (id.isEmpty()) {
