@@ -28,6 +28,16 @@ protected:
     }
 };
 
+TEST_F(Carts, TheTotalIsRoundedToTwoDecimals)
+{
+    add(u"3"_s, u"10"_s, u"1"_s);
+    cart().tax = 7.77F;
+    EXPECT_EQ(cart().TotalCost(), localised(u"10.78"_s));
+    cart().tax = 0;
+    cart().Charge = 0.004F;
+    EXPECT_EQ(cart().TotalCost(), u"10"_s);
+}
+
 TEST_F(Carts, ANewCartIsEmpty)
 {
     EXPECT_EQ(cart().Count(), 0);

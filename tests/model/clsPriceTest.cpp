@@ -78,6 +78,19 @@ TEST_F(Prices, AllVariantsShareTheDiscount)
     EXPECT_EQ(existing->Discount, price.Discount());
 }
 
+TEST_F(Prices, AVariantAddedFromAnotherPriceFollowsTheDiscountOfItsNewOne)
+{
+    clsPrice other(clock);
+    other.Discount()->Status = DiscountStatus::Specific;
+    other.Discount()->setSpecific(u"50"_s);
+    const auto variant = other.AddMultiPrice();
+    variant->Value = u"8"_s;
+    EXPECT_EQ(variant->NewValue(), u"4"_s);
+    price.AddExistingMultiPrice(variant);
+    EXPECT_EQ(variant->Discount, price.Discount());
+    EXPECT_EQ(variant->NewValue(), u"8"_s);
+}
+
 TEST_F(Prices, VariantsAreCountedAndRemovedByTheir1BasedIndex)
 {
     addVariant(u"a"_s, u"1"_s);
