@@ -11,6 +11,9 @@ target_compile_definitions(tarnwick_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
   QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
+# Symbols are bound at the start and their tables cannot be written to afterwards.
+target_link_options(tarnwick_options INTERFACE "$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
+
 if(TARNWICK_SANITIZE)
   target_compile_options(tarnwick_options INTERFACE
     -fsanitize=${TARNWICK_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
