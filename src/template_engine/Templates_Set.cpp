@@ -52,7 +52,7 @@ void Templates_Set::parseTemplates()
 void Templates_Set::loadAll()
 {
     m_log.WriteLoadLog(u"Start parseTemplates"_s);
-    const QString layoutText = readTemplate(m_templateNames.frame);
+    const QString layoutText = textOfFile(m_templateNames.frame);
     layout_template = std::make_shared<Template>(names);
     layout_template->template_text = layoutText;
     parse(*layout_template, m_templateNames.frame);
@@ -71,15 +71,29 @@ void Templates_Set::ReLoad(const QString& file, const QString& key)
     load_template(file, key);
 }
 
+void Templates_Set::reloadAbsent()
+{
+    for (const QString& page : std::as_const(m_templateNames.pages)) {
+        if (templates.hasKey(page)) {
+            continue;
+        }
+        try {
+            load_template(page, page);
+        } catch (const RuntimeError&) {
+            // It stays absent; whoever needs it says so.
+        }
+    }
+}
+
 void Templates_Set::load_template(const QString& file, const QString& key)
 {
     auto page = std::make_shared<Template>(names);
-    page->template_text = readTemplate(file);
+    page->template_text = textOfFile(file);
     parse(*page, file);
     templates.Add(page, key);
 }
 
-QString Templates_Set::readTemplate(const QString& file)
+QString Templates_Set::textOfFile(const QString& file)
 {
     const DecodedText decoded = readTextFile(Path + file + u".html"_s);
     if (m_encodings.hasKey(file)) {

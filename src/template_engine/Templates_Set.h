@@ -48,6 +48,13 @@ public:
     // Errors as for readTextFile and Template::Parse, and the page is absent then.
     void ReLoad(const QString& file, const QString& key);
 
+    // Reads every page that is absent once more, each by itself: one that fails stays absent and keeps no other from
+    // being read.
+    void reloadAbsent();
+
+    // The text of a page's file as a template holds it, read anew and not parsed. Errors as for readTextFile.
+    QString textOfFile(const QString& file);
+
     // The encoding that the file of that base name had when it was last read, so that an editor can write it back
     // alike; UTF-8 when it was never read.
     TextEncoding encodingOf(const QString& file) const;
@@ -55,7 +62,6 @@ public:
 private:
     void loadAll();
     void load_template(const QString& file, const QString& key);
-    QString readTemplate(const QString& file);
 
     LoadLog& m_log;
     TemplateNames m_templateNames;

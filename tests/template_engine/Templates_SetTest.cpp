@@ -109,6 +109,26 @@ TEST_F(TemplatesSet, AMissingPageEndsTheReadingSilentlyAndKeepsWhatWasRead)
     EXPECT_EQ(logged(), u"\"Start parseTemplates\"\r\n"_s);
 }
 
+TEST_F(TemplatesSet, AbsentPagesAreReadOnceMoreEachByItself)
+{
+    write(u"footer"_s, "<!--:if:x:-->");
+    remove(u"search"_s);
+    set.parseTemplates();
+    write(u"main"_s, "<!--:"); // is in the set and stays
+    set.reloadAbsent();
+    QStringList expected = Pages;
+    expected.removeOne(u"footer"_s);
+    expected.removeOne(u"search"_s);
+    EXPECT_EQ(present(), expected);
+    EXPECT_EQ(set.textOfFile(u"footer"_s), u"<!--:if:x:-->\r"_s);
+    EXPECT_EQ(errorOf([this] { set.textOfFile(u"search"_s); }), 53);
+
+    write(u"footer"_s, "whole");
+    set.reloadAbsent();
+    expected.insert(1, u"footer"_s);
+    EXPECT_EQ(present(), expected);
+}
+
 TEST_F(TemplatesSet, APageThatIsNotClosedEndsTheReadingSilently)
 {
     write(u"footer"_s, "<!--:if:x:-->");

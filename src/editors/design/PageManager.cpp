@@ -66,7 +66,7 @@ void PageManager::SaveActiveObject()
     design.setOption(advancedOption(), m_template->isAdvanced() ? u"Yes"_s : u"No"_s);
     saveMore(*m_shop);
     if (m_table.savesTemplate) {
-        m_template->save();
+        m_template->saveWithPanel();
     }
 }
 

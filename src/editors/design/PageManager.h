@@ -25,11 +25,10 @@ public:
 
     ShopPage page() const;
 
-    // Shows the session's shop, whatever object is active. ErrorNumber::InvalidArgument when the set has no template of
-    // the page.
+    // Shows the session's shop, whatever object is active.
     void SetActiveObject(const CatalogueObject& object) override;
     // Writes the options, what else the manager holds, and for most managers the template. Errors as for
-    // TemplatePart::save.
+    // TemplatePart::saveWithPanel.
     void SaveActiveObject() override;
     void ClearActiveObject() override;
 

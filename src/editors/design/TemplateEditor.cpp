@@ -1,6 +1,7 @@
 #include "editors/design/TemplateEditor.h"
 
 #include "editors/design/TemplateText.h"
+#include "look/WordLabel.h"
 #include "template_engine/TemplateParser.h"
 #include "template_engine/Templates_Set.h"
 
@@ -14,14 +15,16 @@
 
 using namespace Qt::StringLiterals;
 
-TemplateEditor::TemplateEditor(QWidget* parent)
-    : QWidget(parent), TemplateTxt(new TemplateText(this)), TemplateStateLbl(new QLabel(this))
+TemplateEditor::TemplateEditor(bool writtenOnLeaving, QWidget* parent)
+    : QWidget(parent),
+      TemplateTxt(new TemplateText(this)),
+      TemplateStateLbl(new WordLabel(WordLabel::Kind::Quiet, {}, this)),
+      m_writtenOnLeaving(writtenOnLeaving)
 {
     TemplateTxt->setObjectName(u"TemplateTxt"_s);
     TemplateTxt->setAccessibleName(u"Template"_s);
     TemplateTxt->setMinimumHeight(160);
     TemplateStateLbl->setObjectName(u"TemplateStateLbl"_s);
-    TemplateStateLbl->setTextFormat(Qt::PlainText);
     TemplateStateLbl->setWordWrap(true);
 
     auto* column = new QVBoxLayout(this);
@@ -72,9 +75,29 @@ void TemplateEditor::makeFindRow()
 
 void TemplateEditor::showTemplate(const QString& templateText)
 {
-    TemplateTxt->showTemplate(templateText);
+    m_isAbsent = false;
+    m_whyUnread.clear();
+    show(templateText);
+}
+
+void TemplateEditor::showUnusable(const QString& fileText, const QString& whyUnread)
+{
+    m_isAbsent = true;
+    m_whyUnread = whyUnread;
+    show(fileText);
+}
+
+void TemplateEditor::show(const QString& text)
+{
+    TemplateTxt->showTemplate(text);
+    m_shown = editedText();
     FindResultLbl->clear();
     check();
+}
+
+bool TemplateEditor::isEdited() const
+{
+    return editedText() != m_shown;
 }
 
 QString TemplateEditor::editedText() const
@@ -105,17 +128,37 @@ void TemplateEditor::find(QTextDocument::FindFlags direction)
     }
 }
 
+// Parses what saving would parse. It takes less than a key's time: a template has 32,767 characters with tags in them.
 void TemplateEditor::check()
 {
     QString state = u"No mistakes: every tag and every block is closed."_s;
+    Tone tone = Tone::Muted;
+    if (!m_whyUnread.isEmpty() && !isEdited()) {
+        state = u"%1 The page cannot be shown. Saving writes the file anew."_s.arg(m_whyUnread);
+        tone = Tone::Error;
+    }
     try {
         parse_text(linesEndedByCr(editedText()));
     } catch (const TemplateError& error) {
         // A line's end is one character here as in the document.
         const QTextBlock line = TemplateTxt->document()->findBlock(static_cast<int>(error.position()));
-        state = u"Line %1, column %2: %3"_s.arg(line.blockNumber() + 1)
+        state = u"Line %1, column %2: %3 %4"_s.arg(line.blockNumber() + 1)
                     .arg(error.position() - line.position() + 1)
-                    .arg(error.description());
+                    .arg(error.description(), whatSavingDoes());
+        tone = Tone::Error;
     }
+    TemplateStateLbl->setTone(tone);
     TemplateStateLbl->setText(state);
+}
+
+// With a mistake in the text.
+QString TemplateEditor::whatSavingDoes() const
+{
+    if (m_isAbsent && !isEdited()) {
+        return u"The page cannot be shown. Saving the template ends the program; leaving it as it is writes nothing."_s;
+    }
+    if (m_writtenOnLeaving) {
+        return u"Saving the template, or leaving this panel, writes it so and ends the program."_s;
+    }
+    return u"Saving the template writes it so and ends the program."_s;
 }

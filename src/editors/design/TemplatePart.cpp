@@ -24,7 +24,7 @@ TemplatePart::TemplatePart(PanelHost& host, const ManagerTable& table, QWidget* 
       m_host(host),
       m_table(table),
       AdvancedCh(new QCheckBox(u"&Advanced mode: edit the page's template by hand"_s, this)),
-      m_editor(new TemplateEditor(this)),
+      m_editor(new TemplateEditor(table.savesTemplate, this)),
       SaveTemplteBtn(new QPushButton(u"Save template"_s, this)),
       RestoreTemplateBtn(new QPushButton(u"Restore the factory template"_s, this))
 {
@@ -51,6 +51,9 @@ TemplatePart::TemplatePart(PanelHost& host, const ManagerTable& table, QWidget* 
 
 void TemplatePart::load(bool advanced)
 {
+    if (isAbsent()) {
+        m_host.CurrentTemplatesSet().reloadAbsent();
+    }
     showTemplate();
     setAdvanced(advanced);
     enableTemplate(advanced);
@@ -98,8 +101,22 @@ void TemplatePart::enableTemplate(bool enable)
 
 void TemplatePart::showTemplate()
 {
+    Templates_Set& templates = m_host.CurrentTemplatesSet();
     const QString page = nameOf(m_table.page);
-    m_editor->showTemplate(m_host.CurrentTemplatesSet().templates.Item(page)->template_text);
+    if (!isAbsent()) {
+        m_editor->showTemplate(templates.templates.Item(page)->template_text);
+        return;
+    }
+    try {
+        m_editor->showUnusable(templates.textOfFile(page));
+    } catch (const RuntimeError& error) {
+        m_editor->showUnusable({}, u"The template cannot be read: %1."_s.arg(error.description()));
+    }
+}
+
+bool TemplatePart::isAbsent() const
+{
+    return !m_host.CurrentTemplatesSet().templates.hasKey(nameOf(m_table.page));
 }
 
 void TemplatePart::save()
@@ -110,11 +127,23 @@ void TemplatePart::save()
     templates.ReLoad(page, page);
 }
 
+void TemplatePart::saveWithPanel()
+{
+    if (!isAbsent() || m_editor->isEdited()) {
+        save();
+    }
+}
+
 void TemplatePart::restore()
 {
+    Templates_Set& templates = m_host.CurrentTemplatesSet();
     const QString page = nameOf(m_table.page);
+    const bool wasAbsent = isAbsent();
     writeFileBytes(fileOf(".html"), readFileBytes(fileOf(".html.def")));
-    m_host.CurrentTemplatesSet().ReLoad(page, page);
+    templates.ReLoad(page, page);
+    if (wasAbsent) {
+        templates.reloadAbsent();
+    }
     showTemplate();
 }
 

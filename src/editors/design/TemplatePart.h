@@ -19,16 +19,18 @@ public:
     // The host and the table must outlive it.
     TemplatePart(PanelHost& host, const ManagerTable& table, QWidget* parent);
 
-    // Shows the page's template and that state of the advanced mode, without a question.
-    // ErrorNumber::InvalidArgument when the set has no template of the page.
+    // Shows the page's template and that state of the advanced mode, without a question. When the set has no template
+    // of the page, every absent page is read once more; one that stays absent shows the text of its file, or nothing.
     void load(bool advanced);
     bool isAdvanced() const;
 
     // Writes the text and one line break behind it to the page's file and reads the page again. The text is not filled
     // anew, so that saving twice writes the same bytes. Errors as for writeFileBytes and Templates_Set::ReLoad.
     void save();
-    // Copies the factory copy over the page's file, reads the page again and shows it. Errors as for readFileBytes,
-    // writeFileBytes and Templates_Set::ReLoad.
+    // The same as a part of the panel, which writes nothing where the page is absent and its text as the file has it.
+    void saveWithPanel();
+    // Copies the factory copy over the page's file, reads the page again and shows it; where the page was absent, the
+    // other absent ones are read again, too. Errors as for readFileBytes, writeFileBytes and Templates_Set::ReLoad.
     void restore();
 
 private:
@@ -36,6 +38,7 @@ private:
     void setAdvanced(bool on);
     void enableTemplate(bool enable);
     void showTemplate();
+    bool isAbsent() const;
     QString fileOf(const char* ending) const;
 
     PanelHost& m_host;
