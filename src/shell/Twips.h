@@ -1,13 +1,9 @@
-// The window's measures are given in twips. Only this file says how large they are on the screen: ten to a pixel, so
-// that today's fonts fit.
+// The least size of a window whose parts are arranged.
 #pragma once
 
-#include <QSize>
+#include "editors/Twips.h"
 
-constexpr int pixels(int twips)
-{
-    return twips / 10;
-}
+#include <QSize>
 
 // In a smaller window nothing is arranged: its parts keep their places.
 inline bool isArranged(const QSize& window)

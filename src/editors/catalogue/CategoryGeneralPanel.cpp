@@ -1,65 +1,48 @@
 #include "editors/catalogue/CategoryGeneralPanel.h"
 
-#include "editors/PanelFrame.h"
-#include "editors/PanelHost.h"
 #include "editors/TextArea.h"
-#include "editors/catalogue/ObjectOf.h"
 #include "editors/design/pickers/BrowseImageControl.h"
 #include "look/WordLabel.h"
 #include "model/CategoryClass.h"
 
 #include <QFormLayout>
-#include <QLabel>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
-CategoryGeneralPanel::CategoryGeneralPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
+CategoryGeneralPanel::CategoryGeneralPanel(PanelHost& host, QWidget* parent)
+    : CataloguePanel(host, u"Category general properties"_s, parent)
 {
-    auto* frame = new PanelFrame(u"Category general properties"_s, this);
     IdLbl = named(new WordLabel(WordLabel::Kind::Small), "IdLbl", QString());
-    CategoryNameTxt = textField(frame);
-    CategoryDescriptionTxt = new TextArea(frame);
-    BrowseImageControl1 = named(new BrowseImageControl(host, frame), "BrowseImageControl1", u"Picture"_s);
+    CategoryNameTxt = textField(m_frame);
+    CategoryDescriptionTxt = new TextArea(m_frame);
+    BrowseImageControl1 = named(new BrowseImageControl(host, m_frame), "BrowseImageControl1", u"Picture"_s);
 
-    QFormLayout* form = frame->addForm(u"The category"_s, true);
+    QFormLayout* form = m_frame->addForm(u"The category"_s, PanelFrame::Height::Rest);
     setAside(form, IdLbl);
     addField(form, u"Name"_s, CategoryNameTxt, "CategoryNameTxt");
     addField(form, u"Description"_s, CategoryDescriptionTxt, "CategoryDescriptionTxt");
-    frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);
-    frame->addButtons(host);
+    m_frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);
+    m_frame->addButtons(host);
 
-    connectGuarded(m_host.errorHandler(), CategoryNameTxt, &QLineEdit::textEdited, this, [this](const QString& text) {
-        if (m_category) {
-            m_host.setNodeText(nodeKey(m_category->id), text);
-        }
-    });
+    mirrorName(CategoryNameTxt, [](const CategoryClass& category) { return nodeKey(category.id); });
 }
 
-void CategoryGeneralPanel::SetActiveObject(const CatalogueObject& object)
+void CategoryGeneralPanel::fill(CategoryClass& category)
 {
-    m_category = objectOf<CategoryClass>(object);
-    if (!m_category) {
-        return;
-    }
-    IdLbl->setText(u"ID = %1"_s.arg(m_category->id));
-    CategoryNameTxt->setText(m_category->name);
-    CategoryDescriptionTxt->fill(m_category->Description);
-    BrowseImageControl1->setSelectedImage(m_category->selectedImage());
+    IdLbl->setText(u"ID = %1"_s.arg(category.id));
+    CategoryNameTxt->setText(category.name);
+    CategoryDescriptionTxt->fill(category.Description);
+    BrowseImageControl1->setSelectedImage(category.selectedImage());
 }
 
-void CategoryGeneralPanel::SaveActiveObject()
+void CategoryGeneralPanel::write(CategoryClass& category)
 {
-    if (!m_category) {
-        return;
-    }
-    m_category->name = CategoryNameTxt->text();
-    m_category->Description = CategoryDescriptionTxt->text();
+    category.name = CategoryNameTxt->text();
+    category.Description = CategoryDescriptionTxt->text();
 }
 
-void CategoryGeneralPanel::ClearActiveObject()
+void CategoryGeneralPanel::forget()
 {
-    m_category.reset();
     BrowseImageControl1->setSelectedImage(nullptr);
 }

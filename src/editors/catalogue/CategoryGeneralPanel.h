@@ -2,34 +2,27 @@
 // category's own selection. The window owns it.
 #pragma once
 
-#include "editors/Panel.h"
-
-#include <memory>
+#include "editors/catalogue/CataloguePanel.h"
 
 class BrowseImageControl;
 class CategoryClass;
-class PanelHost;
-class QLabel;
-class QLineEdit;
 class TextArea;
 
-class CategoryGeneralPanel : public Panel
+class CategoryGeneralPanel : public CataloguePanel<CategoryClass>
 {
     Q_OBJECT
 
 public:
-    // The host must outlive it.
     CategoryGeneralPanel(PanelHost& host, QWidget* parent);
 
-    void SetActiveObject(const CatalogueObject& object) override;
-    void SaveActiveObject() override;
-    void ClearActiveObject() override;
+protected:
+    void fill(CategoryClass& category) override;
+    void write(CategoryClass& category) override;
+    void forget() override;
 
 private:
-    PanelHost& m_host;
     QLabel* IdLbl;
     QLineEdit* CategoryNameTxt;
     TextArea* CategoryDescriptionTxt;
     BrowseImageControl* BrowseImageControl1;
-    std::shared_ptr<CategoryClass> m_category;
 };

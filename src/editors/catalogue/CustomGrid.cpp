@@ -2,8 +2,9 @@
 
 #include "base/Numbers.h"
 #include "editors/LinkLabel.h"
-#include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
+#include "editors/PanelParts.h"
+#include "editors/Twips.h"
 #include "editors/catalogue/GridPictures.h"
 #include "look/Measures.h"
 #include "model/ShopSession.h"
@@ -24,11 +25,6 @@ const QString taxTag = u"Tax"_s;
 const QString chargeTag = u"Charge"_s;
 
 constexpr int useColumn = 2;
-// Widths are given in units; ten of them make a pixel here, as for the window's own measures.
-constexpr int pixels(int units)
-{
-    return units / 10;
-}
 constexpr int linkWidth = pixels(1130);
 constexpr int besideColumns = pixels(1200); // what the columns of text leave of the grid's width
 constexpr int besideTaxColumns = pixels(100);

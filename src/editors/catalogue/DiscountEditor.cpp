@@ -9,6 +9,7 @@
 #include "editors/catalogue/CustomGrid.h"
 #include "look/Measures.h"
 #include "model/ShopSession.h"
+#include "model/clsCart.h"
 #include "model/clsDiscount.h"
 
 #include <QButtonGroup>
@@ -44,7 +45,8 @@ DiscountEditor::DiscountEditor(PanelHost& host, std::span<const DiscountOption> 
 {
     makeOptions(frame);
     makeDates(frame);
-    if (std::any_of(options.begin(), options.end(), [](const DiscountOption& option) { return option.usesBands; })) {
+    if (std::any_of(options.begin(), options.end(),
+                    [](const DiscountOption& option) { return option.has(UsesBands); })) {
         makeBands(frame);
     }
     connectGuarded(m_host.errorHandler(), m_buttons, &QButtonGroup::idToggled, this, &DiscountEditor::applyOption);
@@ -56,13 +58,12 @@ void DiscountEditor::makeOptions(PanelFrame* frame)
     QVBoxLayout* column = frame->addColumn(u"Discount"_s);
     for (std::size_t i = 0; i < m_options.size(); ++i) {
         const DiscountOption& option = m_options[i];
-        const QString caption = QString::fromLatin1(option.caption);
-        auto* button = named(new QRadioButton(caption, frame), option.name, caption);
+        QRadioButton* button = newOption(option.name, QLatin1String(option.caption), frame);
         m_buttons->addButton(button, static_cast<int>(i));
         auto* row = new QHBoxLayout;
         row->addWidget(button);
         column->addLayout(row);
-        if (option.usesPercent) {
+        if (option.has(UsesPercent)) {
             const bool isSpecific = m_percent == Percent::Specific;
             m_percentBox = named(new NumericBox(NumericBox::Takes::NormalisedNumber, frame),
                                  isSpecific ? "SpecificTxt" : "ApplyTxt", u"Percent"_s);
@@ -70,7 +71,7 @@ void DiscountEditor::makeOptions(PanelFrame* frame)
             row->addWidget(m_percentBox);
         }
         row->addStretch(1);
-        if (option.usesInherit) {
+        if (option.has(UsesInherit)) {
             lblInherit = named(new QLabel(frame), "lblInherit", u"What is inherited"_s);
             lblInherit->setWordWrap(true);
             lblInherit->setTextFormat(Qt::PlainText);
@@ -97,13 +98,15 @@ void DiscountEditor::makeDates(PanelFrame* frame)
 void DiscountEditor::makeBands(PanelFrame* frame)
 {
     DiscountGrd = named(new CustomGrid(m_host, frame), "DiscountGrd", u"Discount by product price"_s);
-    QVBoxLayout* column = frame->addColumn(u"Discount by product price"_s, true);
+    QVBoxLayout* column = frame->addColumn(u"Discount by product price"_s, PanelFrame::Height::Rest);
     column->addWidget(DiscountGrd, 1);
     m_bandsGroup = column->parentWidget();
 }
 
 void DiscountEditor::fill(clsDiscount& discount, const QString& inherited)
 {
+    // The lines of the cart hold prices that were worked out with the discounts as they are.
+    setEditable(ConfirmEmptyCart(m_host.session().Cart.get(), m_host.session().prompts));
     DateFromTxt->fill(discount.DateFrom);
     DateToTxt->fill(discount.DateTo);
     m_percentBox->fill(m_percent == Percent::Specific ? discount.Specific() : discount.ApplyToWhole());
@@ -114,21 +117,6 @@ void DiscountEditor::fill(clsDiscount& discount, const QString& inherited)
         DiscountGrd->Init(bandTitles, bandColumns(discount));
     }
     chooseStatus(discount.Status);
-}
-
-void DiscountEditor::clear()
-{
-    for (QLineEdit* field : {static_cast<QLineEdit*>(DateFromTxt), static_cast<QLineEdit*>(DateToTxt)}) {
-        field->clear();
-    }
-    m_percentBox->fill(QString());
-    if (lblInherit) {
-        lblInherit->clear();
-    }
-    if (DiscountGrd) {
-        DiscountGrd->Init(bandTitles, {});
-    }
-    chooseStatus(0);
 }
 
 void DiscountEditor::setEditable(bool isEditable)
@@ -192,16 +180,16 @@ void DiscountEditor::chooseStatus(int status)
 void DiscountEditor::applyOption()
 {
     const DiscountOption* option = chosenOption();
-    m_percentBox->setEnabled(m_isEditable && option && option->usesPercent);
+    m_percentBox->setEnabled(m_isEditable && option && option->has(UsesPercent));
     for (DateField* field : {DateFromTxt, DateToTxt}) {
-        field->setInUse(option && option->usesDates);
+        field->setInUse(option && option->has(UsesDates));
         field->setEnabled(m_isEditable);
     }
     if (lblInherit) {
-        lblInherit->setVisible(option && option->usesInherit);
+        lblInherit->setVisible(option && option->has(UsesInherit));
     }
     if (DiscountGrd) {
-        const bool isUsed = option && option->usesBands;
+        const bool isUsed = option && option->has(UsesBands);
         if (isUsed) {
             DiscountGrd->Show();
         } else {

@@ -18,16 +18,24 @@ class QButtonGroup;
 class QLabel;
 class clsDiscount;
 
-// One option of a panel: its name and caption, the status that it stands for, and what it puts to use.
+// What an option puts to use.
+enum DiscountUse : unsigned {
+    UsesNothing = 0,
+    UsesPercent = 1,
+    UsesBands = 2,
+    UsesInherit = 4, // what is inherited
+    UsesDates = 8,
+};
+
+// One option of a panel: its name and caption, the status that it stands for, and its uses.
 struct DiscountOption
 {
     const char* name;
     const char* caption;
     int status;
-    bool usesPercent;
-    bool usesBands;
-    bool usesInherit;
-    bool usesDates;
+    unsigned uses;
+
+    constexpr bool has(DiscountUse use) const { return (uses & use) != 0; }
 };
 
 class DiscountEditor : public QObject
@@ -42,12 +50,9 @@ public:
     // Builds the fields into the frame. The host and the options must outlive it.
     DiscountEditor(PanelHost& host, std::span<const DiscountOption> options, Percent percent, PanelFrame* frame);
 
-    // Shows a discount. The text tells what is inherited.
+    // Shows a discount; the text tells what is inherited. Before that it asks whether a cart that is not empty may be
+    // emptied; after a No nothing can be changed until it is filled again.
     void fill(clsDiscount& discount, const QString& inherited);
-    // Shows nothing.
-    void clear();
-    // Whether anything can be changed.
-    void setEditable(bool isEditable);
 
     // Dates and percentage, and the bands when there are any in the grid: an empty grid leaves those of the discount.
     void write(clsDiscount& discount) const;
@@ -58,6 +63,7 @@ private:
     void makeOptions(PanelFrame* frame);
     void makeDates(PanelFrame* frame);
     void makeBands(PanelFrame* frame);
+    void setEditable(bool isEditable);
     // Puts the fields of the option that is on to use, and the others out of it.
     void applyOption();
     const DiscountOption* chosenOption() const;

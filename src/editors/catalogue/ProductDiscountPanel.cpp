@@ -1,56 +1,37 @@
 #include "editors/catalogue/ProductDiscountPanel.h"
 
-#include "editors/PanelFrame.h"
-#include "editors/PanelHost.h"
 #include "editors/catalogue/DiscountEditor.h"
-#include "editors/catalogue/ObjectOf.h"
 #include "model/ShopSession.h"
-#include "model/clsCart.h"
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-// Name, caption, status; whether it uses the percentage, the bands, what is inherited, the dates.
 constexpr DiscountOption options[] = {
-    {"NoDiscountOpt", "NO DISCOUNT", DiscountStatus::No, false, false, false, false},
-    {"SpecificOpt", "SPECIFIC DISCOUNT (%)", DiscountStatus::Specific, true, false, false, true},
+    {"NoDiscountOpt", "NO DISCOUNT", DiscountStatus::No, UsesNothing},
+    {"SpecificOpt", "SPECIFIC DISCOUNT (%)", DiscountStatus::Specific, UsesPercent | UsesDates},
     // Two blanks stand in this caption.
-    {"InheritOpt", "INHERIT FROM  SHOP, CATEGORY, SUBCATEGORY", DiscountStatus::Inherit, false, false, true, false},
+    {"InheritOpt", "INHERIT FROM  SHOP, CATEGORY, SUBCATEGORY", DiscountStatus::Inherit, UsesInherit},
 };
 
 } // namespace
 
-ProductDiscountPanel::ProductDiscountPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
+ProductDiscountPanel::ProductDiscountPanel(PanelHost& host, QWidget* parent)
+    : CataloguePanel(host, u"Product discount properties"_s, parent)
 {
-    auto* frame = new PanelFrame(u"Product discount properties"_s, this);
-    m_editor = new DiscountEditor(host, options, DiscountEditor::Percent::Specific, frame);
-    frame->addButtons(host);
+    m_editor = new DiscountEditor(host, options, DiscountEditor::Percent::Specific, m_frame);
+    m_frame->addButtons(host);
 }
 
-void ProductDiscountPanel::SetActiveObject(const CatalogueObject& object)
+void ProductDiscountPanel::fill(ProductClass& product)
 {
-    m_product = objectOf<ProductClass>(object);
-    if (!m_product) {
-        return;
-    }
-    // The lines of the cart hold prices that were worked out with the discounts as they are.
-    m_editor->setEditable(ConfirmEmptyCart(m_host.session().Cart.get(), m_host.session().prompts));
-    clsPrice& price = *m_product->Price();
+    clsPrice& price = *product.Price();
     m_editor->fill(*price.Discount(), inheritedText(*price.Discount(), price.Value));
 }
 
-void ProductDiscountPanel::SaveActiveObject()
+void ProductDiscountPanel::write(ProductClass& product)
 {
-    if (!m_product) {
-        return;
-    }
-    clsDiscount& discount = *m_product->Price()->Discount();
+    clsDiscount& discount = *product.Price()->Discount();
     m_editor->writeStatus(discount);
     m_editor->write(discount);
-}
-
-void ProductDiscountPanel::ClearActiveObject()
-{
-    m_product.reset();
 }

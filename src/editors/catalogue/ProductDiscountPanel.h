@@ -1,28 +1,22 @@
 // The discount of one product. The window owns it.
 #pragma once
 
-#include "editors/Panel.h"
+#include "editors/catalogue/CataloguePanel.h"
 
-#include <memory>
-
-class DiscountEditor;
-class PanelHost;
 class ProductClass;
+class DiscountEditor;
 
-class ProductDiscountPanel : public Panel
+class ProductDiscountPanel : public CataloguePanel<ProductClass>
 {
     Q_OBJECT
 
 public:
-    // The host must outlive it.
     ProductDiscountPanel(PanelHost& host, QWidget* parent);
 
-    void SetActiveObject(const CatalogueObject& object) override;
-    void SaveActiveObject() override;
-    void ClearActiveObject() override;
+protected:
+    void fill(ProductClass& product) override;
+    void write(ProductClass& product) override;
 
 private:
-    PanelHost& m_host;
     DiscountEditor* m_editor;
-    std::shared_ptr<ProductClass> m_product;
 };

@@ -1,36 +1,31 @@
 #include "editors/catalogue/ProductGeneralPanel.h"
 
 #include "editors/NumericBox.h"
-#include "editors/PanelFrame.h"
-#include "editors/PanelHost.h"
 #include "editors/TextArea.h"
-#include "editors/catalogue/ObjectOf.h"
 #include "editors/design/pickers/BrowseImageControl.h"
 #include "look/WordLabel.h"
 #include "model/ProductClass.h"
 
 #include <QCheckBox>
 #include <QFormLayout>
-#include <QLabel>
-#include <QLineEdit>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
-ProductGeneralPanel::ProductGeneralPanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
+ProductGeneralPanel::ProductGeneralPanel(PanelHost& host, QWidget* parent)
+    : CataloguePanel(host, u"Product general properties"_s, parent)
 {
-    auto* frame = new PanelFrame(u"Product general properties"_s, this);
     IdLbl = named(new WordLabel(WordLabel::Kind::Small), "IdLbl", QString());
-    ProductNameTxt = textField(frame);
-    ProductDescriptionTxt = new TextArea(frame);
-    ProductCodeTxt = textField(frame);
-    ProductPriceTxt = new NumericBox(NumericBox::Takes::Number, frame);
-    chkForSale = named(new QCheckBox(u"For sale"_s, frame), "chkForSale", u"For sale"_s);
-    ProductUnitTxt = textField(frame);
-    ProductLinkTxt = textField(frame);
-    BrowseImageControl1 = named(new BrowseImageControl(host, frame), "BrowseImageControl1", u"Picture"_s);
+    ProductNameTxt = textField(m_frame);
+    ProductDescriptionTxt = new TextArea(m_frame);
+    ProductCodeTxt = textField(m_frame);
+    ProductPriceTxt = new NumericBox(NumericBox::Takes::Number, m_frame);
+    chkForSale = named(new QCheckBox(u"For sale"_s, m_frame), "chkForSale", u"For sale"_s);
+    ProductUnitTxt = textField(m_frame);
+    ProductLinkTxt = textField(m_frame);
+    BrowseImageControl1 = named(new BrowseImageControl(host, m_frame), "BrowseImageControl1", u"Picture"_s);
 
-    QFormLayout* form = frame->addForm(u"The product"_s, true);
+    QFormLayout* form = m_frame->addForm(u"The product"_s, PanelFrame::Height::Rest);
     setAside(form, IdLbl);
     addField(form, u"Name"_s, ProductNameTxt, "ProductNameTxt");
     addField(form, u"Description"_s, ProductDescriptionTxt, "ProductDescriptionTxt");
@@ -40,14 +35,10 @@ ProductGeneralPanel::ProductGeneralPanel(PanelHost& host, QWidget* parent) : Pan
     addField(form, u"Link"_s, ProductLinkTxt, "ProductLinkTxt");
     ProductCodeTxt->setMaximumWidth(FieldWidth::Short);
     ProductUnitTxt->setMaximumWidth(FieldWidth::Short);
-    frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);
-    frame->addButtons(host);
+    m_frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);
+    m_frame->addButtons(host);
 
-    connectGuarded(m_host.errorHandler(), ProductNameTxt, &QLineEdit::textEdited, this, [this](const QString& text) {
-        if (m_product) {
-            m_host.setNodeText(nodeKey(m_product->id), text);
-        }
-    });
+    mirrorName(ProductNameTxt, [](const ProductClass& product) { return nodeKey(product.id); });
 }
 
 void ProductGeneralPanel::addPriceRow(QFormLayout* form)
@@ -62,38 +53,31 @@ void ProductGeneralPanel::addPriceRow(QFormLayout* form)
     form->addRow(captionOf(u"Price"_s, ProductPriceTxt), row);
 }
 
-void ProductGeneralPanel::SetActiveObject(const CatalogueObject& object)
+void ProductGeneralPanel::fill(ProductClass& product)
 {
-    m_product = objectOf<ProductClass>(object);
-    if (!m_product) {
-        return;
-    }
-    IdLbl->setText(u"ID = %1"_s.arg(m_product->id));
-    ProductNameTxt->setText(m_product->name);
-    ProductDescriptionTxt->fill(m_product->Description);
-    ProductCodeTxt->setText(m_product->Code);
-    ProductPriceTxt->fill(m_product->Price()->Value);
-    ProductUnitTxt->setText(m_product->Unit);
-    ProductLinkTxt->setText(m_product->LINK);
-    BrowseImageControl1->setSelectedImage(m_product->selectedImage());
-    chkForSale->setChecked(m_product->ForSale);
+    IdLbl->setText(u"ID = %1"_s.arg(product.id));
+    ProductNameTxt->setText(product.name);
+    ProductDescriptionTxt->fill(product.Description);
+    ProductCodeTxt->setText(product.Code);
+    ProductPriceTxt->fill(product.Price()->Value);
+    ProductUnitTxt->setText(product.Unit);
+    ProductLinkTxt->setText(product.LINK);
+    BrowseImageControl1->setSelectedImage(product.selectedImage());
+    chkForSale->setChecked(product.ForSale);
 }
 
-void ProductGeneralPanel::SaveActiveObject()
+void ProductGeneralPanel::write(ProductClass& product)
 {
-    if (!m_product) {
-        return;
-    }
-    m_product->name = ProductNameTxt->text();
-    m_product->Description = ProductDescriptionTxt->text();
-    m_product->Code = ProductCodeTxt->text();
-    m_product->Price()->Value = ProductPriceTxt->text();
-    m_product->Unit = ProductUnitTxt->text();
+    product.name = ProductNameTxt->text();
+    product.Description = ProductDescriptionTxt->text();
+    product.Code = ProductCodeTxt->text();
+    product.Price()->Value = ProductPriceTxt->text();
+    product.Unit = ProductUnitTxt->text();
     completeLink();
-    m_product->LINK = ProductLinkTxt->text();
+    product.LINK = ProductLinkTxt->text();
     // The text only: the image itself is the selection, which has changed already.
-    m_product->Picture = BrowseImageControl1->imageFileName();
-    m_product->ForSale = chkForSale->isChecked();
+    product.Picture = BrowseImageControl1->imageFileName();
+    product.ForSale = chkForSale->isChecked();
 }
 
 // A link that begins with "https://" or with capitals gets the prefix too, deliberately.
@@ -106,8 +90,7 @@ void ProductGeneralPanel::completeLink()
     }
 }
 
-void ProductGeneralPanel::ClearActiveObject()
+void ProductGeneralPanel::forget()
 {
-    m_product.reset();
     BrowseImageControl1->setSelectedImage(nullptr);
 }

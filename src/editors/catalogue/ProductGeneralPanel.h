@@ -2,37 +2,30 @@
 // submit: BrowseImageControl changes the product's own selection. The window owns it.
 #pragma once
 
-#include "editors/Panel.h"
-
-#include <memory>
+#include "editors/catalogue/CataloguePanel.h"
 
 class BrowseImageControl;
 class NumericBox;
-class PanelHost;
 class ProductClass;
 class QCheckBox;
-class QFormLayout;
-class QLabel;
-class QLineEdit;
 class TextArea;
 
-class ProductGeneralPanel : public Panel
+class ProductGeneralPanel : public CataloguePanel<ProductClass>
 {
     Q_OBJECT
 
 public:
-    // The host must outlive it.
     ProductGeneralPanel(PanelHost& host, QWidget* parent);
 
-    void SetActiveObject(const CatalogueObject& object) override;
-    void SaveActiveObject() override;
-    void ClearActiveObject() override;
+protected:
+    void fill(ProductClass& product) override;
+    void write(ProductClass& product) override;
+    void forget() override;
 
 private:
     void addPriceRow(QFormLayout* form);
     void completeLink();
 
-    PanelHost& m_host;
     QLabel* IdLbl;
     QLineEdit* ProductNameTxt;
     TextArea* ProductDescriptionTxt;
@@ -42,5 +35,4 @@ private:
     QLineEdit* ProductLinkTxt;
     QCheckBox* chkForSale;
     BrowseImageControl* BrowseImageControl1;
-    std::shared_ptr<ProductClass> m_product;
 };

@@ -1,14 +1,10 @@
 #include "editors/catalogue/ProductShippingCostsPanel.h"
 
 #include "editors/NumericBox.h"
-#include "editors/PanelFrame.h"
-#include "editors/PanelHost.h"
-#include "editors/catalogue/ObjectOf.h"
 #include "model/ShopSession.h"
 
 #include <QButtonGroup>
 #include <QFormLayout>
-#include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
@@ -36,21 +32,19 @@ constexpr std::array shippingOptions = {
 } // namespace
 
 ProductShippingCostsPanel::ProductShippingCostsPanel(PanelHost& host, QWidget* parent)
-    : Panel(parent), m_host(host), m_options(new QButtonGroup(this))
+    : CataloguePanel(host, u"Shipping costs"_s, parent), m_options(new QButtonGroup(this))
 {
-    auto* frame = new PanelFrame(u"Shipping costs"_s, this);
-    QVBoxLayout* choice = frame->addColumn(u"How shipping is charged"_s);
+    QVBoxLayout* choice = m_frame->addColumn(u"How shipping is charged"_s);
     for (const ShippingOption& option : shippingOptions) {
-        const QString caption = QString::fromLatin1(option.caption);
-        auto* button = named(new QRadioButton(caption, frame), option.name, caption);
+        QRadioButton* button = newOption(option.name, QLatin1String(option.caption), m_frame);
         m_options->addButton(button, static_cast<int>(m_options->buttons().size()));
         choice->addWidget(button);
     }
-    WeightTxt = new NumericBox(NumericBox::Takes::Number, frame);
-    QFormLayout* weight = frame->addForm(u"Weight"_s);
+    WeightTxt = new NumericBox(NumericBox::Takes::Number, m_frame);
+    QFormLayout* weight = m_frame->addForm(u"Weight"_s);
     addField(weight, u"Weight (kg)"_s, WeightTxt, "WeightTxt");
     WeightTxt->setFixedWidth(FieldWidth::Number);
-    m_costForm = frame->addForm(u"Costs by shipping type"_s);
+    m_costForm = m_frame->addForm(u"Costs by shipping type"_s);
     addPair();
 
     connectGuarded(m_host.errorHandler(), m_options, &QButtonGroup::idToggled, this,
@@ -70,7 +64,7 @@ void ProductShippingCostsPanel::addPair()
     m_costs.push_back({label, box});
 }
 
-void ProductShippingCostsPanel::fillCosts()
+void ProductShippingCostsPanel::fillCosts(ProductClass& product)
 {
     const std::shared_ptr<TextCollection>& types = m_host.session().shop->ShippingTypeName;
     const int count = types ? types->Count() : 0;
@@ -82,7 +76,7 @@ void ProductShippingCostsPanel::fillCosts()
         m_costs.pop_back();
     }
     m_costForm->parentWidget()->setVisible(count > 0);
-    const TextCollection& costs = *m_product->ShippingCosts();
+    const TextCollection& costs = *product.ShippingCosts();
     for (int i = 0; i < static_cast<int>(m_costs.size()); ++i) {
         const TypeCost& pair = m_costs[static_cast<std::size_t>(i)];
         const QString name = i < count ? types->Item(i + 1) : QString();
@@ -92,31 +86,24 @@ void ProductShippingCostsPanel::fillCosts()
     }
 }
 
-void ProductShippingCostsPanel::SetActiveObject(const CatalogueObject& object)
+void ProductShippingCostsPanel::fill(ProductClass& product)
 {
-    m_product = objectOf<ProductClass>(object);
-    if (!m_product) {
-        return;
-    }
-    fillCosts();
+    fillCosts(product);
     m_options->setExclusive(false); // another word than the three chooses none
     for (std::size_t i = 0; i < shippingOptions.size(); ++i) {
-        m_options->button(static_cast<int>(i))->setChecked(m_product->ShippingStatus == shippingOptions[i].status);
+        m_options->button(static_cast<int>(i))->setChecked(product.ShippingStatus == shippingOptions[i].status);
     }
     m_options->setExclusive(true);
-    WeightTxt->fill(m_product->Weight);
+    WeightTxt->fill(product.Weight);
     applyOption();
 }
 
-void ProductShippingCostsPanel::SaveActiveObject()
+void ProductShippingCostsPanel::write(ProductClass& product)
 {
-    if (!m_product) {
-        return;
-    }
     if (const int option = m_options->checkedId(); option >= 0) {
-        m_product->ShippingStatus = shippingOptions[static_cast<std::size_t>(option)].status;
+        product.ShippingStatus = shippingOptions[static_cast<std::size_t>(option)].status;
     }
-    m_product->Weight = WeightTxt->text();
+    product.Weight = WeightTxt->text();
     TextCollection costs;
     for (const TypeCost& pair : m_costs) {
         const QString type = pair.ShippingTypeNameLbl->text();
@@ -130,12 +117,7 @@ void ProductShippingCostsPanel::SaveActiveObject()
             costs.Add(cost, type);
         }
     }
-    *m_product->ShippingCosts() = std::move(costs); // in place: a clone has the same object
-}
-
-void ProductShippingCostsPanel::ClearActiveObject()
-{
-    m_product.reset();
+    *product.ShippingCosts() = std::move(costs); // in place: a clone has the same object
 }
 
 void ProductShippingCostsPanel::applyOption()

@@ -1,9 +1,6 @@
 #include "editors/catalogue/ProductsMultipricePanel.h"
 
-#include "editors/PanelFrame.h"
-#include "editors/PanelHost.h"
 #include "editors/catalogue/CustomGrid.h"
-#include "editors/catalogue/ObjectOf.h"
 #include "model/ShopSession.h"
 #include "model/clsCart.h"
 
@@ -11,37 +8,30 @@
 
 using namespace Qt::StringLiterals;
 
-ProductsMultipricePanel::ProductsMultipricePanel(PanelHost& host, QWidget* parent) : Panel(parent), m_host(host)
+ProductsMultipricePanel::ProductsMultipricePanel(PanelHost& host, QWidget* parent)
+    : CataloguePanel(host, u"Multiple prices"_s, parent)
 {
-    auto* frame = new PanelFrame(u"Multiple prices"_s, this);
-    MultipriceGrd = named(new CustomGrid(host, frame), "MultipriceGrd", u"Multiple prices"_s);
-    frame->addColumn(u"Prices of the product's variants"_s, true)->addWidget(MultipriceGrd, 1);
-    frame->addButtons(host);
+    MultipriceGrd = named(new CustomGrid(host, m_frame), "MultipriceGrd", u"Multiple prices"_s);
+    m_frame->addColumn(u"Prices of the product's variants"_s, PanelFrame::Height::Rest)->addWidget(MultipriceGrd, 1);
+    m_frame->addButtons(host);
 }
 
-void ProductsMultipricePanel::SetActiveObject(const CatalogueObject& object)
+void ProductsMultipricePanel::fill(ProductClass& product)
 {
-    m_product = objectOf<ProductClass>(object);
-    if (!m_product) {
-        return;
-    }
     // The lines of the cart hold prices that were worked out with the variants as they are.
     MultipriceGrd->setEnabled(ConfirmEmptyCart(m_host.session().Cart.get(), m_host.session().prompts));
     auto descriptions = std::make_shared<TextCollection>();
     auto values = std::make_shared<TextCollection>();
-    for (const std::shared_ptr<clsMultiPrice>& variant : m_product->Price()->MultiPriceCollection()) {
+    for (const std::shared_ptr<clsMultiPrice>& variant : product.Price()->MultiPriceCollection()) {
         descriptions->Add(variant->Description);
         values->Add(variant->Value);
     }
     MultipriceGrd->Init({u"Price Description"_s, u"Price"_s}, {descriptions, values});
 }
 
-void ProductsMultipricePanel::SaveActiveObject()
+void ProductsMultipricePanel::write(ProductClass& product)
 {
-    if (!m_product) {
-        return;
-    }
-    clsPrice& price = *m_product->Price();
+    clsPrice& price = *product.Price();
     price.clearMultiPrices();
     const CustomGrid::Columns columns = MultipriceGrd->GetData();
     for (int row = 1; columns[0] && row <= columns[0]->Count(); ++row) {
@@ -49,9 +39,4 @@ void ProductsMultipricePanel::SaveActiveObject()
         variant->Description = columns[0]->Item(row);
         variant->Value = columns[1]->Item(row);
     }
-}
-
-void ProductsMultipricePanel::ClearActiveObject()
-{
-    m_product.reset();
 }

@@ -1,28 +1,25 @@
 // The products that a product's page recommends, picked from the whole catalogue. The window owns it.
 #pragma once
 
-#include "editors/Panel.h"
-
-#include <memory>
+#include "editors/catalogue/CataloguePanel.h"
 
 class CatalogueTreeModel;
-class PanelHost;
 class ProductClass;
 class QListView;
 class QTreeView;
 class RelatedProducts;
 
-class ProductsRelatedPanel : public Panel
+class ProductsRelatedPanel : public CataloguePanel<ProductClass>
 {
     Q_OBJECT
 
 public:
-    // The host must outlive it.
     ProductsRelatedPanel(PanelHost& host, QWidget* parent);
 
-    void SetActiveObject(const CatalogueObject& object) override;
-    void SaveActiveObject() override;
-    void ClearActiveObject() override;
+protected:
+    void fill(ProductClass& product) override;
+    void write(ProductClass& product) override;
+    void forget() override;
 
 private:
     // None for a product that is gone.
@@ -31,10 +28,8 @@ private:
     void toRelated();
     void fromRelated();
 
-    PanelHost& m_host;
     QTreeView* AllProductsTree;
     QListView* RelatedProductsLst;
     CatalogueTreeModel* m_nodes;
     RelatedProducts* m_related;
-    std::shared_ptr<ProductClass> m_product;
 };

@@ -1,9 +1,7 @@
 #include "editors/catalogue/ShopShippingCostsPanel.h"
 
-#include "editors/PanelFrame.h"
 #include "editors/catalogue/CustomGrid.h"
 #include "editors/catalogue/GridTexts.h"
-#include "editors/catalogue/ObjectOf.h"
 #include "model/ShopClass.h"
 
 #include <QVBoxLayout>
@@ -40,45 +38,33 @@ std::shared_ptr<KeyedCollection<TextCollection>> costsByFrame(const CustomGrid::
 
 } // namespace
 
-ShopShippingCostsPanel::ShopShippingCostsPanel(PanelHost& host, QWidget* parent) : Panel(parent)
+ShopShippingCostsPanel::ShopShippingCostsPanel(PanelHost& host, QWidget* parent)
+    : CataloguePanel(host, u"Shipping costs"_s, parent)
 {
-    auto* frame = new PanelFrame(u"Shipping costs"_s, this);
-    ShippingGrd = named(new CustomGrid(host, frame), "ShippingGrd", u"Shipping costs by weight"_s);
-    frame->addColumn(u"Costs by weight and shipping type"_s, true)->addWidget(ShippingGrd, 1);
+    ShippingGrd = named(new CustomGrid(host, m_frame), "ShippingGrd", u"Shipping costs by weight"_s);
+    m_frame->addColumn(u"Costs by weight and shipping type"_s, PanelFrame::Height::Rest)->addWidget(ShippingGrd, 1);
 }
 
-void ShopShippingCostsPanel::SetActiveObject(const CatalogueObject& object)
+void ShopShippingCostsPanel::fill(ShopClass& shop)
 {
-    m_shop = objectOf<ShopClass>(object);
-    if (!m_shop) {
-        return;
-    }
     QStringList titles = {u"From (kg)"_s, u"To (kg)"_s};
-    CustomGrid::Columns columns = {m_shop->ShippingCostFrameFrom, m_shop->ShippingCostFrameTo};
-    if (m_shop->ShippingTypeName) {
-        for (const QString& type : *m_shop->ShippingTypeName) {
+    CustomGrid::Columns columns = {shop.ShippingCostFrameFrom, shop.ShippingCostFrameTo};
+    if (shop.ShippingTypeName) {
+        for (const QString& type : *shop.ShippingTypeName) {
             titles << type;
-            columns.push_back(m_shop->ShippingCosts
-                                  ? costColumn(*m_shop->ShippingCosts, static_cast<int>(titles.size()) - frameColumns)
+            columns.push_back(shop.ShippingCosts
+                                  ? costColumn(*shop.ShippingCosts, static_cast<int>(titles.size()) - frameColumns)
                                   : nullptr);
         }
     }
     ShippingGrd->Init(titles, columns);
 }
 
-void ShopShippingCostsPanel::SaveActiveObject()
+void ShopShippingCostsPanel::write(ShopClass& shop)
 {
-    if (!m_shop) {
-        return;
-    }
     const CustomGrid::Columns columns = ShippingGrd->GetData();
     const bool hasRows = columns[0] != nullptr;
-    m_shop->ShippingCostFrameFrom = hasRows ? rekeyed(*columns[0], "from") : nullptr;
-    m_shop->ShippingCostFrameTo = hasRows ? rekeyed(*columns[1], "to") : nullptr;
-    m_shop->ShippingCosts = hasRows ? costsByFrame(columns) : nullptr;
-}
-
-void ShopShippingCostsPanel::ClearActiveObject()
-{
-    m_shop.reset();
+    shop.ShippingCostFrameFrom = hasRows ? rekeyed(*columns[0], "from") : nullptr;
+    shop.ShippingCostFrameTo = hasRows ? rekeyed(*columns[1], "to") : nullptr;
+    shop.ShippingCosts = hasRows ? costsByFrame(columns) : nullptr;
 }

@@ -1,8 +1,6 @@
 #include "editors/catalogue/ShopTaxesPanel.h"
 
-#include "editors/PanelFrame.h"
 #include "editors/catalogue/CustomGrid.h"
-#include "editors/catalogue/ObjectOf.h"
 #include "model/ShopClass.h"
 
 #include <QRadioButton>
@@ -26,44 +24,30 @@ CustomGrid::Columns columnsOf(const KeyedCollection<clsTax>& taxes)
 
 } // namespace
 
-ShopTaxesPanel::ShopTaxesPanel(PanelHost& host, QWidget* parent) : Panel(parent)
+ShopTaxesPanel::ShopTaxesPanel(PanelHost& host, QWidget* parent) : CataloguePanel(host, u"Taxes"_s, parent)
 {
-    auto* frame = new PanelFrame(u"Taxes"_s, this);
-    optNoTax = named(new QRadioButton(u"No taxes"_s, frame), "optNoTax", u"No taxes"_s);
-    optSelectTax = named(new QRadioButton(u"Charge the taxes ticked below"_s, frame), "optSelectTax",
-                         u"Charge the taxes ticked below"_s);
-    TaxGrd = named(new CustomGrid(host, frame), "TaxGrd", u"Taxes"_s);
+    optNoTax = newOption("optNoTax", u"No taxes"_s, m_frame);
+    optSelectTax = newOption("optSelectTax", u"Charge the taxes ticked below"_s, m_frame);
+    TaxGrd = named(new CustomGrid(host, m_frame), "TaxGrd", u"Taxes"_s);
 
-    QVBoxLayout* choice = frame->addColumn(u"Use of taxes"_s);
+    QVBoxLayout* choice = m_frame->addColumn(u"Use of taxes"_s);
     choice->addWidget(optNoTax);
     choice->addWidget(optSelectTax);
-    frame->addColumn(u"Taxes"_s, true)->addWidget(TaxGrd, 1);
-    frame->addButtons(host);
+    m_frame->addColumn(u"Taxes"_s, PanelFrame::Height::Rest)->addWidget(TaxGrd, 1);
+    m_frame->addButtons(host);
 
     connect(optSelectTax, &QRadioButton::toggled, TaxGrd, &QWidget::setEnabled);
     TaxGrd->setEnabled(false);
 }
 
-void ShopTaxesPanel::SetActiveObject(const CatalogueObject& object)
+void ShopTaxesPanel::fill(ShopClass& shop)
 {
-    m_shop = objectOf<ShopClass>(object);
-    if (!m_shop) {
-        return;
-    }
-    TaxGrd->Init({u"Tax choices"_s, u"Tax Rates (%)"_s, u"Use"_s}, columnsOf(m_shop->Taxes), true);
-    (m_shop->TaxesAreSelected ? optSelectTax : optNoTax)->setChecked(true);
+    TaxGrd->Init({u"Tax choices"_s, u"Tax Rates (%)"_s, u"Use"_s}, columnsOf(shop.Taxes), true);
+    (shop.TaxesAreSelected ? optSelectTax : optNoTax)->setChecked(true);
 }
 
-void ShopTaxesPanel::SaveActiveObject()
+void ShopTaxesPanel::write(ShopClass& shop)
 {
-    if (!m_shop) {
-        return;
-    }
-    m_shop->TaxesAreSelected = optSelectTax->isChecked();
+    shop.TaxesAreSelected = optSelectTax->isChecked();
     TaxGrd->GetDataForTaxes();
-}
-
-void ShopTaxesPanel::ClearActiveObject()
-{
-    m_shop.reset();
 }

@@ -1,30 +1,24 @@
 // Whether the shop takes taxes, and which. The window owns it.
 #pragma once
 
-#include "editors/Panel.h"
-
-#include <memory>
+#include "editors/catalogue/CataloguePanel.h"
 
 class CustomGrid;
-class PanelHost;
-class QRadioButton;
 class ShopClass;
 
-class ShopTaxesPanel : public Panel
+class ShopTaxesPanel : public CataloguePanel<ShopClass>
 {
     Q_OBJECT
 
 public:
-    // The host must outlive it.
     ShopTaxesPanel(PanelHost& host, QWidget* parent);
 
-    void SetActiveObject(const CatalogueObject& object) override;
-    void SaveActiveObject() override;
-    void ClearActiveObject() override;
+protected:
+    void fill(ShopClass& shop) override;
+    void write(ShopClass& shop) override;
 
 private:
     QRadioButton* optNoTax;
     QRadioButton* optSelectTax;
     CustomGrid* TaxGrd;
-    std::shared_ptr<ShopClass> m_shop;
 };

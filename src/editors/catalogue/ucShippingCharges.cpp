@@ -1,8 +1,6 @@
 #include "editors/catalogue/ucShippingCharges.h"
 
-#include "editors/PanelFrame.h"
 #include "editors/catalogue/CustomGrid.h"
-#include "editors/catalogue/ObjectOf.h"
 #include "model/ShopClass.h"
 
 #include <QRadioButton>
@@ -10,44 +8,31 @@
 
 using namespace Qt::StringLiterals;
 
-ucShippingCharges::ucShippingCharges(PanelHost& host, QWidget* parent) : Panel(parent)
+ucShippingCharges::ucShippingCharges(PanelHost& host, QWidget* parent)
+    : CataloguePanel(host, u"Shipping charges"_s, parent)
 {
-    auto* frame = new PanelFrame(u"Shipping charges"_s, this);
-    cmbNoCharges = named(new QRadioButton(u"No shipping charges"_s, frame), "cmbNoCharges", u"No shipping charges"_s);
-    cmbSelectCharges = named(new QRadioButton(u"Add the charges ticked below"_s, frame), "cmbSelectCharges",
-                             u"Add the charges ticked below"_s);
-    gridCharges = named(new CustomGrid(host, frame), "gridCharges", u"Shipping charges"_s);
+    cmbNoCharges = newOption("cmbNoCharges", u"No shipping charges"_s, m_frame);
+    cmbSelectCharges = newOption("cmbSelectCharges", u"Add the charges ticked below"_s, m_frame);
+    gridCharges = named(new CustomGrid(host, m_frame), "gridCharges", u"Shipping charges"_s);
 
-    QVBoxLayout* choice = frame->addColumn(u"Use of shipping charges"_s);
+    QVBoxLayout* choice = m_frame->addColumn(u"Use of shipping charges"_s);
     choice->addWidget(cmbNoCharges);
     choice->addWidget(cmbSelectCharges);
-    frame->addColumn(u"Charges by destination"_s, true)->addWidget(gridCharges, 1);
-    frame->addButtons(host);
+    m_frame->addColumn(u"Charges by destination"_s, PanelFrame::Height::Rest)->addWidget(gridCharges, 1);
+    m_frame->addButtons(host);
 
     connect(cmbSelectCharges, &QRadioButton::toggled, gridCharges, &QWidget::setEnabled);
     gridCharges->setEnabled(false);
 }
 
-void ucShippingCharges::SetActiveObject(const CatalogueObject& object)
+void ucShippingCharges::fill(ShopClass& shop)
 {
-    m_shop = objectOf<ShopClass>(object);
-    if (!m_shop) {
-        return;
-    }
     gridCharges->InitForCharges();
-    (m_shop->ShippingChargesAreSelected ? cmbSelectCharges : cmbNoCharges)->setChecked(true);
+    (shop.ShippingChargesAreSelected ? cmbSelectCharges : cmbNoCharges)->setChecked(true);
 }
 
-void ucShippingCharges::SaveActiveObject()
+void ucShippingCharges::write(ShopClass& shop)
 {
-    if (!m_shop) {
-        return;
-    }
     gridCharges->GetDataForCharges();
-    m_shop->ShippingChargesAreSelected = cmbSelectCharges->isChecked();
-}
-
-void ucShippingCharges::ClearActiveObject()
-{
-    m_shop.reset();
+    shop.ShippingChargesAreSelected = cmbSelectCharges->isChecked();
 }

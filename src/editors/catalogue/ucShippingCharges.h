@@ -1,30 +1,24 @@
 // Whether the shop takes flat charges for shipping, and which. The window owns it.
 #pragma once
 
-#include "editors/Panel.h"
-
-#include <memory>
+#include "editors/catalogue/CataloguePanel.h"
 
 class CustomGrid;
-class PanelHost;
-class QRadioButton;
 class ShopClass;
 
-class ucShippingCharges : public Panel
+class ucShippingCharges : public CataloguePanel<ShopClass>
 {
     Q_OBJECT
 
 public:
-    // The host must outlive it.
     ucShippingCharges(PanelHost& host, QWidget* parent);
 
-    void SetActiveObject(const CatalogueObject& object) override;
-    void SaveActiveObject() override;
-    void ClearActiveObject() override;
+protected:
+    void fill(ShopClass& shop) override;
+    void write(ShopClass& shop) override;
 
 private:
     QRadioButton* cmbNoCharges;
     QRadioButton* cmbSelectCharges;
     CustomGrid* gridCharges;
-    std::shared_ptr<ShopClass> m_shop;
 };

@@ -5,8 +5,8 @@
 #include "design/PageTable.h"
 #include "design/ShopDesignClass.h"
 #include "design/clsSelectedCustomPages.h"
-#include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
+#include "editors/PanelParts.h"
 #include "editors/design/PageOptions.h"
 #include "look/Measures.h"
 #include "look/Section.h"
@@ -79,11 +79,6 @@ QWidget* CustomPageManager::makeEditor()
     PageContentTextCtl->setMinimumHeight(140);
 
     auto* group = new Section(u"Your pages"_s, this);
-    const auto caption = [group](const QString& text, QWidget* field) {
-        auto* label = new QLabel(text, group);
-        label->setBuddy(field);
-        return label;
-    };
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(8);
     buttons->addWidget(AddPageBtn);
@@ -94,12 +89,12 @@ QWidget* CustomPageManager::makeEditor()
     grid->setVerticalSpacing(Measure::Tight);
     grid->setColumnStretch(1, 1);
     grid->setRowStretch(3, 1);
-    grid->addWidget(caption(u"&Pages"_s, CustomPagesListCtl), 0, 0);
+    grid->addWidget(newCaption(u"&Pages"_s, CustomPagesListCtl), 0, 0);
     grid->addWidget(CustomPagesListCtl, 1, 0, 3, 1);
     grid->addLayout(buttons, 4, 0);
-    grid->addWidget(caption(u"&Name of the page"_s, PageNameTextCtl), 0, 1);
+    grid->addWidget(newCaption(u"&Name of the page"_s, PageNameTextCtl), 0, 1);
     grid->addWidget(PageNameTextCtl, 1, 1);
-    grid->addWidget(caption(u"Te&xt of the page, with HTML"_s, PageContentTextCtl), 2, 1);
+    grid->addWidget(newCaption(u"Te&xt of the page, with HTML"_s, PageContentTextCtl), 2, 1);
     grid->addWidget(PageContentTextCtl, 3, 1, 2, 1);
     return group;
 }

@@ -3,6 +3,7 @@
 #include "base/UserPrompts.h"
 #include "base/XMLUtils.h"
 #include "design/CSSClass.h"
+#include "design/SwitchWord.h"
 #include "editors/ClosedList.h"
 #include "editors/PanelHost.h"
 #include "editors/design/ColourText.h"
@@ -57,11 +58,6 @@ QComboBox* namedList(const char* name, const QStringList& entries, const QString
     list->addItems(entries);
     select(list, entries, selected);
     return list;
-}
-
-QString wordOf(bool on)
-{
-    return on ? u"Yes"_s : u"No"_s;
 }
 
 } // namespace
@@ -167,10 +163,10 @@ void FontAndColorEditorPanel::SaveActiveObject(CSSClass& style) const
     style.BackGroundColor = ObjectBackGroundColor();
     style.FontName = ObjectFontName();
     style.FontSize = ObjectFontSize();
-    style.IsBold = wordOf(ObjectFontBold());
-    style.IsCursive = wordOf(ObjectFontCursiv());
-    style.IsUndcelined = wordOf(ObjectFontUnderline());
-    style.IsLineThrugh = wordOf(ObjectFontLineTrough());
+    style.IsBold = switchWord(ObjectFontBold());
+    style.IsCursive = switchWord(ObjectFontCursiv());
+    style.IsUndcelined = switchWord(ObjectFontUnderline());
+    style.IsLineThrugh = switchWord(ObjectFontLineTrough());
 }
 
 // Properties ----------------------------------------------------------------------------------------------------------

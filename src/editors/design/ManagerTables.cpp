@@ -7,8 +7,6 @@ using enum DesignOption;
 // clang-format off
 namespace {
 
-constexpr const char* advancedCh = "AdvancedCh";
-
 // Menu ----------------------------------------------------------------------------------------------------------------
 
 constexpr SwitchRow menuCategorySwitches[] = {
@@ -34,7 +32,7 @@ constexpr SlotRow menuSlots[] = {
     {ImageSlot::MenuShoppingCartButton, "lblShoppingCartButton", "Shopping cart button"},
 };
 constexpr ListRow menuLists[] = {
-    {PageSelection::MenuCustomPageSelected, "lblSelectedCustomPageBttn", "Pages in the menu", true},
+    {PageSelection::MenuCustomPageSelected, "lblSelectedCustomPageBttn", "Pages in the menu", PageChoice::Several},
 };
 // Two styles share a title, deliberately.
 constexpr StyleRow menuStyles[] = {
@@ -45,8 +43,13 @@ constexpr StyleRow menuStyles[] = {
     {"Menu_HeaderTopCategory",        "Top Categories",            "Heading of the categories"},
 };
 constexpr ManagerTable menuTable = {
-    "Menu", ShopPage::Menu, advancedCh, SwitchBackQuestion, true,
-    menuGroups, menuSlots, menuLists, menuStyles,
+    .heading = "Menu",
+    .page = ShopPage::Menu,
+    .savesTemplate = true,
+    .groups = menuGroups,
+    .imageSlots = menuSlots,
+    .lists = menuLists,
+    .styles = menuStyles,
 };
 
 // Header --------------------------------------------------------------------------------------------------------------
@@ -70,7 +73,7 @@ constexpr SlotRow headerSlots[] = {
     {ImageSlot::HeaderShoppingCartButton, "lblShoppingCartButton", "Shopping cart button"},
 };
 constexpr ListRow headerLists[] = {
-    {PageSelection::HeaderCustomPageSelected, "lblSelectedCustomPageBttn", "Pages in the header", true},
+    {PageSelection::HeaderCustomPageSelected, "lblSelectedCustomPageBttn", "Pages in the header", PageChoice::Several},
 };
 constexpr StyleRow headerStyles[] = {
     {"general_header",            "Header Properties",              "Whole header"},
@@ -78,8 +81,14 @@ constexpr StyleRow headerStyles[] = {
     {"header_searchbox_testfield", "SearchBox Textfield Properties", "Search field"},
 };
 constexpr ManagerTable headerTable = {
-    "Header", ShopPage::Header, advancedCh, headerSwitchBackQuestion, true,
-    headerGroups, headerSlots, headerLists, headerStyles,
+    .heading = "Header",
+    .page = ShopPage::Header,
+    .switchBackQuestion = headerSwitchBackQuestion,
+    .savesTemplate = true,
+    .groups = headerGroups,
+    .imageSlots = headerSlots,
+    .lists = headerLists,
+    .styles = headerStyles,
 };
 
 // Footer --------------------------------------------------------------------------------------------------------------
@@ -92,14 +101,18 @@ constexpr TextRow footerTexts[] = {
 };
 constexpr OptionGroup footerGroups[] = {{"What visitors see", footerSwitches, footerTexts}};
 constexpr ListRow footerLists[] = {
-    {PageSelection::FooterCustomPageSelected, "lblSelectedCustomPageBttn", "Pages in the footer", true},
+    {PageSelection::FooterCustomPageSelected, "lblSelectedCustomPageBttn", "Pages in the footer", PageChoice::Several},
 };
 constexpr StyleRow footerStyles[] = {
     {"menuinfooter", "Menu Properties", "Links to pages"},
 };
 constexpr ManagerTable footerTable = {
-    "Footer", ShopPage::Footer, advancedCh, SwitchBackQuestion, true,
-    footerGroups, {}, footerLists, footerStyles,
+    .heading = "Footer",
+    .page = ShopPage::Footer,
+    .savesTemplate = true,
+    .groups = footerGroups,
+    .lists = footerLists,
+    .styles = footerStyles,
 };
 
 // Main page -----------------------------------------------------------------------------------------------------------
@@ -126,8 +139,8 @@ constexpr SlotRow mainSlots[] = {
     {ImageSlot::MainSearchButton, "lblSearchBoxButton", "Search button"},
 };
 constexpr ListRow mainLists[] = {
-    {PageSelection::MainPageMenuList,     "lblMainPageMenuList",     "Pages in the main page", true},
-    {PageSelection::CustomPageAsMainPage, "lblShowCustomPageAsMain", "Home page of the shop",  false},
+    {PageSelection::MainPageMenuList,     "lblMainPageMenuList",     "Pages in the main page", PageChoice::Several},
+    {PageSelection::CustomPageAsMainPage, "lblShowCustomPageAsMain", "Home page of the shop",  PageChoice::One},
 };
 constexpr StyleRow mainStyles[] = {
     {"main_page_general_properties",         "General main page properties",    "Whole page"},
@@ -140,8 +153,13 @@ constexpr StyleRow mainStyles[] = {
     {"Top_categories_in_main_page",          "Top Categories Properties",       "Top categories"},
 };
 constexpr ManagerTable mainTable = {
-    "Main page", ShopPage::Main, advancedCh, SwitchBackQuestion, false,
-    mainGroups, mainSlots, mainLists, mainStyles,
+    .heading = "Main page",
+    .page = ShopPage::Main,
+    .savesTemplate = false,
+    .groups = mainGroups,
+    .imageSlots = mainSlots,
+    .lists = mainLists,
+    .styles = mainStyles,
 };
 
 // Buying form ---------------------------------------------------------------------------------------------------------
@@ -166,8 +184,12 @@ constexpr StyleRow buyingStyles[] = {
     {"Buyingform_form_elements", "Form Elements Properties", "Fields of the form"},
 };
 constexpr ManagerTable buyingTable = {
-    "Buying form", ShopPage::Checkout, advancedCh, SwitchBackQuestion, false,
-    buyingGroups, buyingSlots, {}, buyingStyles,
+    .heading = "Buying form",
+    .page = ShopPage::Checkout,
+    .savesTemplate = false,
+    .groups = buyingGroups,
+    .imageSlots = buyingSlots,
+    .styles = buyingStyles,
 };
 
 // Custom pages --------------------------------------------------------------------------------------------------------
@@ -176,8 +198,10 @@ constexpr StyleRow customPageStyles[] = {
     {"general_custom_pages", "Custom Pages Properties", "Whole page"},
 };
 constexpr ManagerTable customTable = {
-    "Custom pages", ShopPage::CustomPage, advancedCh, SwitchBackQuestion, true,
-    {}, {}, {}, customPageStyles,
+    .heading = "Custom pages",
+    .page = ShopPage::CustomPage,
+    .savesTemplate = true,
+    .styles = customPageStyles,
 };
 
 } // namespace

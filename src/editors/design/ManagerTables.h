@@ -1,6 +1,7 @@
 // What the ten page managers show, as data: the options with their captions, the styles, the image slots, the page
-// lists and the template of each page. PageManager makes its controls from one table; whoever adds an option to a page
-// adds a row here. All texts live as long as the program.
+// lists and the template of each page. PageManager makes its controls from one table. The tables of the category, the
+// product, the search and the cart page stand in ProductTables.cpp, the other six in ManagerTables.cpp; an option that
+// is added to a page gets a row there. All texts live as long as the program.
 #pragma once
 
 #include "design/DesignOptions.h"
@@ -53,26 +54,32 @@ struct SlotRow
     const char* caption;
 };
 
+enum class PageChoice { One, Several };
+
 // A button that opens the choice of pages.
 struct ListRow
 {
     PageSelection list;
     const char* control;
     const char* caption;
-    bool several;
+    PageChoice choice;
 };
+
+// The question of all managers but the header's. Its spelling is deliberate.
+inline constexpr const char* SwitchBackQuestion = "If you swich back from Advanced Mode all your changes made in the "
+                                                  "template will be changed back to defaults. Do you want to continue?";
 
 struct ManagerTable
 {
     const char* heading;
     ShopPage page; // one with an advanced option
-    const char* advancedControl;
-    const char* switchBackQuestion; // asked when the advanced mode is switched off
-    bool savesTemplate;             // with every save, not only by the button
-    std::span<const OptionGroup> groups;
-    std::span<const SlotRow> imageSlots;
-    std::span<const ListRow> lists;
-    std::span<const StyleRow> styles;
+    const char* advancedControl = "AdvancedCh";
+    const char* switchBackQuestion = SwitchBackQuestion; // asked when the advanced mode is switched off
+    bool savesTemplate = false;                          // with every save, not only by the button
+    std::span<const OptionGroup> groups = {};
+    std::span<const SlotRow> imageSlots = {};
+    std::span<const ListRow> lists = {};
+    std::span<const StyleRow> styles = {};
 };
 
 // The table of a page's manager. ErrorNumber::InvalidArgument for a page without one.
@@ -80,9 +87,5 @@ const ManagerTable& managerTable(ShopPage page);
 // The same for the pages that show products, whose tables stand in a file of their own.
 const ManagerTable& productManagerTable(ShopPage page);
 
-// The question of all managers but the header's. Its spelling is deliberate.
-inline constexpr const char* SwitchBackQuestion = "If you swich back from Advanced Mode all your changes made in the "
-                                                  "template will be changed back to defaults. Do you want to continue?";
-
-// A caption or title of a table in the user's language.
+// A caption or title of a table.
 QString captionText(const char* text);

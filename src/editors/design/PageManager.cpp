@@ -1,13 +1,13 @@
 #include "editors/design/PageManager.h"
 
+#include "design/SwitchWord.h"
 #include "editors/PanelHost.h"
+#include "editors/PanelParts.h"
 #include "editors/ScrollColumn.h"
 #include "editors/SubmitReset.h"
 #include "editors/design/ManagerTables.h"
 #include "editors/design/PageOptions.h"
 #include "editors/design/TemplatePart.h"
-#include "look/Measures.h"
-#include "look/WordLabel.h"
 #include "model/ShopSession.h"
 
 #include <QTabWidget>
@@ -30,10 +30,7 @@ PageManager::PageManager(PanelHost& host, ShopPage page, QWidget* parent)
     m_tabs->addTab(new ScrollColumn(m_options, m_tabs), u"Page"_s);
     m_tabs->addTab(m_template, u"Template"_s);
 
-    auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(Measure::Section, Measure::Wide, Measure::Section, Measure::Wide);
-    column->setSpacing(Measure::Wide);
-    column->addWidget(new WordLabel(WordLabel::Kind::Title, heading, this));
+    QVBoxLayout* column = newPanelColumn(this, heading);
     column->addWidget(m_tabs, 1);
     column->addWidget(new SubmitReset(host, this));
 }
@@ -63,7 +60,7 @@ void PageManager::SaveActiveObject()
     }
     ShopDesignClass& design = *m_shop->ShopDesign;
     m_options->save(design);
-    design.setOption(advancedOption(), m_template->isAdvanced() ? u"Yes"_s : u"No"_s);
+    design.setOption(advancedOption(), switchWord(m_template->isAdvanced()));
     saveMore(*m_shop);
     if (m_table.savesTemplate) {
         m_template->saveWithPanel();

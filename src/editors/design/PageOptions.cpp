@@ -2,8 +2,9 @@
 
 #include "base/RuntimeError.h"
 #include "design/CSSClass.h"
-#include "editors/PanelFrame.h"
+#include "design/SwitchWord.h"
 #include "editors/PanelHost.h"
+#include "editors/PanelParts.h"
 #include "editors/design/CSSManagementForm.h"
 #include "editors/design/ColourText.h"
 #include "editors/design/ColumnGrid.h"
@@ -111,16 +112,12 @@ void PageOptions::makeGroup(const OptionGroup& group)
     }
     column->addWidget(grid);
 
-    auto* form = new QFormLayout;
-    form->setHorizontalSpacing(Measure::Wide);
-    form->setVerticalSpacing(Measure::Gap);
-    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    QFormLayout* form = newForm();
     for (const TextRow& row : group.texts) {
         QLineEdit* field = textField(this);
         field->setObjectName(QLatin1String(row.control));
         field->setMaximumWidth(row.width);
-        auto* caption = new QLabel(captionText(row.caption), this);
-        caption->setBuddy(field);
+        QLabel* caption = newCaption(captionText(row.caption), field);
         caption->setFixedHeight(controlHeight(caption->fontMetrics()));
         form->addRow(caption, field);
         m_texts.emplace_back(row.option, field);
@@ -220,7 +217,7 @@ void PageOptions::load()
 void PageOptions::save(ShopDesignClass& design) const
 {
     for (const auto& [option, box] : m_switches) {
-        design.setOption(option, box->isChecked() ? u"Yes"_s : u"No"_s);
+        design.setOption(option, switchWord(box->isChecked()));
     }
     for (const auto& [option, field] : m_texts) {
         design.setOption(option, field->text());
@@ -262,7 +259,7 @@ void PageOptions::openSlot(const SlotRow& row)
 
 void PageOptions::openList(const ListRow& row)
 {
-    if (!row.several) {
+    if (row.choice == PageChoice::One) {
         m_pagesForm->pagesControl->SetMultiSelect(false);
     }
     m_pagesForm->setWindowTitle(captionText(row.caption));

@@ -94,8 +94,12 @@ constexpr StyleRow categoryStyles[] = {
     {"categorypage_related",             "Category Related Properties",     related},
 };
 constexpr ManagerTable categoryTable = {
-    "Category page", ShopPage::Category, "AdvancedCh", SwitchBackQuestion, false,
-    categoryGroups, categorySlots, {}, categoryStyles,
+    .heading = "Category page",
+    .page = ShopPage::Category,
+    .savesTemplate = false,
+    .groups = categoryGroups,
+    .imageSlots = categorySlots,
+    .styles = categoryStyles,
 };
 
 // Product page --------------------------------------------------------------------------------------------------------
@@ -138,8 +142,12 @@ constexpr StyleRow productStyles[] = {
     {"productpage_related",      "Product Related Properties",     related},
 };
 constexpr ManagerTable productTable = {
-    "Product page", ShopPage::Product, "AdvancedCh", SwitchBackQuestion, true,
-    productGroups, productSlots, {}, productStyles,
+    .heading = "Product page",
+    .page = ShopPage::Product,
+    .savesTemplate = true,
+    .groups = productGroups,
+    .imageSlots = productSlots,
+    .styles = productStyles,
 };
 
 // Search page ---------------------------------------------------------------------------------------------------------
@@ -186,8 +194,12 @@ constexpr StyleRow searchStyles[] = {
     {"searchpage_related",       "Product Related Properties",     related},
 };
 constexpr ManagerTable searchTable = {
-    "Search page", ShopPage::Search, "AdvancedCh", SwitchBackQuestion, true,
-    searchGroups, searchSlots, {}, searchStyles,
+    .heading = "Search page",
+    .page = ShopPage::Search,
+    .savesTemplate = true,
+    .groups = searchGroups,
+    .imageSlots = searchSlots,
+    .styles = searchStyles,
 };
 
 // Shopping cart page --------------------------------------------------------------------------------------------------
@@ -237,8 +249,13 @@ constexpr StyleRow cartStyles[] = {
     {"cartpage_quantity_textfield", "Quantity Textfield Properties",    "Quantity field"},
 };
 constexpr ManagerTable cartTable = {
-    "Shopping cart page", ShopPage::Cart, "chkAdvanced", SwitchBackQuestion, true,
-    cartGroups, cartSlots, {}, cartStyles,
+    .heading = "Shopping cart page",
+    .page = ShopPage::Cart,
+    .advancedControl = "chkAdvanced",
+    .savesTemplate = true,
+    .groups = cartGroups,
+    .imageSlots = cartSlots,
+    .styles = cartStyles,
 };
 
 } // namespace

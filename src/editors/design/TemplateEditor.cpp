@@ -1,5 +1,6 @@
 #include "editors/design/TemplateEditor.h"
 
+#include "editors/PanelParts.h"
 #include "editors/design/TemplateText.h"
 #include "look/WordLabel.h"
 #include "template_engine/TemplateParser.h"
@@ -42,8 +43,6 @@ void TemplateEditor::makeFindRow()
     FindTxt->setObjectName(u"FindTxt"_s);
     FindTxt->setClearButtonEnabled(true);
     FindTxt->setMaximumWidth(260);
-    auto* caption = new QLabel(u"&Find:"_s, this);
-    caption->setBuddy(FindTxt);
     const auto button = [this](const char* name, const QString& text) {
         auto* made = new QPushButton(text, this);
         made->setObjectName(QLatin1String(name));
@@ -55,7 +54,7 @@ void TemplateEditor::makeFindRow()
     FindResultLbl->setObjectName(u"FindResultLbl"_s);
 
     auto* row = new QHBoxLayout;
-    row->addWidget(caption);
+    row->addWidget(newCaption(u"&Find:"_s, FindTxt));
     row->addWidget(FindTxt, 1);
     row->addWidget(FindNextBtn);
     row->addWidget(FindPreviousBtn);

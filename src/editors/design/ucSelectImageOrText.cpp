@@ -2,8 +2,8 @@
 
 #include "base/ApplicationTitle.h"
 #include "design/clsSelectedImage.h"
-#include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
+#include "editors/PanelParts.h"
 #include "editors/design/CSSManagementForm.h"
 #include "editors/design/pickers/DialogButtons.h"
 #include "editors/design/pickers/PicturesList.h"
@@ -31,8 +31,6 @@ ucSelectImageOrText::ucSelectImageOrText(PanelHost& host, QWidget* parent)
     btnCSS_Text->setObjectName(u"btnCSS_Text"_s);
     btnCSS_Text->setAutoDefault(false);
     const DialogButtons buttons = makeDialogButtons(this);
-    OkBtn = buttons.OkBtn;
-    CancelBtn = buttons.CancelBtn;
 
     auto* text = new QHBoxLayout;
     text->addWidget(txtText, 1);
@@ -54,8 +52,9 @@ ucSelectImageOrText::ucSelectImageOrText(PanelHost& host, QWidget* parent)
     });
     connectGuarded(m_host.errorHandler(), btnCSS_Text, &QPushButton::clicked, this,
                    [this] { OpenStyle(m_host, this, u"Header text style"_s, m_selection->Tag); });
-    connectGuarded(m_host.errorHandler(), OkBtn, &QPushButton::clicked, this, &ucSelectImageOrText::SaveActiveObject);
-    connectGuarded(m_host.errorHandler(), CancelBtn, &QPushButton::clicked, this, [this] {
+    connectGuarded(m_host.errorHandler(), buttons.OkBtn, &QPushButton::clicked, this,
+                   &ucSelectImageOrText::SaveActiveObject);
+    connectGuarded(m_host.errorHandler(), buttons.CancelBtn, &QPushButton::clicked, this, [this] {
         if (m_form) {
             m_form->reject();
         }

@@ -37,8 +37,6 @@ private:
     QCheckBox* chkText;
     QLineEdit* txtText;
     QPushButton* btnCSS_Text;
-    QPushButton* OkBtn = nullptr;
-    QPushButton* CancelBtn = nullptr;
     QDialog* m_form = nullptr;
     std::shared_ptr<clsSelectedImage> m_selection;
     bool m_filling = false; // an entry selected by the program leaves chkText

@@ -1,8 +1,8 @@
 #include "editors/design/pickers/PicturesList.h"
 
 #include "base/FileBytes.h"
-#include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
+#include "editors/PanelParts.h"
 #include "editors/design/pickers/PictureBox.h"
 #include "editors/design/pickers/PicturePathSetting.h"
 #include "model/ShopSession.h"

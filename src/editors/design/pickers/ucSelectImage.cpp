@@ -1,7 +1,7 @@
 #include "editors/design/pickers/ucSelectImage.h"
 
-#include "editors/PanelFrame.h"
 #include "editors/PanelHost.h"
+#include "editors/PanelParts.h"
 #include "editors/design/pickers/PicturesList.h"
 #include "model/ShopSession.h"
 
