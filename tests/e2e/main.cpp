@@ -22,7 +22,9 @@ void prepareEnvironment(const QString& home)
     qputenv("XDG_DATA_HOME", folder + "/data");
     qputenv("XDG_RUNTIME_DIR", folder + "/run");
     qputenv("QTWEBENGINE_CHROMIUM_FLAGS",
-            "--disable-gpu --log-level=3 --host-resolver-rules=\"MAP * ~NOTFOUND , EXCLUDE 127.0.0.1\"");
+            // A test follows more links in a row than the engine believes a page to do.
+            "--disable-gpu --log-level=3 --disable-ipc-flooding-protection "
+            "--host-resolver-rules=\"MAP * ~NOTFOUND , EXCLUDE 127.0.0.1\"");
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }

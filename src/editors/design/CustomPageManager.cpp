@@ -2,6 +2,7 @@
 
 #include "base/ApplicationTitle.h"
 #include "design/CustomPageClass.h"
+#include "design/PageNames.h"
 #include "design/PageTable.h"
 #include "design/ShopDesignClass.h"
 #include "design/clsSelectedCustomPages.h"
@@ -172,7 +173,7 @@ void CustomPageManager::storeOpenPage(ShopClass& shop)
     if (name == m_openPage->pageName) {
         return;
     }
-    if (name.isEmpty() || isTaken(shop, name, *m_openPage)) {
+    if (!linkCarries(name) || isTaken(shop, name, *m_openPage)) {
         PageNameTextCtl->setText(m_openPage->pageName);
         return;
     }

@@ -30,7 +30,8 @@ private:
     void pageSelected();
     // Shows the page in the fields; none empties and disables them.
     void openPage(const std::shared_ptr<CustomPageClass>& page);
-    // Writes what was typed to the open page. A name that is empty or taken goes back to the former one.
+    // Writes what was typed to the open page. A name that is taken, or that no link carries, goes back to the former
+    // one.
     void storeOpenPage(ShopClass& shop);
     void rename(ShopClass& shop, const QString& name);
     void fillList(const ShopClass& shop);

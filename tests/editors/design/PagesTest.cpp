@@ -1,5 +1,6 @@
 // The manager of the custom pages.
 #include "CustomPagesTest.h"
+#include "support/PageNameCases.h"
 
 #include <QTest>
 
@@ -68,6 +69,30 @@ TEST_F(CustomPages, GoBackToTheirNameWhenTheNewOneIsEmptyOrTaken)
     type(nameField(), u"DELIVERY"_s);
     pressIn("imgButtonSubmit");
     EXPECT_EQ(pages(), (QStringList{u"About"_s, u"DELIVERY"_s, u"Care"_s}));
+}
+
+TEST_F(CustomPages, GoBackToTheirNameWhenNoLinkCarriesTheNewOne)
+{
+    QString present = u"Delivery"_s;
+    for (const PageNameCase& row : pageNameCases()) {
+        if (row.name.contains(u'\t') || row.name.toUcs4().size() < row.name.size()) {
+            continue; // not to be typed key by key
+        }
+        SCOPED_TRACE(row.name.toStdString());
+        present = row.carried ? row.name : present;
+        select(1);
+        type(nameField(), row.name);
+        select(0);
+        EXPECT_EQ(pages(), (QStringList{u"About"_s, present, u"Care"_s}));
+        EXPECT_EQ(listed(), pages());
+    }
+    // A name that came with the shop stays until another is typed.
+    shop().CustomPages.Item(1)->pageName = u"Tea & cups"_s;
+    pressIn("imgButtonReset");
+    select(0);
+    pressKeys(textField(), u"more"_s);
+    pressIn("imgButtonSubmit");
+    EXPECT_EQ(nameField()->text(), u"Tea & cups"_s);
 }
 
 TEST_F(CustomPages, AreRenamedAtTheirPlaceInTheFiveSelections)
