@@ -71,9 +71,10 @@ QStringList clsImporter::PSplit(QStringView line)
 
 void clsImporter::Import(const QString& fileName)
 {
+    productCount = 0;
+    line = 0;
     const QString text = readTextFile(fileName).text;
     CatalogueImport catalogue(currentShop(m_session.services));
-    int line = 0;
     const auto inWords = [&] {
         return u"Line %1 of the import file %2 was being read."_s.arg(line).arg(
             inQuotes(QFileInfo(fileName).fileName()));
@@ -84,6 +85,7 @@ void clsImporter::Import(const QString& fileName)
         during(inWords, [&] {
             QStringList fields = PSplit(QStringView(text).sliced(at, end - at));
             catalogue.addProduct(fields);
+            ++productCount;
         });
         at = end + (QStringView(text).mid(end, 2) == u"\r\n" ? 2 : 1);
         if (m_progress && line % linesBetweenReports == 0) {

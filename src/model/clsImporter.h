@@ -27,6 +27,11 @@ public:
     // 75 for a file that cannot be opened.
     void Import(const QString& fileName);
 
+    // Of the last import, also of one that stopped: the products that it made, and the line that it read last, which is
+    // the one that stopped it. 1-based; 0 when it came to none.
+    int productCount = 0;
+    int line = 0;
+
     // The fields of one line. Blanks behind a field are dropped, those ahead of a plain one stay; a comma between
     // double quotes is text. A doubled quote means nothing special, and an open quote takes the rest of the line.
     static QStringList PSplit(QStringView line);

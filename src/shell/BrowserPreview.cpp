@@ -7,6 +7,7 @@ PreviewFactory browserPreview(const ApplicationFolder& folder, FatalErrorHandler
     return [folder, &errors](QWidget* parent) {
         auto* browser = new PreviewBrowser(folder, errors, parent);
         return PreviewParts{browser, browser,
-                            [browser](PreviewNavigation* navigation) { browser->setNavigation(navigation); }};
+                            [browser](PreviewNavigation* navigation) { browser->setNavigation(navigation); },
+                            [browser](int width) { browser->setPageWidth(width); }};
     };
 }

@@ -46,6 +46,11 @@ void CatalogueTree::expandNode(const TreeNode* node)
     expand(m_model->indexOf(node));
 }
 
+void CatalogueTree::clickNode(TreeNode* node)
+{
+    Q_EMIT nodeClicked(node);
+}
+
 void CatalogueTree::ColorSelectedNode(TreeNode* node)
 {
     m_model->setColours(node, TreeColour, TreeTextColour);
@@ -88,7 +93,7 @@ void CatalogueTree::mouseReleaseEvent(QMouseEvent* event)
         const QModelIndex pressed = std::exchange(m_pressed, QModelIndex());
         m_clicked = pressed.isValid() && indexAt(event->position().toPoint()) == pressed ? pressed : QModelIndex();
         if (m_clicked.isValid()) {
-            Q_EMIT nodeClicked(m_model->nodeOf(m_clicked));
+            clickNode(m_model->nodeOf(m_clicked));
         }
     }
 }
@@ -116,10 +121,32 @@ bool CatalogueTree::isOnBranch(const QModelIndex& index, const QPoint& place) co
 
 void CatalogueTree::keyPressEvent(QKeyEvent* event)
 {
+    if (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier) { // for keyboards without a menu key
+        requestPopUpOfCurrentRow();
+        return;
+    }
     const TreeNode* before = selectedNode();
     QTreeView::keyPressEvent(event);
     TreeNode* after = selectedNode();
     if (after && after != before) {
-        Q_EMIT nodeClicked(after);
+        clickNode(after);
+    }
+}
+
+// The menu of the mouse comes with the release of the right button.
+void CatalogueTree::contextMenuEvent(QContextMenuEvent* event)
+{
+    if (event->reason() == QContextMenuEvent::Keyboard) {
+        requestPopUpOfCurrentRow();
+    }
+}
+
+void CatalogueTree::requestPopUpOfCurrentRow()
+{
+    const QModelIndex row = currentIndex();
+    if (row.isValid()) {
+        scrollTo(row);
+        const QRect place = visualRect(row).intersected(viewport()->rect());
+        Q_EMIT popUpRequested(viewport()->mapToGlobal(place.center()));
     }
 }

@@ -20,6 +20,8 @@ public:
     TreeNode* selectedNode() const;
     void selectNode(const TreeNode* node);
     void expandNode(const TreeNode* node);
+    // Does what a click on the node does.
+    void clickNode(TreeNode* node);
 
     // Both paint the node in the tree's own colours. They do the same, but their callers mean two things by them. What
     // the user sees as selected comes from the view.
@@ -30,7 +32,8 @@ Q_SIGNALS:
     // The left button was pressed and released on this node, or the keyboard has moved to it. The listener makes it the
     // selected one.
     void nodeClicked(TreeNode* node);
-    // The right button was released here, in global coordinates. Nothing has been selected by that.
+    // The right button was released here, in global coordinates, or a key asked for the menu of the current row.
+    // Nothing has been selected by that.
     void popUpRequested(const QPoint& position);
 
 protected:
@@ -39,8 +42,10 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void requestPopUpOfCurrentRow();
     // On the mark that opens and closes a node.
     bool isOnBranch(const QModelIndex& index, const QPoint& place) const;
 

@@ -4,8 +4,11 @@
 #include "look/TreeLook.h"
 #include "model/ShopClass.h"
 #include "model/shop_file/ShopFile.h"
+#include "shell/BottomLine.h"
 #include "shell/CatalogueTree.h"
 #include "shell/ContentRoom.h"
+#include "shell/EventTexts.h"
+#include "shell/FrameFit.h"
 #include "shell/PanelSet.h"
 #include "shell/ProgressFrames.h"
 #include "shell/ShortcartButton.h"
@@ -14,16 +17,8 @@
 
 #include <QCloseEvent>
 #include <QMouseEvent>
-#include <QScreen>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// What a desktop puts around a window, in pixels: it is not known before the window is shown.
-constexpr QSize usualFrame(16, 40);
-
-} // namespace
 
 MainForm::MainForm(std::unique_ptr<ShopSession> session, const PreviewFactory& makePreview,
                    std::function<void()> startAgain, FatalErrorHandler& errors)
@@ -67,7 +62,7 @@ void MainForm::load()
     move(0, 0);
     InitUserControls();
     m_session->log.WriteLoadLog(u"User Controls Initialized"_s);
-    resize(QSize(pixels(11900), pixels(8550)).boundedTo(screen()->availableSize() - usualFrame));
+    new FrameFit(*this, QSize(pixels(11900), pixels(8550)));
     m_parts->arrangeOverlays(size());
     CreateShop();
     m_templates->parseTemplates();
@@ -106,6 +101,9 @@ void MainForm::connectParts()
     connectGuarded(m_errors, m_parts->CategoriesAndProductsTree, &CatalogueTree::popUpRequested, this,
                    &MainForm::showPopUp);
 
+    connectGuarded(m_errors, m_parts->frmCopyright, &BottomLine::pageWidthChosen, this,
+                   [this](int width) { m_preview.setPageWidth(width); });
+
     // Where the line at the foot stands is known when it has been laid out.
     m_parts->frmCopyright->installEventFilter(this);
     for (QWidget* surface : {static_cast<QWidget*>(this), m_parts->ToolbarFrame->parentWidget(),
@@ -143,6 +141,7 @@ void MainForm::SaveShop()
     m_parts->SaveProgressFrame->begin();
     writeShopFile(*m_session);
     m_parts->SaveProgressFrame->finish();
+    m_parts->frmCopyright->tell(EventTexts::saved(m_session->clock.now().time()));
 }
 
 // Panels ------------------------------------------------------------------------------------------------------------
@@ -251,6 +250,7 @@ void MainForm::ShowCataloguePane(bool flag)
 void MainForm::ShowPreviewPane(bool flag)
 {
     m_parts->PreviewBrowser->setVisible(flag);
+    m_parts->frmCopyright->showPageWidths(flag);
 }
 
 void MainForm::ShowDesignPane(bool flag)

@@ -90,6 +90,7 @@ private:
     QAction* addEntry(QMenu* menu, const char* name, const QString& caption, void (MainForm::*handler)());
     void makeMenus();
     void makePopUp();
+    void makeCommands();
 
     void markCurrentButtons();
     void ShowCataloguePane(bool flag);
@@ -106,6 +107,8 @@ private:
     void importHandler();
     void backUpHandler();
     void restoreHandler();
+    // Opens the page of the guide that belongs to what is on the screen.
+    void showGuide();
 
     // The pop-up menu of the tree offers what fits the active object.
     void showPopUp(const QPoint& position);

@@ -2,9 +2,10 @@
 
 #include "look/LinedFrame.h"
 #include "look/Measures.h"
-#include "look/WordLabel.h"
+#include "shell/BottomLine.h"
 #include "shell/CatalogueTree.h"
 #include "shell/ContentRoom.h"
+#include "shell/PreviewGround.h"
 #include "shell/ProgressFrames.h"
 #include "shell/ShortcartButton.h"
 #include "shell/TreePane.h"
@@ -62,8 +63,9 @@ MainFormLayout::MainFormLayout(QWidget* central, QWidget* preview, const Applica
     column->addWidget(designPane, 1);
     PreviewBrowser->setParent(central);
     PreviewBrowser->setObjectName(u"PreviewBrowser"_s);
+    new PreviewGround(PreviewBrowser);
     column->addWidget(PreviewBrowser, 1);
-    makeCopyright(central);
+    makeCopyright(central, errors);
     column->addWidget(frmCopyright);
     makeButtons(folder, log);
 
@@ -137,15 +139,10 @@ void MainFormLayout::makeDesign(QWidget* parent)
     row->addWidget(ShopDesignFrame, 1);
 }
 
-void MainFormLayout::makeCopyright(QWidget* parent)
+void MainFormLayout::makeCopyright(QWidget* parent, FatalErrorHandler& errors)
 {
-    frmCopyright = named(new LinedFrame(Qt::TopEdge, parent), "frmCopyright");
-    auto* row = tightLayout<QHBoxLayout>(frmCopyright);
-    row->setContentsMargins(Measure::Gap, Measure::Tight, Measure::Gap, Measure::Tight);
-    lblCopyright =
-        new WordLabel(WordLabel::Kind::Small, u"Ambrel eCommerce Software. All rights reserved."_s, frmCopyright);
-    lblCopyright->setObjectName(u"lblCopyright"_s);
-    row->addWidget(lblCopyright);
+    frmCopyright = new BottomLine(errors, parent);
+    lblCopyright = frmCopyright->notice();
 }
 
 QFrame* MainFormLayout::frameOf(ButtonFrame frame) const

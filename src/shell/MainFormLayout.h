@@ -12,6 +12,7 @@
 #include <QSplitter>
 
 class ApplicationFolder;
+class BottomLine;
 class CatalogueTree;
 class ImportFrame;
 class LoadLog;
@@ -45,7 +46,7 @@ struct MainFormLayout
 
     QWidget* PreviewBrowser = nullptr;
 
-    QFrame* frmCopyright = nullptr;
+    BottomLine* frmCopyright = nullptr;
     QLabel* lblCopyright = nullptr;
 
     ShortProgressBar* PrBar = nullptr;
@@ -63,6 +64,6 @@ private:
     void makeToolbarFrame(QWidget* parent);
     void makeCatalogue(QWidget* parent, FatalErrorHandler& errors);
     void makeDesign(QWidget* parent);
-    void makeCopyright(QWidget* parent);
+    void makeCopyright(QWidget* parent, FatalErrorHandler& errors);
     void makeButtons(const ApplicationFolder& folder, LoadLog& log);
 };

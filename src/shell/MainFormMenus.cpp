@@ -1,12 +1,23 @@
-// The window's menu bar, the tree's pop-up menu, and the commands that work with files or open the upload dialog.
+// The window's menu bar, the tree's pop-up menu, and the commands that work with files, open the upload dialog, or have
+// a key and no menu.
 #include "backup/BackUpCommands.h"
 #include "editors/Panel.h"
+#include "model/ProductClass.h"
 #include "model/clsImporter.h"
 #include "publish/dialog/frmUpload.h"
+#include "shell/BottomLine.h"
+#include "shell/CatalogueTree.h"
+#include "shell/EventTexts.h"
+#include "shell/FindLine.h"
+#include "shell/GuidePages.h"
 #include "shell/ImportIntoTree.h"
 #include "shell/MainForm.h"
+#include "shell/TreePane.h"
+#include "shell/WindowKeys.h"
 
 #include <QDesktopServices>
+#include <QFileInfo>
+#include <QLocale>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -48,6 +59,7 @@ QAction* MainForm::addEntry(QMenu* menu, const char* name, const QString& captio
 {
     QAction* action = menu->addAction(caption);
     action->setObjectName(QLatin1String(name));
+    giveKey(*action);
     connectGuarded(m_errors, action, &QAction::triggered, this, [this, handler] { (this->*handler)(); });
     return action;
 }
@@ -74,6 +86,7 @@ void MainForm::makeMenus()
         action->setCheckable(true);
     }
     makePopUp();
+    makeCommands();
 }
 
 void MainForm::makePopUp()
@@ -120,7 +133,11 @@ void MainForm::showUpload()
 
 void MainForm::backUpHandler()
 {
-    backUpFromMenu({m_session->folder, m_session->prompts, m_session->clock, m_session->log, applicationTitle()});
+    const std::optional<BackUpReport> report =
+        backUpFromMenu({m_session->folder, m_session->prompts, m_session->clock, m_session->log, applicationTitle()});
+    if (report) {
+        m_parts->frmCopyright->tell(EventTexts::backedUp(*report));
+    }
 }
 
 void MainForm::restoreHandler()
@@ -142,10 +159,71 @@ void MainForm::importHandler()
     if (fileName.isEmpty()) {
         return;
     }
-    try {
+    int products = 0;
+    int line = 0;
+    std::optional<RuntimeError> failure;
+    {
         ImportIntoTree import(*this);
-        clsImporter(*m_session, import.progress()).Import(fileName);
-    } catch (const RuntimeError& error) {
-        m_session->prompts.showMessage(applicationTitle(), error.description(), PromptIcon::Warning);
+        clsImporter importer(*m_session, import.progress());
+        try {
+            importer.Import(fileName);
+        } catch (const RuntimeError& error) {
+            failure = error;
+        }
+        products = importer.productCount;
+        line = importer.line;
+    }
+    if (!failure) {
+        m_parts->frmCopyright->tell(EventTexts::imported(products));
+        return;
+    }
+    QString text = failure->description();
+    if (line > 0) {
+        m_parts->frmCopyright->tellFailure(EventTexts::notUnderstood(line));
+        text = u"Line %1: %2\n%3"_s.arg(QLocale().toString(line), text, EventTexts::imported(products));
+    }
+    m_session->prompts.showMessage(applicationTitle(), text, PromptIcon::Warning);
+}
+
+// Commands that stand in no menu: each belongs to the parts that it works on, and its key acts while one of them shows.
+void MainForm::makeCommands()
+{
+    const auto codeOf = [this](const QString& key) {
+        const ObjectsCollection& objects = m_session->objects;
+        const auto* product = objects.isCreated() && objects.hasKey(key)
+                                  ? std::get_if<std::shared_ptr<ProductClass>>(&objects.Item(key))
+                                  : nullptr;
+        return product ? (*product)->Code : QString();
+    };
+    auto* findLine = new FindLine(*m_parts->CategoriesAndProductsTree, codeOf, m_errors, m_parts->treePane);
+    m_parts->treePane->setFoot(findLine);
+
+    const auto addCommand = [this](const char* name, const QString& text, std::initializer_list<QWidget*> parts) {
+        auto* command = new QAction(text, this);
+        command->setObjectName(QLatin1String(name));
+        giveKey(*command);
+        for (QWidget* part : parts) {
+            part->addAction(command);
+        }
+        return command;
+    };
+    const QAction* find = addCommand(findCommand, u"Find in the catalogue"_s, {m_parts->CategoriesAndProductsTree});
+    connectGuarded(m_errors, find, &QAction::triggered, findLine, [findLine] { findLine->ask(); });
+    const QAction* guide =
+        addCommand(guideCommand, u"Guide"_s, {m_parts->MainFrame, m_parts->ShopDesignFrame, m_parts->PreviewBrowser});
+    connectGuarded(m_errors, guide, &QAction::triggered, this, [this] { showGuide(); });
+}
+
+void MainForm::showGuide()
+{
+    const char* page = firstGuidePage;
+    if (WorkMode == PreviewMode) {
+        page = guidePageOfPreview;
+    } else if (VisibleFrame) {
+        page = guidePageOf(m_panels.key(VisibleFrame));
+    }
+    const QString file = guideFile(m_session->folder, page);
+    if (!QFileInfo(file).isFile() || !QDesktopServices::openUrl(QUrl::fromLocalFile(file))) {
+        m_session->prompts.showMessage(applicationTitle(), u"The guide cannot be opened:\n"_s + file, PromptIcon::None);
     }
 }

@@ -14,6 +14,8 @@ struct PreviewParts
     PreviewSurface* surface = nullptr;
     // Called once, with the object that judges navigations and acts on them.
     std::function<void(PreviewNavigation*)> setNavigation;
+    // Lays the page out as wide as that, in pixels of the window, in the middle of the widget; 0 for its whole width.
+    std::function<void(int)> setPageWidth = [](int /*width*/) {};
 };
 
 using PreviewFactory = std::function<PreviewParts(QWidget* parent)>;

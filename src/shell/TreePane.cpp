@@ -63,13 +63,39 @@ void TreePane::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
 }
 
+void TreePane::setFoot(QWidget* foot)
+{
+    m_foot = foot;
+    m_foot->setParent(this);
+    m_foot->installEventFilter(this);
+    arrange();
+}
+
+bool TreePane::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent) {
+        arrange();
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
 void TreePane::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    arrange();
+}
+
+void TreePane::arrange()
+{
     const int treeTop = pixels(200);
     const int treeWidth = width() - besideTree;
     const int treeHeight = height() - treeTop - pixels(40);
-    m_tree->setGeometry(0, treeTop, treeWidth, treeHeight);
+    const int footHeight = m_foot && !m_foot->isHidden() ? m_foot->sizeHint().height() : 0;
+    m_tree->setGeometry(0, treeTop, treeWidth, treeHeight - footHeight);
+    if (m_foot) {
+        m_foot->setGeometry(0, treeTop + treeHeight - footHeight, treeWidth, footHeight);
+        m_foot->raise();
+    }
     frmTreeShadowWhite->setGeometry(0, treeTop - pixels(30), treeWidth + pixels(30), treeHeight + pixels(40));
     frmTreeShadowGray->setGeometry(0, treeTop + pixels(20), treeWidth + pixels(80), treeHeight + pixels(20));
     frmTreeShadowDarkGray->setGeometry(0, treeTop + pixels(20), treeWidth + pixels(80), pixels(200));

@@ -282,6 +282,23 @@ TEST_F(PreviewBrowserTest, AFaceThatIsNotThereFallsToASansOne)
     EXPECT_NE(width(u"#a"_s), width(u"#c"_s));
 }
 
+TEST_F(PreviewBrowserTest, APageIsLaidOutInTheWidthThatIsAskedFor)
+{
+    browser->resize(1000, 600);
+    show(u"<p id=p>text</p>"_s);
+    const QRect place = browser->geometry();
+    for (const auto& [asked, laidOut] : {std::pair(390, 390), {820, 820}, {0, 1000}, {1400, 1000}, {390, 390}}) {
+        browser->setPageWidth(asked);
+        waitUntil(u"innerWidth == %1"_s.arg(laidOut));
+        EXPECT_EQ(browser->geometry(), place);
+        EXPECT_EQ(browser->view()->height(), 600);
+        EXPECT_EQ(browser->view()->x(), (1000 - laidOut) / 2);
+    }
+    // The next document comes in the same width.
+    show(u"<p id=q>text</p>"_s);
+    EXPECT_EQ(script(u"innerWidth"_s).toInt(), 390);
+}
+
 TEST_F(PreviewBrowserTest, ABlankPageIsShownOnRequest)
 {
     show(u"<p id=p>text</p>"_s);

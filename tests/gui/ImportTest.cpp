@@ -110,8 +110,10 @@ TEST_F(Import, WithoutAShopLeavesTheTreeEmpty)
     start();
     WriteFile(files.path(u"products.txt"_s), "Sencha,fine,Tea\n");
     prompts.answerFile(files.path(u"products.txt"_s));
-    prompts.expectMessage(u"Ambrel eCommerce Software"_s, RuntimeError(ErrorNumber::ObjectNotSet).description(),
-                          PromptIcon::Warning);
+    prompts.expectMessage(
+        u"Ambrel eCommerce Software"_s,
+        u"Line 1: %1\n0 products imported"_s.arg(RuntimeError(ErrorNumber::ObjectNotSet).description()),
+        PromptIcon::Warning);
     trigger("mnuImport");
     EXPECT_EQ(root(), nullptr);
 }
@@ -119,8 +121,10 @@ TEST_F(Import, WithoutAShopLeavesTheTreeEmpty)
 TEST_F(Import, ReportsALineThatIsTooShortInABoxAndKeepsWhatCameBefore)
 {
     prompts.answerFile(files.path(u"products.txt"_s));
-    prompts.expectMessage(u"Ambrel eCommerce Software"_s, RuntimeError(ErrorNumber::SubscriptOutOfRange).description(),
-                          PromptIcon::Warning);
+    prompts.expectMessage(
+        u"Ambrel eCommerce Software"_s,
+        u"Line 2: %1\n1 product imported"_s.arg(RuntimeError(ErrorNumber::SubscriptOutOfRange).description()),
+        PromptIcon::Warning);
     WriteFile(files.path(u"products.txt"_s), "Sencha,fine,Tea\nshort,line\nLost,line,Tea\n");
     trigger("mnuImport");
     EXPECT_EQ(root()->children[0]->children.size(), 1U);

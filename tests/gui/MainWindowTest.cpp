@@ -12,6 +12,7 @@
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QTest>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -317,12 +318,23 @@ TEST_F(MainWindow, ReloadsThePanelOnReset)
     window->ShowFrame(nullptr, 0);
 }
 
-TEST_F(MainWindow, OpensAtItsOwnSizeOrAtWhatTheScreenLeavesInsideAFrame)
+// The frame is the desktop's own, which is known once the window is on the screen.
+TEST_F(MainWindow, OpensAtItsOwnSizeOrAtWhatTheScreenLeavesInsideItsFrame)
 {
-    const QSize frame(16, 40);
-    const QSize expected = QSize(1190, 855).boundedTo(window->screen()->availableSize() - frame);
+    const QMargins frame = window->windowHandle()->frameMargins();
+    ASSERT_FALSE(frame.isNull());
+    const QSize expected = QSize(1190, 855).boundedTo(window->screen()->availableSize().shrunkBy(frame));
     EXPECT_EQ(window->size(), expected);
     EXPECT_EQ(window->pos(), QPoint(0, 0));
+    EXPECT_TRUE(window->screen()->availableGeometry().contains(window->frameGeometry()));
+}
+
+TEST_F(MainWindow, FitsItselfToItsFrameOnceAndNeverAgain)
+{
+    window->resize(700, 600);
+    window->move(10, 10);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->size(), QSize(700, 600));
 }
 
 } // namespace

@@ -74,12 +74,12 @@ TEST_F(WindowTexts, OfAllBoxesAreTheSystemsOwn)
     }
 }
 
-TEST_F(WindowTexts, OfARefusedImportIsTheErrorsOwn)
+TEST_F(WindowTexts, OfARefusedImportIsTheErrorsOwnBetweenLineAndCount)
 {
     start();
     WriteFile(files.path(u"products.txt"_s), "short,line\n");
     prompts.answerFile(files.path(u"products.txt"_s));
-    prompts.expectMessage(programTitle, u"Subscript out of range"_s, PromptIcon::Warning);
+    prompts.expectMessage(programTitle, u"Line 1: Subscript out of range\n0 products imported"_s, PromptIcon::Warning);
     trigger("mnuImport");
 }
 

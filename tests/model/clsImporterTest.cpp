@@ -122,6 +122,22 @@ TEST_F(Importing, TellsTheLineThatIsNotUnderstood)
                            u"Line 3 of the import file \"products.txt\" was being read."_s}));
 }
 
+TEST_F(Importing, CountsItsProductsAndTheLineThatStoppedIt)
+{
+    clsImporter importer(session);
+    WriteFile(session.folder.path() + u"/whole.txt"_s, "a,b,c\r\nd,e,f\r\n");
+    importer.Import(session.folder.path() + u"/whole.txt"_s);
+    EXPECT_EQ(importer.productCount, 2);
+    EXPECT_EQ(importer.line, 2);
+    WriteFile(session.folder.path() + u"/short.txt"_s, "a,b,c\rg,h,i\nshort\nlost,b,c");
+    EXPECT_EQ(errorOf([&] { importer.Import(session.folder.path() + u"/short.txt"_s); }), 9);
+    EXPECT_EQ(importer.productCount, 2);
+    EXPECT_EQ(importer.line, 3);
+    EXPECT_NE(errorOf([&] { importer.Import(session.folder.path() + u"/gone.txt"_s); }), 0);
+    EXPECT_EQ(importer.productCount, 0);
+    EXPECT_EQ(importer.line, 0);
+}
+
 TEST_F(Importing, IgnoresFurtherFields)
 {
     EXPECT_EQ(import("a,b,c,d,e\n"), 0);

@@ -8,13 +8,13 @@
 
 #include <QLoggingCategory>
 #include <QQuickWindow>
-#include <QVBoxLayout>
 #include <QWebEngineHistory>
 #include <QWebEngineProfile>
 #include <QWebEngineUrlRequestInfo>
 #include <QWebEngineUrlRequestInterceptor>
 #include <QWebEngineView>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -87,13 +87,31 @@ void PreviewBrowser::makeEngine()
     m_view->setPage(m_page.get());
     m_view->setContextMenuPolicy(Qt::NoContextMenu);
     m_view->setAccessibleName(u"The shop's preview"_s);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(m_view);
+    arrangeView();
     m_view->show();
     if (m_isBlankAsked) {
         goBlank();
     }
+}
+
+void PreviewBrowser::setPageWidth(int width)
+{
+    m_pageWidth = width;
+    arrangeView();
+}
+
+void PreviewBrowser::arrangeView()
+{
+    if (m_view != nullptr) {
+        const int pageWidth = m_pageWidth == 0 ? width() : std::min(m_pageWidth, width());
+        m_view->setGeometry((width() - pageWidth) / 2, 0, pageWidth, height());
+    }
+}
+
+void PreviewBrowser::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    arrangeView();
 }
 
 void PreviewBrowser::showEvent(QShowEvent* event)

@@ -41,6 +41,10 @@ public:
     // every address may be gone to.
     void setNavigation(PreviewNavigation* navigation) { m_navigation = navigation; }
 
+    // Lays the page out as wide as that, in logical pixels, in the middle of the widget, or as wide as the widget where
+    // that is less; 0, the start, for all of it.
+    void setPageWidth(int width);
+
     bool replaceDocument(const QString& text) override;
     void goBlank() override;
 
@@ -50,9 +54,11 @@ public:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void makeEngine();
+    void arrangeView();
     NavigationDecision judge(const QString& url) const;
     void act(const QString& url);
     void showDocument();
@@ -68,6 +74,7 @@ private:
     std::unique_ptr<QWebEngineUrlRequestInterceptor> m_interceptor;
     std::unique_ptr<QWebEngineProfile> m_profile;
     std::unique_ptr<PreviewEnginePage> m_page;
+    int m_pageWidth = 0;
     QElapsedTimer m_asked;   // since when the engine owes a document; not running when it owes none
     bool m_isEnding = false; // the page's process, which hangs; the document is shown then
     QWebEngineView* m_view = nullptr;

@@ -1,0 +1,56 @@
+#include "shell/GuidePages.h"
+
+#include "base/ApplicationFolder.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using enum PanelName;
+
+constexpr GuidePage pages[] = {
+    {ShopGeneralPnl, "first-shop"},
+    {ShopDiscountPnl, "discounts"},
+    {ShopTaxesPnl, "first-shop"},
+    {ShippingChargesPnl, "first-shop"},
+    {ShopsShippingPnl, "first-shop"},
+    {CategoryGeneralPnl, "first-shop"},
+    {CategoryDiscountPnl, "discounts"},
+    {ProductGeneralPnl, "first-shop"},
+    {ProductDiscountPnl, "discounts"},
+    {ProductsMultipricePnl, "first-shop"},
+    {ProductsRelatedPnl, "first-shop"},
+    {ProductShippingCostsPnl, "first-shop"},
+    {MainPagePnl, "design"},
+    {HeaderManagerPnl, "design"},
+    {FooterManagerPnl, "design"},
+    {MenuManagerPnl, "design"},
+    {CategoryPageManagerPnl, "design"},
+    {ProductPageManagerPnl, "design"},
+    {SearchPageManagerPnl, "design"},
+    {CustomPagesManagerPnl, "design"},
+    {ShoppingCartPageManagerPnl, "design"},
+    {BuyingFormPnl, "design"},
+};
+
+} // namespace
+
+std::span<const GuidePage> guidePages()
+{
+    return pages;
+}
+
+const char* guidePageOf(PanelName panel)
+{
+    for (const GuidePage& row : pages) {
+        if (row.panel == panel) {
+            return row.page;
+        }
+    }
+    return firstGuidePage;
+}
+
+QString guideFile(const ApplicationFolder& folder, const char* page)
+{
+    return folder.path() + u"/guide/%1.html"_s.arg(QLatin1String(page));
+}
