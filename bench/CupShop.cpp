@@ -1,9 +1,16 @@
 #include "CupShop.h"
 
+#include "NoPrompts.h"
+#include "base/Clock.h"
 #include "base/Dates.h"
+#include "base/FileBytes.h"
 #include "model/CategoryClass.h"
 #include "model/ProductClass.h"
 #include "model/ShopSession.h"
+#include "model/shop_file/ShopFile.h"
+
+#include <QDir>
+#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -94,4 +101,25 @@ void fillShop(ShopSession& session, int products)
         }
         addProduct(session, shelf, number);
     }
+}
+
+void makeProgramFolder(const ApplicationFolder& folder)
+{
+    QDir().mkpath(folder.picturesFolder());
+    QDir().mkpath(folder.templatesFolder());
+    const QDir templates(QStringLiteral(TARNWICK_SOURCE_DIR "/app/templates"));
+    for (const QString& name : templates.entryList(QDir::Files)) {
+        QFile::copy(templates.filePath(name), folder.templatesFolder() + name);
+    }
+    writeFileBytes(folder.countriesFile(), "Mali\n");
+}
+
+void makeShopFolder(const ApplicationFolder& folder, int products)
+{
+    makeProgramFolder(folder);
+    NoPrompts prompts;
+    const SystemClock clock;
+    ShopSession session(folder, prompts, clock);
+    fillShop(session, products);
+    writeShopFile(session);
 }

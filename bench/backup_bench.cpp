@@ -7,6 +7,7 @@
 //
 // Memory is measured too: a process of its own makes a backup, another restores it, and the most memory that each ever
 // had may exceed what it started with by the container, three times the largest file, and 50 MB.
+#include "Measuring.h"
 #include "NoPrompts.h"
 #include "Ratios.h"
 #include "backup/clsPacker.h"
@@ -34,17 +35,11 @@ namespace {
 
 constexpr qint64 megabyte = 1'000'000;
 
-[[noreturn]] void giveUp(const char* what)
-{
-    std::fprintf(stderr, "%s: nothing is measured.\n", what);
-    std::exit(2);
-}
-
 void writeAll(const QString& path, const QByteArray& bytes)
 {
     QFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-        giveUp("The shop cannot be written");
+        giveUp(u"The shop cannot be written"_s);
     }
 }
 
@@ -158,7 +153,7 @@ public:
     BareFile(const std::string& path, int flags) : m_descriptor(::open(path.c_str(), flags, 0666))
     {
         if (m_descriptor < 0) {
-            giveUp("A file cannot be opened");
+            giveUp(u"A file cannot be opened"_s);
         }
     }
     BareFile(const BareFile&) = delete;
@@ -173,13 +168,13 @@ public:
     void write(const std::vector<Bytef>& buffer, std::size_t count) const
     {
         if (::write(m_descriptor, buffer.data(), count) != static_cast<ssize_t>(count)) {
-            giveUp("A file cannot be written");
+            giveUp(u"A file cannot be written"_s);
         }
     }
     void flush() const
     {
         if (::fsync(m_descriptor) != 0) {
-            giveUp("A file cannot be flushed");
+            giveUp(u"A file cannot be flushed"_s);
         }
     }
 
@@ -226,7 +221,7 @@ public:
             const std::size_t count = packed.read(m_deflated, stream.deflated);
             uLongf length = m_plain.size();
             if (uncompress(m_plain.data(), &length, m_deflated.data(), count) != Z_OK) {
-                giveUp("A stream cannot be inflated");
+                giveUp(u"A stream cannot be inflated"_s);
             }
             BareFile(stream.to, O_WRONLY | O_CREAT | O_TRUNC).write(m_plain, length);
             total += length;
@@ -260,7 +255,7 @@ private:
         const std::size_t count = BareFile(stream.from, O_RDONLY).read(m_plain, m_plain.size());
         uLongf length = m_deflated.size();
         if (compress(m_deflated.data(), &length, m_plain.data(), count) != Z_OK) {
-            giveUp("A file cannot be deflated");
+            giveUp(u"A file cannot be deflated"_s);
         }
         return length;
     }
@@ -272,29 +267,17 @@ private:
     std::vector<Bytef> m_deflated;
 };
 
-// A line of /proc/self/status, in bytes.
-qint64 statusOf(const char* line)
-{
-    QFile file(u"/proc/self/status"_s);
-    if (!file.open(QIODevice::ReadOnly)) {
-        giveUp("The process cannot look at itself");
-    }
-    const QByteArray status = file.readAll();
-    const qsizetype at = status.indexOf(line) + static_cast<qsizetype>(std::char_traits<char>::length(line));
-    return status.mid(at, status.indexOf("kB", at) - at).trimmed().toLongLong() * 1024;
-}
-
 // Runs the work in a process of its own and tells by how much the most memory that it had exceeds what it started with.
 qint64 memoryGrowth(const std::function<bool()>& work)
 {
     int ends[2];
     if (::pipe(ends) != 0) {
-        giveUp("No pipe");
+        giveUp(u"No pipe"_s);
     }
     const pid_t child = ::fork();
     if (child == 0) {
-        const qint64 before = statusOf("VmRSS:");
-        const qint64 growth = work() ? statusOf("VmHWM:") - before : -1;
+        const qint64 before = memoryOf("VmRSS:");
+        const qint64 growth = work() ? memoryOf("VmHWM:") - before : -1;
         const bool told = ::write(ends[1], &growth, sizeof growth) == sizeof growth;
         ::_exit(told ? 0 : 1);
     }
@@ -305,7 +288,7 @@ qint64 memoryGrowth(const std::function<bool()>& work)
     ::close(ends[0]);
     ::close(ends[1]);
     if (!heard || growth < 0) {
-        giveUp("A backup or a restore failed");
+        giveUp(u"A backup or a restore failed"_s);
     }
     return growth;
 }
@@ -329,7 +312,7 @@ void registerRun(const std::string& name, const QStringList& emptied, const std:
             }
             state.ResumeTiming();
             if (!work()) {
-                giveUp("A backup or a restore failed");
+                giveUp(u"A backup or a restore failed"_s);
             }
         }
     })->Unit(benchmark::kMicrosecond);

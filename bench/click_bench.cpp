@@ -5,16 +5,16 @@
 //
 // On a screen, or under a virtual one: ./bench.sh sees to that.
 #include "CupShop.h"
+#include "Measuring.h"
+#include "NoBrowser.h"
 #include "NoPrompts.h"
 #include "base/Clock.h"
-#include "base/TextFile.h"
-#include "model/shop_file/ShopFile.h"
+#include "look/Theme.h"
 #include "shell/BrowserPreview.h"
 #include "shell/CatalogueTree.h"
 #include "shell/MainForm.h"
 #include "shell/ProgressFrames.h"
 #include "shell/StartUp.h"
-#include "shell/Theme.h"
 #include "shell/browser/PreviewBrowser.h"
 
 #include <QAction>
@@ -32,9 +32,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <cstdlib>
 #include <functional>
-#include <sys/resource.h>
 #include <vector>
 
 using namespace Qt::StringLiterals;
@@ -42,48 +40,12 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int rounds = 5;
+constexpr int products = 1'000;
 constexpr int clicks = 21;
 constexpr double clickAtMost = 1.5;
 constexpr double barAtMost = 0.6;
 
-[[noreturn]] void giveUp(const QString& what)
-{
-    std::fprintf(stderr, "%s: nothing is measured.\n", qPrintable(what));
-    std::exit(2);
-}
-
-class GiveUpOnErrors : public FatalErrorHandler
-{
-public:
-    void fatalError(const RuntimeError& error) noexcept override { giveUp(error.description()); }
-};
-
-class NoBrowser : public QWidget, public PreviewSurface
-{
-public:
-    using QWidget::QWidget;
-    bool replaceDocument(const QString& /*text*/) override { return true; }
-    void goBlank() override {}
-};
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 // ---- The processes that are measured ----
-
-// Milliseconds of processor time that this process has taken.
-double processorTime()
-{
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    const auto milliseconds = [](const timeval& time) {
-        return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_usec) * 1e-3;
-    };
-    return milliseconds(usage.ru_utime) + milliseconds(usage.ru_stime);
-}
 
 void settle(int milliseconds)
 {
@@ -95,12 +57,13 @@ void settle(int milliseconds)
     }
 }
 
+// Milliseconds of processor time.
 double costOf(const std::function<void()>& work)
 {
-    const double before = processorTime();
+    const double before = processorSeconds();
     work();
     QCoreApplication::processEvents();
-    return processorTime() - before;
+    return (processorSeconds() - before) * 1e3;
 }
 
 double costOfClick(MainForm& window)
@@ -174,13 +137,9 @@ int measure(int argc, char** argv, const QByteArray& mode)
     GiveUpOnErrors errors;
     const SystemClock clock;
     const ProgramServices services{ApplicationFolder(QString::fromLocal8Bit(argv[2])), prompts, clock, errors, [] {}};
-    const PreviewFactory noBrowser = [](QWidget* parent) {
-        auto* preview = new NoBrowser(parent);
-        return PreviewParts{preview, preview, [](PreviewNavigation*) {}};
-    };
     const bool hasBrowser = mode == "--before" || mode == "--after";
     const std::unique_ptr<MainForm> window =
-        startProgram(services, hasBrowser ? browserPreview(services.folder, errors) : noBrowser);
+        startProgram(services, hasBrowser ? browserPreview(services.folder, errors) : NoBrowser::make);
     settle(500);
     if (mode == "--after") {
         showPreviewOnce(*window);
@@ -196,22 +155,6 @@ int measure(int argc, char** argv, const QByteArray& mode)
 }
 
 // ---- Measuring ----
-
-void makeShop(const ApplicationFolder& folder)
-{
-    QDir().mkpath(folder.picturesFolder());
-    const QDir templates(QStringLiteral(TARNWICK_SOURCE_DIR "/app/templates"));
-    QDir().mkpath(folder.templatesFolder());
-    for (const QString& name : templates.entryList(QDir::Files)) {
-        QFile::copy(templates.filePath(name), folder.templatesFolder() + name);
-    }
-    writeFileBytes(folder.countriesFile(), "Mali\n");
-    NoPrompts prompts;
-    const SystemClock clock;
-    ShopSession session(folder, prompts, clock);
-    fillShop(session, 1'000);
-    writeShopFile(session);
-}
 
 std::vector<double> answerOf(const QString& mode, const QString& shop)
 {
@@ -243,7 +186,7 @@ int compare()
     const QTemporaryDir home;
     const QTemporaryDir shop;
     qputenv("HOME", QFile::encodeName(home.path()));
-    makeShop(ApplicationFolder(shop.path()));
+    makeShopFolder(ApplicationFolder(shop.path()), products);
     std::array<std::vector<double>, 5> costs; // plain, before, after, our bar, the peer's
     for (int round = 0; round < rounds; ++round) {
         costs[0].push_back(answerOf(u"--plain"_s, shop.path())[0]);

@@ -1,5 +1,6 @@
 // How long the panel of related products takes to open over a catalogue of 100,000 products, all of them related,
 // beside the window's own tree over the same catalogue. It may take twice as long.
+#include "Measuring.h"
 #include "NoPrompts.h"
 #include "Ratios.h"
 #include "base/Clock.h"
@@ -25,16 +26,6 @@ namespace {
 constexpr int categoryCount = 100;
 constexpr int productsEach = 1000;
 
-class Aborting : public FatalErrorHandler
-{
-public:
-    void fatalError(const RuntimeError& error) noexcept override
-    {
-        std::fprintf(stderr, "%s\n", error.what());
-        std::abort();
-    }
-};
-
 class Host : public PanelHost
 {
 public:
@@ -48,7 +39,7 @@ public:
 
 private:
     ShopSession& m_session;
-    Aborting m_errors;
+    GiveUpOnErrors m_errors;
 };
 
 // The catalogue, with the first product's list of related ones filled with all others.

@@ -9,6 +9,7 @@
 // The search over 100,000 products with texts of 34 million characters, from the address to the page of what was found,
 // against QString::toUpper on every text and contains. Before anything is measured the peer's answers are compared with
 // ours, and once more after an edit: nothing that was searched before may be remembered.
+#include "Measuring.h"
 #include "NoPrompts.h"
 #include "PeerTemplate.h"
 #include "Ratios.h"
@@ -38,12 +39,6 @@ constexpr int productsOfPage = 1'000;
 constexpr int productsOfShop = 100'000;
 constexpr int productsOfCategory = 1'000;
 
-[[noreturn]] void giveUp(const char* what)
-{
-    std::fprintf(stderr, "%s: nothing is measured.\n", what);
-    std::exit(2);
-}
-
 // The design and the templates of the sample shop, and a catalogue that is made here.
 class Shop
 {
@@ -57,7 +52,7 @@ public:
             QFile::copy(sample.filePath(u"pictures/"_s + picture), session.folder.picturesFolder() + picture);
         }
         if (!loadShop(session)) {
-            giveUp("The sample shop cannot be read");
+            giveUp(u"The sample shop cannot be read"_s);
         }
         session.registerShop();
         session.Cart = std::make_unique<clsCart>(session.services);
@@ -190,7 +185,7 @@ std::size_t checkedCount(Search& search)
         const QString text = QString::fromUtf16(word.text);
         const Products& found = search.ours(text);
         if (found != search.theirs(text)) {
-            giveUp("The searches find different products");
+            giveUp(u"The searches find different products"_s);
         }
         count += found.size();
     }
@@ -203,7 +198,7 @@ void checkAnswers(Search& search, ProductClass& product)
     const std::size_t before = checkedCount(search);
     product.Description += u" Vo\u00DF der Dritte"_s;
     if (before != productsOfShop / 1000 || checkedCount(search) != before + 1) {
-        giveUp("The search has missed an edit");
+        giveUp(u"The search has missed an edit"_s);
     }
 }
 
@@ -249,7 +244,7 @@ int main(int argc, char** argv)
     const std::string text = RenderPage(pageShop.context, u"category"_s, category).toStdString();
     if (text.size() < std::size_t{500} * productsOfPage || peer.fillAndExpand(page) != text ||
         peer.fillAndExpand(shortPage) != text) {
-        giveUp("The category pages differ");
+        giveUp(u"The category pages differ"_s);
     }
     const std::string pageTitle = "category page, 1,000 products";
     registerRun(pageTitle, [&] { return RenderPage(pageShop.context, u"category"_s, category); });

@@ -4,6 +4,7 @@
 //
 // Memory is measured too: the most that a process of its own ever had may exceed what it had before it published by
 // three times the largest file, and 50 MB.
+#include "Measuring.h"
 #include "NoPrompts.h"
 #include "base/FileBytes.h"
 #include "publish/UploadPlan.h"
@@ -33,12 +34,6 @@ constexpr int rounds = 5;
 constexpr double wantedAtMost = 1.3; // our wall time by curl's
 constexpr int largestPicture = 5'000'000;
 constexpr double wantedMegabytes = 3 * largestPicture / 1e6 + 50;
-
-[[noreturn]] void giveUp(const QString& what)
-{
-    std::fprintf(stderr, "%s: nothing is measured.\n", qPrintable(what));
-    std::exit(2);
-}
 
 void writeFile(const QString& path, const QByteArray& bytes)
 {
@@ -103,12 +98,6 @@ private:
     QString m_address;
 };
 
-class GiveUpOnErrors : public FatalErrorHandler
-{
-public:
-    void fatalError(const RuntimeError& error) noexcept override { giveUp(error.description()); }
-};
-
 void publish(const ApplicationFolder& folder, const QString& address)
 {
     GiveUpOnErrors errors;
@@ -161,13 +150,7 @@ void runCurl(const QString& config)
 // The highest that this process's memory ever was.
 double peakMegabytes()
 {
-    const QList<QByteArray> lines = readFileBytes(u"/proc/self/status"_s).split('\n');
-    for (const QByteArray& line : lines) {
-        if (line.startsWith("VmHWM:")) {
-            return line.mid(6).simplified().split(' ').first().toDouble() * 1024e-6;
-        }
-    }
-    giveUp(u"The system does not tell the memory"_s);
+    return static_cast<double>(memoryOf("VmHWM:")) * 1e-6;
 }
 
 int publishAlone(const QString& address, const ApplicationFolder& folder)
@@ -189,12 +172,6 @@ double megabytesOfPublishing(const QString& address, const ApplicationFolder& fo
         giveUp(u"The publishing process failed"_s);
     }
     return megabytes;
-}
-
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 // and so is the longest while in which the window could do nothing else: more than a second needs a sign of progress on
 // the window. Backup and restore hold the window with the wait cursor; they are timed and not judged.
 #include "CupShop.h"
+#include "Measuring.h"
+#include "NoBrowser.h"
 #include "NoPrompts.h"
 #include "base/Clock.h"
 #include "base/FileBytes.h"
@@ -10,7 +12,6 @@
 #include "model/CategoryClass.h"
 #include "model/ProductClass.h"
 #include "model/shop_file/ShopFile.h"
-#include "pages/preview/PreviewSurface.h"
 #include "publish/dialog/PhpServer.h"
 #include "shell/CatalogueTree.h"
 #include "shell/MainForm.h"
@@ -43,18 +44,6 @@ constexpr int productCount = 20'000;
 constexpr int pictureCount = 5'000;
 constexpr qint64 longestHold = 1'000; // milliseconds
 
-[[noreturn]] void giveUp(const QString& what)
-{
-    std::fprintf(stderr, "%s: nothing is measured.\n", qPrintable(what));
-    std::exit(2);
-}
-
-class GiveUpOnErrors : public FatalErrorHandler
-{
-public:
-    void fatalError(const RuntimeError& error) noexcept override { giveUp(error.description()); }
-};
-
 class PreparedPrompts : public NoPrompts
 {
 public:
@@ -68,20 +57,6 @@ public:
     QString chooseFile(const QString& /*folder*/, const QString& /*filter*/) override { return file; }
 
     QString file;
-};
-
-class NoBrowser : public QWidget, public PreviewSurface
-{
-public:
-    using QWidget::QWidget;
-    bool replaceDocument(const QString& text) override
-    {
-        size = text.size();
-        return true;
-    }
-    void goBlank() override {}
-
-    qsizetype size = 0;
 };
 
 // Beats as long as events run: the longest time between two beats is how long the window was held.
@@ -130,26 +105,9 @@ private:
     qint64 m_longest = 0;
 };
 
-double peakMegabytes()
-{
-    for (const QByteArray& line : readFileBytes(u"/proc/self/status"_s).split('\n')) {
-        if (line.startsWith("VmHWM:")) {
-            return line.simplified().split(' ')[1].toDouble() / 1024;
-        }
-    }
-    return 0;
-}
-
 void makeShop(const ApplicationFolder& folder)
 {
-    QDir().mkpath(folder.picturesFolder());
-    QDir().mkpath(folder.templatesFolder());
-    const QDir templates(QStringLiteral(TARNWICK_SOURCE_DIR "/app/templates"));
-    for (const QString& name : templates.entryList(QDir::Files)) {
-        QFile::copy(templates.filePath(name), folder.templatesFolder() + name);
-    }
-    writeFileBytes(folder.countriesFile(), "Mali\n");
-
+    makeProgramFolder(folder);
     QImage image(240, 180, QImage::Format_RGB32);
     image.fill(Qt::darkCyan);
     QByteArray picture;
@@ -344,7 +302,7 @@ bool Day::run()
         },
         Judged::No);
     step("the start after it", [this] { openProgram(); });
-    std::printf("%-44s %8.0f MB at the most\n", "memory", peakMegabytes());
+    std::printf("%-44s %8.0f MB at the most\n", "memory", static_cast<double>(memoryOf("VmHWM:")) / (1 << 20));
     return !m_held;
 }
 

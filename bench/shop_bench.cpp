@@ -10,6 +10,7 @@
 // The peer's fastest way, which uses up the bytes and makes one node a leaf, is shown and not judged: it is what the
 // program itself parses with.
 #include "CupShop.h"
+#include "Measuring.h"
 #include "NoPrompts.h"
 #include "base/Clock.h"
 #include "base/FileBytes.h"
@@ -53,13 +54,7 @@ double secondsOf(const std::function<void()>& work)
 // The highest that this process's memory ever was.
 double peakKilobytes()
 {
-    const QList<QByteArray> lines = readFileBytes(u"/proc/self/status"_s).split('\n');
-    for (const QByteArray& line : lines) {
-        if (line.startsWith("VmHWM:")) {
-            return line.mid(6).simplified().split(' ').first().toDouble();
-        }
-    }
-    return 0;
+    return static_cast<double>(memoryOf("VmHWM:")) / 1024;
 }
 
 // What one process has measured.
@@ -119,8 +114,7 @@ Sample sampleInProcess(const QString& what, const QString& folder)
     process.waitForFinished(-1);
     const QList<QByteArray> numbers = process.readAllStandardOutput().split(' ');
     if (numbers.size() != 3) {
-        std::fprintf(stderr, "a measuring process failed\n");
-        std::exit(2);
+        giveUp(u"A measuring process has failed"_s);
     }
     return {numbers[0].toDouble(), numbers[1].toDouble(), numbers[2].toDouble()};
 }
@@ -178,13 +172,6 @@ void show(const char* title, double ratio)
     std::printf("%-60s %6.2f\n", title, ratio);
 }
 
-bool judge(const char* title, double ratio, double most)
-{
-    const bool reached = ratio <= most;
-    std::printf("%-60s %6.2f  at most %4.2f  %s\n", title, ratio, most, reached ? "PASS" : "FAIL");
-    return reached;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -216,10 +203,12 @@ int main(int argc, char** argv)
     bool allReached = true;
     for (const Result& result : results) {
         std::printf("%d products\n", result.products);
-        allReached &= judge("  read the file into the object tree : parse", result.ours.read / result.plain.read, 2.8);
-        allReached &= judge("  write the object tree to the file : save a ready DOM",
-                            result.ours.write / result.plain.write, 2.7);
-        allReached &= judge("  peak memory of reading : of a parse", result.ours.memory / result.plain.memory, 2.0);
+        allReached &=
+            judgeAtMost("  read the file into the object tree : parse", result.ours.read / result.plain.read, 2.8);
+        allReached &= judgeAtMost("  write the object tree to the file : save a ready DOM",
+                                  result.ours.write / result.plain.write, 2.7);
+        allReached &=
+            judgeAtMost("  peak memory of reading : of a parse", result.ours.memory / result.plain.memory, 2.0);
         show("  read : parse in place, one node a leaf", result.ours.read / result.inPlace.read);
         show("  write : save that DOM", result.ours.write / result.inPlace.write);
         show("  peak memory : of that parse", result.ours.memory / result.inPlace.memory);
@@ -227,7 +216,7 @@ int main(int argc, char** argv)
     const Result& middle = results[1];
     const Result& large = results[2];
     std::printf("100,000 products against 10,000, per product\n");
-    allReached &= judge("  read", large.ours.read / middle.ours.read / 10, 1.5);
-    allReached &= judge("  write", large.ours.write / middle.ours.write / 10, 1.5);
+    allReached &= judgeAtMost("  read", large.ours.read / middle.ours.read / 10, 1.5);
+    allReached &= judgeAtMost("  write", large.ours.write / middle.ours.write / 10, 1.5);
     return allReached ? 0 : 1;
 }

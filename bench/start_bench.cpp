@@ -5,6 +5,7 @@
 //
 // The program is the real one with its browser. It runs without a screen and draws without a graphics card.
 #include "CupShop.h"
+#include "Measuring.h"
 #include "NoPrompts.h"
 #include "base/Clock.h"
 #include "base/FileBytes.h"
@@ -36,18 +37,6 @@ namespace {
 constexpr int rounds = 9;
 constexpr int products = 10'000;
 constexpr double wantedAtMost = 1.1;
-
-[[noreturn]] void giveUp(const QString& what)
-{
-    std::fprintf(stderr, "%s: nothing is measured.\n", qPrintable(what));
-    std::exit(2);
-}
-
-class GiveUpOnErrors : public FatalErrorHandler
-{
-public:
-    void fatalError(const RuntimeError& error) noexcept override { giveUp(error.description()); }
-};
 
 // ---- The processes that are measured ----
 
@@ -140,22 +129,6 @@ void prepareEnvironment(const QString& home)
     }
 }
 
-void makeShop(const ApplicationFolder& folder)
-{
-    QDir().mkpath(folder.picturesFolder());
-    const QDir templates(QStringLiteral(TARNWICK_SOURCE_DIR "/app/templates"));
-    QDir().mkpath(folder.templatesFolder());
-    for (const QString& name : templates.entryList(QDir::Files)) {
-        QFile::copy(templates.filePath(name), folder.templatesFolder() + name);
-    }
-    writeFileBytes(folder.countriesFile(), "Mali\n");
-    NoPrompts prompts;
-    const SystemClock clock;
-    ShopSession session(folder, prompts, clock);
-    fillShop(session, products);
-    writeShopFile(session);
-}
-
 struct Answer
 {
     double seconds = 0; // until it came
@@ -182,18 +155,12 @@ Answer answerOf(const QStringList& arguments)
     return {seconds, text};
 }
 
-double median(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 int compare()
 {
     const QTemporaryDir home;
     const QTemporaryDir shop;
     prepareEnvironment(home.path());
-    makeShop(ApplicationFolder(shop.path()));
+    makeShopFolder(ApplicationFolder(shop.path()), products);
     std::vector<double> ours;
     std::vector<double> theirs;
     std::vector<double> loads;

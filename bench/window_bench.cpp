@@ -6,16 +6,14 @@
 //
 // The import of 100,000 lines into the window, model and tree, with 1,000 categories at three levels, against a bare
 // byte-wise split of the same lines into three QStrings; and against the import of 10,000 lines, per line.
-#include "NoPrompts.h"
+#include "EmptyProgram.h"
+#include "Measuring.h"
 #include "Ratios.h"
-#include "base/Clock.h"
+#include "base/FileBytes.h"
 #include "editors/EditorIcon.h"
 #include "look/TreeLook.h"
-#include "pages/preview/PreviewSurface.h"
 #include "shell/CatalogueTree.h"
-#include "shell/ImportIntoTree.h"
 #include "shell/MainForm.h"
-#include "shell/StartUp.h"
 
 #include <QApplication>
 #include <QDir>
@@ -36,83 +34,6 @@ namespace {
 
 constexpr int categoryCount = 100;
 constexpr int productsEach = 1'000;
-
-[[noreturn]] void giveUp(const QString& what)
-{
-    std::fprintf(stderr, "%s: nothing is measured.\n", qPrintable(what));
-    std::exit(2);
-}
-
-void writeFile(const QString& path, const QByteArray& bytes)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-        giveUp(path);
-    }
-}
-
-QByteArray readFile(const QString& path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        giveUp(path);
-    }
-    return file.readAll();
-}
-
-class GiveUpOnErrors : public FatalErrorHandler
-{
-public:
-    void fatalError(const RuntimeError& error) noexcept override { giveUp(error.description()); }
-};
-
-class NoBrowser : public QWidget, public PreviewSurface
-{
-public:
-    using QWidget::QWidget;
-    bool replaceDocument(const QString& /*text*/) override { return true; }
-    void goBlank() override {}
-};
-
-// The program up to its shown window, over a shop file.
-class Program
-{
-public:
-    Program()
-    {
-        QDir(m_directory.path()).mkpath(u"pictures"_s);
-        QDir(m_directory.path()).mkpath(u"templates"_s);
-        writeFile(folder.countriesFile(), "Mali\n");
-        writeFile(folder.shopFile(),
-                  "<Tarnwick><Shop><Version>1.2.0</Version><MaxProductId>1</MaxProductId><Name>Fern</Name>"
-                  "<SelectedCountries/><ShopDesign/></Shop></Tarnwick>");
-        window = startProgram({folder, m_prompts, m_clock, m_errors, [] {}}, [](QWidget* parent) {
-            auto* preview = new NoBrowser(parent);
-            return PreviewParts{preview, preview, [](PreviewNavigation*) {}};
-        });
-        QCoreApplication::processEvents();
-    }
-
-    void import(const QString& file)
-    {
-        {
-            ImportIntoTree intoTree(*window);
-            clsImporter(window->session(), intoTree.progress()).Import(file);
-        }
-        QCoreApplication::processEvents();
-    }
-    int nodeCount() const { return window->session().objects.items().Count(); }
-
-private:
-    QTemporaryDir m_directory;
-    NoPrompts m_prompts;
-    SystemClock m_clock;
-    GiveUpOnErrors m_errors;
-
-public:
-    const ApplicationFolder folder{m_directory.path()};
-    std::unique_ptr<MainForm> window;
-};
 
 // ---- The tree ----
 
@@ -233,7 +154,7 @@ void openTreeWidget(benchmark::State& state, const ShopClass& shop, Colours colo
 }
 
 // The same by the window, which enters every object in its collection and goes to the shop's panel.
-void openCatalogue(benchmark::State& state, Program& program)
+void openCatalogue(benchmark::State& state, EmptyProgram& program)
 {
     CatalogueTree& tree = *program.window->parts().CategoriesAndProductsTree;
     PaintWatch watch(tree.viewport());
@@ -267,7 +188,7 @@ void importLines(benchmark::State& state, const QString& file, int lines)
 {
     while (state.KeepRunning()) {
         state.PauseTiming();
-        auto program = std::make_unique<Program>();
+        auto program = std::make_unique<EmptyProgram>();
         state.ResumeTiming();
         program->import(file);
         state.PauseTiming();
@@ -283,7 +204,7 @@ void importLines(benchmark::State& state, const QString& file, int lines)
 void splitLines(benchmark::State& state, const QString& file)
 {
     while (state.KeepRunning()) {
-        const QByteArray bytes = readFile(file);
+        const QByteArray bytes = readFileBytes(file);
         std::array<QString, 3> fields;
         for (const char* at = bytes.cbegin(); at != bytes.cend(); ++at) {
             for (QString& field : fields) {
@@ -314,16 +235,16 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     const QTemporaryDir folder;
-    Program program;
-    writeFile(folder.filePath(u"catalogue.txt"_s), catalogueText());
+    EmptyProgram program;
+    writeFileBytes(folder.filePath(u"catalogue.txt"_s), catalogueText());
     program.import(folder.filePath(u"catalogue.txt"_s));
     if (program.nodeCount() != 1 + categoryCount * (1 + productsEach)) {
         giveUp(u"The catalogue was not read"_s);
     }
     const QString small = folder.filePath(u"small.txt"_s);
     const QString large = folder.filePath(u"large.txt"_s);
-    writeFile(small, importText(10'000));
-    writeFile(large, importText(100'000));
+    writeFileBytes(small, importText(10'000));
+    writeFileBytes(large, importText(100'000));
 
     const ShopClass& shop = *program.window->session().shop;
     registerRun("open the tree", [&](benchmark::State& state) { openOurTree(state, shop); });

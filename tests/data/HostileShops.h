@@ -13,6 +13,7 @@ struct HostileInput
     // A size that took a minute, or a gigabyte, when rows were searched one by one and tables filled for every product.
     int size;
     bool isImport = false; // else it is a shop file
+    bool isSquare = false; // asks for a text of N x N characters, up to a limit
 };
 
 const std::vector<HostileInput>& hostileInputs();

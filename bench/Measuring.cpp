@@ -1,0 +1,58 @@
+#include "Measuring.h"
+
+#include "base/RuntimeError.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <sys/resource.h>
+
+using namespace Qt::StringLiterals;
+
+void giveUp(const QString& why)
+{
+    std::fprintf(stderr, "%s: nothing is measured.\n", qPrintable(why));
+    std::exit(2);
+}
+
+void GiveUpOnErrors::fatalError(const RuntimeError& error) noexcept
+{
+    giveUp(error.description());
+}
+
+double median(std::vector<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+double processorSeconds()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    const auto seconds = [](const timeval& time) {
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+    };
+    return seconds(usage.ru_utime) + seconds(usage.ru_stime);
+}
+
+qint64 memoryOf(const char* line)
+{
+    QFile file(u"/proc/self/status"_s);
+    if (!file.open(QIODevice::ReadOnly)) {
+        giveUp(u"The process cannot look at itself"_s);
+    }
+    const QByteArray status = file.readAll();
+    const qsizetype at = status.indexOf(line) + static_cast<qsizetype>(std::strlen(line));
+    return status.mid(at, status.indexOf("kB", at) - at).trimmed().toLongLong() * 1024;
+}
+
+bool judgeAtMost(const char* title, double value, double limit)
+{
+    const bool isReached = value <= limit;
+    std::printf("%-60s %6.2f  at most %4.2f  %s\n", title, value, limit, isReached ? "PASS" : "FAIL");
+    return isReached;
+}
