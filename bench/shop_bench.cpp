@@ -26,7 +26,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -36,13 +35,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // ---- Measuring: every reading and saving happens once in a process of its own, as when the program starts ----
-
-double processorSeconds()
-{
-    timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
-}
 
 double secondsOf(const std::function<void()>& work)
 {
