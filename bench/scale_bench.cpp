@@ -17,6 +17,7 @@
 #include "shell/MainForm.h"
 #include "shell/ShortcartButton.h"
 #include "shell/StartUp.h"
+#include "shell/WindowKeys.h"
 
 #include <QAction>
 #include <QApplication>
@@ -25,6 +26,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QTemporaryDir>
@@ -43,6 +45,7 @@ namespace {
 constexpr int productCount = 20'000;
 constexpr int pictureCount = 5'000;
 constexpr qint64 longestHold = 1'000; // milliseconds
+constexpr double longestKey = 50;     // milliseconds, of a key in the line that finds
 
 class PreparedPrompts : public NoPrompts
 {
@@ -158,6 +161,9 @@ private:
     void press(const char* button) const { m_window->findChild<ShortcartButton*>(QLatin1String(button))->Activate(); }
     void trigger(const char* entry) const { m_window->findChild<QAction*>(QLatin1String(entry))->trigger(); }
     void clickNode(const QString& key) const;
+    // Types a text into the line that finds, and judges the processor time of its slowest key, with all that is painted
+    // for it.
+    void find(const char* name, const QString& text);
     // Closes the next dialog that is opened, when it is there.
     void closeNextDialog(const std::function<void(QDialog& dialog)>& work);
     void upload();
@@ -187,6 +193,26 @@ void Day::step(const char* name, const std::function<void()>& work, Judged judge
     std::printf("%-44s %8.2f s %8.2f s %9s  %s\n", name, static_cast<double>(time) / 1000,
                 static_cast<double>(m_heart.longest()) / 1000, m_heart.progressSeen ? "yes" : "no", verdict);
     std::fflush(stdout);
+}
+
+void Day::find(const char* name, const QString& text)
+{
+    m_window->findChild<QAction*>(QLatin1String(findCommand))->trigger();
+    auto* line = m_window->findChild<QLineEdit*>(u"CatalogueFindTxt"_s);
+    line->clear();
+    QCoreApplication::processEvents();
+    double slowest = 0;
+    for (const QChar letter : text) {
+        const double before = processorSeconds();
+        QTest::keyClick(line, letter.toLatin1());
+        QCoreApplication::processEvents();
+        slowest = std::max(slowest, 1000 * (processorSeconds() - before));
+    }
+    if (m_window->findChild<QLabel*>(u"lblFound"_s)->text().isEmpty()) {
+        giveUp(u"Nothing was looked for"_s);
+    }
+    QTest::keyClick(line, Qt::Key_Escape);
+    m_held = !judgeAtMost(name, slowest, longestKey) || m_held;
 }
 
 void Day::openProgram()
@@ -255,6 +281,8 @@ bool Day::run()
     std::printf("%-44s %10s %10s %9s\n", "20,000 products, 5,000 pictures", "time", "held for", "progress");
     QApplication::instance()->installEventFilter(&m_heart);
     step("start, up to the shown window", [this] { openProgram(); });
+    find("ms, slowest key to find what is everywhere", u"espresso"_s);
+    find("ms, slowest key to find what is nowhere", u"anchor"_s);
     step("import of 20,000 products", [this] {
         m_prompts.file = m_folder.path() + u"/saucers.txt"_s;
         trigger("mnuImport");

@@ -2,7 +2,9 @@
 #include "Walk.h"
 #include "shell/CatalogueTree.h"
 #include "shell/ShortcartButton.h"
+#include "shell/WindowKeys.h"
 
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QTest>
@@ -54,6 +56,11 @@ void walkModes(Walk& walk)
     // The frame stands for a third of a second, in which events run.
     walk.later(150, [&walk] { walk.keep(u"saving"_s); });
     walk.click("SaveShopSBtn");
+    Walk::partOf<QAction>(&walk.window, findCommand)->trigger();
+    QTest::keyClicks(Walk::partOf<QLineEdit>(&walk.window, "CatalogueFindTxt"), u"mug"_s);
+    QTest::keyClick(Walk::partOf<QLineEdit>(&walk.window, "CatalogueFindTxt"), Qt::Key_Return);
+    walk.keep(u"find_and_saved"_s);
+    QTest::keyClick(Walk::partOf<QLineEdit>(&walk.window, "CatalogueFindTxt"), Qt::Key_Escape);
     walk.enter(MainForm::DesignMode);
     walk.keep(u"design"_s);
     walk.enter(MainForm::CatalogueMode);

@@ -3,6 +3,7 @@
 #include "model/ShopSession.h"
 #include "shell/browser/PreviewBrowser.h"
 
+#include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QWebEnginePage>
 
@@ -103,6 +104,15 @@ void walkPages(Walk& walk)
     walk.enter(MainForm::PreviewMode);
     Walk::pause(900);
     walk.keep(u"preview"_s);
+    for (const auto& [button, picture] : {std::pair("PhoneWidthBtn", "preview_as_on_a_phone"),
+                                          {"TabletWidthBtn", "preview_as_on_a_tablet"},
+                                          {"FullWidthBtn", nullptr}}) {
+        Walk::partOf<QAbstractButton>(&walk.window, button)->click();
+        Walk::pause(600); // for the engine to lay out and paint
+        if (picture) {
+            walk.keep(QLatin1String(picture));
+        }
+    }
     const QSize before = walk.window.size();
     const int wide = walk.browser().width();
     for (const PageStop& stop : pages) {

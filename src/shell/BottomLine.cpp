@@ -68,7 +68,6 @@ public:
         setToolTip(accessibleName());
         setCheckable(true);
         setAutoExclusive(true);
-        setFocusPolicy(Qt::TabFocus);
         setAttribute(Qt::WA_Hover);
         setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
     }
@@ -139,8 +138,11 @@ void BottomLine::makePageWidths(FatalErrorHandler& errors)
     row->setSpacing(0);
     for (const PageWidth& width : pageWidths) {
         auto* button = new WidthButton(width, &width == std::begin(pageWidths), m_pageWidths);
+        // Tab leads to the chosen one, the arrow keys to the others.
         button->setChecked(width.width == 0);
-        connectGuarded(errors, button, &QAbstractButton::toggled, this, [this, &width](bool isChosen) {
+        button->setFocusPolicy(button->isChecked() ? Qt::TabFocus : Qt::NoFocus);
+        connectGuarded(errors, button, &QAbstractButton::toggled, this, [this, button, &width](bool isChosen) {
+            button->setFocusPolicy(isChosen ? Qt::TabFocus : Qt::NoFocus);
             if (isChosen) {
                 Q_EMIT pageWidthChosen(width.width);
             }

@@ -19,7 +19,7 @@ FindLine::FindLine(CatalogueTree& tree, CodeOf codeOf, FatalErrorHandler& errors
     : QWidget(parent), m_tree(tree), m_codeOf(std::move(codeOf)), m_text(new QLineEdit(this)), m_count(new QLabel(this))
 {
     setObjectName(u"FindLine"_s);
-    m_text->setObjectName(u"FindTxt"_s);
+    m_text->setObjectName(u"CatalogueFindTxt"_s);
     m_text->setAccessibleName(u"Find in the catalogue"_s);
     m_text->setPlaceholderText(u"Name or code"_s);
     m_count->setObjectName(u"lblFound"_s);

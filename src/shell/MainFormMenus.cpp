@@ -189,10 +189,9 @@ void MainForm::importHandler()
 void MainForm::makeCommands()
 {
     const auto codeOf = [this](const QString& key) {
-        const ObjectsCollection& objects = m_session->objects;
-        const auto* product = objects.isCreated() && objects.hasKey(key)
-                                  ? std::get_if<std::shared_ptr<ProductClass>>(&objects.Item(key))
-                                  : nullptr;
+        const KeyedCollection<CatalogueObject>& objects = m_session->objects.items();
+        const int place = objects.indexOf(key);
+        const auto* product = place > 0 ? std::get_if<std::shared_ptr<ProductClass>>(&objects.Item(place)) : nullptr;
         return product ? (*product)->Code : QString();
     };
     auto* findLine = new FindLine(*m_parts->CategoriesAndProductsTree, codeOf, m_errors, m_parts->treePane);

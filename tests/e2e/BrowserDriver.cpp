@@ -117,6 +117,25 @@ void BrowserDriver::pressEnter()
     QTest::keyClick(m_driven->view()->focusProxy(), Qt::Key_Return);
 }
 
+void BrowserDriver::enterToNewPage()
+{
+    markPage();
+    pressEnter();
+    waitForNewPage();
+}
+
+void BrowserDriver::tabTo(const QString& selector)
+{
+    const QString isThere = u"document.activeElement.matches(%1)"_s.arg(quoted(selector));
+    const QString place = u"[...document.querySelectorAll('*')].indexOf(document.activeElement)"_s;
+    for (int key = 0; key < 100 && !script(isThere).toBool(); ++key) {
+        const int before = script(place).toInt();
+        QTest::keyClick(m_driven->view()->focusProxy(), Qt::Key_Tab);
+        waitUntil(u"%1 != %2"_s.arg(place).arg(before));
+    }
+    EXPECT_TRUE(script(isThere).toBool()) << "Tab does not lead to " << selector.toStdString();
+}
+
 QString BrowserDriver::textOf(const QString& selector)
 {
     return script(u"(document.querySelector(%1) || {textContent: 'NOT ON THE PAGE'}).textContent.trim()"_s.arg(

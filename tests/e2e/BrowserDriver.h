@@ -29,8 +29,11 @@ public:
     void clickToNewPage(const QString& selector);
     // Puts the cursor into a field, empties it and types.
     void type(const QString& selector, const QString& text);
-    // Sends the form of a field by the Enter key.
+    // The same without a mouse: Tab leads to the element, from wherever the focus is in the document.
+    void tabTo(const QString& selector);
+    // Sends the form of a field, or follows a link, by the Enter key.
     void pressEnter();
+    void enterToNewPage();
 
     QString textOf(const QString& selector);
     int countOf(const QString& selector);

@@ -1,5 +1,6 @@
 // A shop owner's day, from the start of the program to the restart after a restore: the real window, the real browser
-// and a real server. What was done in the morning must be there in the evening.
+// and a real server. What was done in the morning must be there in the evening. The day passes twice, once with the
+// mouse and once by the keyboard alone.
 #include "base/Numbers.h"
 #include "e2e/BrowserDriver.h"
 #include "editors/Panel.h"
@@ -11,6 +12,7 @@
 #include "shell/CatalogueTree.h"
 #include "shell/browser/PreviewBrowser.h"
 #include "support/Hands.h"
+#include "support/KeyHands.h"
 #include "support/WindowTest.h"
 
 #include <QApplication>
@@ -26,6 +28,7 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
+#include <QWebEngineView>
 
 using namespace Qt::StringLiterals;
 
@@ -34,7 +37,9 @@ namespace {
 constexpr int importedProducts = 200;
 constexpr int patience = 60000; // milliseconds
 
-class Day : public WindowTest
+enum class Hand { Mouse, Keyboard };
+
+class Day : public WindowTest, public testing::WithParamInterface<Hand>
 {
 public:
     ~Day() override
@@ -53,17 +58,70 @@ protected:
     PreviewParts makePreview(QWidget* parent) override
     {
         PreviewParts parts = browserPreview(files.folder(), errors)(parent);
-        visitor.drive(qobject_cast<PreviewBrowser*>(parts.widget));
+        previewWidget = qobject_cast<PreviewBrowser*>(parts.widget);
+        visitor.drive(previewWidget);
         return parts;
     }
 
+    bool byKeys() const { return GetParam() == Hand::Keyboard; }
+
     // The main buttons act on the receipt of the focus, which only the active window's have. There is no window manager
     // here that makes the window active again when a dialog has closed.
-    void click(const char* button)
+    void activate() const
     {
         window->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-        WindowTest::click(button);
+    }
+    // A main button has a key; the others are reached by Tab.
+    void click(const char* button)
+    {
+        activate();
+        static const QHash<QLatin1String, Qt::Key> keys = {{"SaveShopSBtn"_L1, Qt::Key_S},
+                                                           {"ProductCatalogSBtn"_L1, Qt::Key_1},
+                                                           {"PreviewBrowserSBtn"_L1, Qt::Key_2},
+                                                           {"ShopDesignSBtn"_L1, Qt::Key_3}};
+        if (!byKeys()) {
+            WindowTest::click(button);
+        } else if (keys.contains(QLatin1String(button))) {
+            QWidget* focus = window->focusWidget();
+            QTest::keyClick(focus ? focus : window.get(), keys[QLatin1String(button)], Qt::ControlModifier);
+        } else {
+            KeyHands::press(find(button));
+        }
+    }
+    void trigger(const char* entry)
+    {
+        if (byKeys()) {
+            activate();
+            KeyHands::takeEntry(*window, find<QAction>(entry));
+        } else {
+            WindowTest::trigger(entry);
+        }
+    }
+    // The line that finds leads to the node.
+    void clickNode(const QString& key)
+    {
+        if (!byKeys()) {
+            WindowTest::clickNode(key);
+            return;
+        }
+        CatalogueTree* tree = window->parts().CategoriesAndProductsTree;
+        if (key == u"ID_SHOP"_s) {
+            KeyHands::tabTo(tree);
+            QTest::keyClick(tree, Qt::Key_Home);
+        } else {
+            activate();
+            QWidget* focus = window->focusWidget();
+            QTest::keyClick(focus ? focus : window.get(), Qt::Key_F, Qt::ControlModifier);
+            auto* line = find<QLineEdit>("CatalogueFindTxt");
+            ASSERT_EQ(window->focusWidget(), line);
+            Hands::pressKeys(line, tree->nodes().nodeWithKey(key)->text);
+            for (int hit = 0; hit < 20 && window->SelectedNode->key != key; ++hit) {
+                QTest::keyClick(line, Qt::Key_Return);
+            }
+            QTest::keyClick(line, Qt::Key_Escape);
+        }
+        ASSERT_EQ(window->SelectedNode->key, key);
     }
     ShopClass& shop() const { return *window->session().shop; }
 
@@ -75,9 +133,52 @@ protected:
         EXPECT_NE(widget, nullptr) << name;
         return widget;
     }
-    void type(const char* field, const QString& text) const { Hands::type(in(field), text); }
-    void press(const char* button) const { Hands::press(in(button)); }
+    void type(QWidget* field, const QString& text) const
+    {
+        byKeys() ? KeyHands::type(field, text) : Hands::type(field, text);
+    }
+    void type(const char* field, const QString& text) const { type(in(field), text); }
+    void press(QWidget* button) const { byKeys() ? KeyHands::press(button) : Hands::press(button); }
+    void press(const char* button) const { press(in(button)); }
+    void tick(QCheckBox* box) const { byKeys() ? KeyHands::press(box) : Hands::tick(box); }
     void submit() const { press("imgButtonSubmit"); }
+    void openTab(QTabWidget* tabs, int index) const
+    {
+        byKeys() ? KeyHands::openTab(tabs, index) : tabs->setCurrentIndex(index);
+    }
+    // Types behind what the text has.
+    void append(QPlainTextEdit* text, const QString& more) const
+    {
+        if (byKeys()) {
+            KeyHands::tabTo(text);
+            QTest::keyClick(text, Qt::Key_End, Qt::ControlModifier);
+        } else {
+            text->moveCursor(QTextCursor::End);
+        }
+        Hands::pressKeys(text, more);
+    }
+    // Follows a link of the preview, or presses a button, to another page.
+    void visit(const QString& selector)
+    {
+        if (byKeys()) {
+            visitor.tabTo(selector);
+            visitor.enterToNewPage();
+        } else {
+            visitor.clickToNewPage(selector);
+        }
+    }
+    void fillIn(const QString& selector, const QString& text)
+    {
+        if (byKeys()) {
+            visitor.tabTo(selector);
+            QWidget* page = previewWidget->view()->focusProxy();
+            QTest::keyClick(page, Qt::Key_A, Qt::ControlModifier);
+            QTest::keyClicks(page, text);
+            visitor.waitUntil(u"document.activeElement.value == '%1'"_s.arg(text));
+        } else {
+            visitor.type(selector, text);
+        }
+    }
     // What a modal dialog is used for: runs when the dialog is there. The dialog must be closed by it.
     void inNextDialog(const std::function<void(QDialog& dialog)>& work)
     {
@@ -131,6 +232,7 @@ public:
 protected:
     PhpServer server;
     BrowserDriver visitor;
+    PreviewBrowser* previewWidget = nullptr;
 
 private:
     static void connectTimer(QTimer* timer, const std::function<void(QDialog& dialog)>& work)
@@ -192,9 +294,9 @@ void Day::addCategoryWithPicture()
     click("ShopNewCategorySBtn");
     type("CategoryNameTxt", u"Lanterns"_s);
     prompts.answerFile(files.path(u"photos/lantern.png"_s));
-    inNextDialog([](const QDialog& dialog) {
-        Hands::press(part(dialog, "AddBttn"));
-        Hands::press(part(dialog, "OkBtn"));
+    inNextDialog([this](const QDialog& dialog) {
+        press(part(dialog, "AddBttn"));
+        press(part(dialog, "OkBtn"));
     });
     press("BrowseBtnLbl");
     submit();
@@ -211,14 +313,12 @@ void Day::designPages()
 
     click("FooterDesignSBtn");
     auto* tabs = in<QTabWidget>("PagesTab");
-    tabs->setCurrentIndex(1);
+    openTab(tabs, 1);
     prompts.answerYesNo(u"Ambrel eCommerce Software"_s, u"Are you sure you want to switch to advanced mode?"_s, true);
-    Hands::tick(in<QCheckBox>("AdvancedCh"));
-    auto* text = in<QPlainTextEdit>("TemplateTxt");
-    text->moveCursor(QTextCursor::End);
-    Hands::pressKeys(text, u"<p id=\"by-hand\">Made by hand</p>"_s);
+    tick(in<QCheckBox>("AdvancedCh"));
+    append(in<QPlainTextEdit>("TemplateTxt"), u"<p id=\"by-hand\">Made by hand</p>"_s);
     press("SaveTemplteBtn");
-    tabs->setCurrentIndex(0);
+    openTab(tabs, 0);
 }
 
 void Day::writeCustomPage()
@@ -226,7 +326,7 @@ void Day::writeCustomPage()
     click("CustomPagesDesignSBtn");
     press("AddPageBtn");
     type("PageNameTextCtl", u"Größe der Lichter"_s);
-    Hands::pressKeys(in("PageContentTextCtl"), u"<p id=\"sizes\">From 3 to 30 hours, that is all.</p>"_s);
+    append(in<QPlainTextEdit>("PageContentTextCtl"), u"<p id=\"sizes\">From 3 to 30 hours, that is all.</p>"_s);
     submit();
 
     click("MenuDesignSBtn");
@@ -239,12 +339,20 @@ void Day::writeCustomPage()
     auto* pages = dialog->findChild<QListWidget*>(u"lstSelectedPages"_s);
     const QList<QListWidgetItem*> rows = pages->findItems(u"Größe der Lichter"_s, Qt::MatchExactly);
     ASSERT_EQ(rows.size(), 1);
-    pages->setCurrentItem(rows.front());
+    if (byKeys()) {
+        KeyHands::tabTo(pages);
+        for (int row = 0; row < pages->count() && pages->currentItem() != rows.front(); ++row) {
+            QTest::keyClick(pages, Qt::Key_Down);
+        }
+        ASSERT_EQ(pages->currentItem(), rows.front());
+    } else {
+        pages->setCurrentItem(rows.front());
+    }
     if (rows.front()->checkState() != Qt::Checked) {
         QTest::keyClick(pages, Qt::Key_Space);
     }
     EXPECT_EQ(rows.front()->checkState(), Qt::Checked);
-    Hands::press(part(*dialog, "OkBtn"));
+    press(part(*dialog, "OkBtn"));
     submit();
 }
 
@@ -253,23 +361,26 @@ void Day::walkThePreview()
     click("PreviewBrowserSBtn");
     ASSERT_TRUE(waitUntil([this] { return visitor.shows(u"Good evening"_s); }));
     EXPECT_EQ(visitor.textOf(u"#by-hand"_s), u"Made by hand"_s);
-    visitor.clickToNewPage(u"a[href='http://previewmode/ACTION=custompage.php&name=Größe der Lichter']"_s);
+    if (byKeys()) {
+        KeyHands::tabTo(previewWidget->view()->focusProxy());
+    }
+    visit(u"a[href='http://previewmode/ACTION=custompage.php&name=Größe der Lichter']"_s);
     EXPECT_EQ(visitor.textOf(u"#sizes"_s), u"From 3 to 30 hours, that is all."_s);
 
-    visitor.type(u"header input[name=what]"_s, u"candle"_s);
-    visitor.clickToNewPage(u"header form [type=submit]"_s);
+    fillIn(u"header input[name=what]"_s, u"candle"_s);
+    visit(u"header form [type=submit]"_s);
     const QString product =
         u"main a[href='http://previewmode/ACTION=product.php&id=%1']"_s.arg(keyOf(u"Candle 7"_s).mid(2));
-    visitor.clickToNewPage(product);
-    visitor.type(u"form.buy input[name=quantity]"_s, u"2"_s);
-    visitor.clickToNewPage(u"form.buy [type=submit]"_s);
+    visit(product);
+    fillIn(u"form.buy input[name=quantity]"_s, u"2"_s);
+    visit(u"form.buy [type=submit]"_s);
     ASSERT_EQ(window->session().Cart->Count(), 1);
     EXPECT_EQ(window->session().Cart->Item(1)->SelectedPrice(), localised(u"12.5"_s));
     const auto amountIn = [this](const QString& selector) {
         return visitor.textOf(selector).simplified().replace(u'\u00A0', u' ');
     };
     EXPECT_EQ(amountIn(u".cart-sum strong"_s), u"25 "_s + shop().shop_currency);
-    visitor.clickToNewPage(u".cart-sum a[href*=checkout]"_s);
+    visit(u".cart-sum a[href*=checkout]"_s);
     // The checkout's sum deliberately takes no quantities.
     EXPECT_EQ(amountIn(u".summary .total strong"_s), localised(u"12.5"_s) + u' ' + shop().shop_currency);
 }
@@ -288,15 +399,20 @@ void Day::saveAndBackUp()
 
 void Day::publish()
 {
-    prompts.answerYesNo(u"Ambrel eCommerce Software"_s, u"Do you want save changes?"_s, true);
+    // The button asks whether to save, the menu does not.
+    if (byKeys()) {
+        click("SaveShopSBtn");
+    } else {
+        prompts.answerYesNo(u"Ambrel eCommerce Software"_s, u"Do you want save changes?"_s, true);
+    }
     prompts.expectMessage(u"Uploading data"_s, u"Complete"_s);
     inNextDialog([this](const QDialog& dialog) {
-        Hands::type(part(dialog, "txtURL"), server.address());
-        Hands::type(part(dialog, "txtLogin"), u"anna"_s);
-        Hands::type(part(dialog, "txtPassword"), u"s3cret"_s);
-        Hands::press(part(dialog, "OkBtn")); // the dialog closes when all has gone up
+        type(part(dialog, "txtURL"), server.address());
+        type(part(dialog, "txtLogin"), u"anna"_s);
+        type(part(dialog, "txtPassword"), u"s3cret"_s);
+        press(part(dialog, "OkBtn")); // the dialog closes when all has gone up
     });
-    click("UploadShopSBtn");
+    byKeys() ? trigger("mnuUpload") : click("UploadShopSBtn");
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     for (const char* file : {"shop.xml", "pictures/lantern.png", "pictures/logo.png", "templates/footer.html"}) {
         EXPECT_TRUE(fileBytes(server.path(QLatin1String(file))) == fileBytes(files.path(QLatin1String(file)))) << file;
@@ -337,7 +453,11 @@ void Day::expectTheShopAsItWas()
               true);
 }
 
-TEST_F(Day, EndsWithTheShopThatItMade)
+INSTANTIATE_TEST_SUITE_P(Hands, Day, testing::Values(Hand::Mouse, Hand::Keyboard), [](const auto& hand) {
+    return hand.param == Hand::Mouse ? "WithTheMouse" : "WithTheKeyboardAlone";
+});
+
+TEST_P(Day, EndsWithTheShopThatItMade)
 {
     start();
     using Hour = void (Day::*)();

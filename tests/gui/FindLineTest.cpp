@@ -33,7 +33,7 @@ protected:
     }
 
     CatalogueTree* tree() const { return window->parts().CategoriesAndProductsTree; }
-    QLineEdit* field() const { return find<QLineEdit>("FindTxt"); }
+    QLineEdit* field() const { return find<QLineEdit>("CatalogueFindTxt"); }
     QString shown() const { return find<QLabel>("lblFound")->text(); }
 
     void ask(const QString& text)

@@ -1,0 +1,151 @@
+// Everything that a hand can press or fill is reached by Tab, and shows that it has the focus.
+#include "editors/Panel.h"
+#include "shell/CatalogueTree.h"
+#include "shell/ShortcartButton.h"
+#include "support/WindowTest.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QSet>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class KeyboardReach : public WindowTest
+{
+protected:
+    void SetUp() override
+    {
+        useSampleShop();
+        start();
+        window->resize(1100, 750);
+        QCoreApplication::processEvents();
+    }
+
+    // What acts when it is pressed, or takes a text or a choice.
+    static bool isControl(const QWidget* widget)
+    {
+        const bool isPartOfQts = widget->objectName().startsWith(u"qt_") ||
+                                 qobject_cast<const QTableView*>(widget->parentWidget()) ||
+                                 qobject_cast<const QTabBar*>(widget->parentWidget());
+        return !isPartOfQts && !qobject_cast<const QHeaderView*>(widget) &&
+               (qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
+                qobject_cast<const QPlainTextEdit*>(widget) || qobject_cast<const QComboBox*>(widget) ||
+                qobject_cast<const QAbstractItemView*>(widget) || qobject_cast<const QTabBar*>(widget) ||
+                qobject_cast<const ShortcartButton*>(widget));
+    }
+    // The menus have the same commands as these.
+    static bool isMainButton(const QWidget* widget)
+    {
+        return widget->parentWidget()->objectName() == u"ToolbarFrame"_s;
+    }
+    static std::string nameOf(const QWidget* widget)
+    {
+        return std::string(widget->metaObject()->className()) + ' ' + widget->objectName().toStdString() + ' ' +
+               widget->accessibleName().toStdString();
+    }
+
+    // All that Tab leads to, from the tree or from the first button of the design until it is there again. Each one's
+    // picture with the focus differs from the one without.
+    QSet<QWidget*> walkByTab()
+    {
+        QSet<QWidget*> reached;
+        for (int step = 0; step < 300; ++step) {
+            QWidget* here = window->focusWidget();
+            if (!here || reached.contains(here)) {
+                break;
+            }
+            reached.insert(here);
+            const QImage focused = here->grab().toImage();
+            QTest::keyClick(here, Qt::Key_Tab);
+            if (window->focusWidget() == here) { // a template takes the Tab itself, and its search leads on
+                QTest::keyClick(here, Qt::Key_F, Qt::ControlModifier);
+            }
+            EXPECT_NE(window->focusWidget(), here) << nameOf(here) << " lets nobody out";
+            EXPECT_TRUE(here->grab().toImage() != focused) << nameOf(here) << " does not show the focus";
+        }
+        return reached;
+    }
+    void expectAllReached()
+    {
+        const QSet<QWidget*> reached = walkByTab();
+        for (QWidget* widget : window->findChildren<QWidget*>()) {
+            if (!isControl(widget) || !widget->isVisible() || !widget->isEnabled() || isMainButton(widget)) {
+                continue;
+            }
+            bool isReached = reached.contains(widget);
+            if (const auto* option = qobject_cast<QRadioButton*>(widget)) { // the arrows lead on within a group
+                for (const QRadioButton* other : option->parentWidget()->findChildren<QRadioButton*>()) {
+                    isReached = isReached || reached.contains(const_cast<QRadioButton*>(other));
+                }
+            }
+            EXPECT_TRUE(isReached) << nameOf(widget) << " is out of reach";
+            ++controls;
+        }
+    }
+
+    int controls = 0;
+};
+
+TEST_F(KeyboardReach, IsEverythingInTheCatalogue)
+{
+    const std::pair<QString, const char*> nodes[] = {
+        {u"ID_SHOP"_s, "ShopToolbar"}, {u"ID2"_s, "CategoryToolbar"}, {u"ID20"_s, "ProductToolbar"}};
+    for (const auto& [node, toolbar] : nodes) {
+        clickNode(node);
+        for (const ShortcartButton* button : find(toolbar)->findChildren<ShortcartButton*>()) {
+            if (button->Code == PanelCode::Show) {
+                SCOPED_TRACE(button->objectName().toStdString());
+                click(button->objectName().toLatin1().constData());
+                window->parts().CategoriesAndProductsTree->setFocus(Qt::TabFocusReason);
+                expectAllReached();
+            }
+        }
+    }
+    EXPECT_GT(controls, 100);
+}
+
+TEST_F(KeyboardReach, IsEverythingInTheDesign)
+{
+    click("ShopDesignSBtn");
+    for (const ShortcartButton* button : find("ShopDesignMenuFrame")->findChildren<ShortcartButton*>()) {
+        SCOPED_TRACE(button->objectName().toStdString());
+        click(button->objectName().toLatin1().constData());
+        auto* tabs = window->VisibleFrame->findChild<QTabWidget*>();
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            tabs->setCurrentIndex(tab);
+            QCoreApplication::processEvents();
+            find("MainPageDesignSBtn")->setFocus(Qt::TabFocusReason);
+            expectAllReached();
+        }
+    }
+    EXPECT_GT(controls, 400);
+}
+
+TEST_F(KeyboardReach, IsTheLineThatFinds)
+{
+    QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
+    expectAllReached();
+}
+
+TEST_F(KeyboardReach, AreTheWidthsOfThePreview)
+{
+    click("PreviewBrowserSBtn");
+    auto* button = find("FullWidthBtn");
+    const QImage before = button->grab().toImage();
+    QTest::keyClick(window->focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(window->focusWidget(), button);
+    EXPECT_TRUE(button->grab().toImage() != before);
+}
+
+} // namespace
