@@ -26,13 +26,13 @@ void NumericBox::fill(const QString& text)
     setText(text);
 }
 
-bool NumericBox::accepts(const QString& text) const
+bool NumericBox::accepts(Takes takes, const QString& text)
 {
     if (text.isEmpty()) {
-        return true; // counts as 0
+        return true;
     }
     try {
-        switch (m_takes) {
+        switch (takes) {
         case Takes::Number:
             numberFromText(text);
             break;
@@ -51,7 +51,7 @@ bool NumericBox::accepts(const QString& text) const
 
 void NumericBox::check(const QString& text)
 {
-    if (accepts(text)) {
+    if (accepts(m_takes, text)) {
         m_accepted = text;
         m_cursor = cursorPosition();
         Q_EMIT edited(text);

@@ -17,6 +17,9 @@ public:
 
     explicit NumericBox(Takes takes, QWidget* parent = nullptr);
 
+    // Whether a field of that kind takes the text. The empty text counts as 0.
+    static bool accepts(Takes takes, const QString& text);
+
     // Shows a text of the model. It is never refused, even when it is no number.
     void fill(const QString& text);
 
@@ -25,7 +28,6 @@ Q_SIGNALS:
     void edited(const QString& text);
 
 private:
-    bool accepts(const QString& text) const;
     void check(const QString& text);
 
     Takes m_takes;

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <array>
 #include <limits>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -34,7 +35,7 @@ constexpr int besideTitle = 16;     // pixels of a column that its title does no
 constexpr int aroundTitle = 12;     // pixels above and below a title
 
 // What stands in a cell of the "Use" column beside its picture.
-enum UseRole { CheckedRole = Qt::UserRole, ModelIndexRole };
+enum UseRole { CheckedRole = MarkedRole + 1, ModelIndexRole };
 
 } // namespace
 
@@ -74,8 +75,9 @@ CustomGrid::CustomGrid(PanelHost& host, QWidget* parent)
     connectGuarded(m_host.errorHandler(), BaseGrd, &QTableWidget::cellClicked, this, &CustomGrid::cellActivated);
     connectGuarded(m_host.errorHandler(), AddItemButtonLbl, &LinkLabel::clicked, this, &CustomGrid::addItem);
     connectGuarded(m_host.errorHandler(), ForGridTxt, &QLineEdit::textEdited, this, [this](const QString& text) {
-        if (QTableWidgetItem* cell = BaseGrd->currentItem()) {
-            cell->setText(text);
+        if (BaseGrd->currentItem()) {
+            setCellText(BaseGrd->currentRow(), BaseGrd->currentColumn(), text);
+            markEditor();
         }
     });
     connectGuarded(m_host.errorHandler(), BaseGrd->verticalScrollBar(), &QScrollBar::rangeChanged, this,
@@ -83,6 +85,11 @@ CustomGrid::CustomGrid(PanelHost& host, QWidget* parent)
     for (const QScrollBar* bar : {BaseGrd->horizontalScrollBar(), BaseGrd->verticalScrollBar()}) {
         connectGuarded(m_host.errorHandler(), bar, &QScrollBar::valueChanged, this, &CustomGrid::placeEditor);
     }
+}
+
+void CustomGrid::setContents(std::vector<CellContent> contents)
+{
+    m_contents = std::move(contents);
 }
 
 // Filling and reading ------------------------------------------------------------------------------------------------
@@ -111,7 +118,7 @@ void CustomGrid::Init(const QStringList& titles, const Columns& columns, bool is
             const auto place = static_cast<std::size_t>(column);
             const TextCollection* texts = place < columns.size() ? columns[place].get() : nullptr;
             const bool isThere = texts && row < texts->Count();
-            BaseGrd->setItem(row, column, new QTableWidgetItem(isThere ? texts->Item(row + 1) : QString()));
+            setCellText(row, column, isThere ? texts->Item(row + 1) : QString());
         }
         setLink(row);
     }
@@ -123,8 +130,8 @@ void CustomGrid::InitForCharges()
     prepare(chargeTag, {u"Description"_s, u"Cost"_s, u"Use"_s}, charges.Count());
     for (int row = 0; row < charges.Count(); ++row) {
         const clsCharge& charge = charges.Item(row + 1);
-        BaseGrd->setItem(row, 0, new QTableWidgetItem(charge.Destination));
-        BaseGrd->setItem(row, 1, new QTableWidgetItem(charge.Cost));
+        setCellText(row, 0, charge.Destination);
+        setCellText(row, 1, charge.Cost);
         setUse(row, charge.IsChecked, row + 1);
         setLink(row);
     }
@@ -185,6 +192,25 @@ QString CustomGrid::cellText(int row, int column) const
 {
     const QTableWidgetItem* cell = BaseGrd->item(row, column);
     return cell ? cell->text() : QString();
+}
+
+CellContent CustomGrid::contentOf(int column) const
+{
+    return m_contents[std::min(static_cast<std::size_t>(column), m_contents.size() - 1)];
+}
+
+void CustomGrid::setCellText(int row, int column, const QString& text)
+{
+    QTableWidgetItem* cell = BaseGrd->item(row, column);
+    if (!cell) {
+        cell = new QTableWidgetItem;
+        BaseGrd->setItem(row, column, cell);
+    }
+    cell->setText(text);
+    const QString reason = reasonAgainst(contentOf(column), text);
+    cell->setToolTip(reason);
+    cell->setData(Qt::AccessibleDescriptionRole, reason);
+    cell->setData(MarkedRole, !reason.isEmpty());
 }
 
 void CustomGrid::setLink(int row)
@@ -295,7 +321,7 @@ void CustomGrid::addItem()
     BaseGrd->insertRow(row);
     for (int column = 0; column < linkColumn(); ++column) {
         if (!isUseColumn(column)) {
-            BaseGrd->setItem(row, column, new QTableWidgetItem);
+            setCellText(row, column, QString());
         }
     }
     setLink(row);

@@ -4,6 +4,7 @@
 // an appended row change the shop's list at once. A panel owns it.
 #pragma once
 
+#include "editors/catalogue/CellContent.h"
 #include "model/ProductClass.h"
 
 #include <QLineEdit>
@@ -29,6 +30,10 @@ public:
     QTableWidget* BaseGrd;
     QLineEdit* ForGridTxt;
     LinkLabel* AddItemButtonLbl;
+
+    // What the columns of text should hold, from the first on; the last one stands for all behind it. To be called
+    // before the grid is filled; without it all are plain texts.
+    void setContents(std::vector<CellContent> contents);
 
     // Fills the grid from the shop's charges.
     void InitForCharges();
@@ -64,6 +69,9 @@ private:
     int linkColumn() const { return BaseGrd->columnCount() - 1; }
     bool isUseColumn(int column) const;
     QString cellText(int row, int column) const;
+    CellContent contentOf(int column) const;
+    // Marks a text that is not what its column should hold.
+    void setCellText(int row, int column, const QString& text);
 
     void prepare(const QString& tag, const QStringList& titles, int rows);
     void arrangeColumns();
@@ -78,9 +86,11 @@ private:
     void addItem();
     void openEditor(int row, int column);
     void placeEditor();
+    void markEditor();
     void moveEditor(int step);
     bool gridKey(const QKeyEvent& key);
 
     PanelHost& m_host;
     QString m_tag;
+    std::vector<CellContent> m_contents = {CellContent::Text};
 };

@@ -1,6 +1,8 @@
 // The grid's editor over a cell, and its keys.
 #include "editors/SecondPress.h"
 #include "editors/catalogue/CustomGrid.h"
+#include "editors/catalogue/GridPictures.h"
+#include "look/FieldPainting.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -11,6 +13,7 @@ void CustomGrid::openEditor(int row, int column)
     BaseGrd->scrollToItem(BaseGrd->item(row, column));
     ForGridTxt->setText(cellText(row, column));
     ForGridTxt->setAccessibleDescription(BaseGrd->horizontalHeaderItem(column)->text());
+    markEditor();
     ForGridTxt->show();
     placeEditor();
     ForGridTxt->setFocus();
@@ -21,6 +24,16 @@ void CustomGrid::placeEditor()
     if (!ForGridTxt->isHidden() && BaseGrd->currentItem()) {
         ForGridTxt->setGeometry(BaseGrd->visualItemRect(BaseGrd->currentItem()));
     }
+}
+
+// A text that has only begun is not marked while it is empty.
+void CustomGrid::markEditor()
+{
+    const QTableWidgetItem* cell = BaseGrd->currentItem();
+    const bool isMarked = cell->data(MarkedRole).toBool() && !ForGridTxt->text().isEmpty();
+    ForGridTxt->setProperty(refusedProperty, isMarked);
+    ForGridTxt->setToolTip(isMarked ? cell->toolTip() : QString());
+    ForGridTxt->update();
 }
 
 // To the next or the former cell of text; at either end the editor closes.

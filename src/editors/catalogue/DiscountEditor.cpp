@@ -98,6 +98,7 @@ void DiscountEditor::makeDates(PanelFrame* frame)
 void DiscountEditor::makeBands(PanelFrame* frame)
 {
     DiscountGrd = named(new CustomGrid(m_host, frame), "DiscountGrd", u"Discount by product price"_s);
+    DiscountGrd->setContents({CellContent::Limit, CellContent::Limit, CellContent::NormalisedNumber});
     QVBoxLayout* column = frame->addColumn(u"Discount by product price"_s, PanelFrame::Height::Rest);
     column->addWidget(DiscountGrd, 1);
     m_bandsGroup = column->parentWidget();

@@ -1,5 +1,9 @@
 #include "editors/catalogue/GridPictures.h"
 
+#include "look/Measures.h"
+#include "look/Paint.h"
+#include "look/Tones.h"
+
 #include <QIcon>
 #include <QPixmapCache>
 #include <QStyledItemDelegate>
@@ -20,6 +24,17 @@ class GridDelegate : public QStyledItemDelegate
 {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        if (index.data(MarkedRole).toBool()) {
+            // Inside the ring of the focus, so that both show.
+            const int inset = option.state.testFlag(QStyle::State_HasFocus) ? Measure::Ring : 0;
+            const QRect room = option.rect.adjusted(inset, inset, -inset, -inset - Measure::Hairline);
+            drawRing(*painter, room, 0, Measure::Ring, tone(Tone::Error));
+        }
+    }
 
 protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override

@@ -12,6 +12,7 @@ ProductsMultipricePanel::ProductsMultipricePanel(PanelHost& host, QWidget* paren
     : CataloguePanel(host, u"Multiple prices"_s, parent)
 {
     MultipriceGrd = named(new CustomGrid(host, m_frame), "MultipriceGrd", u"Multiple prices"_s);
+    MultipriceGrd->setContents({CellContent::Text, CellContent::Number});
     m_frame->addColumn(u"Prices of the product's variants"_s, PanelFrame::Height::Rest)->addWidget(MultipriceGrd, 1);
     m_frame->addButtons(host);
 }

@@ -42,6 +42,7 @@ ShopShippingCostsPanel::ShopShippingCostsPanel(PanelHost& host, QWidget* parent)
     : CataloguePanel(host, u"Shipping costs"_s, parent)
 {
     ShippingGrd = named(new CustomGrid(host, m_frame), "ShippingGrd", u"Shipping costs by weight"_s);
+    ShippingGrd->setContents({CellContent::Number});
     m_frame->addColumn(u"Costs by weight and shipping type"_s, PanelFrame::Height::Rest)->addWidget(ShippingGrd, 1);
 }
 

@@ -29,6 +29,7 @@ ShopTaxesPanel::ShopTaxesPanel(PanelHost& host, QWidget* parent) : CataloguePane
     optNoTax = newOption("optNoTax", u"No taxes"_s, m_frame);
     optSelectTax = newOption("optSelectTax", u"Charge the taxes ticked below"_s, m_frame);
     TaxGrd = named(new CustomGrid(host, m_frame), "TaxGrd", u"Taxes"_s);
+    TaxGrd->setContents({CellContent::Text, CellContent::NormalisedNumber});
 
     QVBoxLayout* choice = m_frame->addColumn(u"Use of taxes"_s);
     choice->addWidget(optNoTax);

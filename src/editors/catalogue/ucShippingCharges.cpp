@@ -14,6 +14,7 @@ ucShippingCharges::ucShippingCharges(PanelHost& host, QWidget* parent)
     cmbNoCharges = newOption("cmbNoCharges", u"No shipping charges"_s, m_frame);
     cmbSelectCharges = newOption("cmbSelectCharges", u"Add the charges ticked below"_s, m_frame);
     gridCharges = named(new CustomGrid(host, m_frame), "gridCharges", u"Shipping charges"_s);
+    gridCharges->setContents({CellContent::Text, CellContent::Number});
 
     QVBoxLayout* choice = m_frame->addColumn(u"Use of shipping charges"_s);
     choice->addWidget(cmbNoCharges);

@@ -9,6 +9,9 @@
 #include <QPlainTextEdit>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QWheelEvent>
+
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -135,6 +138,30 @@ TEST_F(Layout, NamesEveryFieldAndGroup)
             }
         }
     });
+}
+
+TEST_F(Layout, ScrollsThePanelUnderTheWheelOverANumberField)
+{
+    window->resize(900, 420);
+    for (const auto& [panel, node, field] : {std::tuple{"ProductGeneralPnl", "ID4", "ProductPriceTxt"},
+                                             std::tuple{"ShopDiscountPnl", "ID_SHOP", "ApplyTxt"}}) {
+        clickNode(QLatin1String(node));
+        showPanel(panel);
+        QCoreApplication::processEvents();
+        auto* number = in<QLineEdit>(field);
+        auto* scrolled = window->VisibleFrame->findChild<QScrollArea*>();
+        scrolled->ensureWidgetVisible(number);
+        const QString text = number->text();
+        const int before = scrolled->verticalScrollBar()->value();
+        ASSERT_GT(scrolled->verticalScrollBar()->maximum(), 0) << panel;
+        const int way = before == 0 ? -120 : 120;
+        QWheelEvent wheel(QPointF(5, 5), number->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, way), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QSpontaneKeyEvent::setSpontaneous(&wheel); // only such go on to the widgets around
+        qApp->notify(number, &wheel); // sendEvent would take that back
+        EXPECT_NE(scrolled->verticalScrollBar()->value(), before) << panel;
+        EXPECT_EQ(number->text(), text);
+    }
 }
 
 TEST_F(Layout, LetsTheTabKeyFollowTheEye)
