@@ -20,4 +20,7 @@ public:
     virtual void SaveActiveObject() = 0;
     // Forgets the object.
     virtual void ClearActiveObject() = 0;
+
+    // Gives the focus to the object's name with all of it selected, in a panel that has a field for it.
+    virtual void selectName() {}
 };

@@ -58,9 +58,9 @@ void addField(QFormLayout* form, const QString& label, QWidget* field, const cha
     form->addRow(captionOf(label, field), field);
 }
 
-void setAside(const QFormLayout* form, QWidget* aside)
+void setAside(const QLayout* group, QWidget* aside)
 {
-    qobject_cast<Section*>(form->parentWidget())->setAside(aside);
+    qobject_cast<Section*>(group->parentWidget())->setAside(aside);
 }
 
 QLineEdit* textField(QWidget* parent)

@@ -6,6 +6,7 @@
 
 class QFormLayout;
 class QLabel;
+class QLayout;
 class QLineEdit;
 class QRadioButton;
 class QVBoxLayout;
@@ -34,8 +35,8 @@ QLabel* captionOf(const QString& label, QWidget* field);
 // Appends a field under its name, with its label.
 void addField(QFormLayout* form, const QString& label, QWidget* field, const char* name);
 
-// Puts something small to the right end of the heading of a form's group.
-void setAside(const QFormLayout* form, QWidget* aside);
+// Puts something small to the right end of the heading of a panel's group, whose layout it is given.
+void setAside(const QLayout* group, QWidget* aside);
 
 // How wide a field is whose text has an end; names, links and descriptions get all the room. In pixels.
 namespace FieldWidth {

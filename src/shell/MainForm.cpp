@@ -177,6 +177,9 @@ void MainForm::ShowFrame(Panel* ActiveFrame, qint16 Code)
     ActiveFrame->SetActiveObject(ActiveObject);
     VisibleFrame = ActiveFrame;
     markCurrentButtons();
+    if (Code == PanelCode::NewCategory || Code == PanelCode::NewProduct) {
+        ActiveFrame->selectName();
+    }
 }
 
 void MainForm::ShowToolbar(QFrame* toolbar)

@@ -7,6 +7,7 @@
 #include "shell/ShortcartButton.h"
 #include "support/WindowTest.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -143,6 +144,25 @@ TEST_F(Catalogue, GetsANewCategoryBelowACategory)
     // After its siblings, whatever their kind.
     EXPECT_EQ(selected()->parent->children.back().get(), selected());
     EXPECT_EQ(selected()->parent->children.size(), 3U);
+}
+
+TEST_F(Catalogue, WaitsForTheNameOfWhatIsNew)
+{
+    const auto nameField = [this](const char* field) {
+        const auto* name = window->VisibleFrame->findChild<QLineEdit*>(QLatin1String(field));
+        return name && name->hasFocus() ? name->selectedText() : QString();
+    };
+    click("ShopNewCategorySBtn");
+    EXPECT_EQ(nameField("CategoryNameTxt"), u"New Category"_s);
+    clickNode(u"ID2"_s);
+    EXPECT_EQ(nameField("CategoryNameTxt"), QString()) << "a click on a node leaves the focus with the tree";
+    trigger("mnuAddCategory");
+    EXPECT_EQ(nameField("CategoryNameTxt"), u"New Category"_s);
+    clickNode(u"ID2"_s);
+    click("NewProductSBtn");
+    EXPECT_EQ(nameField("ProductNameTxt"), u"New Product"_s);
+    QTest::keyClicks(QApplication::focusWidget(), u"Cup"_s);
+    EXPECT_EQ(selected()->text, u"Cup"_s);
 }
 
 TEST_F(Catalogue, TakesADoubleClickOnAToolbarButtonForOneClick)

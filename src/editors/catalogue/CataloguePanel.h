@@ -39,6 +39,14 @@ public:
         forget();
     }
 
+    void selectName() final
+    {
+        if (m_nameField) {
+            m_nameField->setFocus();
+            m_nameField->selectAll();
+        }
+    }
+
 protected:
     // The host must outlive the panel.
     CataloguePanel(PanelHost& host, const QString& heading, QWidget* parent)
@@ -51,9 +59,10 @@ protected:
     // Drops what the controls hold of the object.
     virtual void forget() {}
 
-    // Shows the name in the tree, at the node with the object's key, while it is typed.
-    void mirrorName(QLineEdit* field, QString (*keyOf)(const Class& object))
+    // Tells which field holds the object's name. The tree shows it at the node with the object's key while it is typed.
+    void setNameField(QLineEdit* field, QString (*keyOf)(const Class& object))
     {
+        m_nameField = field;
         connectGuarded(m_host.errorHandler(), field, &QLineEdit::textEdited, this, [this, keyOf](const QString& text) {
             if (m_object) {
                 m_host.setNodeText(keyOf(*m_object), text);
@@ -64,4 +73,7 @@ protected:
     PanelHost& m_host;
     PanelFrame* m_frame;
     std::shared_ptr<Class> m_object; // none while the panel is not bound
+
+private:
+    QLineEdit* m_nameField = nullptr;
 };

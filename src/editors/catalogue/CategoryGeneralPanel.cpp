@@ -25,7 +25,7 @@ CategoryGeneralPanel::CategoryGeneralPanel(PanelHost& host, QWidget* parent)
     m_frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);
     m_frame->addButtons(host);
 
-    mirrorName(CategoryNameTxt, [](const CategoryClass& category) { return nodeKey(category.id); });
+    setNameField(CategoryNameTxt, [](const CategoryClass& category) { return nodeKey(category.id); });
 }
 
 void CategoryGeneralPanel::fill(CategoryClass& category)

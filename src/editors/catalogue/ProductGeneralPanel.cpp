@@ -38,7 +38,7 @@ ProductGeneralPanel::ProductGeneralPanel(PanelHost& host, QWidget* parent)
     m_frame->addColumn(u"Picture"_s)->addWidget(BrowseImageControl1);
     m_frame->addButtons(host);
 
-    mirrorName(ProductNameTxt, [](const ProductClass& product) { return nodeKey(product.id); });
+    setNameField(ProductNameTxt, [](const ProductClass& product) { return nodeKey(product.id); });
 }
 
 void ProductGeneralPanel::addPriceRow(QFormLayout* form)

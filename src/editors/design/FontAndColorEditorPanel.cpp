@@ -130,6 +130,7 @@ void FontAndColorEditorPanel::makeColourRow(PanelHost& host)
         button->setObjectName(QLatin1String(name));
         button->setAccessibleName(accessibleName);
         button->setIconSize(SwatchIconSize);
+        button->setAutoDefault(false); // Enter stays with the dialog's button
         qobject_cast<QFormLayout*>(Frame1->layout())->addRow(caption, button);
         connectGuarded(host.errorHandler(), button, &QPushButton::clicked, this, [this, &host, &colour, set] {
             std::optional<int> chosen = host.session().prompts.chooseColour(colourNumberOf(colour));

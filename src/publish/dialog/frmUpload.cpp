@@ -10,6 +10,7 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -17,6 +18,12 @@
 #include <array>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int leastTarget = 24; // pixels that can be pressed
+
+} // namespace
 
 frmUpload::frmUpload(const ApplicationFolder& folder, UserPrompts& prompts, FatalErrorHandler& errors,
                      const OpenUrl& openUrl, QWidget* parent)
@@ -34,7 +41,6 @@ frmUpload::frmUpload(const ApplicationFolder& folder, UserPrompts& prompts, Fata
 
     connectGuarded(m_errors, OkBtn, &QPushButton::clicked, this, [this] { m_run.start(); });
     connectGuarded(m_errors, CancelBtn, &QPushButton::clicked, this, &frmUpload::reject);
-    connectGuarded(m_errors, lblSignUp, &QLabel::linkActivated, this, &frmUpload::openSignUpPage);
     lblSignUp->installEventFilter(this);
 }
 
@@ -84,6 +90,7 @@ void frmUpload::makeControls()
         VendorAddresses::SignUp(), u"Don't have login and password. Sign up here"_s.toHtmlEscaped()));
     lblSignUp->setTextInteractionFlags(Qt::LinksAccessibleByMouse);
     lblSignUp->setFocusPolicy(Qt::TabFocus);
+    lblSignUp->setMinimumHeight(leastTarget);
     lblSignUp->setAccessibleName(u"Don't have login and password. Sign up here"_s);
 }
 
@@ -174,7 +181,7 @@ void frmUpload::closeEvent(QCloseEvent* event)
 
 bool frmUpload::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == lblSignUp && signUpKeyPressed(event)) {
+    if (watched == lblSignUp && signUpPressed(event)) {
         return true;
     }
     // The program ends while the dialog waits: it is told to quit, or the main window has gone.
@@ -187,8 +194,9 @@ bool frmUpload::eventFilter(QObject* watched, QEvent* event)
     return QDialog::eventFilter(watched, event);
 }
 
-// The link by keyboard: it shows that it has the focus, and Space opens it. Enter belongs to OkBtn.
-bool frmUpload::signUpKeyPressed(QEvent* event)
+// The link takes a press anywhere on its label. It shows that it has the focus, and Space opens it; Enter belongs to
+// OkBtn.
+bool frmUpload::signUpPressed(QEvent* event)
 {
     switch (event->type()) {
     case QEvent::FocusIn:
@@ -197,6 +205,13 @@ bool frmUpload::signUpKeyPressed(QEvent* event)
     case QEvent::FocusOut:
         lblSignUp->setSelection(0, 0);
         return false;
+    case QEvent::MouseButtonRelease: {
+        const auto& release = *static_cast<QMouseEvent*>(event);
+        if (release.button() == Qt::LeftButton && lblSignUp->rect().contains(release.position().toPoint())) {
+            guarded(m_errors, [this] { openSignUpPage(); });
+        }
+        return true;
+    }
     case QEvent::KeyPress:
         if (static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space) {
             guarded(m_errors, [this] { openSignUpPage(); });

@@ -57,7 +57,7 @@ private:
     void layOutControls();
     void fillFromLog();
     void abandonTransfer();
-    bool signUpKeyPressed(QEvent* event);
+    bool signUpPressed(QEvent* event);
     void openSignUpPage();
 
     ApplicationFolder m_folder;

@@ -158,7 +158,7 @@ TEST_F(Layout, ScrollsThePanelUnderTheWheelOverANumberField)
         QWheelEvent wheel(QPointF(5, 5), number->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, way), Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
         QSpontaneKeyEvent::setSpontaneous(&wheel); // only such go on to the widgets around
-        qApp->notify(number, &wheel); // sendEvent would take that back
+        qApp->notify(number, &wheel);              // sendEvent would take that back
         EXPECT_NE(scrolled->verticalScrollBar()->value(), before) << panel;
         EXPECT_EQ(number->text(), text);
     }

@@ -50,6 +50,55 @@ TEST_F(ShopPanels, WriteEveryCheckedCountryUnderItsName)
     EXPECT_EQ(in<QListWidget>("lstCountries")->item(0)->checkState(), Qt::Unchecked);
 }
 
+TEST_F(ShopPanels, HideTheCountriesThatTheFilterDoesNotName)
+{
+    auto* list = in<QListWidget>("lstCountries");
+    const auto shown = [list] {
+        QStringList names;
+        for (int row = 0; row < list->count(); ++row) {
+            if (!list->isRowHidden(row)) {
+                names << list->item(row)->text();
+            }
+        }
+        return names;
+    };
+    list->item(0)->setCheckState(Qt::Checked);
+    type("CountriesFilterTxt", u"al"_s);
+    EXPECT_EQ(shown(), QStringList{u"Malta"_s});
+    type("CountriesFilterTxt", u" NOR "_s);
+    EXPECT_EQ(shown(), QStringList{u"Norway"_s});
+    submit(); // Norway stays checked, and no other is
+    ASSERT_EQ(shop().SelectedCountries->Count(), 1);
+    EXPECT_EQ(shop().SelectedCountries->Item(1), u"Norway"_s);
+    press("lblCheckAll");
+    submit();
+    ASSERT_EQ(shop().SelectedCountries->Count(), 3) << "the hidden ones belong to all";
+    EXPECT_EQ(shop().SelectedCountries->Item(2), u"Iceland"_s);
+    type("CountriesFilterTxt", QString());
+    EXPECT_EQ(shown(), (QStringList{u"Norway"_s, u"Iceland"_s, u"Malta"_s}));
+    type("CountriesFilterTxt", u"al"_s);
+    clickNode(u"ID2"_s);
+    clickNode(u"ID_SHOP"_s);
+    EXPECT_EQ(shown().size(), 3) << "a filter is not kept for later";
+}
+
+TEST_F(ShopPanels, TellHowManyCountriesAreChecked)
+{
+    auto* list = in<QListWidget>("lstCountries");
+    auto* count = in<QLabel>("CountriesCountLbl");
+    EXPECT_EQ(count->text(), u"0 of 3 checked"_s);
+    const QRect box = list->visualItemRect(list->item(1));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, QPoint(box.left() + 10, box.center().y()));
+    EXPECT_EQ(count->text(), u"1 of 3 checked"_s);
+    type("CountriesFilterTxt", u"al"_s);
+    press("lblCheckAll");
+    EXPECT_EQ(count->text(), u"3 of 3 checked"_s);
+    press("lblClearAll");
+    EXPECT_EQ(count->text(), u"0 of 3 checked"_s);
+    reset();
+    EXPECT_EQ(count->text(), u"0 of 3 checked"_s);
+}
+
 TEST_F(ShopPanels, ThrowAwayWhatWasNotSubmittedOnReset)
 {
     type("txtCurrency", u"EUR"_s);

@@ -274,6 +274,13 @@ TEST_F(frmUploadTest, TheLinkOpensTheSignUpPageByClickAndByKey)
     EXPECT_EQ(server.startedRequests, 0);
 }
 
+TEST_F(frmUploadTest, TheLinkTakesAPressAtItsUpperEdge)
+{
+    open();
+    QTest::mouseClick(find<QLabel>("lblSignUp"), Qt::LeftButton, Qt::NoModifier, QPoint(20, 1));
+    EXPECT_EQ(openedUrls.size(), 1);
+}
+
 TEST_F(frmUploadTest, QuittingTheProgramDuringAWaitWorks)
 {
     server.handler = [](QTcpSocket&, const RawServer::Request&) {};

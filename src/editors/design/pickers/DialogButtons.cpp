@@ -14,6 +14,7 @@ DialogButtons makeDialogButtons(QWidget* parent)
     };
     DialogButtons buttons{new QHBoxLayout, button("OkBtn", u"OK"_s), button("CancelBtn", u"Cancel"_s)};
     buttons.OkBtn->setDefault(true);
+    buttons.CancelBtn->setAutoDefault(false); // Enter stays with OkBtn
     buttons.row->addStretch(1);
     buttons.row->addWidget(buttons.OkBtn);
     buttons.row->addWidget(buttons.CancelBtn);

@@ -24,6 +24,7 @@ PicturesList::PicturesList(PanelHost& host, QWidget* parent)
     const QStringList fileList = QDir(host.session().folder.picturesFolder())
                                      .entryList(QDir::Files, QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
     lstImages->addItems(fileList);
+    AddBttn->setAutoDefault(false); // Enter stays with the dialog's button
     lstImages->setUniformItemSizes(true);
     lstImages->setSpacing(1);
     imgPreview->setMinimumSize(220, 180);

@@ -17,6 +17,7 @@ ucSelectImage::ucSelectImage(PanelHost& host, QWidget* parent)
       CancelBtn(named(new QPushButton(u"Cancel"_s, this), "CancelBtn", u"Cancel"_s))
 {
     OkBtn->setDefault(true);
+    CancelBtn->setAutoDefault(false); // Enter stays with OkBtn
     auto* buttons = new QHBoxLayout;
     buttons->addStretch(1);
     buttons->addWidget(OkBtn);
