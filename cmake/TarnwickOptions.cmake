@@ -11,7 +11,10 @@ target_compile_definitions(tarnwick_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH
   QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 
-# Symbols are bound at the start and their tables cannot be written to afterwards.
+# What is shipped checks its buffers and its stack, binds its symbols at the start, after which their tables cannot be
+# written to, and is the same in whatever folder it was built.
+target_compile_options(tarnwick_options INTERFACE "$<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2;-fstack-protector-strong>"
+  "$<$<CONFIG:Release>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>")
 target_link_options(tarnwick_options INTERFACE "$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
 
 if(TARNWICK_SANITIZE)
