@@ -34,7 +34,7 @@ FindLine::FindLine(CatalogueTree& tree, CodeOf codeOf, FatalErrorHandler& errors
     row->setSpacing(Measure::Gap);
     row->addWidget(m_text, 1);
     row->addWidget(m_count);
-    setFocusProxy(m_text);
+    setTabOrder(&m_tree, m_text);
     hide();
 
     connectGuarded(errors, m_text, &QLineEdit::textChanged, this, &FindLine::count);

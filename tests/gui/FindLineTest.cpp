@@ -62,6 +62,15 @@ TEST_F(Find, OpensAtTheFootOfTheTreeAndGivesTheRoomBack)
     EXPECT_TRUE(tree()->hasFocus());
 }
 
+TEST_F(Find, StandsBehindTheTreeForTab)
+{
+    ask({});
+    QTest::keyClick(field(), Qt::Key_Tab, Qt::ShiftModifier);
+    EXPECT_TRUE(tree()->hasFocus());
+    QTest::keyClick(tree(), Qt::Key_Tab);
+    EXPECT_TRUE(field()->hasFocus());
+}
+
 TEST_F(Find, ComesBackWithItsTextSelected)
 {
     ask(u"cup"_s);

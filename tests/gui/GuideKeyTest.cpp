@@ -49,7 +49,7 @@ protected:
 TEST_F(GuideKey, OpensThePageOfThePanelOnScreen)
 {
     makeGuide();
-    EXPECT_EQ(opened(), u"first-shop.html"_s);
+    EXPECT_EQ(opened(), u"catalogue.html"_s);
     click("ShopDiscountSBtn");
     EXPECT_EQ(opened(), u"discounts.html"_s);
     click("ShopDesignSBtn");
@@ -64,7 +64,7 @@ TEST_F(GuideKey, OpensThePageOfThePanelOnScreen)
 TEST_F(GuideKey, SaysInABoxWhereTheGuideIsMissing)
 {
     prompts.expectMessage(u"Ambrel eCommerce Software"_s,
-                          u"The guide cannot be opened:\n"_s + files.path(u"guide/first-shop.html"_s));
+                          u"The guide cannot be opened:\n"_s + files.path(u"guide/catalogue.html"_s));
     EXPECT_EQ(opened(), QString());
 }
 

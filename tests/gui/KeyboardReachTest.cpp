@@ -8,6 +8,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialog>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -16,6 +17,9 @@
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -55,32 +59,33 @@ protected:
                widget->accessibleName().toStdString();
     }
 
-    // All that Tab leads to, from the tree or from the first button of the design until it is there again. Each one's
-    // picture with the focus differs from the one without.
-    QSet<QWidget*> walkByTab()
+    // All that Tab leads to in a window, from where the focus is until it is there again. Each one's picture with the
+    // focus differs from the one without.
+    static QSet<QWidget*> walkByTab(const QWidget& window)
     {
         QSet<QWidget*> reached;
         for (int step = 0; step < 300; ++step) {
-            QWidget* here = window->focusWidget();
+            QWidget* here = window.focusWidget();
             if (!here || reached.contains(here)) {
                 break;
             }
             reached.insert(here);
             const QImage focused = here->grab().toImage();
             QTest::keyClick(here, Qt::Key_Tab);
-            if (window->focusWidget() == here) { // a template takes the Tab itself, and its search leads on
+            if (window.focusWidget() == here) { // a template takes the Tab itself, and its search leads on
                 QTest::keyClick(here, Qt::Key_F, Qt::ControlModifier);
             }
-            EXPECT_NE(window->focusWidget(), here) << nameOf(here) << " lets nobody out";
+            EXPECT_NE(window.focusWidget(), here) << nameOf(here) << " lets nobody out";
             EXPECT_TRUE(here->grab().toImage() != focused) << nameOf(here) << " does not show the focus";
         }
         return reached;
     }
-    void expectAllReached()
+    void expectAllReached(const QWidget& within)
     {
-        const QSet<QWidget*> reached = walkByTab();
-        for (QWidget* widget : window->findChildren<QWidget*>()) {
-            if (!isControl(widget) || !widget->isVisible() || !widget->isEnabled() || isMainButton(widget)) {
+        const QSet<QWidget*> reached = walkByTab(within);
+        for (QWidget* widget : within.findChildren<QWidget*>()) {
+            if (!isControl(widget) || !widget->isVisible() || !widget->isEnabled() || isMainButton(widget) ||
+                widget->window() != &within) {
                 continue;
             }
             bool isReached = reached.contains(widget);
@@ -92,6 +97,29 @@ protected:
             EXPECT_TRUE(isReached) << nameOf(widget) << " is out of reach";
             ++controls;
         }
+    }
+
+    // Opens a dialog, looks at it, and closes it.
+    void expectAllReachedInDialog(const char* name, const std::function<void()>& open)
+    {
+        SCOPED_TRACE(name);
+        int dialogs = 0;
+        QTimer::singleShot(0, window.get(), [&] {
+            for (QWidget* shown : QApplication::topLevelWidgets()) {
+                auto* dialog = qobject_cast<QDialog*>(shown);
+                if (dialog && dialog->isVisible()) {
+                    ++dialogs;
+                    EXPECT_EQ(dialog->objectName(), QLatin1String(name));
+                    dialog->activateWindow();
+                    QCoreApplication::processEvents();
+                    expectAllReached(*dialog);
+                    dialog->reject();
+                }
+            }
+        });
+        open();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(dialogs, 1);
     }
 
     int controls = 0;
@@ -108,7 +136,7 @@ TEST_F(KeyboardReach, IsEverythingInTheCatalogue)
                 SCOPED_TRACE(button->objectName().toStdString());
                 click(button->objectName().toLatin1().constData());
                 window->parts().CategoriesAndProductsTree->setFocus(Qt::TabFocusReason);
-                expectAllReached();
+                expectAllReached(*window);
             }
         }
     }
@@ -126,16 +154,34 @@ TEST_F(KeyboardReach, IsEverythingInTheDesign)
             tabs->setCurrentIndex(tab);
             QCoreApplication::processEvents();
             find("MainPageDesignSBtn")->setFocus(Qt::TabFocusReason);
-            expectAllReached();
+            expectAllReached(*window);
         }
     }
     EXPECT_GT(controls, 400);
 }
 
+TEST_F(KeyboardReach, IsEverythingInTheDialogs)
+{
+    const auto pressInPanel = [this](const char* name) {
+        auto* button = window->VisibleFrame->findChild<QAbstractButton*>(QLatin1String(name));
+        ASSERT_NE(button, nullptr) << name;
+        button->click();
+    };
+    expectAllReachedInDialog("frmUpload", [this] { trigger("mnuUpload"); });
+    clickNode(u"ID2"_s);
+    expectAllReachedInDialog("frmSelectImage", [&] { pressInPanel("BrowseBtnLbl"); });
+    click("ShopDesignSBtn");
+    click("HeaderDesignSBtn");
+    expectAllReachedInDialog("CSSManagementForm", [&] { pressInPanel("btnCSS_general_header"); });
+    expectAllReachedInDialog("frmSelectImageOrText", [&] { pressInPanel("lblLogo"); });
+    expectAllReachedInDialog("frmSelectedCustomPages", [&] { pressInPanel("lblSelectedCustomPageBttn"); });
+    EXPECT_GT(controls, 20);
+}
+
 TEST_F(KeyboardReach, IsTheLineThatFinds)
 {
     QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
-    expectAllReached();
+    expectAllReached(*window);
 }
 
 TEST_F(KeyboardReach, AreTheWidthsOfThePreview)

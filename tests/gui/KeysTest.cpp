@@ -154,6 +154,33 @@ TEST_F(Keys, OpenThePopUpOfTheTreeAtTheCurrentRow)
     EXPECT_FALSE(menu->isVisible());
 }
 
+TEST_F(Keys, TakeEachCommandOfThePopUp)
+{
+    const auto take = [this](const char* node, const char* entry) {
+        clickNode(QLatin1String(node));
+        tree()->setFocus();
+        press(tree(), Qt::Key_F10, Qt::ShiftModifier);
+        auto* menu = find<QMenu>("mnuPopUp");
+        ASSERT_TRUE(menu->isVisible());
+        for (int key = 0; key < 10 && menu->activeAction() != find<QAction>(entry); ++key) {
+            press(menu, Qt::Key_Down, Qt::NoModifier);
+        }
+        press(menu, Qt::Key_Return, Qt::NoModifier);
+    };
+    take("ID_SHOP", "mnuAddCategory");
+    EXPECT_EQ(window->SelectedNode->text, u"New Category"_s);
+    take("ID2", "mnuAddProduct");
+    EXPECT_EQ(window->SelectedNode->text, u"New Product"_s);
+    take("ID4", "mnuDuplicateProduct");
+    EXPECT_EQ(window->SelectedNode->text, u"Sencha copy"_s);
+    prompts.answerYesNo(u"Warning"_s, u"Are you sure you want to remove this product"_s, true);
+    take("ID4", "mnuRemoveProduct");
+    EXPECT_EQ(tree()->nodes().nodeWithKey(u"ID4"_s), nullptr);
+    prompts.answerYesNo(u"Warning"_s, u"Are you sure you want to remove this category"_s, true);
+    take("ID2", "mnuRemoveCategory");
+    EXPECT_EQ(tree()->nodes().nodeWithKey(u"ID2"_s), nullptr);
+}
+
 TEST(KeysOfTheGuide, AreAllThatTheWindowHas)
 {
     const QString page = QString::fromUtf8(fileBytes(QStringLiteral(TARNWICK_SOURCE_DIR "/docs/guide/keys.md")));
