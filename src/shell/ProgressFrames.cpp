@@ -1,6 +1,12 @@
 #include "shell/ProgressFrames.h"
 
+#include "look/Measures.h"
+#include "look/Paint.h"
+#include "look/Tones.h"
+#include "look/WordLabel.h"
+
 #include <QCoreApplication>
+#include <QPainter>
 #include <QThread>
 #include <QVBoxLayout>
 
@@ -29,10 +35,8 @@ void ShortProgressBar::run()
 }
 
 CaptionedProgress::CaptionedProgress(const QString& caption, QWidget* parent)
-    : QFrame(parent), Label1(new QLabel(caption, this)), m_bar(new QProgressBar(this))
+    : QFrame(parent), Label1(new WordLabel(WordLabel::Kind::Heading, caption, this)), m_bar(new QProgressBar(this))
 {
-    setFrameShape(QFrame::StyledPanel);
-    setAutoFillBackground(true);
     m_bar->setAccessibleName(caption);
     m_bar->setRange(0, 100);
     m_bar->setTextVisible(false);
@@ -44,6 +48,14 @@ CaptionedProgress::CaptionedProgress(const QString& caption, QWidget* parent)
     layout->addWidget(m_bar);
     resize(qMax(420, sizeHint().width()), sizeHint().height());
     hide();
+}
+
+// It lies over other things, so its edge is one that is seen on all of them.
+void CaptionedProgress::paintEvent(QPaintEvent* /*event*/)
+{
+    QPainter painter(this);
+    fillRounded(painter, rect(), Measure::Radius, tone(Tone::Chrome));
+    drawRing(painter, rect(), Measure::Radius, Measure::Hairline, tone(Tone::Edge));
 }
 
 SaveFrame::SaveFrame(QWidget* parent) : CaptionedProgress(u"Saving the shop"_s, parent)

@@ -27,6 +27,8 @@ public:
     CaptionedProgress(const QString& caption, QWidget* parent);
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
+
     QLabel* Label1;
     QProgressBar* m_bar;
 };

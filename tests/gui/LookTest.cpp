@@ -92,6 +92,18 @@ TEST_F(Look, PutsTheBarOfAClickOverTheBottomLineFromTheStart)
     EXPECT_EQ(find("PrBar")->x(), 5);
 }
 
+TEST_F(Look, GivesTheFrameOfASaveAnEdgeThatIsSeenInBothLooks)
+{
+    auto* frame = find<QFrame>("SaveProgressFrame");
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        showScheme(scheme);
+        QCoreApplication::processEvents();
+        const QImage shown = frame->grab().toImage();
+        EXPECT_EQ(shown.pixelColor(shown.width() / 2, 0), toneIn(scheme, Tone::Edge));
+        EXPECT_EQ(shown.pixelColor(8, shown.height() / 2), toneIn(scheme, Tone::Chrome));
+    }
+}
+
 TEST(LookSheet, SaysTheColoursThatTheCodeHas)
 {
     const QString sheet = QString::fromUtf8(fileBytes(QStringLiteral(TARNWICK_SOURCE_DIR "/docs/look.md")));
