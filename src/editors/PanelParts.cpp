@@ -48,7 +48,11 @@ QLabel* captionOf(const QString& label, QWidget* field)
 {
     QLabel* caption = newCaption(label, field);
     caption->setMinimumWidth(leastLabelColumn - Measure::Wide);
-    caption->setFixedHeight(controlHeight(caption->fontMetrics())); // on the middle of the field, or of its first line
+    // On the middle of the field, or of its first line. A caption of a fixed height would keep its field from growing.
+    const QFontMetrics metrics = caption->fontMetrics();
+    caption->setMinimumHeight(controlHeight(metrics));
+    caption->setContentsMargins(0, (controlHeight(metrics) - metrics.height()) / 2, 0, 0);
+    caption->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     return caption;
 }
 

@@ -61,6 +61,8 @@ void ProductShippingCostsPanel::addPair()
     label->setTextFormat(Qt::PlainText);
     label->setBuddy(box);
     m_costForm->addRow(label, box);
+    label->show(); // else the layout counts them one turn of the event loop later
+    box->show();
     m_costs.push_back({label, box});
 }
 

@@ -73,6 +73,28 @@ protected:
         widgets.removeIf([](const Widget* widget) { return !widget->isVisible(); });
         return widgets;
     }
+    static void expectNothingClipped(const Panel& panel, double scale)
+    {
+        EXPECT_FALSE(panel.findChild<QScrollArea*>()->horizontalScrollBar()->isVisible()) << scale;
+        for (const QLabel* label : shown<QLabel>(panel)) {
+            if (!label->wordWrap()) {
+                EXPECT_GE(label->width(), label->sizeHint().width()) << scale << label->text().toStdString();
+            }
+            EXPECT_GE(label->height(), label->heightForWidth(label->width())) << scale << nameOf(label);
+        }
+        for (const QAbstractButton* button : shown<QAbstractButton>(panel)) {
+            if (!button->text().isEmpty()) {
+                EXPECT_GE(button->width(), button->sizeHint().width()) << scale << nameOf(button);
+                EXPECT_GE(button->height(), button->sizeHint().height()) << scale << nameOf(button);
+            }
+        }
+        for (const QLineEdit* field : shown<QLineEdit>(panel)) {
+            if (field->objectName() != u"ForGridTxt"_s) {
+                EXPECT_GE(field->height(), field->minimumSizeHint().height()) << scale << nameOf(field);
+                EXPECT_GE(field->width(), field->fontMetrics().horizontalAdvance(u"12345"_s) + 8) << nameOf(field);
+            }
+        }
+    }
     static std::string nameOf(const QWidget* widget)
     {
         return (QLatin1String(widget->metaObject()->className()) + u' ' + widget->objectName()).toStdString();
@@ -88,29 +110,46 @@ TEST_F(Layout, ClipsNothingWithLettersOfAnySize)
         QApplication::setFont(font);
         startAgain();
         window->resize(QSizeF(1190 * scale, 855 * scale).toSize());
-        forEachPanel([&](const Panel& panel) {
-            EXPECT_FALSE(panel.findChild<QScrollArea*>()->horizontalScrollBar()->isVisible()) << scale;
-            for (const QLabel* label : shown<QLabel>(panel)) {
-                if (!label->wordWrap()) {
-                    EXPECT_GE(label->width(), label->sizeHint().width()) << scale << label->text().toStdString();
-                }
-                EXPECT_GE(label->height(), label->heightForWidth(label->width())) << scale << nameOf(label);
-            }
-            for (const QAbstractButton* button : shown<QAbstractButton>(panel)) {
-                if (!button->text().isEmpty()) {
-                    EXPECT_GE(button->width(), button->sizeHint().width()) << scale << nameOf(button);
-                    EXPECT_GE(button->height(), button->sizeHint().height()) << scale << nameOf(button);
-                }
-            }
-            for (const QLineEdit* field : shown<QLineEdit>(panel)) {
-                if (field->objectName() != u"ForGridTxt"_s) {
-                    EXPECT_GE(field->height(), field->minimumSizeHint().height()) << scale << nameOf(field);
-                    EXPECT_GE(field->width(), field->fontMetrics().horizontalAdvance(u"12345"_s) + 8) << nameOf(field);
-                }
-            }
-        });
+        forEachPanel([&](const Panel& panel) { expectNothingClipped(panel, scale); });
     }
     QApplication::setFont(usual);
+}
+
+// What a screen of 1366x768 leaves at 150 %.
+TEST_F(Layout, ClipsNothingOnASmallScreen)
+{
+    window->resize(911, 512);
+    forEachPanel([&](const Panel& panel) { expectNothingClipped(panel, 1); });
+}
+
+TEST_F(Layout, GivesTheRoomOfALargeWindowToDescriptionsAndGrids)
+{
+    window->resize(1900, 1040);
+    struct Row
+    {
+        const char* panel;
+        const char* node;
+        const char* grown;
+        const char* above; // the field that stands right above it, or none
+    };
+    for (const Row& row : {Row{"CategoryGeneralPnl", "ID2", "CategoryDescriptionTxt", "CategoryNameTxt"},
+                           Row{"ProductGeneralPnl", "ID4", "ProductDescriptionTxt", "ProductNameTxt"},
+                           Row{"ShopGeneralPnl", "ID_SHOP", "lstCountries", "CountriesFilterTxt"},
+                           Row{"ProductsMultipricePnl", "ID4", "MultipriceGrd", nullptr},
+                           Row{"ShopTaxesPnl", "ID_SHOP", "TaxGrd", nullptr}}) {
+        SCOPED_TRACE(row.panel);
+        clickNode(QLatin1String(row.node));
+        showPanel(row.panel);
+        QCoreApplication::processEvents();
+        const auto* grown = in(row.grown);
+        EXPECT_GT(grown->height(), 250);
+        EXPECT_GT(grown->width(), 1300);
+        if (row.above) {
+            const auto* above = in(row.above);
+            const int end = above->mapTo(window.get(), QPoint(0, above->height())).y();
+            EXPECT_LE(grown->mapTo(window.get(), QPoint()).y() - end, 16) << "the rows are spread out";
+        }
+    }
 }
 
 TEST_F(Layout, NamesEveryFieldAndGroup)
