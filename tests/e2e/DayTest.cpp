@@ -1,33 +1,24 @@
 // A shop owner's day, from the start of the program to the restart after a restore: the real window, the real browser
 // and a real server. What was done in the morning must be there in the evening. The day passes twice, once with the
 // mouse and once by the keyboard alone.
-#include "base/Numbers.h"
-#include "e2e/BrowserDriver.h"
-#include "editors/Panel.h"
+#include "e2e/OwnersDay.h"
 #include "model/CategoryClass.h"
 #include "model/ProductClass.h"
 #include "model/ShopClass.h"
-#include "publish/dialog/PhpServer.h"
-#include "shell/BrowserPreview.h"
 #include "shell/CatalogueTree.h"
 #include "shell/browser/PreviewBrowser.h"
-#include "support/Hands.h"
 #include "support/KeyHands.h"
-#include "support/WindowTest.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QDialog>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
-#include <QRadioButton>
 #include <QTabWidget>
 #include <QTest>
-#include <QTimer>
 #include <QWebEngineView>
 
 using namespace Qt::StringLiterals;
@@ -35,188 +26,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int importedProducts = 200;
-constexpr int patience = 60000; // milliseconds
 
-enum class Hand { Mouse, Keyboard };
-
-class Day : public WindowTest, public testing::WithParamInterface<Hand>
+class Day : public OwnersDay
 {
-public:
-    ~Day() override
-    {
-        EXPECT_TRUE(errors.numbers.empty()) << "run-time error " << errors.numbers.front();
-        window.reset(); // the browser goes ahead of the server and of the errors
-    }
-
-protected:
-    void SetUp() override
-    {
-        useSampleShop();
-        ASSERT_TRUE(server.start()) << server.why().toStdString();
-    }
-
-    PreviewParts makePreview(QWidget* parent) override
-    {
-        PreviewParts parts = browserPreview(files.folder(), errors)(parent);
-        previewWidget = qobject_cast<PreviewBrowser*>(parts.widget);
-        visitor.drive(previewWidget);
-        return parts;
-    }
-
-    bool byKeys() const { return GetParam() == Hand::Keyboard; }
-
-    // The main buttons act on the receipt of the focus, which only the active window's have. There is no window manager
-    // here that makes the window active again when a dialog has closed.
-    void activate() const
-    {
-        window->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-    }
-    // A main button has a key; the others are reached by Tab.
-    void click(const char* button)
-    {
-        activate();
-        static const QHash<QLatin1String, Qt::Key> keys = {{"SaveShopSBtn"_L1, Qt::Key_S},
-                                                           {"ProductCatalogSBtn"_L1, Qt::Key_1},
-                                                           {"PreviewBrowserSBtn"_L1, Qt::Key_2},
-                                                           {"ShopDesignSBtn"_L1, Qt::Key_3}};
-        if (!byKeys()) {
-            WindowTest::click(button);
-        } else if (keys.contains(QLatin1String(button))) {
-            QWidget* focus = window->focusWidget();
-            QTest::keyClick(focus ? focus : window.get(), keys[QLatin1String(button)], Qt::ControlModifier);
-        } else {
-            KeyHands::press(find(button));
-        }
-    }
-    void trigger(const char* entry)
-    {
-        if (byKeys()) {
-            activate();
-            KeyHands::takeEntry(*window, find<QAction>(entry));
-        } else {
-            WindowTest::trigger(entry);
-        }
-    }
-    // The line that finds leads to the node.
-    void clickNode(const QString& key)
-    {
-        if (!byKeys()) {
-            WindowTest::clickNode(key);
-            return;
-        }
-        CatalogueTree* tree = window->parts().CategoriesAndProductsTree;
-        if (key == u"ID_SHOP"_s) {
-            KeyHands::tabTo(tree);
-            QTest::keyClick(tree, Qt::Key_Home);
-        } else {
-            activate();
-            QWidget* focus = window->focusWidget();
-            QTest::keyClick(focus ? focus : window.get(), Qt::Key_F, Qt::ControlModifier);
-            auto* line = find<QLineEdit>("CatalogueFindTxt");
-            ASSERT_EQ(window->focusWidget(), line);
-            Hands::pressKeys(line, tree->nodes().nodeWithKey(key)->text);
-            for (int hit = 0; hit < 20 && window->SelectedNode->key != key; ++hit) {
-                QTest::keyClick(line, Qt::Key_Return);
-            }
-            QTest::keyClick(line, Qt::Key_Escape);
-        }
-        ASSERT_EQ(window->SelectedNode->key, key);
-    }
-    ShopClass& shop() const { return *window->session().shop; }
-
-    // The panel on the right.
-    template <class T = QWidget>
-    T* in(const char* name) const
-    {
-        T* widget = window->VisibleFrame->findChild<T*>(QLatin1String(name));
-        EXPECT_NE(widget, nullptr) << name;
-        return widget;
-    }
-    void type(QWidget* field, const QString& text) const
-    {
-        byKeys() ? KeyHands::type(field, text) : Hands::type(field, text);
-    }
-    void type(const char* field, const QString& text) const { type(in(field), text); }
-    void press(QWidget* button) const { byKeys() ? KeyHands::press(button) : Hands::press(button); }
-    void press(const char* button) const { press(in(button)); }
-    void tick(QCheckBox* box) const { byKeys() ? KeyHands::press(box) : Hands::tick(box); }
-    void submit() const { press("imgButtonSubmit"); }
-    void openTab(QTabWidget* tabs, int index) const
-    {
-        byKeys() ? KeyHands::openTab(tabs, index) : tabs->setCurrentIndex(index);
-    }
-    // Types behind what the text has.
-    void append(QPlainTextEdit* text, const QString& more) const
-    {
-        if (byKeys()) {
-            KeyHands::tabTo(text);
-            QTest::keyClick(text, Qt::Key_End, Qt::ControlModifier);
-        } else {
-            text->moveCursor(QTextCursor::End);
-        }
-        Hands::pressKeys(text, more);
-    }
-    // Follows a link of the preview, or presses a button, to another page.
-    void visit(const QString& selector)
-    {
-        if (byKeys()) {
-            visitor.tabTo(selector);
-            visitor.enterToNewPage();
-        } else {
-            visitor.clickToNewPage(selector);
-        }
-    }
-    void fillIn(const QString& selector, const QString& text)
-    {
-        if (byKeys()) {
-            visitor.tabTo(selector);
-            QWidget* page = previewWidget->view()->focusProxy();
-            QTest::keyClick(page, Qt::Key_A, Qt::ControlModifier);
-            QTest::keyClicks(page, text);
-            visitor.waitUntil(u"document.activeElement.value == '%1'"_s.arg(text));
-        } else {
-            visitor.type(selector, text);
-        }
-    }
-    // What a modal dialog is used for: runs when the dialog is there. The dialog must be closed by it.
-    void inNextDialog(const std::function<void(QDialog& dialog)>& work)
-    {
-        auto* timer = new QTimer(window.get());
-        connectTimer(timer, work);
-        timer->start(20);
-    }
-    static QWidget* part(const QWidget& dialog, const char* name)
-    {
-        auto* widget = dialog.findChild<QWidget*>(QLatin1String(name));
-        EXPECT_NE(widget, nullptr) << name;
-        return widget;
-    }
-    static bool waitUntil(const std::function<bool()>& condition)
-    {
-        QElapsedTimer time;
-        time.start();
-        while (!condition() && time.elapsed() < patience) {
-            BrowserDriver::pause(10);
-        }
-        return condition();
-    }
-    QString keyOf(const QString& name) const
-    {
-        for (const CatalogueObject& object : window->session().objects.items()) {
-            if (const auto* category = std::get_if<std::shared_ptr<CategoryClass>>(&object);
-                category && (*category)->name == name) {
-                return u"ID"_s + (*category)->id;
-            }
-            if (const auto* product = std::get_if<std::shared_ptr<ProductClass>>(&object);
-                product && (*product)->name == name) {
-                return u"ID"_s + (*product)->id;
-            }
-        }
-        ADD_FAILURE() << "not in the catalogue: " << name.toStdString();
-        return {};
-    }
-
 public:
     void importProducts();
     void editPricesAndDiscounts();
@@ -228,24 +40,6 @@ public:
     void publish();
     void spoilAndRestore();
     void expectTheShopAsItWas();
-
-protected:
-    PhpServer server;
-    BrowserDriver visitor;
-    PreviewBrowser* previewWidget = nullptr;
-
-private:
-    static void connectTimer(QTimer* timer, const std::function<void(QDialog& dialog)>& work)
-    {
-        QObject::connect(timer, &QTimer::timeout, timer, [timer, work] {
-            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (dialog) {
-                timer->stop();
-                timer->deleteLater();
-                work(*dialog);
-            }
-        });
-    }
 };
 
 void Day::importProducts()
@@ -362,7 +156,7 @@ void Day::walkThePreview()
     ASSERT_TRUE(waitUntil([this] { return visitor.shows(u"Good evening"_s); }));
     EXPECT_EQ(visitor.textOf(u"#by-hand"_s), u"Made by hand"_s);
     if (byKeys()) {
-        KeyHands::tabTo(previewWidget->view()->focusProxy());
+        KeyHands::tabTo(browser->view()->focusProxy());
     }
     visit(u"a[href='http://previewmode/ACTION=custompage.php&name=Größe der Lichter']"_s);
     EXPECT_EQ(visitor.textOf(u"#sizes"_s), u"From 3 to 30 hours, that is all."_s);
@@ -469,6 +263,7 @@ TEST_P(Day, EndsWithTheShopThatItMade)
             return; // each hour builds on those before
         }
     }
+    EXPECT_EQ(mousePresses() == 0, byKeys());
 }
 
 } // namespace

@@ -98,6 +98,22 @@ TEST_F(LateBrowserTest, TheWindowStaysWhatAndWhereItIs)
     EXPECT_EQ(window->windowHandle()->surfaceType(), QSurface::RasterSurface);
 }
 
+TEST_F(LateBrowserTest, ThePageIsAsWideAsTheBottomLineSays)
+{
+    begin();
+    click("PreviewBrowserSBtn");
+    visitor.waitUntil(u"document.readyState == 'complete' && location.href == 'tarnwick-preview:/'"_s);
+    const QRect place = browser->geometry();
+    QTest::mouseClick(find("PhoneWidthBtn"), Qt::LeftButton);
+    visitor.waitUntil(u"innerWidth == 390"_s);
+    EXPECT_EQ(browser->geometry(), place);
+    click("ProductCatalogSBtn");
+    click("PreviewBrowserSBtn");
+    visitor.waitUntil(u"document.readyState == 'complete' && innerWidth == 390"_s);
+    QTest::mouseClick(find("FullWidthBtn"), Qt::LeftButton);
+    visitor.waitUntil(u"innerWidth == %1"_s.arg(place.width()));
+}
+
 TEST_F(LateBrowserTest, AMaximisedWindowStaysMaximised)
 {
     begin();
