@@ -1,6 +1,7 @@
 #include "shell/DialogPrompts.h"
 
 #include <QColorDialog>
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
@@ -31,6 +32,12 @@ QMessageBox::StandardButton runBox(QWidget* window, QMessageBox::Icon icon, cons
     box.setDefaultButton(defaultButton);
     box.setTextFormat(Qt::PlainText);
     return static_cast<QMessageBox::StandardButton>(box.exec());
+}
+
+// The toolkit shows the patterns of a filter behind its caption, which may tell them itself: once is enough.
+bool captionHasPatterns(const QString& filter)
+{
+    return filter.contains(u") (");
 }
 
 } // namespace
@@ -74,7 +81,11 @@ std::optional<QString> DialogPrompts::askText(const QString& title, const QStrin
 
 QString DialogPrompts::chooseFile(const QString& folder, const QString& filter)
 {
-    return QFileDialog::getOpenFileName(m_window, QString(), folder, filter);
+    // A folder that is gone would open the one that the program was started in.
+    const bool isGone = !folder.isEmpty() && !QDir(folder).exists();
+    return QFileDialog::getOpenFileName(m_window, QString(), isGone ? QDir::homePath() : folder, filter, nullptr,
+                                        captionHasPatterns(filter) ? QFileDialog::HideNameFilterDetails
+                                                                   : QFileDialog::Options());
 }
 
 std::optional<int> DialogPrompts::chooseColour(int colour)

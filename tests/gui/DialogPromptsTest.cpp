@@ -6,7 +6,9 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
@@ -242,6 +244,34 @@ TEST_F(DialogPromptsFile, StartsInItsFolderAndGivesThePathOfTheFile)
                   open(dialog, u"list.txt"_s);
               }),
               files.path(u"list.txt"_s));
+}
+
+TEST_F(DialogPromptsFile, SaysThePatternsOnce)
+{
+    const struct
+    {
+        QString filter;
+        QString shown;
+    } rows[] = {
+        {u"Pictures (*.bmp;*.png;*jpg;*gif) (*.bmp *.png *jpg *gif)"_s, u"Pictures (*.bmp;*.png;*jpg;*gif)"_s},
+        {u"Packed shops (*.kvb *.KVB);;All files (*)"_s, u"Packed shops (*.kvb *.KVB)"_s},
+    };
+    for (const auto& row : rows) {
+        whenOpen<QFileDialog>([&](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.findChild<QComboBox*>(u"fileTypeCombo"_s)->currentText(), row.shown);
+            dialog.reject();
+        });
+        prompts.chooseFile(files.folder().path(), row.filter);
+    }
+}
+
+TEST_F(DialogPromptsFile, StartsAtHomeWhenItsFolderIsGone)
+{
+    whenOpen<QFileDialog>([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.directory().path(), QDir::homePath());
+        dialog.reject();
+    });
+    prompts.chooseFile(files.path(u"gone"_s), u"All files (*)"_s);
 }
 
 TEST_F(DialogPromptsFile, GivesNothingOnCancel)

@@ -2,10 +2,14 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QDragEnterEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QStyle>
 #include <QStyleOptionButton>
 #include <QTest>
+#include <QUrl>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -45,4 +49,37 @@ void Hands::type(QWidget* field, const QString& text)
     QTest::keySequence(field, QKeySequence::SelectAll);
     QTest::keyClick(field, Qt::Key_Delete);
     pressKeys(field, text);
+}
+
+bool Hands::drop(QWidget* widget, const QStringList& files)
+{
+    QMimeData dragged;
+    QList<QUrl> urls;
+    for (const QString& file : files) {
+        urls << QUrl::fromLocalFile(file);
+    }
+    dragged.setUrls(urls);
+    // The window looks for the widget below the mouse by itself.
+    QWindow* target = widget->window()->windowHandle();
+    const QPoint place = widget->mapTo(widget->window(), widget->rect().center());
+    const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter(place, offered, &dragged, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(target, &enter);
+    QDragMoveEvent move(place, offered, &dragged, Qt::LeftButton, {});
+    if (enter.isAccepted()) { // a move goes on with what the last event agreed on
+        move.setDropAction(enter.dropAction());
+        move.accept();
+    }
+    QCoreApplication::sendEvent(target, &move);
+    if (!move.isAccepted()) {
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(target, &leave);
+        return false;
+    }
+    QDropEvent drop(place, offered, &dragged, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(target, &drop);
+    const bool isTaken = drop.isAccepted() && drop.dropAction() == Qt::CopyAction;
+    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
+    return isTaken;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class QCheckBox;
 class QWidget;
@@ -16,5 +17,8 @@ void tick(QCheckBox* box);
 void pressKeys(QWidget* field, const QString& text);
 // Replaces the text of a field of one line or several.
 void type(QWidget* field, const QString& text);
+// Drags the files over the middle of the widget, which must be on the screen, lets them drop there, and lets events
+// run. False when the window does not take them.
+bool drop(QWidget* widget, const QStringList& files);
 
 } // namespace Hands

@@ -1,5 +1,6 @@
 #include "editors/design/frmSelectImageOrText.h"
 
+#include "editors/design/pickers/PicturesList.h"
 #include "editors/design/ucSelectImageOrText.h"
 
 #include <QVBoxLayout>
@@ -17,7 +18,7 @@ frmSelectImageOrText::frmSelectImageOrText(PanelHost& host, const std::shared_pt
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(images);
-    resize(620, 500);
+    resize(PicturesList::dialogSize(*this));
     images->SetParent(this);
     images->SetActiveObject(selection);
 }

@@ -6,7 +6,10 @@
 #include "editors/PanelParts.h"
 #include "editors/design/CSSManagementForm.h"
 #include "editors/design/pickers/DialogButtons.h"
+#include "editors/design/pickers/PictureGrid.h"
 #include "editors/design/pickers/PicturesList.h"
+#include "look/LinedFrame.h"
+#include "look/Measures.h"
 #include "model/ShopSession.h"
 
 #include <QCheckBox>
@@ -32,14 +35,20 @@ ucSelectImageOrText::ucSelectImageOrText(PanelHost& host, QWidget* parent)
     btnCSS_Text->setAutoDefault(false);
     const DialogButtons buttons = makeDialogButtons(this);
 
+    auto* line = new LinedFrame(Qt::TopEdge, this);
+    line->setFixedHeight(Measure::Hairline);
     auto* text = new QHBoxLayout;
+    text->setSpacing(Measure::Gap);
+    text->addWidget(chkText);
+    text->addSpacing(Measure::Gap);
     text->addWidget(txtText, 1);
     text->addWidget(btnCSS_Text);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 16, 16, 16);
-    column->setSpacing(10);
+    column->setContentsMargins(Measure::DialogMargin, Measure::DialogMargin, Measure::DialogMargin,
+                               Measure::DialogMargin);
+    column->setSpacing(Measure::Wide);
     column->addWidget(m_pictures, 1);
-    column->addWidget(chkText);
+    column->addWidget(line);
     column->addLayout(text);
     column->addLayout(buttons.row);
     useText(false);

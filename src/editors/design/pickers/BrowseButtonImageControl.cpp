@@ -3,7 +3,7 @@
 #include "editors/LinkLabel.h"
 #include "editors/PanelHost.h"
 #include "editors/design/pickers/PictureBox.h"
-#include "editors/design/pickers/PicturesList.h"
+#include "editors/design/pickers/PictureFiles.h"
 #include "model/ShopSession.h"
 
 #include <QVBoxLayout>
@@ -29,6 +29,8 @@ BrowseButtonImageControl::BrowseButtonImageControl(PanelHost& host, QWidget* par
     row->addLayout(links);
 
     connectGuarded(m_host.errorHandler(), BrowseBtnLbl, &LinkLabel::clicked, this, &BrowseButtonImageControl::browse);
+    connectGuarded(m_host.errorHandler(), ImagePB, &PictureBox::filesDropped, this,
+                   &BrowseButtonImageControl::takeFiles);
     connectGuarded(m_host.errorHandler(), DeleteBtnLbl, &LinkLabel::clicked, this, &BrowseButtonImageControl::Remove);
 }
 
@@ -49,8 +51,17 @@ void BrowseButtonImageControl::setImageFileName(const QString& name)
 
 void BrowseButtonImageControl::browse()
 {
-    const QString chosen = m_host.session().prompts.chooseFile(QString(), pictureFileFilter());
+    const QString chosen = m_host.session().prompts.chooseFile(pictureStartFolder(), pictureFileFilter());
     if (!chosen.isEmpty()) {
         setImageFileName(chosen);
+    }
+}
+
+void BrowseButtonImageControl::takeFiles(const QStringList& files)
+{
+    for (const QString& file : files) {
+        if (const QString name = addToPictures(m_host, file); !name.isEmpty()) {
+            setImageFileName(name);
+        }
     }
 }

@@ -1,4 +1,5 @@
-// An image slot in its plainest form: the picture, a link to choose a file, and one to take it away. No panel has one.
+// An image slot in its plainest form: the picture, a link to choose a file, and one to take it away. Files that are
+// dropped onto it are added to the pictures of the shop, and the last one is shown. No panel has one.
 #pragma once
 
 #include <QString>
@@ -25,6 +26,7 @@ public:
 
 private:
     void browse();
+    void takeFiles(const QStringList& files);
 
     PanelHost& m_host;
     PictureBox* ImagePB;

@@ -6,7 +6,7 @@
 #include "editors/PanelHost.h"
 #include "editors/PanelParts.h"
 #include "editors/design/pickers/PictureBox.h"
-#include "editors/design/pickers/PicturesList.h"
+#include "editors/design/pickers/PictureFiles.h"
 #include "editors/design/pickers/frmSelectImage.h"
 
 #include <QGridLayout>
@@ -63,6 +63,7 @@ BrowseImageControl::BrowseImageControl(PanelHost& host, QWidget* parent)
 
     connectGuarded(m_host.errorHandler(), BrowseBtnLbl, &LinkLabel::clicked, this, &BrowseImageControl::browse);
     connectGuarded(m_host.errorHandler(), DeleteBtnLbl, &LinkLabel::clicked, this, &BrowseImageControl::Remove);
+    connectGuarded(m_host.errorHandler(), ImagePB, &PictureBox::filesDropped, this, &BrowseImageControl::takeFiles);
     connectGuarded(m_host.errorHandler(), txtWidth, &NumericBox::edited, this, [this](const QString& text) {
         if (m_selectedImage) {
             m_selectedImage->setWidthBmp(pixelsIn(text));
@@ -132,6 +133,27 @@ void BrowseImageControl::browse()
         return;
     }
     setImageFileName(selection->imageFileName);
+    fillSizes(selection->GetBitmapSizeOriginal(ImagePB->pictureSize()));
+}
+
+void BrowseImageControl::takeFiles(const QStringList& files)
+{
+    const std::shared_ptr<clsSelectedImage> selection = m_selectedImage;
+    if (!selection) {
+        return;
+    }
+    QString last;
+    for (const QString& file : files) {
+        if (const QString name = addToPictures(m_host, file); !name.isEmpty()) {
+            last = name;
+        }
+    }
+    if (last.isEmpty()) {
+        return;
+    }
+    selection->imageFileName = last;
+    selection->GetBitmapSizeVirtual(last);
+    setImageFileName(last);
     fillSizes(selection->GetBitmapSizeOriginal(ImagePB->pictureSize()));
 }
 

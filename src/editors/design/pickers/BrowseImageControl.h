@@ -1,5 +1,6 @@
 // The picture of a category or a product with its size on the page. It works on the selection that it is given, at
-// once: choosing, removing and resizing do not wait for a submit. Two panels own one each.
+// once: choosing, removing and resizing do not wait for a submit. Files that are dropped onto the picture are added to
+// those of the shop, and the last one is chosen. Two panels own one each.
 #pragma once
 
 #include "design/clsSelectedImage.h"
@@ -43,6 +44,7 @@ public:
 
 private:
     void browse();
+    void takeFiles(const QStringList& files);
     void fillSizes(const ImageSizeTexts& sizes);
 
     PanelHost& m_host;

@@ -1,5 +1,7 @@
 #include "editors/design/pickers/DialogButtons.h"
 
+#include "look/Measures.h"
+
 #include <QCoreApplication>
 
 using namespace Qt::StringLiterals;
@@ -15,6 +17,7 @@ DialogButtons makeDialogButtons(QWidget* parent)
     DialogButtons buttons{new QHBoxLayout, button("OkBtn", u"OK"_s), button("CancelBtn", u"Cancel"_s)};
     buttons.OkBtn->setDefault(true);
     buttons.CancelBtn->setAutoDefault(false); // Enter stays with OkBtn
+    buttons.row->setSpacing(Measure::Gap);
     buttons.row->addStretch(1);
     buttons.row->addWidget(buttons.OkBtn);
     buttons.row->addWidget(buttons.CancelBtn);

@@ -1,7 +1,9 @@
 #include "editors/design/pickers/PictureBox.h"
 
 #include "base/RuntimeError.h"
+#include "editors/design/pickers/PictureFiles.h"
 
+#include <QDragEnterEvent>
 #include <QImageReader>
 #include <QPainter>
 
@@ -9,8 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int longestSide = 1200;          // pixels that are kept of a picture
-constexpr qint64 mostPixels = 100'000'000; // a picture with more is not decoded: that would take seconds
+constexpr int longestSide = 1200; // pixels that are kept of a picture
 
 } // namespace
 
@@ -19,6 +20,7 @@ PictureBox::PictureBox(const QString& invalidText, QWidget* parent) : QFrame(par
     setFrameShape(QFrame::StyledPanel);
     setMinimumSize(120, 100);
     setBackground(Qt::white); // pictures are made for pages, which are light as a rule
+    setAcceptDrops(true);
     clear();
 }
 
@@ -39,7 +41,7 @@ void PictureBox::showFile(const QString& path)
         setMessage(m_invalidText); // no slot can hold its size
         return;
     }
-    if (static_cast<qint64>(size.width()) * size.height() > mostPixels) {
+    if (static_cast<qint64>(size.width()) * size.height() > MostPixels) {
         setMessage(u"%1 x %2 pixels: too large to show"_s.arg(size.width()).arg(size.height()));
         return;
     }
@@ -97,4 +99,17 @@ void PictureBox::paintEvent(QPaintEvent* event)
     }
     painter.end();
     QFrame::paintEvent(event);
+}
+
+void PictureBox::dragEnterEvent(QDragEnterEvent* event)
+{
+    acceptPictures(*event);
+}
+
+void PictureBox::dropEvent(QDropEvent* event)
+{
+    if (const QStringList files = acceptPictures(*event); !files.isEmpty()) {
+        QMetaObject::invokeMethod(
+            this, [this, files] { Q_EMIT filesDropped(files); }, Qt::QueuedConnection);
+    }
 }

@@ -1,5 +1,6 @@
 // Shows a picture file, scaled down to the place there is, or says that there is none or that it cannot be shown. The
-// file is read when it is shown; a picture that is too large is not decoded.
+// file is read when it is shown; a picture that is too large is not decoded. Picture files can be dropped onto a box;
+// what becomes of them is its owner's matter.
 #pragma once
 
 #include "design/ImageSize.h"
@@ -12,6 +13,9 @@ class PictureBox : public QFrame
     Q_OBJECT
 
 public:
+    // A picture with more pixels is not decoded: that would take seconds.
+    static constexpr qint64 MostPixels = 100'000'000;
+
     // What stands in the place of a picture that cannot be read.
     PictureBox(const QString& invalidText, QWidget* parent = nullptr);
 
@@ -29,8 +33,14 @@ public:
 
     QSize sizeHint() const override { return {180, 140}; }
 
+Q_SIGNALS:
+    // Files were dropped that can be pictures. The signal comes from the event loop: who dragged them does not wait.
+    void filesDropped(const QStringList& files);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     void setMessage(const QString& message);

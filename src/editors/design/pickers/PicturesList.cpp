@@ -1,44 +1,44 @@
 #include "editors/design/pickers/PicturesList.h"
 
-#include "base/FileBytes.h"
 #include "editors/PanelHost.h"
 #include "editors/PanelParts.h"
 #include "editors/design/pickers/PictureBox.h"
+#include "editors/design/pickers/PictureFiles.h"
+#include "editors/design/pickers/PictureGrid.h"
 #include "editors/design/pickers/PicturePathSetting.h"
+#include "look/Measures.h"
+#include "look/WordLabel.h"
 #include "model/ShopSession.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QHBoxLayout>
-#include <QLabel>
+#include <QGridLayout>
+#include <QLineEdit>
+#include <QLocale>
+#include <QPushButton>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
 PicturesList::PicturesList(PanelHost& host, QWidget* parent)
     : QWidget(parent),
-      lstImages(named(new QListWidget(this), "lstImages", u"Pictures of the shop"_s)),
+      lstImages(
+          named(new PictureGrid(host.session().folder.picturesFolder(), this), "lstImages", u"Pictures of the shop"_s)),
       imgPreview(named(new PictureBox(u"Invalid picture"_s, this), "imgPreview", u"Preview"_s)),
       AddBttn(named(new QPushButton(u"&Add a picture..."_s, this), "AddBttn", u"Add a picture"_s)),
-      m_host(host)
+      m_host(host),
+      txtFilter(named(new QLineEdit(this), "txtFilter", u"Filter by name"_s)),
+      lblName(named(new WordLabel(WordLabel::Kind::Heading, {}, this), "lblName", QString())),
+      lblSize(named(new WordLabel(WordLabel::Kind::Quiet, {}, this), "lblSize", QString()))
 {
     const QStringList fileList = QDir(host.session().folder.picturesFolder())
                                      .entryList(QDir::Files, QDir::Name | QDir::IgnoreCase | QDir::LocaleAware);
     lstImages->addItems(fileList);
     AddBttn->setAutoDefault(false); // Enter stays with the dialog's button
-    lstImages->setUniformItemSizes(true);
-    lstImages->setSpacing(1);
-    imgPreview->setMinimumSize(220, 180);
-
-    auto* caption = new QLabel(u"&Pictures of the shop"_s, this);
-    caption->setBuddy(lstImages);
-    auto* list = new QVBoxLayout;
-    list->addWidget(caption);
-    list->addWidget(lstImages, 1);
-    list->addWidget(AddBttn, 0, Qt::AlignLeft);
-    auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->addLayout(list, 1);
-    row->addWidget(imgPreview, 1);
+    txtFilter->setPlaceholderText(u"Filter by name"_s);
+    txtFilter->setClearButtonEnabled(true);
+    layOut();
+    showSelected();
 
     connectGuarded(m_host.errorHandler(), lstImages, &QListWidget::itemSelectionChanged, this, [this] {
         showSelected();
@@ -46,7 +46,57 @@ PicturesList::PicturesList(PanelHost& host, QWidget* parent)
             Q_EMIT pictureSelected(selectedPicture());
         }
     });
+    connectGuarded(m_host.errorHandler(), txtFilter, &QLineEdit::textChanged, this,
+                   [this](const QString& text) { lstImages->filter(text); });
     connectGuarded(m_host.errorHandler(), AddBttn, &QPushButton::clicked, this, &PicturesList::addPicture);
+    connectGuarded(m_host.errorHandler(), lstImages, &PictureGrid::filesDropped, this, &PicturesList::addFiles);
+    connectGuarded(m_host.errorHandler(), imgPreview, &PictureBox::filesDropped, this, &PicturesList::addFiles);
+}
+
+QSize PicturesList::dialogSize(const QWidget& over)
+{
+    constexpr QSize roomy(800, 580);
+    constexpr QSize aroundIt(40, 80); // frame, and what the desktop keeps for itself
+    return roomy.boundedTo(over.screen()->availableSize() - aroundIt);
+}
+
+void PicturesList::layOut()
+{
+    auto* caption = new WordLabel(WordLabel::Kind::Heading, u"&Pictures of the shop"_s, this);
+    caption->setBuddy(lstImages);
+    txtFilter->setMinimumWidth(120);
+    txtFilter->setMaximumWidth(216);
+    lstImages->setMinimumSize(150, 140);
+    imgPreview->setMinimumSize(160, 120);
+    for (WordLabel* words : {lblName, lblSize}) {
+        words->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a name does not widen the dialog
+    }
+
+    auto* heading = new QHBoxLayout;
+    heading->addWidget(caption);
+    heading->addStretch(1);
+    heading->addWidget(txtFilter, 100);
+    auto* words = new QVBoxLayout;
+    words->setSpacing(Measure::Tight);
+    words->addWidget(lblName);
+    words->addWidget(lblSize);
+    words->addStretch(1);
+
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setHorizontalSpacing(Measure::DialogMargin);
+    grid->setVerticalSpacing(Measure::Gap);
+    grid->addLayout(heading, 0, 0);
+    grid->addWidget(lstImages, 1, 0, 2, 1);
+    grid->addWidget(imgPreview, 1, 1);
+    grid->addLayout(words, 2, 1);
+    grid->addWidget(AddBttn, 3, 0, Qt::AlignLeft);
+    grid->setRowStretch(1, 3);
+    grid->setRowStretch(2, 1);
+    grid->setColumnStretch(0, 19);
+    grid->setColumnStretch(1, 10);
+    setTabOrder(txtFilter, lstImages);
+    setTabOrder(lstImages, AddBttn);
 }
 
 void PicturesList::selectPicture(const QString& name)
@@ -67,54 +117,71 @@ QString PicturesList::selectedPicture() const
     return selected.isEmpty() ? QString() : selected.front()->text();
 }
 
+// Adding --------------------------------------------------------------------------------------------------------------
+
 void PicturesList::addPicture()
 {
-    PicturePathSetting setting;
-    const QString chosen = m_host.session().prompts.chooseFile(setting.folder(), pictureFileFilter());
-    const QFileInfo source(chosen);
-    setting.setFolder(chosen.isEmpty() ? QString()
-                                       : source.path()); // a cancelled choice forgets the folder, deliberately
-    if (chosen.isEmpty()) {
-        return;
+    const QString chosen = m_host.session().prompts.chooseFile(pictureStartFolder(), pictureFileFilter());
+    // A cancelled choice forgets the folder, deliberately.
+    PicturePathSetting().setFolder(chosen.isEmpty() ? QString() : QFileInfo(chosen).path());
+    if (!chosen.isEmpty()) {
+        addFiles({chosen});
     }
-    const QString name = source.fileName();
-    const QFileInfo target(m_host.session().folder.picturesFolder() + name);
-    if (target.exists() && !m_host.session().prompts.askYesNo(u"Tarnwick"_s, u"Overwrite this file?"_s)) {
-        return;
-    }
-    if (source.canonicalFilePath() != target.canonicalFilePath() || !target.exists()) {
-        writeFileBytes(target.filePath(), readFileBytes(chosen));
-    }
-    if (lstImages->findItems(name, Qt::MatchExactly | Qt::MatchCaseSensitive).isEmpty()) {
-        lstImages->addItem(name);
-    }
-    selectPicture(name);
-    showSelected(); // the file behind a name that was selected already may be another now
 }
+
+void PicturesList::addFiles(const QStringList& files)
+{
+    for (const QString& file : files) {
+        const QString name = addToPictures(m_host, file);
+        if (name.isEmpty()) {
+            continue;
+        }
+        if (lstImages->findItems(name, Qt::MatchExactly | Qt::MatchCaseSensitive).isEmpty()) {
+            lstImages->addItem(name);
+        }
+        lstImages->refresh(name);
+        txtFilter->clear();
+        if (selectedPicture() == name) {
+            showSelected(); // the file behind the name is another now
+            Q_EMIT pictureSelected(name);
+        } else {
+            selectPicture(name);
+        }
+        lstImages->setFocus(); // Enter takes the picture now
+    }
+}
+
+// The chosen one ------------------------------------------------------------------------------------------------------
 
 void PicturesList::showSelected()
 {
     const QString name = selectedPicture();
     if (name.isEmpty()) {
         imgPreview->clear();
+    } else {
+        imgPreview->showFile(m_host.session().folder.picturesFolder() + name);
+    }
+    showWords();
+}
+
+void PicturesList::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    showWords();
+}
+
+void PicturesList::showWords()
+{
+    const QString name = selectedPicture();
+    lblName->setText(lblName->fontMetrics().elidedText(name, Qt::ElideMiddle, lblName->width()));
+    lblName->setToolTip(lblName->text() == name ? QString() : name);
+    if (name.isEmpty()) {
+        lblSize->clear();
         return;
     }
-    imgPreview->showFile(m_host.session().folder.picturesFolder() + name);
-}
-
-QString pictureFileFilter()
-{
-    return u"Pictures (*.bmp;*.png;*jpg;*gif) (*.bmp *.png *jpg *gif)"_s;
-}
-
-QString PicturePath(PanelHost& host, const QString& name)
-{
-    if (name.contains(u':') || QDir::isAbsolutePath(name)) {
-        return name;
-    }
-    try {
-        return host.session().folder.pictureFile(name);
-    } catch (const RuntimeError&) {
-        return {};
-    }
+    const QFileInfo file(m_host.session().folder.picturesFolder() + name);
+    const QString bytes = QLocale().formattedDataSize(file.size(), 1, QLocale::DataSizeTraditionalFormat);
+    const ImageSize pixels = imgPreview->pictureSize();
+    lblSize->setText(pixels.width == 0 ? bytes
+                                       : u"%1 × %2 pixels, %3"_s.arg(pixels.width).arg(pixels.height).arg(bytes));
 }

@@ -1,12 +1,15 @@
-// The pictures of the shop as a list with a preview, and the button that adds one from elsewhere. The pickers of the
-// images own one each.
+// The pictures of the shop as thumbnails with a filter, the chosen one beside them with its size, and the button that
+// adds one from elsewhere; files can be dropped, too. The pickers of the images own one each.
 #pragma once
 
-#include <QListWidget>
-#include <QPushButton>
+#include <QWidget>
 
 class PanelHost;
 class PictureBox;
+class PictureGrid;
+class QLineEdit;
+class QPushButton;
+class WordLabel;
 
 class PicturesList : public QWidget
 {
@@ -16,7 +19,10 @@ public:
     // Reads the pictures folder. The host must outlive it.
     PicturesList(PanelHost& host, QWidget* parent);
 
-    QListWidget* lstImages;
+    // How large a dialog around the list is, on the screen of the widget that it opens over.
+    static QSize dialogSize(const QWidget& over);
+
+    PictureGrid* lstImages;
     PictureBox* imgPreview;
     QPushButton* AddBttn;
 
@@ -25,22 +31,26 @@ public:
     // Empty when nothing is selected.
     QString selectedPicture() const;
 
-    // What AddBttn does: asks for a file, copies it into the pictures folder and selects it. Errors as for
-    // readFileBytes and writeFileBytes.
+    // What AddBttn does: asks for a file and adds it.
     void addPicture();
+    // Copies the files into the pictures folder, asking ahead of overwriting one, and selects each. Errors as for
+    // readFileBytes and writeFileBytes.
+    void addFiles(const QStringList& files);
 
 Q_SIGNALS:
-    // An entry was selected, by the user or by the code.
+    // An entry was selected, by the user or by the code; or a picture was added that was selected already.
     void pictureSelected(const QString& name);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
+    void layOut();
     void showSelected();
+    void showWords();
 
     PanelHost& m_host;
+    QLineEdit* txtFilter;
+    WordLabel* lblName;
+    WordLabel* lblSize;
 };
-
-// The filter of every choice of a picture file. The dots before jpg and gif are left out deliberately.
-QString pictureFileFilter();
-// The path of a picture's file. A name with a colon is an absolute path, any other stands under pictures/; empty for a
-// name that would lead out of that folder.
-QString PicturePath(PanelHost& host, const QString& name);

@@ -1,5 +1,6 @@
 #include "editors/design/pickers/frmSelectImage.h"
 
+#include "editors/design/pickers/PicturesList.h"
 #include "editors/design/pickers/ucSelectImage.h"
 
 #include <QVBoxLayout>
@@ -16,7 +17,7 @@ frmSelectImage::frmSelectImage(PanelHost& host, const std::shared_ptr<clsSelecte
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(images);
-    resize(620, 420);
+    resize(PicturesList::dialogSize(*this));
     images->SetParent(this);
     images->SetActiveObject(selection);
 }

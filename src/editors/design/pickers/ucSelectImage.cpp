@@ -1,8 +1,10 @@
 #include "editors/design/pickers/ucSelectImage.h"
 
 #include "editors/PanelHost.h"
-#include "editors/PanelParts.h"
+#include "editors/design/pickers/DialogButtons.h"
+#include "editors/design/pickers/PictureGrid.h"
 #include "editors/design/pickers/PicturesList.h"
+#include "look/Measures.h"
 #include "model/ShopSession.h"
 
 #include <QVBoxLayout>
@@ -10,28 +12,20 @@
 using namespace Qt::StringLiterals;
 
 ucSelectImage::ucSelectImage(PanelHost& host, QWidget* parent)
-    : QWidget(parent),
-      m_host(host),
-      m_pictures(new PicturesList(host, this)),
-      OkBtn(named(new QPushButton(u"OK"_s, this), "OkBtn", u"OK"_s)),
-      CancelBtn(named(new QPushButton(u"Cancel"_s, this), "CancelBtn", u"Cancel"_s))
+    : QWidget(parent), m_host(host), m_pictures(new PicturesList(host, this))
 {
-    OkBtn->setDefault(true);
-    CancelBtn->setAutoDefault(false); // Enter stays with OkBtn
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(OkBtn);
-    buttons->addWidget(CancelBtn);
+    const DialogButtons buttons = makeDialogButtons(this);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 16, 16, 16);
-    column->setSpacing(14);
+    column->setContentsMargins(Measure::DialogMargin, Measure::DialogMargin, Measure::DialogMargin,
+                               Measure::DialogMargin);
+    column->setSpacing(Measure::Section);
     column->addWidget(m_pictures, 1);
-    column->addLayout(buttons);
+    column->addLayout(buttons.row);
 
-    connectGuarded(m_host.errorHandler(), OkBtn, &QPushButton::clicked, this, &ucSelectImage::SaveActiveObject);
+    connectGuarded(m_host.errorHandler(), buttons.OkBtn, &QPushButton::clicked, this, &ucSelectImage::SaveActiveObject);
     connectGuarded(m_host.errorHandler(), m_pictures->lstImages, &QListWidget::itemDoubleClicked, this,
                    &ucSelectImage::SaveActiveObject);
-    connectGuarded(m_host.errorHandler(), CancelBtn, &QPushButton::clicked, this, [this] {
+    connectGuarded(m_host.errorHandler(), buttons.CancelBtn, &QPushButton::clicked, this, [this] {
         if (m_form) {
             m_form->reject();
         }

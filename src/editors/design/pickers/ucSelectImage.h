@@ -10,7 +10,6 @@
 
 class PanelHost;
 class PicturesList;
-class QPushButton;
 
 class ucSelectImage : public QWidget
 {
@@ -32,8 +31,6 @@ public:
 private:
     PanelHost& m_host;
     PicturesList* m_pictures;
-    QPushButton* OkBtn;
-    QPushButton* CancelBtn;
     QDialog* m_form = nullptr;
     std::shared_ptr<clsSelectedImage> m_selectedImage;
 };

@@ -1,0 +1,77 @@
+#include "editors/design/pickers/PictureFiles.h"
+
+#include "base/FileBytes.h"
+#include "base/RuntimeError.h"
+#include "editors/PanelHost.h"
+#include "editors/design/pickers/PicturePathSetting.h"
+#include "model/ShopSession.h"
+
+#include <QDir>
+#include <QDropEvent>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QStandardPaths>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString patterns = u"*.bmp *.png *jpg *gif"_s;
+
+} // namespace
+
+QString pictureFileFilter()
+{
+    return u"Pictures (*.bmp;*.png;*jpg;*gif) (%1)"_s.arg(patterns);
+}
+
+QString pictureStartFolder()
+{
+    const QString last = PicturePathSetting().folder();
+    return last.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::PicturesLocation) : last;
+}
+
+QString PicturePath(PanelHost& host, const QString& name)
+{
+    if (name.contains(u':') || QDir::isAbsolutePath(name)) {
+        return name;
+    }
+    try {
+        return host.session().folder.pictureFile(name);
+    } catch (const RuntimeError&) {
+        return {};
+    }
+}
+
+QString addToPictures(PanelHost& host, const QString& path)
+{
+    const QFileInfo source(path);
+    const QString name = source.fileName();
+    const QFileInfo target(host.session().folder.picturesFolder() + name);
+    if (target.exists() && !host.session().prompts.askYesNo(u"Tarnwick"_s, u"Overwrite this file?"_s)) {
+        return {};
+    }
+    if (source.canonicalFilePath() != target.canonicalFilePath() || !target.exists()) {
+        writeFileBytes(target.filePath(), readFileBytes(path));
+    }
+    return name;
+}
+
+QStringList acceptPictures(QDropEvent& event)
+{
+    QStringList files;
+    for (const QUrl& url : event.mimeData()->urls()) {
+        const QFileInfo file(url.toLocalFile()); // of nothing for what stands elsewhere
+        if (file.isFile() && QDir::match(patterns.split(u' '), file.fileName())) {
+            files << file.filePath();
+        }
+    }
+    if (files.isEmpty()) {
+        event.ignore();
+    } else {
+        event.setDropAction(Qt::CopyAction); // the file stays where it is
+        event.accept();
+    }
+    return files;
+}
