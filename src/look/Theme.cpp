@@ -1,8 +1,10 @@
 #include "look/Theme.h"
 
+#include "look/DesktopScheme.h"
 #include "look/ShopStyle.h"
 
 #include <QApplication>
+#include <QTimer>
 #include <QToolTip>
 
 namespace {
@@ -63,4 +65,15 @@ void showScheme(Scheme scheme)
     const QPalette palette = paletteOf(scheme);
     QApplication::setPalette(palette);
     QToolTip::setPalette(palette);
+}
+
+void followDesktop(QApplication& application)
+{
+    auto* desktop = new DesktopScheme(&application);
+    QObject::connect(desktop, &DesktopScheme::told, &application, [](Scheme scheme) {
+        if (scheme != currentScheme()) {
+            showScheme(scheme);
+        }
+    });
+    QTimer::singleShot(0, desktop, [desktop] { desktop->follow(QDBusConnection::sessionBus()); });
 }

@@ -14,3 +14,6 @@ QPalette paletteOf(Scheme scheme);
 void applyTheme(QApplication& application);
 // Changes the look of all windows, those on the screen too.
 void showScheme(Scheme scheme);
+// From now on the look follows the desktop (see DesktopScheme.h). The start does not wait for it: the desktop is asked
+// when the event loop runs.
+void followDesktop(QApplication& application);

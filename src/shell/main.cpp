@@ -28,5 +28,6 @@ int main(int argc, char** argv)
     const std::unique_ptr<MainForm> window =
         guarded(errors, [&] { return startProgram(services, browserPreview(services.folder, errors)); });
     prompts.setParentWindow(window.get());
+    followDesktop(application);
     return QApplication::exec();
 }

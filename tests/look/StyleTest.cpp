@@ -1,0 +1,192 @@
+// What the style paints, on plain controls: edges at any scale of the screen, room for letters, and what is off.
+#include "look/Theme.h"
+#include "look/Tones.h"
+#include "support/TestSupport.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTableWidget>
+#include <QTreeWidget>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// The widget as a screen with that many pixels to one of the window shows it.
+QImage shown(QWidget& widget, double scale)
+{
+    QImage image((QSizeF(widget.size()) * scale).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    widget.render(&image);
+    return image;
+}
+
+struct Control
+{
+    const char* name;
+    std::function<QWidget*(QWidget*)> make;
+    Tone edge;
+};
+
+const Control controls[] = {
+    {"line of text", [](QWidget* parent) { return new QLineEdit(parent); }, Tone::Edge},
+    {"text area", [](QWidget* parent) { return new QPlainTextEdit(parent); }, Tone::Edge},
+    {"list", [](QWidget* parent) { return new QListWidget(parent); }, Tone::Edge},
+    {"grid", [](QWidget* parent) { return new QTableWidget(parent); }, Tone::Edge},
+    {"choice", [](QWidget* parent) { return new QComboBox(parent); }, Tone::Edge},
+    {"number", [](QWidget* parent) { return new QSpinBox(parent); }, Tone::Edge},
+    {"button", [](QWidget* parent) { return new QPushButton(parent); }, Tone::ButtonLine},
+    {"picture",
+     [](QWidget* parent) {
+         auto* frame = new QFrame(parent);
+         frame->setFrameShape(QFrame::StyledPanel);
+         return frame;
+     },
+     Tone::Line},
+};
+
+class Style : public testing::TestWithParam<Control>
+{
+protected:
+    void TearDown() override { showScheme(Scheme::Light); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Controls, Style, testing::ValuesIn(controls), [](const auto& row) {
+    return QString::fromLatin1(row.param.name).replace(u' ', u'_').toStdString();
+});
+
+TEST_P(Style, KeepsAllFourEdgesAtAnyScaleAndPlace)
+{
+    QWidget window;
+    window.resize(140, 100);
+    QWidget* control = GetParam().make(&window);
+    control->resize(81, 41);
+    window.show();
+    const QColor edge = tone(GetParam().edge);
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        for (const QPoint& place : {QPoint(10, 10), QPoint(11, 11), QPoint(12, 13), QPoint(13, 14)}) {
+            control->move(place);
+            const QImage image = shown(window, scale);
+            // Across each edge, from two pixels outside to three inside, a pixel has the edge's full colour.
+            const auto hasEdge = [&](const QPointF& middle, const QPoint& inward) {
+                const QPoint from = (middle * scale).toPoint();
+                for (int step = -2; step <= 3; ++step) {
+                    if (image.pixelColor(from + step * inward) == edge) {
+                        return true;
+                    }
+                }
+                return false;
+            };
+            const QRectF room(place, control->size());
+            const QPointF middle = room.center();
+            EXPECT_TRUE(hasEdge({room.left(), middle.y()}, {1, 0})) << "left at " << scale << ", " << place.x();
+            EXPECT_TRUE(hasEdge({middle.x(), room.top()}, {0, 1})) << "top at " << scale << ", " << place.y();
+            EXPECT_TRUE(hasEdge({room.right(), middle.y()}, {-1, 0})) << "right at " << scale << ", " << place.x();
+            EXPECT_TRUE(hasEdge({middle.x(), room.bottom()}, {0, -1})) << "bottom at " << scale << ", " << place.y();
+        }
+    }
+}
+
+TEST_P(Style, TakesTheGroundAndTheEdgeFromWhatIsOff)
+{
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        showScheme(scheme);
+        QWidget window;
+        window.resize(140, 100);
+        QWidget* control = GetParam().make(&window);
+        control->setGeometry(20, 20, 80, 40);
+        control->setFocusPolicy(Qt::NoFocus);
+        window.show();
+        QCoreApplication::processEvents();
+        const QImage on = shown(window, 1);
+        control->setEnabled(false);
+        const QImage off = shown(window, 1);
+        const QPoint inside(50, 50); // where no text stands
+        const QPoint left(20, 40);
+        if (GetParam().edge == Tone::Edge) {
+            EXPECT_EQ(on.pixelColor(inside), tone(Tone::Field));
+            EXPECT_EQ(off.pixelColor(inside), tone(Tone::FieldOff));
+            EXPECT_EQ(on.pixelColor(left), tone(Tone::Edge));
+            EXPECT_EQ(off.pixelColor(left), tone(Tone::EdgeOff));
+        } else if (GetParam().edge == Tone::ButtonLine) {
+            EXPECT_EQ(on.pixelColor(inside), tone(Tone::Button));
+            EXPECT_EQ(off.pixelColor(inside), tone(Tone::Ground));
+            EXPECT_EQ(off.pixelColor(left), tone(Tone::EdgeOff));
+        }
+    }
+}
+
+// How many rows of pixels hold ink of that colour, or close to it.
+int inkRows(const QImage& image, const QRect& room, const QColor& ground)
+{
+    int rows = 0;
+    for (int y = room.top(); y <= room.bottom(); ++y) {
+        for (int x = room.left(); x <= room.right(); ++x) {
+            if (qAbs(image.pixelColor(x, y).lightness() - ground.lightness()) > 60) {
+                ++rows;
+                break;
+            }
+        }
+    }
+    return rows;
+}
+
+TEST(StyleOfRows, LeavesRoomForTheHighestLettersInEveryFontAndScale)
+{
+    const QString word = u"ÜÅgjÇ"_s;
+    for (const double points : {7.0, 9.0, 13.0, 20.0}) {
+        QFont font = QApplication::font();
+        font.setPointSizeF(points);
+        for (const double scale : {1.0, 1.5}) {
+            SCOPED_TRACE(points);
+            QLabel plain(word);
+            plain.setFont(font);
+            plain.setAlignment(Qt::AlignCenter);
+            plain.resize(400, 200);
+            plain.show();
+            const QImage whole = shown(plain, scale);
+            const int expected = inkRows(whole, whole.rect(), tone(Tone::Ground));
+            ASSERT_GT(expected, points);
+
+            QListWidget list;
+            QTreeWidget tree;
+            QTableWidget grid(3, 1);
+            for (int row = 0; row < 3; ++row) { // between two empty rows
+                list.addItem(row == 1 ? word : QString());
+                tree.addTopLevelItem(new QTreeWidgetItem(QStringList(row == 1 ? word : QString())));
+                grid.setItem(row, 0, new QTableWidgetItem(row == 1 ? word : QString()));
+            }
+            for (QAbstractItemView* view : std::initializer_list<QAbstractItemView*>{&list, &tree, &grid}) {
+                SCOPED_TRACE(view->metaObject()->className());
+                view->setFont(font);
+                view->setFocusPolicy(Qt::NoFocus);
+                if (view == &grid) {
+                    grid.setColumnWidth(0, 350);
+                    grid.resizeRowsToContents();
+                }
+                view->resize(400, 400);
+                view->show();
+                QCoreApplication::processEvents();
+                const QRect row = view->visualRect(view->model()->index(1, 0));
+                const QImage image = shown(*view->viewport(), scale);
+                const QRect pixels =
+                    QRectF(row.left() * scale, row.top() * scale, row.width() * scale, row.height() * scale)
+                        .toAlignedRect()
+                        .adjusted(0, 0, 0, view == &grid ? -2 : 0); // without its hairline
+                EXPECT_GE(inkRows(image, pixels & image.rect(), tone(Tone::Field)), expected) << row.height();
+            }
+        }
+    }
+}
+
+} // namespace
