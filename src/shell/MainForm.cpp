@@ -16,6 +16,7 @@
 #include "shell/Twips.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QMouseEvent>
 
 using namespace Qt::StringLiterals;
@@ -180,6 +181,8 @@ void MainForm::ShowFrame(Panel* ActiveFrame, qint16 Code)
     if (Code == PanelCode::NewCategory || Code == PanelCode::NewProduct) {
         ActiveFrame->selectName();
     }
+    // Everything has its place before the first paint: what wraps or scrolls asks for room in several rounds.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
 void MainForm::ShowToolbar(QFrame* toolbar)

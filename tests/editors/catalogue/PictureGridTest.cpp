@@ -297,7 +297,7 @@ TEST_F(PictureGridTest, TakesAnAddedPictureWithEnter)
     auto* add = part<QPushButton>("AddBttn");
     add->setFocus();
     prompts.answerFile(files.path(u"new.png"_s));
-    QTest::keyClick(add, Qt::Key_Return);
+    QTest::keyClick(add, Qt::Key_Space);
     EXPECT_EQ(dialog->focusWidget(), grid());
     QTest::keyClick(grid(), Qt::Key_Return); // asks for no file again
     EXPECT_FALSE(dialog->isVisible());

@@ -3,6 +3,7 @@
 
 #include <QAbstractButton>
 #include <QCoreApplication>
+#include <QImage>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -61,6 +62,26 @@ TEST_P(DesignLayout, CutsNothingOffAtAnySizeOfTheWindow)
             }
         }
     }
+}
+
+class FirstShowing : public DesignTest, public testing::WithParamInterface<ManagerCase>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Managers, FirstShowing, testing::ValuesIn(managers),
+                         [](const auto& row) { return std::string(row.param.page); });
+
+TEST_P(FirstShowing, HasEverythingInItsPlaceBeforeAnyEventRuns)
+{
+    openDesign();
+    window->resize(900, 560); // the styles wrap, and the panel scrolls
+    QCoreApplication::processEvents();
+    click(GetParam().button);
+    const QImage first = window->VisibleFrame->grab().toImage();
+    for (int turn = 0; turn < 5; ++turn) {
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(first, window->VisibleFrame->grab().toImage());
 }
 
 TEST_P(DesignLayout, LeadsTheTabKeyFromTopToBottom)
