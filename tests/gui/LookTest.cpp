@@ -1,10 +1,12 @@
 // What the window shows of where one is, and where its signs stand.
+#include "editors/Panel.h"
 #include "look/Theme.h"
 #include "look/Tones.h"
 #include "shell/ShortcartButton.h"
 #include "support/WindowTest.h"
 
 #include <QFile>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QTest>
 
@@ -102,6 +104,27 @@ TEST_F(Look, GivesTheFrameOfASaveAnEdgeThatIsSeenInBothLooks)
         EXPECT_EQ(shown.pixelColor(shown.width() / 2, 0), toneIn(scheme, Tone::Edge));
         EXPECT_EQ(shown.pixelColor(8, shown.height() / 2), toneIn(scheme, Tone::Chrome));
     }
+}
+
+TEST_F(Look, GivesTheCalendarAnEdgeInBothLooks)
+{
+    click("ShopDiscountSBtn");
+    window->VisibleFrame->findChild<QRadioButton*>(u"ApplyOpt"_s)->setChecked(true);
+    QTest::mouseClick(window->VisibleFrame->findChild<QWidget*>(u"DateFromTxt"_s), Qt::LeftButton);
+    auto* month = window->VisibleFrame->findChild<QWidget*>(u"DateMV"_s);
+    ASSERT_TRUE(month->isVisible());
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        showScheme(scheme);
+        QCoreApplication::processEvents();
+        const QImage shown = month->grab().toImage();
+        const QPoint middle = shown.rect().center();
+        const QPoint last = shown.rect().bottomRight();
+        for (const QPoint& place : {QPoint(0, middle.y()), QPoint(middle.x(), 0), QPoint(last.x(), middle.y()),
+                                    QPoint(middle.x(), last.y())}) {
+            EXPECT_EQ(shown.pixelColor(place), toneIn(scheme, Tone::Edge)) << place.x() << ' ' << place.y();
+        }
+    }
+    month->hide();
 }
 
 TEST(LookSheet, SaysTheColoursThatTheCodeHas)

@@ -217,7 +217,7 @@ void CustomGrid::setLink(int row)
 {
     auto* link = new QTableWidgetItem(u"Remove"_s);
     link->setTextAlignment(Qt::AlignCenter);
-    link->setForeground(palette().link());
+    link->setForeground(palette().brush(QPalette::Active, QPalette::Link)); // off, the delegate sees to it
     QFont font = BaseGrd->font();
     font.setBold(true);
     font.setUnderline(true);
@@ -350,7 +350,7 @@ void CustomGrid::changeEvent(QEvent* event)
     if (event->type() == QEvent::PaletteChange) {
         for (int row = 0; row < BaseGrd->rowCount(); ++row) {
             if (QTableWidgetItem* link = BaseGrd->item(row, linkColumn())) {
-                link->setForeground(palette().link());
+                link->setForeground(palette().brush(QPalette::Active, QPalette::Link));
             }
         }
     }
