@@ -1,5 +1,8 @@
 #include "Parts.h"
 #include "Walk.h"
+#include "editors/design/pickers/PictureFiles.h"
+#include "model/ShopSession.h"
+#include "shell/DialogPrompts.h"
 
 #include <QCheckBox>
 #include <QDialog>
@@ -76,5 +79,11 @@ void walkDialogs(Walk& walk)
     walk.click("MainPageDesignSBtn");
     walk.keepDialog(u"home_page"_s, [&] { clickIn(walk, "lblShowCustomPageAsMain"); });
     walk.enter(MainForm::CatalogueMode);
+    DialogPrompts real; // nobody answers the toolkit's own boxes
+    real.setParentWindow(&walk.window);
+    walk.keepDialog(u"choose_file"_s,
+                    [&] { real.chooseFile(walk.window.session().folder.picturesFolder(), pictureFileFilter()); });
+    walk.keepDialog(u"question"_s,
+                    [&] { real.askYesNoCancel(u"Ambrel eCommerce Software"_s, u"Do you want save changes?"_s); });
     walk.keepDialog(u"upload"_s, [&] { Walk::partOf<QAction>(&walk.window, "mnuUpload")->trigger(); });
 }

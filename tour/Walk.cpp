@@ -116,8 +116,18 @@ PreviewBrowser& Walk::browser() const
 
 void Walk::keep(const QString& name)
 {
-    pause(40);
-    keepPicture(picture(), name);
+    // Until nothing moves any more: layouts are settled then, and thumbnails are made.
+    constexpr int mostRounds = 25;
+    QPixmap shown = picture();
+    for (int round = 0; round < mostRounds; ++round) {
+        pause(40);
+        const QPixmap next = picture();
+        if (next.toImage() == shown.toImage()) {
+            break;
+        }
+        shown = next;
+    }
+    keepPicture(shown, name);
 }
 
 void Walk::keepPicture(const QPixmap& picture, const QString& name)

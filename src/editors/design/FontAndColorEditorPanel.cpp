@@ -6,13 +6,16 @@
 #include "design/SwitchWord.h"
 #include "editors/ClosedList.h"
 #include "editors/PanelHost.h"
+#include "editors/PanelParts.h"
 #include "editors/design/ColourText.h"
 #include "look/Measures.h"
 #include "look/SwatchButton.h"
+#include "look/Tones.h"
 #include "model/ShopSession.h"
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -105,8 +108,8 @@ void FontAndColorEditorPanel::makeFontRow()
     auto* form = qobject_cast<QFormLayout*>(Frame1->layout());
     FontNameLst = namedList("FontNameLst", fontNames(), u"Arial"_s, Frame1);
     FontSizeLst = namedList("FontSizeLst", fontSizes(), u"10pt"_s, Frame1);
-    form->addRow(u"&Font:"_s, FontNameLst);
-    form->addRow(u"&Size:"_s, FontSizeLst);
+    form->addRow(captionOf(u"&Font:"_s, FontNameLst), FontNameLst);
+    form->addRow(captionOf(u"&Size:"_s, FontSizeLst), FontSizeLst);
 
     auto* row = new QHBoxLayout;
     row->setSpacing(14);
@@ -131,7 +134,7 @@ void FontAndColorEditorPanel::makeColourRow(PanelHost& host)
         button->setAccessibleName(accessibleName);
         button->setIconSize(SwatchIconSize);
         button->setAutoDefault(false); // Enter stays with the dialog's button
-        qobject_cast<QFormLayout*>(Frame1->layout())->addRow(caption, button);
+        qobject_cast<QFormLayout*>(Frame1->layout())->addRow(captionOf(caption, button), button);
         connectGuarded(host.errorHandler(), button, &QPushButton::clicked, this, [this, &host, &colour, set] {
             std::optional<int> chosen = host.session().prompts.chooseColour(colourNumberOf(colour));
             if (chosen) {
@@ -259,8 +262,17 @@ void FontAndColorEditorPanel::setObjectFontLineTrough(bool on)
 void FontAndColorEditorPanel::showColour(QPushButton* button, const QString& colour)
 {
     button->setText(colour);
-    button->setIcon(colourSwatch(colourOf(colour), palette().color(QPalette::WindowText), devicePixelRatioF()));
+    button->setIcon(colourSwatch(colourOf(colour), tone(Tone::Edge), devicePixelRatioF()));
     showSample();
+}
+
+void FontAndColorEditorPanel::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && BackGroundColorBtn) {
+        showColour(ForeGroundColorBtn, m_foreGround);
+        showColour(BackGroundColorBtn, m_backGround);
+    }
 }
 
 void FontAndColorEditorPanel::showSample()
@@ -269,6 +281,8 @@ void FontAndColorEditorPanel::showSample()
         return;
     }
     QPalette colours = palette();
+    colours.setColor(QPalette::WindowText, Qt::black); // a page without colours of its own, whatever the window's look
+    colours.setColor(QPalette::Window, Qt::white);
     const auto use = [&colours](QPalette::ColorRole role, const QString& text) {
         const QColor colour = colourOf(text);
         if (colour.isValid()) {

@@ -55,6 +55,9 @@ public:
     bool ObjectFontLineTrough() const;
     void setObjectFontLineTrough(bool on);
 
+protected:
+    void changeEvent(QEvent* event) override;
+
 private:
     void makeFontRow();
     void makeColourRow(PanelHost& host);
