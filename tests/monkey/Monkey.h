@@ -39,6 +39,7 @@ private:
     void touch(QWidget& widget);
     void touchText(QWidget& widget);
     void touchItems(QWidget& view);
+    void addFilledRow(QWidget& link);
     void touchTree();
     void touchButton();
     void walk(QWidget& root);

@@ -18,6 +18,7 @@
 #include <QScrollArea>
 #include <QSplitter>
 #include <QTabBar>
+#include <QTableWidget>
 
 #include <algorithm>
 #include <array>
@@ -148,7 +149,9 @@ void Monkey::touch(QWidget& widget)
     }
     const QPoint place = placeIn(widget);
     const int how = m_dice.below(100);
-    if (how < 3) {
+    if (m_isCareful && leavesEmptyRow(widget)) {
+        addFilledRow(widget);
+    } else if (how < 3) {
         Note(u"context "_s + NameOf(widget));
         askForContextMenu(widget, place);
     } else if (how < 6) {
@@ -225,6 +228,23 @@ void Monkey::touchItems(QWidget& widget)
         const QString text = textFor(*editor);
         Note(u"  type "_s + shortened(text));
         typeText(*editor, text);
+    }
+}
+
+void Monkey::addFilledRow(QWidget& link)
+{
+    Note(u"add a row "_s + NameOf(link));
+    Press(link, link.rect().center());
+    const auto& table = *link.parentWidget()->findChild<QTableWidget*>(u"BaseGrd"_s);
+    const int row = table.rowCount() - 1;
+    for (int column = 0; column < table.columnCount() - 1; ++column) { // the last one removes the row
+        const QModelIndex cell = table.model()->index(row, column);
+        Press(*table.viewport(), table.visualRect(cell).center());
+        if (auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget())) {
+            const QString text = textFor(*box);
+            Note(u"  type "_s + shortened(text));
+            typeText(*box, text);
+        }
     }
 }
 

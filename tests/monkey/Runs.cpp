@@ -62,9 +62,10 @@ int runProcess(const QString& program, const QStringList& arguments, QByteArray&
     return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
 }
 
-bool isLegal(int code)
+// An owner who takes care ends no run by an error.
+bool isLegal(int code, bool isCareful)
 {
-    return code == Done || code == FatalError;
+    return code == Done || (code == FatalError && !isCareful);
 }
 
 } // namespace
@@ -102,7 +103,7 @@ void Runs::run(std::uint32_t seed)
     int code = runProcess(m_program, way + there, output);
     const QByteArray end = code == FatalError ? endOf(output) : "all steps";
     const QByteArray wayToEnd = code == FatalError ? wayTo(output) : QByteArray();
-    if (isLegal(code)) {
+    if (isLegal(code, m_plan.isCareful)) {
         // However a run ends, the shop that lies in its folder is a whole one.
         code = runProcess(m_program, QStringList{u"--check"_s} + there, output);
     }
@@ -111,7 +112,7 @@ void Runs::run(std::uint32_t seed)
     if (m_plan.isTalkative) {
         std::printf("seed %u:%s\n", seed, wayToEnd.constData());
     }
-    if (isLegal(code)) {
+    if (isLegal(code, m_plan.isCareful)) {
         ++m_ends[end];
     } else {
         m_isClean = false;

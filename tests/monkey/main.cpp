@@ -38,6 +38,7 @@ void addOptions(QCommandLineParser& parser)
                        {u"jobs"_s, u"Runs at a time."_s, u"N"_s, u"4"_s},
                        {u"talk"_s, u"Tell the end of each run."_s},
                        {u"on"_s, u"Go on after a defect."_s},
+                       {u"wild"_s, u"Play wild hands, which do anything; so it is unless told otherwise."_s},
                        {u"careful"_s, u"Play the careful owner, who types what each field asks for."_s},
                        {u"alone"_s, u"One run in this process."_s},
                        {u"check"_s, u"Open and save, in this process, the shop that a run has left."_s},
