@@ -80,8 +80,7 @@ FindLine::Hits FindLine::hits() const
 void FindLine::collect(const TreeNode& above, const QStringMatcher& matcher, const TreeNode* current, Hits& hits) const
 {
     for (const std::unique_ptr<TreeNode>& node : above.children) {
-        const bool isHit = matcher.indexIn(node->text) >= 0 ||
-                           (node->image == TreeImage::Product && matcher.indexIn(m_codeOf(node->key)) >= 0);
+        const bool isHit = matcher.indexIn(node->text) >= 0 || matcher.indexIn(m_codeOf(node->key)) >= 0;
         if (node.get() == current) {
             hits.above = hits.nodes.size();
             hits.hasCurrent = isHit;

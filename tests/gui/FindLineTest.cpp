@@ -115,6 +115,20 @@ TEST_F(Find, FindsAPartOfANameOrACodeWhateverTheCase)
     }
 }
 
+// A category that was added while panel and node differed stands below a product.
+TEST_F(Find, FindsTheCodeOfAProductWithAnOpenNode)
+{
+    clickNode(u"ID4"_s);
+    trigger("mnuProductsCatalog");
+    click("ShopNewCategorySBtn");
+    ASSERT_EQ(window->SelectedNode->parent->key, u"ID4"_s);
+    EXPECT_EQ(window->SelectedNode->parent->image, TreeImage::Opened);
+    ask(u"T-1"_s);
+    EXPECT_EQ(shown(), u"1 found"_s);
+    enter();
+    EXPECT_EQ(window->SelectedNode->key, u"ID4"_s);
+}
+
 TEST_F(Find, SelectsNothingWhileOneTypes)
 {
     clickNode(u"ID6"_s);
