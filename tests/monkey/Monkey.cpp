@@ -6,12 +6,17 @@
 #include "OddTexts.h"
 #include "Watchdog.h"
 #include "publish/dialog/frmUpload.h"
+#include "shell/CatalogueTree.h"
+#include "shell/WindowKeys.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPointer>
 #include <QRegularExpression>
 #include <QScopedValueRollback>
+#include <QTest>
 #include <QTimerEvent>
 
 #include <algorithm>
@@ -122,8 +127,10 @@ void Monkey::actInWindow()
         chooseEntry();
     } else if (what < 90) {
         m_window.WorkMode == MainForm::PreviewMode ? followLink() : touchAny(m_window);
-    } else if (what < 95) {
+    } else if (what < 93) {
         pressAnyKey(m_window);
+    } else if (what < 95) {
+        pressCommandKey();
     } else if (what < 97) {
         Note(u"walk"_s);
         walk(m_window);
@@ -183,6 +190,31 @@ void Monkey::chooseEntry()
     QAction* action = m_dice.pick(entries);
     Note(u"menu "_s + action->objectName());
     action->trigger();
+}
+
+// A key of the window's commands, or the one of the tree's menu. What Ctrl+F opens is used at once.
+void Monkey::pressCommandKey()
+{
+    QWidget* tree = m_window.parts().CategoriesAndProductsTree;
+    if (m_dice.chance(20)) {
+        Note(u"menu key"_s);
+        QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
+        QApplication::sendEvent(tree, &event);
+        return;
+    }
+    const WindowKey& command =
+        windowKeys()[static_cast<std::size_t>(m_dice.below(static_cast<int>(windowKeys().size())))];
+    const QKeyCombination key = QKeySequence(QLatin1String(command.keys))[0];
+    Note(u"key "_s + QLatin1String(command.keys));
+    QWidget* focus = m_window.focusWidget();
+    QTest::keyPress(focus && focus->isVisible() ? focus : &m_window, key.key(), key.keyboardModifiers());
+    QPointer<QLineEdit> line = m_window.findChild<QLineEdit*>(u"CatalogueFindTxt"_s);
+    if (command.action == findCommand && line->isVisible()) {
+        typeText(*line, QString(QChar(u'a' + m_dice.below(26))));
+        for (int hits = m_dice.below(4); hits > 0 && line && line->isVisible(); --hits) {
+            pressKey(*line, Qt::Key_Return, m_dice.chance(20) ? Qt::ShiftModifier : Qt::NoModifier);
+        }
+    }
 }
 
 void Monkey::followLink()

@@ -45,6 +45,7 @@ private:
     void walk(QWidget& root);
     void pressAnyKey(QWidget& root);
     void chooseEntry();
+    void pressCommandKey();
     void followLink();
     void changeWindow();
 
