@@ -5,6 +5,7 @@
 #include "editors/Panel.h"
 #include "look/Theme.h"
 #include "look/WordLabel.h"
+#include "shell/BottomLine.h"
 #include "shell/DialogPrompts.h"
 #include "shell/ShortcartButton.h"
 #include "support/Hands.h"
@@ -21,6 +22,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <functional>
 
 using namespace Qt::StringLiterals;
@@ -184,6 +186,30 @@ TEST_P(Contrast, IsEnoughInTheBoxesOfTheToolkit)
     expectDialogReadable([&] { real.chooseFile(files.folder().picturesFolder(), u"All files (*)"_s); });
     expectDialogReadable([&] { real.chooseColour(0x885d48); });
     EXPECT_GT(seen, 40);
+}
+
+TEST_P(Contrast, IsEnoughInTheBottomLineAndTheLineThatFinds)
+{
+    const auto expectShownAndReadable = [this](const char* words) {
+        expectReadable(*window, QLatin1String(words));
+        const QList<PaintedText> texts = paintedTexts(*window);
+        EXPECT_TRUE(std::any_of(texts.begin(), texts.end(), [&](const PaintedText& text) {
+            return text.text == QLatin1String(words);
+        })) << words;
+    };
+    trigger("mnuSaveShop");
+    expectShownAndReadable("Saved 14:03");
+    QTest::keyClick(window.get(), Qt::Key_F, Qt::ControlModifier);
+    expectShownAndReadable("Name or code");
+    Hands::pressKeys(window->focusWidget(), u"marzipan"_s);
+    expectShownAndReadable("Nothing found");
+    window->parts().frmCopyright->tellFailure(u"Line 17 of the import is not understood"_s);
+    expectShownAndReadable("Line 17 of the import is not understood");
+    trigger("mnuShopPreview");
+    for (const char* button : {"PhoneWidthBtn", "FullWidthBtn"}) {
+        Hands::press(find(button));
+        expectShownAndReadable("820 px");
+    }
 }
 
 // The test sees what it should see.
