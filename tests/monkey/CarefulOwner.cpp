@@ -82,9 +82,9 @@ bool isMissedElsewhere(MainForm& window)
     }
     forEachProduct(*window.session().shop, [&](const ProductClass& product) {
         const QStringList related = product.related;
-        isMissed = isMissed || (!ids.contains(product.id) &&
-                                std::any_of(related.begin(), related.end(),
-                                            [&](const QString& id) { return ids.contains(id); }));
+        isMissed = isMissed ||
+                   (!ids.contains(product.id) &&
+                    std::any_of(related.begin(), related.end(), [&](const QString& id) { return ids.contains(id); }));
     });
     return isMissed;
 }
