@@ -1,6 +1,8 @@
 # Run at build time with -DFROM=app -DTO=folder -DRECORD=file: copies the files of an installation beside the program. A
 # file that was changed there since it was laid out belongs to the owner and is left alone.
 
+cmake_minimum_required(VERSION 3.25) # a script has no policies of its own, IN_LIST among them
+
 file(GLOB_RECURSE files RELATIVE "${FROM}" "${FROM}/*")
 set(laid_out "")
 if(EXISTS "${RECORD}")
