@@ -265,6 +265,15 @@ TEST_F(SampleShopTest, EveryCustomPageOfTheMenusOpens)
         EXPECT_EQ(preview->lastPageName(), u"custompage"_s);
         EXPECT_EQ(std::get<std::shared_ptr<CustomPageClass>>(preview->lastPageObject()), page);
     }
+    clickToNewPage(u"nav.menuinheader a[href='http://previewmode/MAINPAGE']"_s);
+    EXPECT_EQ(preview->lastPageName(), u"main"_s);
+    clickToNewPage(u"nav.menuinfooter a[href='http://previewmode/ACTION=shopcart.php']"_s);
+    EXPECT_EQ(preview->lastPageName(), u"cart"_s);
+
+    // Header and footer have a short way to one of the shop's own pages each; the other is found by its name.
+    session->shop->ShopDesign->Pages(PageSelection::FooterCustomPageSelected)->Add(u"Home page"_s);
+    session->shop->ShopDesign->Pages(PageSelection::HeaderCustomPageSelected)->Add(u"Shopping cart page"_s);
+    goTo(u"ACTION=shopcart.php"_s);
     clickToNewPage(u"a[href='http://previewmode/ACTION=custompage.php&name=Home page']"_s);
     EXPECT_EQ(preview->lastPageName(), u"main"_s);
     clickToNewPage(u"a[href='http://previewmode/ACTION=custompage.php&name=Shopping cart page']"_s);

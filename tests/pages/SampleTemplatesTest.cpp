@@ -130,6 +130,40 @@ TEST_F(SampleTemplatesTest, NoLinkBuys)
     }
 }
 
+// A quote in it would end the attribute.
+TEST_F(SampleTemplatesTest, NoNameAndNoTextStandsInAnAttribute)
+{
+    static const QRegularExpression attribute(u"\\s([a-z-]+)=\"((?:<!--:.*?:-->|[^\"<])*)\""_s);
+    static const QRegularExpression words(
+        u"<!--:(\\w*name|PriceDescription|\\w*_TEXT|\\w*Text|tax_name|destination)[=:]"_s);
+    int links = 0;
+    for (auto text = texts.begin(); text != texts.end(); ++text) {
+        for (const QRegularExpressionMatch& match : attribute.globalMatch(text.value())) {
+            if (!match.captured(2).contains(words)) {
+                continue;
+            }
+            // A custom page's name alone, whose characters are those of an address.
+            EXPECT_EQ(match.captured(1), u"href"_s) << text.key().toStdString() << match.captured().toStdString();
+            EXPECT_TRUE(match.captured(2).contains(u"ACTION=custompage.php&amp;name=<!--:name:-->"_s));
+            ++links;
+        }
+    }
+    EXPECT_EQ(links, 8); // four menus, in the working and the factory copies
+}
+
+TEST_F(SampleTemplatesTest, EachOfTheTwoSumsSaysWhatItCounts)
+{
+    const auto cup = addProduct(u"6"_s, u"Cup"_s, u"20"_s, addCategory(u"2"_s, u"Cups"_s));
+    addToCart(cup, u"20"_s, u"3"_s);
+    templates.Path = QStringLiteral(TARNWICK_SOURCE_DIR "/app/templates/");
+    templates.parseTemplates();
+    const QString cart = RenderPage(context, u"cart"_s, {});
+    const QString form = RenderPage(context, u"checkout"_s, {});
+    EXPECT_TRUE(cart.contains(u"<span>All goods in their quantities</span> <strong>60&nbsp;"_s));
+    EXPECT_TRUE(form.contains(u"<span>One of each, with tax and delivery</span> <strong>20&nbsp;"_s));
+    EXPECT_TRUE(form.contains(u"Quantities are not counted here."_s));
+}
+
 TEST_F(SampleTemplatesTest, TheRecalculationEndsInItsAction)
 {
     int recalculations = 0;

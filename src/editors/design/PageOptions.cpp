@@ -42,7 +42,7 @@ ShopDesignClass& designOf(PanelHost& host)
 QString describe(const clsSelectedImage* image)
 {
     if (!image) {
-        return u"Not used by this page"_s;
+        return u"Not used by this page. The form shows the one of the shopping cart page"_s;
     }
     switch (image->SelectionType) {
     case ImageSelection::Text:

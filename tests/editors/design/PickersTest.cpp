@@ -235,6 +235,8 @@ TEST_F(ImageSlots, ThatAreNeverFilledCanBeOpenedAndChangeNothing)
     saveShop();
     const QByteArray before = fileBytes(files.path(u"shop.xml"_s));
     pressIn("imgRecalculateButton");
+    EXPECT_EQ(in<QLabel>("imgRecalculateButtonValue")->text(),
+              u"Not used by this page. The form shows the one of the shopping cart page"_s);
     QDialog* form = dialog("frmSelectImageOrText");
     EXPECT_EQ(selected(form), QString());
     EXPECT_FALSE(form->findChild<QPushButton*>(u"btnCSS_Text"_s)->isEnabled());
