@@ -96,6 +96,7 @@ def tea(colour, kind, band, leaves):
 BAGS = {
     "sencha": (MOSS, "needles", GREEN), "jasmine": (mix(MOSS, CREAM, 0.45), "flower", MOSS), "morning": (NIGHT, "sun", RUST),
     "smoke": (mix(NIGHT, "#555555", 0.5), "pine", "#8c8c86"), "mint": (mix(GREEN, "#9fd0b5", 0.45), "mint", GREEN), "rose": (mix(PINK, CREAM, 0.25), "rose", RUST),
+    "winter": (mix(CHERRY, NIGHT, 0.25), "sun", HONEY),
 }
 G_TEA, G_LINEN, G_WOOD, G_POT, G_TABLE, G_GIFT = "#b7c3a2", "#cfc2ae", "#d9b48a", "#c9b9a6", "#b9c2c2", "#c9a79a"
 
@@ -115,6 +116,7 @@ PICTURES = {
     "tea-smoke": product("#b3b4ac", tea(*BAGS["smoke"], "#3b332c")),
     "tea-mint": product("#b4cdb9", tea(*BAGS["mint"], "#5f8f63")),
     "tea-rose": product("#d9b8ac", tea(*BAGS["rose"], "#b9776f")),
+    "tea-winter": product("#c9a79b", tea(*BAGS["winter"], "#5b2f26")),
     "tablecloth": product(G_LINEN, at(240, 388, tablecloth(), 1.08) + at(206, 196, pot_side(), 0.42) + at(300, 198, cup(), 0.5), floor=0.84),
     "runner": product("#c4bfa9", at(240, 398, runner(), 1.1), floor=0.82),
     "napkins": product(G_LINEN, at(240, 396, folded([(SAND, None), (MOSS, None), (CREAM, None), (CLAY, None)]), 1.2)),
@@ -153,6 +155,7 @@ PICTURES = {
     "cat-tableware": category(G_TABLE, at(206, 340, plates_pile(), 0.98) + at(458, 194, branch(), 0.62) + at(452, 342, jug(), 0.86)),
     "cat-plates": category("#c3bcae", at(320, 338, plates_pile(), 1.35)),
     "cat-serving": category("#bfc4ae", at(258, 334, dish(), 1.02) + at(512, 344, jug(), 0.84)),
+    "cat-seconds": category("#c7beb2", at(154, 336, cup(CLAY, SAND), 1.05) + at(312, 340, bowl(RUST, HONEY, 84), 0.9) + at(510, 338, plates_pile(), 0.7)),
     "cat-gifts": category(G_GIFT, at(216, 332, gift(GREEN, SAND, 104, 140), 1.0) + at(430, 344, gift(RUST, CREAM, 82, 96), 1.0)),
     "logo": logo(),
     "button-search": icon_button(44, GREEN, lens, "#ffffff"),

@@ -8,6 +8,8 @@ VIRTUAL_DISPLAY_PACKAGES=(xvfb xauth)
 TEST_PACKAGES=(libexpat1-dev libgtest-dev libgmock-dev git php-cli tidy xdg-user-dirs dbus-daemon)
 LINT_PACKAGES=(clang clang-format clang-tidy libclang-rt-14-dev)
 PACKAGING_PACKAGES=(librsvg2-bin file dpkg-dev)
+AXE_PACKAGES=(npm)
+AXE_VERSION=4.14.1
 BENCH_PACKAGES=(libbenchmark-dev libctemplate-dev pkg-config php-cli curl)
 
 # need PACKAGE...: installs those that are missing. Says nothing and asks for no rights when none is. Who has no rights

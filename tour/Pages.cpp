@@ -35,7 +35,7 @@ constexpr PageStop pages[] = {
     {"ACTION=product.php&id=23", nullptr, "product_with_several_prices"},
     {"?ACTION=search.php&where=0&what=tea", nullptr, "search"},
     {"?ACTION=search.php&where=0&what=marzipan", nullptr, "search_without_results"},
-    {"ACTION=custompage.php&name=Care and brewing", nullptr, "custom_page"},
+    {"ACTION=custompage.php&name=Brewing", nullptr, "custom_page"},
     {"ACTION=shopcart.php", nullptr, "cart_empty"},
     {"ACTION=product.php&id=23", nullptr, nullptr},
     {nullptr, "form.buy [type=submit]", nullptr},
