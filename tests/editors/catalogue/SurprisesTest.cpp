@@ -1,0 +1,88 @@
+// What ends the program in the middle of ordinary work, deliberately. docs/guide/surprises.md warns of each of these.
+#include "PanelTest.h"
+#include "design/ShopDesignClass.h"
+#include "design/clsSelectedCustomPages.h"
+#include "template_engine/Templates_Set.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Surprises : public PanelTest
+{
+protected:
+    void SetUp() override
+    {
+        PanelTest::SetUp();
+        window->CurrentTemplatesSet().Path = QStringLiteral(TARNWICK_SOURCE_DIR "/app/templates/");
+        window->CurrentTemplatesSet().parseTemplates();
+    }
+    // The number of the error that a link of the preview ends with, 0 when the page comes.
+    int errorAt(const QString& query)
+    {
+        EXPECT_TRUE(errors.numbers.empty());
+        return errorOf([&] { preview->navigation->act(u"http://previewmode/"_s + query); });
+    }
+    // Gives the shop a discount by price, with the cells of its one row, and lets the product "Sencha" inherit it.
+    void inheritBands(const QStringList& row)
+    {
+        trigger("mnuProductsCatalog");
+        click("ShopDiscountSBtn");
+        press("DependOpt");
+        addRow(window->VisibleFrame->findChild<CustomGrid*>(), row);
+        submit();
+        clickNode(u"ID2"_s);
+        click("CategoryDiscountSBtn");
+        press("InheritOpt");
+        submit();
+        clickNode(u"ID4"_s);
+        click("ProductDiscountSBtn");
+        press("InheritOpt");
+        submit();
+        click("ProductGeneralSBtn");
+    }
+};
+
+TEST_F(Surprises, AfterCancelAtTheExitThePreviewHasNoCart)
+{
+    prompts.answerYesNoCancel(u"Ambrel eCommerce Software"_s, u"Do you want save changes?"_s, PromptAnswer::Cancel);
+    EXPECT_FALSE(window->close());
+    click("PreviewBrowserSBtn");
+    EXPECT_EQ(errors.numbers, std::vector<int>{91});
+}
+
+TEST_F(Surprises, ADeletedPageThatAMenuShowsIsALinkToNothing)
+{
+    shop().ShopDesign->Pages(PageSelection::HeaderCustomPageSelected)->Add(u"About"_s);
+    click("PreviewBrowserSBtn");
+    EXPECT_EQ(errorAt(u"ACTION=custompage.php&name=About"_s), 5);
+}
+
+TEST_F(Surprises, AProductOfARemovedCategoryIsMissedWhereItIsRelated)
+{
+    product("4")->setRelatedIds({u"5"_s});
+    clickNode(u"ID3"_s);
+    prompts.answerYesNo(u"Warning"_s, u"Are you sure you want to remove this category"_s, true);
+    click("RemoveCategorySBtn");
+    click("PreviewBrowserSBtn");
+    EXPECT_EQ(errorAt(u"ACTION=product.php&id=4"_s), 5);
+}
+
+TEST_F(Surprises, AnInheritedDiscountByPriceNeedsAPrice)
+{
+    inheritBands({u"5"_s, u"50"_s, u"10"_s});
+    EXPECT_EQ(errorAt(u"ACTION=product.php&id=4"_s), 0);
+    trigger("mnuProductsCatalog");
+    clickNode(u"ID4"_s);
+    type("ProductPriceTxt", QString());
+    submit();
+    EXPECT_EQ(errorAt(u"ACTION=product.php&id=4"_s), 13);
+}
+
+TEST_F(Surprises, ARowOfADiscountByPriceThatIsLeftEmptyIsNoNumber)
+{
+    inheritBands({});
+    EXPECT_EQ(errorAt(u"ACTION=product.php&id=4"_s), 13);
+}
+
+} // namespace
