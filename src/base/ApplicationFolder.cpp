@@ -15,6 +15,18 @@ QString ApplicationFolder::shopFile() const
 {
     return m_path + "/shop.xml"_L1;
 }
+QString ApplicationFolder::unsavedShopFile() const
+{
+    return m_path + "/shop.unsaved.xml"_L1;
+}
+QString ApplicationFolder::oldUnsavedShopFile() const
+{
+    return m_path + "/shop.unsaved.old.xml"_L1;
+}
+QString ApplicationFolder::runningFile() const
+{
+    return m_path + "/Tarnwick.running"_L1;
+}
 QString ApplicationFolder::countriesFile() const
 {
     return m_path + "/countries.txt"_L1;

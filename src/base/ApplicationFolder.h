@@ -11,6 +11,11 @@ public:
 
     const QString& path() const { return m_path; }
     QString shopFile() const;
+    // What was not saved yet, and what of it was set aside.
+    QString unsavedShopFile() const;
+    QString oldUnsavedShopFile() const;
+    // Marks the folder as in use while the program runs.
+    QString runningFile() const;
     QString countriesFile() const;
     QString loadLogFile() const;
     QString uploadLogFile() const;

@@ -13,5 +13,7 @@ void LoadLog::reset()
 
 void LoadLog::WriteLoadLog(const QString& message)
 {
-    appendFileBytes(m_fileName, '"' + message.toUtf8() + "\"\r\n");
+    if (!m_isMute) {
+        appendFileBytes(m_fileName, '"' + message.toUtf8() + "\"\r\n");
+    }
 }

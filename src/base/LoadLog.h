@@ -16,6 +16,10 @@ public:
     // Appends the message between double quotes, ended by CR LF. Errors as for appendFileBytes.
     void WriteLoadLog(const QString& message);
 
+    // From now on nothing is written: for a reading of a shop that is only a trial.
+    void mute() { m_isMute = true; }
+
 private:
     QString m_fileName;
+    bool m_isMute = false;
 };

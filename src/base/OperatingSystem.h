@@ -1,4 +1,5 @@
-// All that the program takes from one operating system alone: files down to the disk, and who runs the program. The
+// All that the program takes from one operating system alone: files down to the disk, holds on them, and who runs
+// the program. The
 // form for POSIX systems is OperatingSystemPosix.cpp, the one for all others OperatingSystemGeneral.cpp. Tests put
 // their own FileCalls in between to see the order of the calls.
 #pragma once
@@ -70,6 +71,25 @@ std::unique_ptr<FileCalls> systemFileCalls();
 
 // The same by what every system has: nothing is reserved, and flushing is left to the system.
 std::unique_ptr<FileCalls> generalFileCalls();
+
+// A file that this process holds while the object lives. The system lets it go when the process ends, however that
+// happens, so a crash leaves no hold behind. Nothing is ever written into it.
+class HeldFile
+{
+public:
+    HeldFile() = default;
+    HeldFile(const HeldFile&) = delete;
+    HeldFile& operator=(const HeldFile&) = delete;
+    // Lets it go. The last one to hold it removes the file.
+    virtual ~HeldFile() = default;
+
+    // Whether another one held the file already when this one came.
+    virtual bool isShared() const = 0;
+};
+
+// Holds the file, which is made when it is not there. Never waits and never fails: none where the file cannot be made
+// or the file system knows no holds.
+std::unique_ptr<HeldFile> holdFile(const QString& path);
 
 // Whether the program runs with the rights of the system's owner (root).
 bool runsAsRoot();

@@ -5,6 +5,11 @@ std::unique_ptr<FileCalls> systemFileCalls()
     return generalFileCalls();
 }
 
+std::unique_ptr<HeldFile> holdFile(const QString& /*path*/)
+{
+    return nullptr;
+}
+
 bool runsAsRoot()
 {
     return false;

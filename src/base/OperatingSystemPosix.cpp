@@ -225,7 +225,91 @@ public:
     }
 };
 
+// A lock belongs to the open file and not to the process where the system knows that: then no other opening of the file
+// in this process lets it go, and two of them see each other.
+#ifdef F_OFD_SETLK
+constexpr int setLock = F_OFD_SETLK;
+#else
+constexpr int setLock = F_SETLK;
+#endif
+
+// The first byte is held by the first one alone, the second byte by all of them.
+constexpr off_t firstByte = 0;
+constexpr off_t sharedByte = 1;
+
+class PosixHeldFile : public HeldFile
+{
+public:
+    PosixHeldFile(const QString& path, int descriptor) : m_path(QFile::encodeName(path)), m_descriptor(descriptor) {}
+    PosixHeldFile(const PosixHeldFile&) = delete;
+    PosixHeldFile& operator=(const PosixHeldFile&) = delete;
+    ~PosixHeldFile() override
+    {
+        if (isInPlace() && lock(F_WRLCK, firstByte, 2)) {
+            ::unlink(m_path.constData());
+        }
+        ::close(m_descriptor);
+    }
+
+    bool isShared() const override { return m_isShared; }
+
+    // False when the file system knows no locks.
+    bool take()
+    {
+        if (lock(F_WRLCK, firstByte, 2)) {
+            return lock(F_RDLCK, sharedByte, 1);
+        }
+        m_isShared = errno == EACCES || errno == EAGAIN;
+        // One that comes at this very moment may have the byte to itself until it has looked.
+        return m_isShared && (lock(F_RDLCK, sharedByte, 1) || errno == EACCES || errno == EAGAIN);
+    }
+
+    // Whether the path still leads to this file: the last one to hold it may have removed it.
+    bool isInPlace() const
+    {
+        struct stat here = {};
+        struct stat there = {};
+        return ::fstat(m_descriptor, &here) == 0 && ::stat(m_path.constData(), &there) == 0 &&
+               here.st_dev == there.st_dev && here.st_ino == there.st_ino;
+    }
+
+private:
+    bool lock(short type, off_t start, off_t length) const
+    {
+        struct flock range = {};
+        range.l_type = type;
+        range.l_whence = SEEK_SET;
+        range.l_start = start;
+        range.l_len = length;
+        return ::fcntl(m_descriptor, setLock, &range) == 0;
+    }
+
+    QByteArray m_path;
+    int m_descriptor;
+    bool m_isShared = false;
+};
+
 } // namespace
+
+std::unique_ptr<HeldFile> holdFile(const QString& path)
+{
+    constexpr int mostTries = 10; // each is for one that ends at the same moment
+    for (int attempt = 0; attempt < mostTries; ++attempt) {
+        const int descriptor =
+            ::open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0666);
+        if (descriptor < 0) {
+            return nullptr;
+        }
+        auto file = std::make_unique<PosixHeldFile>(path, descriptor);
+        if (!file->take()) {
+            return nullptr;
+        }
+        if (file->isInPlace()) {
+            return file;
+        }
+    }
+    return nullptr;
+}
 
 std::unique_ptr<FileCalls> systemFileCalls()
 {
