@@ -37,7 +37,7 @@ std::optional<BackUpReport> backUpFromMenu(const BackUpServices& services)
     return BackUpReport{name, QFileInfo(folder + name).size(), packer.leftOut().size()};
 }
 
-bool restoreFromMenu(const BackUpServices& services)
+bool restoreFromMenu(const BackUpServices& services, const std::function<void()>& whenRestored)
 {
     const QString path =
         services.prompts.chooseFile(services.folder.backupsFolder(), u"Packed shops (*.kvb *.KVB);;All files (*)"_s);
@@ -49,6 +49,7 @@ bool restoreFromMenu(const BackUpServices& services)
         services.prompts.showMessage(u"Error"_s, u"Restore backup is failed"_s, PromptIcon::Critical);
         return false;
     }
+    whenRestored();
     services.prompts.showMessage(u"Restoring"_s, u"Restore is completed.\r\nThe program will be restarted now."_s,
                                  PromptIcon::Information);
     return true;

@@ -9,6 +9,7 @@
 
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 struct BackUpServices
@@ -34,6 +35,6 @@ struct BackUpReport
 std::optional<BackUpReport> backUpFromMenu(const BackUpServices& services);
 
 // Asks for a packed file and restores it. True when the files on disk are those of the backup: the window then forgets
-// its unsaved changes, starts the program anew and closes. False after Cancel, or after a failure that was told. Errors
-// as those of clsPacker::Restore.
-[[nodiscard]] bool restoreFromMenu(const BackUpServices& services);
+// its unsaved changes, starts the program anew and closes. whenRestored is called as soon as they are, ahead of the box
+// that tells it. False after Cancel, or after a failure that was told. Errors as those of clsPacker::Restore.
+[[nodiscard]] bool restoreFromMenu(const BackUpServices& services, const std::function<void()>& whenRestored);

@@ -138,7 +138,7 @@ void ShopDesignClass::FromXML(const pugi::xml_node& node)
     log.WriteLoadLog(u"-----ShopDesignClass loaded from XML------"_s);
 }
 
-void ShopDesignClass::ToXML(pugi::xml_node node)
+void ShopDesignClass::ToXML(pugi::xml_node node, Unwritable unwritable)
 {
     for (const GroupStep& step : groupSteps) {
         for (const DesignOptionRow& row : designOptionsOf(step.group)) {
@@ -149,7 +149,7 @@ void ShopDesignClass::ToXML(pugi::xml_node node)
         if (const auto* option = std::get_if<DesignOption>(&step)) {
             writeOption(node, *option);
         } else if (const auto* slot = std::get_if<ImageSlot>(&step)) {
-            Image(*slot)->ToXML(node);
+            Image(*slot)->ToXML(node, unwritable);
         } else {
             Pages(std::get<PageSelection>(step))->ToXML(node);
         }

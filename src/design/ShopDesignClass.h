@@ -2,6 +2,7 @@
 // selections. There is one, ShopClass::ShopDesign; it is replaced when a shop file with a ShopDesign element is read.
 #pragma once
 
+#include "base/Unwritable.h"
 #include "design/DesignOptions.h"
 #include "design/DesignServices.h"
 #include "design/ImageSlots.h"
@@ -60,7 +61,7 @@ public:
 
     // The node is the ShopDesign element; ToXML is given an empty one. Errors as for the slots and selections.
     void FromXML(const pugi::xml_node& node);
-    void ToXML(pugi::xml_node node);
+    void ToXML(pugi::xml_node node, Unwritable unwritable = Unwritable::Raises);
 
 private:
     void readOptions(const pugi::xml_node& node);

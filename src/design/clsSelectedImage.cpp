@@ -59,17 +59,45 @@ qint16 clsSelectedImage::HeightBmp()
     return m_size.height;
 }
 
-void clsSelectedImage::ToXML(pugi::xml_node parent)
+void clsSelectedImage::ToXML(pugi::xml_node parent, Unwritable unwritable)
 {
     const pugi::xml_node element = AddChildElement(parent, Tag.toUtf8().constData(), u"HUERAGA"_s);
     AddChildElement(element, elementNames[Element::SelectionType], nameOf(SelectionType));
     AddChildElement(element, elementNames[Element::FileName], imageFileName);
     AddChildElement(element, elementNames[Element::Text], TextValue);
-    if (!imageFileName.isEmpty() && (m_size.width == 0 || m_size.height == 0)) {
-        m_size = readImageSize(m_services->folder, imageFileName);
+    ImageSize size = m_size;
+    if (!imageFileName.isEmpty() && (size.width == 0 || size.height == 0)) {
+        size = sizeForFile(unwritable);
     }
-    AddChildElement(element, elementNames[Element::Width], QString::number(m_size.width));
-    AddChildElement(element, elementNames[Element::Height], QString::number(m_size.height));
+    AddChildElement(element, elementNames[Element::Width], QString::number(size.width));
+    AddChildElement(element, elementNames[Element::Height], QString::number(size.height));
+}
+
+ImageSize clsSelectedImage::sizeForFile(Unwritable unwritable)
+{
+    if (unwritable == Unwritable::Raises) {
+        m_size = readImageSize(m_services->folder, imageFileName);
+        return m_size;
+    }
+    try {
+        return readImageSize(m_services->folder, imageFileName);
+    } catch (const RuntimeError&) {
+        return m_size;
+    }
+}
+
+ImageSize clsSelectedImage::writtenSize(Unwritable unwritable)
+{
+    if (unwritable == Unwritable::Raises) {
+        return {WidthBmp(), HeightBmp()};
+    }
+    ImageSize size = m_size;
+    if (!imageFileName.isEmpty() && (size.width == 0 || size.height == 0)) {
+        const ImageSize inFile = sizeForFile(unwritable);
+        size.width = size.width != 0 ? size.width : inFile.width;
+        size.height = size.height != 0 ? size.height : inFile.height;
+    }
+    return size;
 }
 
 void clsSelectedImage::FromXML(const pugi::xml_node& node)

@@ -2,6 +2,7 @@
 // product own one each. The size is kept with the choice, so that a page needs no look at the file.
 #pragma once
 
+#include "base/Unwritable.h"
 #include "design/DesignServices.h"
 #include "design/ImageSize.h"
 
@@ -36,12 +37,15 @@ public:
     qint16 HeightBmp();
     void setWidthBmp(qint16 width) { m_size.width = width; }
     void setHeightBmp(qint16 height) { m_size.height = height; }
+    // The size for the shop file: as above, or, where nothing may fail, what is kept for a picture that is gone; a size
+    // that was only looked up for that is not kept.
+    ImageSize writtenSize(Unwritable unwritable);
     // The size as it is kept, 0 when it is not known; the file is not asked.
     ImageSize cachedSize() const { return m_size; }
 
     // Appends the slot's element to the parent. Reads the size when there is a file name and a size is not known:
     // errors as for readImageSize.
-    void ToXML(pugi::xml_node parent);
+    void ToXML(pugi::xml_node parent, Unwritable unwritable = Unwritable::Raises);
     // Reads the first element named Tag below the node; changes nothing when there is none. An empty Tag shows a box.
     // Error 13 when a size of an image slot is no number, 6 when it does not fit.
     void FromXML(const pugi::xml_node& node);
@@ -54,6 +58,10 @@ public:
     void GetBitmapSizeVirtual(const QString& fileName);
 
 private:
+    // The size in the picture's file; kept for a save. Where nothing may fail, what is kept stands for a picture that
+    // is gone.
+    ImageSize sizeForFile(Unwritable unwritable);
+
     const DesignServices* m_services;
     ImageSize m_size;
 };

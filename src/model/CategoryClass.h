@@ -2,6 +2,7 @@
 #pragma once
 
 #include "base/KeyedCollection.h"
+#include "base/Unwritable.h"
 #include "base/XmlNode.h"
 #include "design/clsSelectedImage.h"
 #include "model/ModelServices.h"
@@ -52,7 +53,7 @@ public:
     // 457 when an id stands twice in one parent. Both are the work of model/shop_file.
     void FromXML(const pugi::xml_node& element, ShopClass& owner, const std::shared_ptr<CategoryClass>& parent,
                  ShopReading& reading);
-    void ToXML(pugi::xml_node element);
+    void ToXML(pugi::xml_node element, Unwritable unwritable = Unwritable::Raises);
 
     // Imports one product from here down: see CatalogueImport::addProduct.
     void ImportCategory(QStringList& fields);

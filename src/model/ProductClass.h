@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/KeyedCollection.h"
+#include "base/Unwritable.h"
 #include "base/XmlNode.h"
 #include "design/clsSelectedImage.h"
 #include "model/ModelServices.h"
@@ -65,7 +66,7 @@ public:
     // model/shop_file.
     void FromXML(const pugi::xml_node& element, ShopClass& owner, const std::shared_ptr<CategoryClass>& parent,
                  ShopReading& reading);
-    void ToXML(pugi::xml_node element);
+    void ToXML(pugi::xml_node element, Unwritable unwritable = Unwritable::Raises);
 
     const ModelServices& services() const { return *m_services; }
 

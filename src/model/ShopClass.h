@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/KeyedCollection.h"
+#include "base/Unwritable.h"
 #include "base/XmlNode.h"
 #include "design/CSSClass.h"
 #include "design/CustomPageClass.h"
@@ -65,7 +66,7 @@ public:
     // at its end. The first error ends the reading and nothing read so far is undone. Both are the work of
     // model/shop_file, which also reads and writes the whole file.
     void FromXML(const pugi::xml_node& element, ShopReading& reading);
-    void ToXML(pugi::xml_node element);
+    void ToXML(pugi::xml_node element, Unwritable unwritable = Unwritable::Raises);
 
     // Imports one product from the root down: see CatalogueImport::addProduct.
     void ImportCategory(QStringList& fields);

@@ -77,7 +77,7 @@ TEST_F(BackUpCommandsTest, AShopIsRestoredAndTheRestartIsTold)
     prompts.answerFile(path);
     prompts.expectMessage(u"Restoring"_s, u"Restore is completed.\r\nThe program will be restarted now."_s,
                           PromptIcon::Information);
-    EXPECT_TRUE(restoreFromMenu(services));
+    EXPECT_TRUE(restoreFromMenu(services, [] {}));
     EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), referenceShop());
     EXPECT_EQ(prompts.fileQuestions,
               (QStringList{folder.backupsFolder(), u"Packed shops (*.kvb *.KVB);;All files (*)"_s}));
@@ -87,7 +87,7 @@ TEST_F(BackUpCommandsTest, WithoutAChoiceNothingIsRestored)
 {
     backedUpAndChanged();
     prompts.answerFile(QString());
-    EXPECT_FALSE(restoreFromMenu(services));
+    EXPECT_FALSE(restoreFromMenu(services, [] {}));
     EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), "changed");
 }
 
@@ -121,6 +121,6 @@ TEST_F(BackUpCommandsTest, ARestoreThatIsStoppedIsAFailure)
     prompts.answerFile(files.path(u"elsewhere/may.kvb"_s));
     prompts.answerDefaultNo(u"Restoring"_s, u"The present shop could not be kept. Restore all the same?"_s, false);
     prompts.expectMessage(u"Error"_s, u"Restore backup is failed"_s, PromptIcon::Critical);
-    EXPECT_FALSE(restoreFromMenu(services));
+    EXPECT_FALSE(restoreFromMenu(services, [] {}));
     EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), "changed");
 }

@@ -38,7 +38,7 @@ protected:
         RecordingPrompts scene;
         scene.answerFile(file);
         expect(boxes, scene);
-        return restoreFromMenu({folder, scene, clock, log, u"The program"_s});
+        return restoreFromMenu({folder, scene, clock, log, u"The program"_s}, [] {});
     }
     void makeFreshShop()
     {

@@ -47,9 +47,11 @@ class FixedClock : public Clock
 public:
     explicit FixedClock(const QDate& date) : day(date) {}
     QDateTime now() const override { return {day, time}; }
+    qint64 steadyTime() const override { return steady; }
 
     QDate day;
     QTime time{14, 3, 5};
+    qint64 steady = 0; // microseconds
 };
 
 // Gives the answers in the order in which the test listed them, and fails the test on a question or a box

@@ -102,17 +102,17 @@ void CategoryClass::FromXML(const pugi::xml_node& element, ShopClass& owner,
     --reading.categoryLevel;
 }
 
-void CategoryClass::ToXML(pugi::xml_node element)
+void CategoryClass::ToXML(pugi::xml_node element, Unwritable unwritable)
 {
     AddChildElement(element, "Id", id);
     AddChildElement(element, "Name", name);
     AddChildElement(element, "Description", Description);
-    writeNodeImage(element, *this);
-    writeLevelDiscount(AddChildElement(element, "Discount", u"HUERAGA"_s), *Discount());
+    writeNodeImage(element, *this, unwritable);
+    writeLevelDiscount(AddChildElement(element, "Discount", u"HUERAGA"_s), *Discount(), unwritable);
     for (const std::shared_ptr<CategoryClass>& category : categories) {
-        category->ToXML(AddChildElement(element, "Category", u"HUERAGA"_s));
+        category->ToXML(AddChildElement(element, "Category", u"HUERAGA"_s), unwritable);
     }
     for (const std::shared_ptr<ProductClass>& product : products) {
-        product->ToXML(AddChildElement(element, "Product", u"HUERAGA"_s));
+        product->ToXML(AddChildElement(element, "Product", u"HUERAGA"_s), unwritable);
     }
 }

@@ -8,18 +8,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void writeStatusAndDates(pugi::xml_node element, const clsDiscount& discount)
+void writeStatusAndDates(pugi::xml_node element, const clsDiscount& discount, Unwritable unwritable)
 {
     AddChildElement(element, "Status", StatusToWord(discount.Status));
-    AddChildElement(element, "DateFrom", localToDateText(discount.DateFrom));
-    AddChildElement(element, "DateTo", localToDateText(discount.DateTo));
+    AddChildElement(element, "DateFrom", written(unwritable, [&] { return localToDateText(discount.DateFrom); }));
+    AddChildElement(element, "DateTo", written(unwritable, [&] { return localToDateText(discount.DateTo); }));
 }
 
 } // namespace
 
-void writeLevelDiscount(pugi::xml_node element, clsDiscount& discount)
+void writeLevelDiscount(pugi::xml_node element, clsDiscount& discount, Unwritable unwritable)
 {
-    writeStatusAndDates(element, discount);
+    writeStatusAndDates(element, discount, unwritable);
     AddChildElement(element, "ApplyToAll", discount.ApplyToWhole());
     for (const clsDependedDiscount& band : *discount.DependedDiscounts()) {
         const pugi::xml_node row = AddChildElement(element, "PriceFrame", u"HUERAGA"_s);
@@ -29,8 +29,8 @@ void writeLevelDiscount(pugi::xml_node element, clsDiscount& discount)
     }
 }
 
-void writePriceDiscount(pugi::xml_node element, const clsDiscount& discount)
+void writePriceDiscount(pugi::xml_node element, const clsDiscount& discount, Unwritable unwritable)
 {
-    writeStatusAndDates(element, discount);
+    writeStatusAndDates(element, discount, unwritable);
     AddChildElement(element, "Specific", discount.Specific());
 }

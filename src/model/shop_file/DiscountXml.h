@@ -2,13 +2,14 @@
 // those of a product's price. How the first kind is read stands in LevelDiscount.h, the second in ProductXml.cpp.
 #pragma once
 
+#include "base/Unwritable.h"
 #include "base/XmlNode.h"
 
 class clsDiscount;
 
 // Status, dates, ApplyToAll and the bands. ErrorNumber::TypeMismatch when a date is no date,
 // ErrorNumber::InvalidUseOfNull when the status has no word.
-void writeLevelDiscount(pugi::xml_node element, clsDiscount& discount);
+void writeLevelDiscount(pugi::xml_node element, clsDiscount& discount, Unwritable unwritable);
 
 // Status, dates and Specific. Errors as above.
-void writePriceDiscount(pugi::xml_node element, const clsDiscount& discount);
+void writePriceDiscount(pugi::xml_node element, const clsDiscount& discount, Unwritable unwritable);

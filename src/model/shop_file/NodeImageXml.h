@@ -24,12 +24,13 @@ void readNodeImage(Node& node, const QString& picture, const QString& width, con
     }
 }
 
-// Errors as for clsSelectedImage::WidthBmp.
+// Errors as for clsSelectedImage::writtenSize.
 template <class Node>
-void writeNodeImage(pugi::xml_node element, Node& node)
+void writeNodeImage(pugi::xml_node element, Node& node, Unwritable unwritable)
 {
     clsSelectedImage* image = node.hasSelectedImage() ? node.selectedImage().get() : nullptr;
     AddChildElement(element, "Picture", image != nullptr ? image->imageFileName : QString());
-    AddChildElement(element, "Width", QString::number(image != nullptr ? image->WidthBmp() : 0));
-    AddChildElement(element, "Height", QString::number(image != nullptr ? image->HeightBmp() : 0));
+    const ImageSize size = image != nullptr ? image->writtenSize(unwritable) : ImageSize();
+    AddChildElement(element, "Width", QString::number(size.width));
+    AddChildElement(element, "Height", QString::number(size.height));
 }

@@ -220,7 +220,7 @@ void ProductClass::FromXML(const pugi::xml_node& element, ShopClass& owner,
 }
 
 // ProductTaxes is deliberately not written: the choices live for the session only.
-void ProductClass::ToXML(pugi::xml_node element)
+void ProductClass::ToXML(pugi::xml_node element, Unwritable unwritable)
 {
     static const QString container = u"HUERAGA"_s;
     AddChildElement(element, "Id", id);
@@ -231,8 +231,8 @@ void ProductClass::ToXML(pugi::xml_node element)
     AddChildElement(element, "ForSale", booleanToWord(ForSale));
     AddChildElement(element, "Unit", Unit);
     AddChildElement(element, "Link", LINK);
-    writeNodeImage(element, *this);
-    writePriceDiscount(AddChildElement(element, "Discount", container), *Price()->Discount());
+    writeNodeImage(element, *this, unwritable);
+    writePriceDiscount(AddChildElement(element, "Discount", container), *Price()->Discount(), unwritable);
 
     const pugi::xml_node shipping = AddChildElement(element, "Shipping", container);
     AddChildElement(shipping, "ShippingStatus", ShippingStatus);

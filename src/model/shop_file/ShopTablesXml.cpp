@@ -166,7 +166,7 @@ void writeShippingTypes(pugi::xml_node element, const ShopClass& shop)
 }
 
 // The number of columns comes from the first frame, and a frame without any cost gets empty ones.
-void writeShippingCosts(pugi::xml_node element, const ShopClass& shop)
+void writeShippingCosts(pugi::xml_node element, const ShopClass& shop, Unwritable unwritable)
 {
     if (countOf(shop.ShippingCostFrameFrom) > 0 && (!shop.ShippingCostFrameTo || !shop.ShippingCosts)) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
@@ -177,7 +177,9 @@ void writeShippingCosts(pugi::xml_node element, const ShopClass& shop)
         AddChildElement(row, "To", NormalizeDecimal(shop.ShippingCostFrameTo->Item(frame)));
         const TextCollection& costs = shop.ShippingCosts->Item(frame);
         for (int i = 1; i <= shop.ShippingCosts->Item(1).Count(); ++i) {
-            addNumberedElement(row, "Cost", i, costs.isEmpty() ? QString() : NormalizeDecimal(costs.Item(i)));
+            const QString cost =
+                written(unwritable, [&] { return costs.isEmpty() ? QString() : NormalizeDecimal(costs.Item(i)); });
+            addNumberedElement(row, "Cost", i, cost);
         }
     }
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/KeyedCollection.h"
+#include "base/Unwritable.h"
 #include "model/ProductClass.h"
 #include "model/clsCharge.h"
 #include "model/clsTax.h"
@@ -28,6 +29,6 @@ void readTaxesAndCharges(const pugi::xml_node& taxes, const pugi::xml_node& char
 // one is shorter.
 void writeCountries(pugi::xml_node element, const TextCollection& countries);
 void writeShippingTypes(pugi::xml_node element, const ShopClass& shop);
-void writeShippingCosts(pugi::xml_node element, const ShopClass& shop);
+void writeShippingCosts(pugi::xml_node element, const ShopClass& shop, Unwritable unwritable);
 void writeTaxes(pugi::xml_node element, const KeyedCollection<clsTax>& taxes);
 void writeCharges(pugi::xml_node element, const KeyedCollection<clsCharge>& charges);

@@ -107,7 +107,7 @@ void readStylesAndPages(const pugi::xml_node& element, ShopClass& shop)
 }
 
 // What stands ahead of the root categories.
-void writeHead(const pugi::xml_node& element, const ShopClass& shop)
+void writeHead(const pugi::xml_node& element, const ShopClass& shop, Unwritable unwritable)
 {
     if (!shop.SelectedCountries || !shop.ShopDesign) {
         throw RuntimeError(ErrorNumber::ObjectNotSet);
@@ -120,16 +120,16 @@ void writeHead(const pugi::xml_node& element, const ShopClass& shop)
     AddChildElement(element, "MaxProductId", shop.MaxProductId);
     AddChildElement(element, "Name", shop.name);
     AddChildElement(element, "Description", shop.Description);
-    writeLevelDiscount(container("ShopDiscount"), *shop.Discount());
+    writeLevelDiscount(container("ShopDiscount"), *shop.Discount(), unwritable);
     writeCountries(container("SelectedCountries"), *shop.SelectedCountries);
     writeShippingTypes(container("ShopShipping"), shop);
-    writeShippingCosts(container("ShopShippingCosts"), shop);
+    writeShippingCosts(container("ShopShippingCosts"), shop, unwritable);
     writeTaxes(container("Taxes"), shop.Taxes);
     writeCharges(container("Charges"), shop.Charges);
 }
 
 // What stands behind them.
-void writeTail(const pugi::xml_node& element, const ShopClass& shop)
+void writeTail(const pugi::xml_node& element, const ShopClass& shop, Unwritable unwritable)
 {
     const auto container = [&element](const char* tag) { return AddChildElement(element, tag, u"HUERAGA"_s); };
     for (const std::shared_ptr<CSSClass>& style : shop.CSSs) {
@@ -138,7 +138,7 @@ void writeTail(const pugi::xml_node& element, const ShopClass& shop)
     for (const std::shared_ptr<CustomPageClass>& page : shop.CustomPages) {
         page->ToXML(container("CustomPage"));
     }
-    shop.ShopDesign->ToXML(container("ShopDesign"));
+    shop.ShopDesign->ToXML(container("ShopDesign"), unwritable);
 }
 
 } // namespace
@@ -189,16 +189,16 @@ void ShopClass::FromXML(const pugi::xml_node& element, ShopReading& reading)
     log.WriteLoadLog(u"-------ShopClass loaded from XML---"_s);
 }
 
-void ShopClass::ToXML(pugi::xml_node element)
+void ShopClass::ToXML(pugi::xml_node element, Unwritable unwritable)
 {
-    writeHead(element, *this);
+    writeHead(element, *this, unwritable);
     for (const std::shared_ptr<CategoryClass>& category : categories) {
-        category->ToXML(AddChildElement(element, "Category", u"HUERAGA"_s));
+        category->ToXML(AddChildElement(element, "Category", u"HUERAGA"_s), unwritable);
     }
-    writeTail(element, *this);
+    writeTail(element, *this, unwritable);
 }
 
-QByteArray shopFileBytes(ShopClass& shop)
+QByteArray shopFileBytes(ShopClass& shop, Unwritable unwritable)
 {
     QByteArray bytes = "<Tarnwick><Shop>";
     const auto append = [&bytes](const auto& fill) {
@@ -206,12 +206,12 @@ QByteArray shopFileBytes(ShopClass& shop)
         fill(part);
         bytes += xmlToBytes(part);
     };
-    append([&shop](pugi::xml_document& part) { writeHead(part, shop); });
+    append([&](pugi::xml_document& part) { writeHead(part, shop, unwritable); });
     for (const std::shared_ptr<CategoryClass>& category : shop.categories) {
-        append([&category](pugi::xml_document& part) {
-            category->ToXML(AddChildElement(part, "Category", u"HUERAGA"_s));
+        append([&](pugi::xml_document& part) {
+            category->ToXML(AddChildElement(part, "Category", u"HUERAGA"_s), unwritable);
         });
     }
-    append([&shop](pugi::xml_document& part) { writeTail(part, shop); });
+    append([&](pugi::xml_document& part) { writeTail(part, shop, unwritable); });
     return bytes + "</Shop></Tarnwick>";
 }

@@ -127,6 +127,12 @@ TEST_F(ShopFileFailures, ATableOfCostsThatNoMemoryHoldsIsError7)
         7);
 }
 
+TEST_F(ShopFileFailures, ReadingTellsWhichFileItIs)
+{
+    WriteFile(session.folder.shopFile(), "<Tarnwick><Shop/></Tarnwick>");
+    EXPECT_EQ(circumstancesOf([this] { loadShop(session); }), QStringList{u"The file \"shop.xml\" was being read."_s});
+}
+
 // ---- Saving ----
 
 TEST_F(ShopFileFailures, SavingAShopWhoseLoadFailedIsError91AndTheFileStays)
