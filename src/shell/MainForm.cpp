@@ -4,6 +4,7 @@
 #include "look/TreeLook.h"
 #include "model/ShopClass.h"
 #include "model/shop_file/ShopFile.h"
+#include "model/shop_file/UnsavedShop.h"
 #include "shell/BottomLine.h"
 #include "shell/CatalogueTree.h"
 #include "shell/ContentRoom.h"
@@ -21,11 +22,12 @@
 
 using namespace Qt::StringLiterals;
 
-MainForm::MainForm(std::unique_ptr<ShopSession> session, const PreviewFactory& makePreview,
-                   std::function<void()> startAgain, FatalErrorHandler& errors)
+MainForm::MainForm(std::unique_ptr<ShopSession> session, std::unique_ptr<UnsavedShop> unsaved,
+                   const PreviewFactory& makePreview, std::function<void()> startAgain, FatalErrorHandler& errors)
     : m_errors(errors),
       m_startAgain(std::move(startAgain)),
       m_session(std::move(session)),
+      m_unsaved(std::move(unsaved)),
       m_templates(std::make_unique<Templates_Set>(m_session->folder, m_session->log, shopTemplateNames()))
 {
     auto* room = new ContentRoom(this);
@@ -129,7 +131,7 @@ Panel* MainForm::panel(PanelName name) const
 
 void MainForm::CreateShop()
 {
-    if (!loadShop(*m_session)) {
+    if (!loadShop(*m_session, m_unsaved.get())) {
         return;
     }
     AddShopToTheTree();
@@ -140,7 +142,7 @@ void MainForm::CreateShop()
 void MainForm::SaveShop()
 {
     m_parts->SaveProgressFrame->begin();
-    writeShopFile(*m_session);
+    m_unsaved->shopWasSaved(writeShopFile(*m_session));
     m_parts->SaveProgressFrame->finish();
     m_parts->frmCopyright->tell(EventTexts::saved(m_session->clock.now().time()));
 }
@@ -149,6 +151,12 @@ void MainForm::SaveShop()
 
 void MainForm::ShowFrame(Panel* ActiveFrame, qint16 Code)
 {
+    changeFrame(ActiveFrame, Code);
+    m_unsaved->keep();
+}
+
+void MainForm::changeFrame(Panel* ActiveFrame, qint16 Code)
+{
     if (VisibleFrame) {
         if (Code == PanelCode::GatherOnly) {
             VisibleFrame->SaveActiveObject();
@@ -156,7 +164,7 @@ void MainForm::ShowFrame(Panel* ActiveFrame, qint16 Code)
         }
         if (Code != PanelCode::RemoveProduct && Code != PanelCode::RemoveCategory) {
             // Saved twice, deliberately: a panel's save must be repeatable.
-            ApplyActivePanel();
+            applyVisiblePanel();
             VisibleFrame->SaveActiveObject();
             VisibleFrame->ClearActiveObject();
         }
@@ -164,6 +172,7 @@ void MainForm::ShowFrame(Panel* ActiveFrame, qint16 Code)
     }
     if (!ActiveFrame) {
         VisibleFrame = nullptr;
+        m_errors.setOpenPanel(nullptr, {});
         markCurrentButtons();
         return;
     }
@@ -175,6 +184,7 @@ void MainForm::ShowFrame(Panel* ActiveFrame, qint16 Code)
     }
     ActiveFrame->raise();
     ActiveFrame->show();
+    m_errors.setOpenPanel(ActiveFrame, ActiveObject);
     ActiveFrame->SetActiveObject(ActiveObject);
     VisibleFrame = ActiveFrame;
     markCurrentButtons();
@@ -197,6 +207,12 @@ void MainForm::ShowToolbar(QFrame* toolbar)
 
 void MainForm::ApplyActivePanel()
 {
+    applyVisiblePanel();
+    m_unsaved->keep();
+}
+
+void MainForm::applyVisiblePanel()
+{
     m_parts->PrBar->run();
     if (VisibleFrame) {
         VisibleFrame->SaveActiveObject();
@@ -206,6 +222,7 @@ void MainForm::ApplyActivePanel()
 void MainForm::ResetActivePanel()
 {
     if (VisibleFrame) {
+        m_errors.setOpenPanel(VisibleFrame, ActiveObject);
         VisibleFrame->SetActiveObject(ActiveObject);
     }
 }
@@ -270,7 +287,8 @@ void MainForm::ShowDesignPane(bool flag)
 void MainForm::saveShopHandler()
 {
     button(ButtonName::SaveShopSBtn)->Code = PanelCode::GatherOnly;
-    ShowFrame(VisibleFrame, PanelCode::GatherOnly);
+    changeFrame(VisibleFrame, PanelCode::GatherOnly);
+    m_unsaved->keepAheadOfSave();
     SaveShop();
 }
 
@@ -343,6 +361,9 @@ void MainForm::closeEvent(QCloseEvent* event)
         }
         if (answer == PromptAnswer::Yes) {
             saveShopHandler();
+        }
+        if (ShopChanged && answer == PromptAnswer::No) {
+            m_unsaved->giveUp();
         }
         event->setAccepted(answer != PromptAnswer::Cancel);
         // Deliberately also after Cancel: the window then goes on without a cart, and the preview's cart pages fail.

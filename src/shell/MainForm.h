@@ -9,6 +9,7 @@
 #include "pages/preview/PreviewNavigation.h"
 #include "pages/preview/PreviewPage.h"
 #include "shell/MainFormLayout.h"
+#include "shell/PanelErrors.h"
 #include "shell/PreviewParts.h"
 #include "template_engine/Templates_Set.h"
 
@@ -21,6 +22,7 @@
 class CatalogueTreeFill;
 class Panel;
 class QMenu;
+class UnsavedShop;
 class frmUpload;
 struct TreeNode;
 
@@ -30,10 +32,10 @@ class MainForm : public QMainWindow, public PanelHost
 
 public:
     // Makes the window with all its parts and runs the load: reads the shop and the templates and goes to the
-    // catalogue. The window is not shown yet. startAgain starts the program anew, which follows a restore. The
-    // session's prompts and clock, and the error handler, outlive the window.
-    MainForm(std::unique_ptr<ShopSession> session, const PreviewFactory& makePreview, std::function<void()> startAgain,
-             FatalErrorHandler& errors);
+    // catalogue. The window is not shown yet. The unsaved shop is the session's. startAgain starts the program anew,
+    // which follows a restore. The session's prompts and clock, and the error handler, outlive the window.
+    MainForm(std::unique_ptr<ShopSession> session, std::unique_ptr<UnsavedShop> unsaved,
+             const PreviewFactory& makePreview, std::function<void()> startAgain, FatalErrorHandler& errors);
     ~MainForm() override;
 
     enum Mode : qint16 { CatalogueMode = 1, PreviewMode = 2, DesignMode = 3 };
@@ -92,6 +94,9 @@ private:
     void makePopUp();
     void makeCommands();
 
+    // ShowFrame, before the unsaved shop is brought up to date.
+    void changeFrame(Panel* ActiveFrame, qint16 Code);
+    void applyVisiblePanel();
     void markCurrentButtons();
     void ShowCataloguePane(bool flag);
     void ShowPreviewPane(bool flag);
@@ -133,9 +138,10 @@ private:
     ShortcartButton* button(ButtonName name) const;
     Panel* panel(PanelName name) const;
 
-    FatalErrorHandler& m_errors;
+    PanelErrors m_errors;
     std::function<void()> m_startAgain;
     std::unique_ptr<ShopSession> m_session;
+    std::unique_ptr<UnsavedShop> m_unsaved;
     std::unique_ptr<Templates_Set> m_templates;
     std::unique_ptr<MainFormLayout> m_parts;
     PreviewParts m_preview;

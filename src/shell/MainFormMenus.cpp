@@ -4,6 +4,7 @@
 #include "editors/Panel.h"
 #include "model/ProductClass.h"
 #include "model/clsImporter.h"
+#include "model/shop_file/UnsavedShop.h"
 #include "publish/dialog/frmUpload.h"
 #include "shell/BottomLine.h"
 #include "shell/CatalogueTree.h"
@@ -142,11 +143,12 @@ void MainForm::backUpHandler()
 
 void MainForm::restoreHandler()
 {
-    if (!restoreFromMenu(
-            {m_session->folder, m_session->prompts, m_session->clock, m_session->log, applicationTitle()})) {
+    // The restored shop is the one to keep.
+    if (!restoreFromMenu({m_session->folder, m_session->prompts, m_session->clock, m_session->log, applicationTitle()},
+                         [this] { m_unsaved->giveUp(); })) {
         return;
     }
-    // The restored shop is the one to keep: the window closes without asking, and the new process loads it.
+    // The window closes without asking, and the new process loads the restored shop.
     ShopChanged = false;
     m_startAgain();
     close();

@@ -13,7 +13,9 @@ std::unique_ptr<MainForm> startProgram(const ProgramServices& services, const Pr
     log.reset();
     session->LoadCountries();
     log.WriteLoadLog(u"Countries loaded"_s);
-    auto window = std::make_unique<MainForm>(std::move(session), makePreview, services.startAgain, services.errors);
+    auto unsaved = std::make_unique<UnsavedShop>(*session, services.window, services.fileCalls());
+    auto window = std::make_unique<MainForm>(std::move(session), std::move(unsaved), makePreview, services.startAgain,
+                                             services.errors);
     log.WriteLoadLog(u"MainForm loaded"_s);
     window->show();
     log.WriteLoadLog(u"MainForm shown"_s);

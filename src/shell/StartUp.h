@@ -4,7 +4,9 @@
 #include "base/ApplicationFolder.h"
 #include "base/Clock.h"
 #include "base/Guarded.h"
+#include "base/OperatingSystem.h"
 #include "base/UserPrompts.h"
+#include "model/shop_file/UnsavedShop.h"
 #include "shell/PreviewParts.h"
 
 #include <functional>
@@ -21,6 +23,10 @@ struct ProgramServices
     FatalErrorHandler& errors;
     // Starts a second copy of the program, after a restore; this one ends with its window.
     std::function<void()> startAgain;
+    // The window that came first to a folder keeps the unsaved shop there.
+    UnsavedShop::Window window = UnsavedShop::Window::First;
+    // What the unsaved shop is written by.
+    std::function<std::unique_ptr<FileCalls>()> fileCalls = systemFileCalls;
 };
 
 // Empties the log, reads the countries, makes the window and shows it. Raises the run-time errors that end a start,

@@ -4,12 +4,15 @@
 #include "shell/FatalErrorBox.h"
 #include "shell/MainForm.h"
 #include "shell/StartUp.h"
+#include "shell/TakenFolder.h"
 #include "shell/browser/PreviewBrowser.h"
 
 #include <QApplication>
+#include <QFileInfo>
 #include <QProcess>
 
 #include <csignal>
+#include <cstdlib>
 
 int main(int argc, char** argv)
 {
@@ -19,11 +22,21 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     applyTheme(application);
 
+    const ApplicationFolder folder(QApplication::applicationDirPath());
+    TakenFolder taken(folder);
     DialogPrompts prompts;
-    FatalErrorBox errors(prompts, [] { return false; });
+    if (!taken.mayOpen(prompts)) {
+        return EXIT_SUCCESS;
+    }
+    FatalErrorBox errors(prompts, [&] {
+        return taken.window() == UnsavedShop::Window::First && QFileInfo::exists(folder.unsavedShopFile());
+    });
     const SystemClock clock;
-    const ProgramServices services{ApplicationFolder(QApplication::applicationDirPath()), prompts, clock, errors,
-                                   [] { QProcess::startDetached(QApplication::applicationFilePath(), {}); }};
+    const auto startAgain = [&taken] {
+        taken.giveUp(); // so that the new process asks and waits for nothing
+        QProcess::startDetached(QApplication::applicationFilePath(), {});
+    };
+    const ProgramServices services{folder, prompts, clock, errors, startAgain, taken.window()};
 
     const std::unique_ptr<MainForm> window =
         guarded(errors, [&] { return startProgram(services, browserPreview(services.folder, errors)); });

@@ -11,7 +11,9 @@ public:
     void fatalError(const RuntimeError& error) noexcept override
     {
         numbers.push_back(static_cast<int>(error.number()));
+        circumstances = error.circumstances();
     }
 
     std::vector<int> numbers;
+    QStringList circumstances; // of the last one
 };
