@@ -135,6 +135,7 @@ void MainForm::CreateShop()
         return;
     }
     AddShopToTheTree();
+    m_unsaved->begin();
     setTreeGround(*m_parts->CategoriesAndProductsTree);
     m_session->log.WriteLoadLog(u"End Sub CreateShop"_s);
 }

@@ -42,9 +42,6 @@ bool loadShop(ShopSession& session, UnsavedShop* unsaved)
     const bool isShop =
         during([&] { return u"The file %1 was being read."_s.arg(inQuotes(QFileInfo(path).fileName())); },
                [&] { return readShop(session, file); });
-    if (isShop && unsaved != nullptr) {
-        unsaved->begin();
-    }
     if (!isShop) {
         session.prompts.showMessage(applicationTitle(), u"Error in the configuration XML file. No 'Shop' node."_s,
                                     PromptIcon::None);

@@ -15,8 +15,7 @@ class XmlFile;
 // CreateShop. When the session does not know how to save, it does so by writeShopFile from then on. Errors as for
 // ShopClass::FromXML.
 //
-// An unsaved shop, where there is one, is asked first whether it is to be read in the place of the file; it keeps the
-// shop once that was read whole.
+// An unsaved shop, where there is one, is asked first whether it is to be read in the place of the file.
 bool loadShop(ShopSession& session, UnsavedShop* unsaved = nullptr);
 
 // The same for a document that was read already, without the box.

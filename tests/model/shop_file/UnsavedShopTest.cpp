@@ -46,9 +46,14 @@ protected:
         calls = ownCalls.get();
         unsaved = std::make_unique<UnsavedShop>(*next, window, std::move(ownCalls));
     }
+    // As the window does: it begins to keep the shop when that was read whole.
     int open()
     {
-        return errorOf([this] { loadShop(*next, unsaved.get()); });
+        return errorOf([this] {
+            if (loadShop(*next, unsaved.get())) {
+                unsaved->begin();
+            }
+        });
     }
     // A shop file with these elements, read.
     void openShop(const QByteArray& elements)
@@ -193,7 +198,9 @@ TEST_F(TheUnsavedShop, IsWrittenAheadOfASaveWhereTheDiskDoesNotTellItsRoom)
 
 TEST_F(TheUnsavedShop, IsNeverWrittenBeforeAShopWasReadWhole)
 {
+    next->shop = std::make_shared<ShopClass>(next->services);
     unsaved->keep();
+    EXPECT_FALSE(isThere());
     WriteFile(session.folder.shopFile(), shopFile(category("2", "<Discount><Status>no word</Status></Discount>")));
     EXPECT_EQ(open(), 94);
     next->shop->name = u"Moss"_s;
