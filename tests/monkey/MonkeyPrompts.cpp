@@ -15,6 +15,10 @@ void MonkeyPrompts::showMessage(const QString& title, const QString& text, Promp
 
 bool MonkeyPrompts::askYesNo(const QString& /*title*/, const QString& text)
 {
+    if (text.startsWith(u"The program ended before"_s)) {
+        wasOfferedUnsaved = true;
+        return true;
+    }
     const bool answer = m_dice.chance(60);
     Note(u"  \"%1\": %2"_s.arg(text, answer ? u"yes"_s : u"no"_s));
     return answer;

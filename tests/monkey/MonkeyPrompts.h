@@ -21,6 +21,9 @@ public:
     QString chooseFile(const QString& folder, const QString& filter) override;
     std::optional<int> chooseColour(int colour) override;
 
+    // At a start; the answer was yes.
+    bool wasOfferedUnsaved = false;
+
 private:
     Dice& m_dice;
     Playground& m_playground;

@@ -15,6 +15,8 @@ public:
     Playground(const QString& root, Dice& dice, bool isCareful);
 
     ApplicationFolder folder() const { return ApplicationFolder(m_shop); }
+    // Where a run leaves what the shop was when the unsaved shop was written last.
+    QString keptModel() const { return m_root + QStringLiteral("/kept_model.txt"); }
     // A folder for the user's settings.
     QString settings() const { return m_root + QStringLiteral("/settings"); }
     // What a person answers to the choice of a file: one that fits what is asked for, another one, a folder, one that

@@ -1,5 +1,6 @@
 #include "Run.h"
 
+#include "KeptModel.h"
 #include "Monkey.h"
 #include "MonkeyPrompts.h"
 #include "Notes.h"
@@ -75,8 +76,14 @@ public:
         Note(u"start"_s);
         Watchdog::feed();
         m_errors.hasWindow = false;
-        const ProgramServices services{m_playground.folder(), m_prompts, m_clock, m_errors,
-                                       [] { Note(u"  starts anew"_s); }};
+        m_prompts.wasOfferedUnsaved = false;
+        const ProgramServices services{m_playground.folder(),
+                                       m_prompts,
+                                       m_clock,
+                                       m_errors,
+                                       [] { Note(u"  starts anew"_s); },
+                                       UnsavedShop::Window::First,
+                                       [this] { return fileCallsThatTell([this] { noteModel(); }); }};
         m_window = guarded(m_errors, [&] {
             return startProgram(services, [this](QWidget* parent) {
                 m_preview = new RecordingPreview(parent);
@@ -94,6 +101,13 @@ public:
         return Monkey(*m_window, *m_preview, m_dice, m_player, stepsLeft, m_server.address()).play();
     }
 
+    bool hasUnsaved() const { return QFile::exists(m_playground.folder().unsavedShopFile()); }
+    // Whether the start has taken what was not saved, and has made the same shop of it.
+    bool isAsItWasKept() const
+    {
+        return m_prompts.wasOfferedUnsaved && outline() == fileBytes(m_playground.keptModel());
+    }
+
     QByteArray save()
     {
         m_window->findChild<QAction*>(u"mnuSaveShop"_s)->trigger();
@@ -102,6 +116,9 @@ public:
     }
 
 private:
+    QByteArray outline() const { return outlineOf(*m_window->session().shop).join(u'\n').toUtf8(); }
+    void noteModel() const { WriteFile(m_playground.keptModel(), outline()); }
+
     PlayedBy m_player;
     Dice m_dice;
     Playground m_playground;
@@ -135,7 +152,12 @@ int checkShop(const QString& folder)
     QByteArray former;
     // What reading makes plainer shows in the second file. From then on nothing changes.
     for (int turn = 1; turn <= 3; ++turn) {
+        const bool hadUnsaved = program.hasUnsaved();
         program.start();
+        if (hadUnsaved && !program.isAsItWasKept()) {
+            Note(u"What was not saved has changed."_s);
+            return WorkLost;
+        }
         const QByteArray saved = program.save();
         if (turn == 3 && saved != former) {
             Note(u"The shop changes with every save."_s);

@@ -19,9 +19,12 @@ enum RunEnd : int {
     Unsettled = 42,
     // Tree and catalogue have got out of step.
     OutOfStep = 43,
+    // What was not saved is not what the shop was when it was written.
+    WorkLost = 44,
 };
 
 // The folder is where the run's files are made.
 int runMonkey(const QString& folder, std::uint32_t seed, int steps, PlayedBy player);
-// Opens and saves, several times, the shop that a run has left in that folder.
+// Opens the shop that a run has left in that folder, with what was not saved, which is held against the shop as it was
+// when that was written. Then saves and opens it several times.
 int checkShop(const QString& folder);
