@@ -175,6 +175,7 @@ void MainForm::importHandler()
         products = importer.productCount;
         line = importer.line;
     }
+    m_unsaved->keep();
     if (!failure) {
         m_parts->frmCopyright->tell(EventTexts::imported(products));
         return;

@@ -95,7 +95,7 @@ TEST_F(UnsavedWork, IsKeptAfterAnImportEvenOneThatFails)
     const QString list = files.path(u"list.txt"_s);
     WriteFile(list, "Sencha,green,Moss\nbroken\n");
     prompts.answerFile(list);
-    prompts.expectMessage(title, u"Subscript out of range"_s, PromptIcon::Warning);
+    prompts.expectMessage(title, u"Line 2: Subscript out of range\n1 product imported"_s, PromptIcon::Warning);
     trigger("mnuImport");
     EXPECT_TRUE(unsaved().contains("<Name>Sencha</Name>"));
 }
