@@ -94,11 +94,16 @@ bool holdsNumber(const QString& text)
     return reasonAgainst(CellContent::Limit, text).isEmpty();
 }
 
+// Whether every product that inherits its discount, or that is about to, has a price for it.
 bool hasEveryPrice(MainForm& window)
 {
+    const auto* active = std::get_if<std::shared_ptr<ProductClass>>(&window.ActiveObject);
     bool hasAll = true;
-    forEachProduct(*window.session().shop,
-                   [&](ProductClass& product) { hasAll = hasAll && holdsNumber(product.Price()->Value); });
+    forEachProduct(*window.session().shop, [&](ProductClass& product) {
+        const bool inherits = product.Price()->Discount()->Status == DiscountStatus::Inherit;
+        const bool isMeant = active && active->get() == &product;
+        hasAll = hasAll && ((!inherits && !isMeant) || holdsNumber(product.Price()->Value));
+    });
     return hasAll;
 }
 
