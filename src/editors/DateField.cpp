@@ -172,6 +172,7 @@ void MonthCalendar::paintCell(QPainter* painter, const QRect& room, QDate date) 
     const bool isChosen = date == selectedDate();
     const bool isOfMonth = date.month() == monthShown() && date.year() == yearShown();
     if (isChosen) {
+        fillSharp(*painter, room, tone(Tone::Field)); // over the ground that a view gives what is chosen
         fillRounded(*painter, QRectF(room).adjusted(2, 1, -2, -1), Measure::Radius, tone(Tone::Accent));
     }
     painter->save();

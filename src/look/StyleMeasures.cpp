@@ -222,6 +222,7 @@ int ShopStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
     case SH_ScrollView_FrameOnlyAroundContents:
     case SH_ComboBox_Popup:
     case SH_EtchDisabledText:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
         return 0;
     case SH_TabBar_Alignment:
         return Qt::AlignLeft;

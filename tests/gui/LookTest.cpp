@@ -1,5 +1,6 @@
 // What the window shows of where one is, and where its signs stand.
 #include "editors/Panel.h"
+#include "editors/ScrollColumn.h"
 #include "look/Theme.h"
 #include "look/Tones.h"
 #include "shell/ShortcartButton.h"
@@ -8,6 +9,7 @@
 #include <QFile>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTest>
 
 #include <set>
@@ -104,6 +106,26 @@ TEST_F(Look, GivesTheFrameOfASaveAnEdgeThatIsSeenInBothLooks)
         EXPECT_EQ(shown.pixelColor(shown.width() / 2, 0), toneIn(scheme, Tone::Edge));
         EXPECT_EQ(shown.pixelColor(8, shown.height() / 2), toneIn(scheme, Tone::Chrome));
     }
+}
+
+TEST_F(Look, DrawsALineWhereAPanelGoesOnBelow)
+{
+    click("ShopDesignSBtn");
+    click("CategoryPageDesignSBtn");
+    auto* column = window->VisibleFrame->findChild<ScrollColumn*>();
+    ASSERT_NE(column, nullptr);
+    const auto hasLine = [&](int height) {
+        window->resize(1190, height);
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        const QImage shown = column->grab().toImage();
+        return shown.pixelColor(shown.width() / 2, shown.height() - 1) == tone(Tone::Line);
+    };
+    EXPECT_TRUE(hasLine(600));
+    column->verticalScrollBar()->setValue(column->verticalScrollBar()->maximum());
+    EXPECT_FALSE(hasLine(600));
+    column->verticalScrollBar()->setValue(0);
+    EXPECT_FALSE(hasLine(1400));
 }
 
 TEST_F(Look, GivesTheCalendarAnEdgeInBothLooks)

@@ -31,7 +31,7 @@ public:
 
     void setBackground(const QColor& colour);
 
-    QSize sizeHint() const override { return {180, 140}; }
+    QSize sizeHint() const override { return {144, 144}; }
 
 Q_SIGNALS:
     // Files were dropped that can be pictures. The signal comes from the event loop: who dragged them does not wait.
