@@ -15,9 +15,9 @@ QString fittingText(Dice& dice, const QWidget& field);
 // Lines that import well.
 QByteArray fittingImportFile(Dice& dice);
 
-// False for what he does not press now: he deletes no page that a menu shows, removes no category with a product that is
-// in the cart or related to one elsewhere, adds no category while panel and node differ, and lets no product without a
-// price inherit a discount.
+// False for what he does not press now: he deletes no page that a menu shows, removes no category with a product that
+// is in the cart or related to one elsewhere, adds no category while panel and node differ, and lets no product without
+// a price inherit a discount.
 bool mayPress(const QWidget& widget, MainForm& window);
 bool mayChoose(const QString& action, MainForm& window);
 
