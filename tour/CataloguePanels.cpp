@@ -4,18 +4,13 @@
 #include "editors/LinkLabel.h"
 #include "editors/TextArea.h"
 #include "editors/catalogue/CustomGrid.h"
-#include "editors/catalogue/ProductTaxesPanel.h"
-#include "editors/catalogue/ShopShippingCostsPanel.h"
 #include "shell/CatalogueTree.h"
 
 #include <QDialog>
-#include <QGridLayout>
 #include <QListWidget>
 #include <QRadioButton>
 #include <QTest>
 #include <QTreeView>
-
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -26,19 +21,6 @@ void keepOption(Walk& walk, const char* option, const QString& name)
 {
     walk.in<QRadioButton>(option)->setChecked(true);
     walk.keep(name);
-}
-
-// A panel that has no instance on the window gets one for its picture.
-template <class PanelType>
-void keepUnplacedPanel(Walk& walk, const QString& name)
-{
-    QFrame* holder = walk.window.parts().MainFrame;
-    const auto panel = std::make_unique<PanelType>(walk.window, holder);
-    panel->setObjectName(name);
-    qobject_cast<QGridLayout*>(holder->layout())->addWidget(panel.get(), 0, 0);
-    walk.showPanel(panel.get());
-    walk.keep(name);
-    walk.showPanel(nullptr);
 }
 
 void walkShop(Walk& walk)
@@ -59,9 +41,6 @@ void walkShop(Walk& walk)
     walk.window.ResetActivePanel();
     walk.click("ShippingChargesSBtn");
     walk.keep(u"shop_charges"_s);
-    walk.showPanel(Walk::partOf<Panel>(&walk.window, "ShopsShippingPnl"));
-    walk.keep(u"shop_shipping_types"_s);
-    keepUnplacedPanel<ShopShippingCostsPanel>(walk, u"shop_shipping_costs"_s);
 }
 
 void walkCategory(Walk& walk, TreeNode* node)
@@ -100,11 +79,6 @@ void walkProduct(Walk& walk, TreeNode* node)
     walk.click("ProductRelatedSBtn");
     walk.in<QTreeView>("AllProductsTree")->expandToDepth(1);
     walk.keep(u"product_related"_s);
-    walk.showPanel(Walk::partOf<Panel>(&walk.window, "ProductShippingCostsPnl"));
-    walk.keep(u"product_shipping_costs"_s);
-    keepOption(walk, "IndividualOpt", u"product_shipping_costs_individual"_s);
-    walk.window.ResetActivePanel();
-    keepUnplacedPanel<ProductTaxesPanel>(walk, u"product_taxes"_s);
 }
 
 } // namespace

@@ -6,7 +6,7 @@ class Walk;
 
 // The modes, each toolbar, a button under the mouse, the menus and the saving.
 void walkModes(Walk& walk);
-// Every panel of the catalogue, those without a button included, the month calendar and the picker of pictures.
+// Every panel of the catalogue that a button leads to, the month calendar and the picker of pictures.
 void walkCataloguePanels(Walk& walk);
 // What is new and empty, and what is too long, in the catalogue.
 void walkCatalogueExtremes(Walk& walk);

@@ -6,7 +6,9 @@
 #include "shell/BrowserPreview.h"
 #include "shell/StartUp.h"
 
+#include <QCursor>
 #include <QDirIterator>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -44,6 +46,7 @@ void Tour::walk(bool withPages)
 {
     Walk walk(*m_window, m_prompts, m_output);
     walk.activateWindow();
+    QCursor::setPos(m_window->screen()->geometry().bottomRight()); // nothing lights up under a mouse that stands there
     walkModes(walk);
     walkCataloguePanels(walk);
     walkCatalogueExtremes(walk);

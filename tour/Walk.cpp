@@ -104,11 +104,6 @@ void Walk::clickNode(TreeNode* node) const
     QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(index).center());
 }
 
-void Walk::showPanel(Panel* panel) const
-{
-    window.ShowFrame(panel, PanelCode::Show);
-}
-
 PreviewBrowser& Walk::browser() const
 {
     return *qobject_cast<PreviewBrowser*>(window.parts().PreviewBrowser);

@@ -43,8 +43,6 @@ public:
     // Clicks the node, which is brought into sight first. The tour ends when there is none.
     void clickNode(TreeNode* node) const;
 
-    // Shows a panel that no button leads to.
-    void showPanel(Panel* panel) const;
     // A part of the panel that is shown. The tour ends when the panel has none of that name: it is out of date then.
     template <class Widget>
     Widget* in(const char* name) const

@@ -3,6 +3,7 @@
 #include "editors/PanelHost.h"
 #include "editors/design/pickers/DialogButtons.h"
 #include "editors/design/pickers/ucSelectCustPage.h"
+#include "look/Measures.h"
 
 #include <QVBoxLayout>
 
@@ -16,8 +17,9 @@ frmSelectedCustomPages::frmSelectedCustomPages(PanelHost& host, QWidget* parent)
     pagesControl->setObjectName(u"ucSelectCustPage"_s);
     const DialogButtons buttons = makeDialogButtons(this);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(16, 16, 16, 16);
-    column->setSpacing(14);
+    column->setContentsMargins(Measure::DialogMargin, Measure::DialogMargin, Measure::DialogMargin,
+                               Measure::DialogMargin);
+    column->setSpacing(Measure::Section);
     column->addWidget(pagesControl, 1);
     column->addLayout(buttons.row);
     resize(380, 420);
