@@ -11,6 +11,10 @@ need "${BUILD_PACKAGES[@]}" "${LINT_PACKAGES[@]}" libexpat1-dev
 cmake --preset fuzz --log-level=WARNING
 cmake --build --preset fuzz --target fuzzers
 
+# Remembering two calls in the place of thirty for every piece of memory saves a third of the time. To see all of them in
+# a finding, run its input again without it.
+export ASAN_OPTIONS=malloc_context_size=2${ASAN_OPTIONS:+:$ASAN_OPTIONS}
+
 work=build/fuzz
 mkdir -p "$work/findings"
 

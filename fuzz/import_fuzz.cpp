@@ -32,7 +32,11 @@ constexpr auto smallShop =
     "<Product><Id>4</Id><Name>Sencha</Name><Related/></Product></Category>"
     "<Category><Id>5</Id><Name>Tea</Name></Category></Shop></Tarnwick>";
 constexpr int lastIdOfSmallShop = 9;
-constexpr std::size_t savedNodes = 300; // larger shops are not saved, so that there is time for more files
+
+// Saving and reading again takes longer than everything else, so that it is done for one file in eight, and for no
+// large shop.
+constexpr std::size_t savedNodes = 300;
+constexpr std::size_t oneInSaved = 8;
 
 class NoPrompts : public UserPrompts
 {
@@ -283,7 +287,7 @@ void checkSaving(ShopSession& session, Nodes nodes)
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    static const QTemporaryDir directory; // for the log
+    static const QTemporaryDir directory; // nothing is written there
     static const MemoryFile file;
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     file.fill(bytes);
@@ -291,7 +295,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     NoPrompts prompts;
     const SystemClock clock;
     ShopSession session(ApplicationFolder(directory.path()), prompts, clock);
-    session.log.reset();
+    session.log.mute();
     readBytes(session, smallShop);
 
     Nodes expected = nodesOf(*session.shop);
@@ -299,7 +303,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     promise(errorOfImport(session, file.path()) == error, "the import ends as it must");
     promise(nodesOf(*session.shop) == expected, "the shop has what the lines tell and nothing else");
     checkKeys(session, expected);
-    if (expected.size() <= savedNodes) {
+    if (expected.size() <= savedNodes && qHash(bytes) % oneInSaved == 0) {
         checkSaving(session, std::move(expected));
     }
     return 0;
