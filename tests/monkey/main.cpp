@@ -4,7 +4,8 @@
 //                                                   --talk tells of each, --on goes on after a defect,
 //                                                   --careful plays the careful owner
 //   monkey --alone --folder F --seed N [--steps N]  one run in this process, to look at a defect
-//   monkey --check --folder F                       opens and saves the shop that the run has left
+//   monkey --check --folder F                       opens the shop that the run has left, with what was not saved, and
+//                                                   saves it
 #include "Run.h"
 #include "Runs.h"
 #include "look/Theme.h"

@@ -260,6 +260,22 @@ TEST_F(UploadPlanTest, APictureNameThatLeadsOutOfItsFolderIsAFileThatIsNotThere)
     }
 }
 
+TEST_F(UploadPlanTest, KnowsNothingOfWhatWasNotSaved)
+{
+    const QByteArray unsaved = "<Tarnwick><Shop><Category><Picture>new.png</Picture></Category><ShopDesign/></Shop>"
+                               "</Tarnwick>";
+    WriteFile(files.folder().unsavedShopFile(), unsaved);
+    WriteFile(files.folder().oldUnsavedShopFile(), unsaved);
+    WriteFile(files.folder().runningFile(), "");
+    EXPECT_EQ(picturesOf("<Category><Picture>cup.png</Picture></Category><ShopDesign/>"), QStringList{u"cup.png"_s});
+    UploadPlan plan(files.folder(), server);
+    EXPECT_EQ(plan.walkShopFile(), UploadPlan::Found::All);
+    for (const UploadItem& item : plan.items()) {
+        const QString path = partOf(item, files.folder()).localFile;
+        EXPECT_FALSE(path.contains(u"unsaved"_s) || path.contains(u"running"_s)) << path.toStdString();
+    }
+}
+
 TEST_F(UploadPlanTest, ShopThenPicturesThenFourteenTemplatesInPairs)
 {
     UploadPlan plan(files.folder(), server);
