@@ -63,10 +63,12 @@ protected:
         waitUntil(u"window.axeFindings !== null"_s);
         const QJsonObject found = QJsonDocument::fromJson(script(u"window.axeFindings"_s).toString().toUtf8()).object();
         EXPECT_GT(found[u"rules"].toInt(), 20) << "axe-core did not look at the page";
+        const QJsonArray broken = found[u"violations"].toArray();
         QStringList texts;
-        for (const QJsonValue& violation : found[u"violations"].toArray()) {
+        for (const QJsonValueConstRef violation : broken) {
             QString text = violation[u"id"].toString();
-            for (const QJsonValue& place : violation[u"places"].toArray()) {
+            const QJsonArray places = violation[u"places"].toArray();
+            for (const QJsonValueConstRef place : places) {
                 text += u"\n    "_s + place.toString().simplified();
             }
             texts << text;
