@@ -179,6 +179,25 @@ TEST_F(SelectedImage, WritingReadsBothSizesWhenOneIsNotKnown)
     EXPECT_TRUE(written(image).contains("<Width>120</Width><Height>40</Height>"));
 }
 
+TEST_F(SelectedImage, WritingThatMayNotFailTakesWhatIsKnownOfAFileThatIsGone)
+{
+    const auto writtenAllTheSame = [this] {
+        pugi::xml_document document;
+        image.ToXML(document.append_child("X"), Unwritable::IsLeftEmpty);
+        return xmlToBytes(document);
+    };
+    image.imageFileName = u"logo.png"_s;
+    image.setWidthBmp(7);
+    EXPECT_TRUE(writtenAllTheSame().contains("<Width>7</Width><Height>0</Height>"));
+    EXPECT_EQ(image.writtenSize(Unwritable::IsLeftEmpty).width, 7);
+    writePicture(u"logo.png"_s, 120, 40);
+    EXPECT_TRUE(writtenAllTheSame().contains("<Width>120</Width><Height>40</Height>"));
+    EXPECT_EQ(image.writtenSize(Unwritable::IsLeftEmpty).height, 40);
+    // The slot is only looked at.
+    EXPECT_EQ(image.cachedSize().width, 7);
+    EXPECT_EQ(image.cachedSize().height, 0);
+}
+
 TEST_F(SelectedImage, AGetterReadsOnlyTheSizeAskedFor)
 {
     writePicture(u"logo.png"_s, 120, 40);
