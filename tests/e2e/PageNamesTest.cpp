@@ -56,9 +56,10 @@ protected:
         return isSeen && isWhole && countOf(u"#page"_s) == 1;
     }
 
+    // Twice, since on a busy machine the page of the name before may come late and take this one's place.
     void expectToLead(const QString& name)
     {
-        EXPECT_TRUE(linkLeadsTo(name, 30'000)) << '"' << name.toStdString() << '"';
+        EXPECT_TRUE(linkLeadsTo(name, 10'000) || linkLeadsTo(name, 30'000)) << '"' << name.toStdString() << '"';
     }
 };
 
