@@ -47,7 +47,7 @@ QString PicturePath(PanelHost& host, const QString& name)
 QString addToPictures(PanelHost& host, const QString& path)
 {
     const QFileInfo source(path);
-    const QString name = source.fileName();
+    QString name = source.fileName();
     const QFileInfo target(host.session().folder.picturesFolder() + name);
     if (target.exists() && !host.session().prompts.askYesNo(u"Tarnwick"_s, u"Overwrite this file?"_s)) {
         return {};
