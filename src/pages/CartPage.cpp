@@ -10,9 +10,9 @@ using enum DesignOption;
 
 namespace {
 
-constexpr DesignOption PageOptions[] = {CartPage_IncludePageHeader, CartPage_PageHeader};
+constexpr DesignOption pageOptions[] = {CartPage_IncludePageHeader, CartPage_PageHeader};
 
-constexpr DesignOption LineOptions[] = {
+constexpr DesignOption lineOptions[] = {
     CartPage_IncludeAddToCart, CartPage_IncludeDescription, CartPage_IncludeImage,      CartPage_IncludeName,
     CartPage_IncludeNewPrice,  CartPage_IncludeOldPrice,    CartPage_IncludePageHeader, CartPage_IncludePrice,
     CartPage_IncludeRelated,   CartPage_IncludeShipping,    CartPage_IncludeTaxes,
@@ -101,7 +101,7 @@ VariableRows lineRows(const PageContext& context, Total& total)
         addPrices(row, *line, total);
         row.Add(u"description", descriptions.cut(product.Description));
         recalculateButton.addTo(row);
-        addOptions(row, design, LineOptions);
+        addOptions(row, design, lineOptions);
         row.Add(u"server", serverAddress());
         addRelated(row, context, product);
         addTaxes(row, context, product);
@@ -114,7 +114,7 @@ VariableRows lineRows(const PageContext& context, Total& total)
 
 void addCartPage(Variables& vars, const PageContext& context, const PageObject&)
 {
-    addOptions(vars, context.design(), PageOptions);
+    addOptions(vars, context.design(), pageOptions);
     addSlotVariables(vars, context, ImageSlot::CartPage_Checkout_Button);
     // An empty cart adds nothing more, not even HAS_ITEMS.
     if (context.cart().Count() == 0) {

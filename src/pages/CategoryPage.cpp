@@ -9,16 +9,16 @@ using enum DesignOption;
 
 namespace {
 
-constexpr DesignOption PageOptions[] = {Category_BreadCrumb, Category_PageHeader, Category_IncludePageHeader};
+constexpr DesignOption pageOptions[] = {Category_BreadCrumb, Category_PageHeader, Category_IncludePageHeader};
 
-constexpr DesignOption SubCategoryOptions[] = {Category_Description, Category_Name, Category_Image};
+constexpr DesignOption subCategoryOptions[] = {Category_Description, Category_Name, Category_Image};
 
-constexpr DesignOption ProductOptions[] = {
+constexpr DesignOption productOptions[] = {
     Category_NewPrice,    Category_OldPrice, Category_AddToCart,    Category_Price, Category_ProductImage,
     Category_ProductName, Category_Related,  Category_ShoppingInfo, Category_Taxes, Category_ProductDescription,
 };
 
-constexpr VariantOptions PriceOptions = {Category_ProductDescription,
+constexpr VariantOptions priceOptions = {Category_ProductDescription,
                                          {Category_Price, Category_OldPrice, Category_NewPrice}};
 
 VariableRows subCategoryRows(const PageContext& context, const CategoryClass& category)
@@ -31,7 +31,7 @@ VariableRows subCategoryRows(const PageContext& context, const CategoryClass& ca
         row.Add(u"name", subCategory->name);
         row.Add(u"description", subCategory->Description);
         row.Add(u"server", serverAddress());
-        addOptions(row, context.design(), SubCategoryOptions);
+        addOptions(row, context.design(), subCategoryOptions);
         AddImageVariables(row, context, *subCategory->selectedImage(), imageKeys);
         rows.push_back(std::move(row));
     }
@@ -63,7 +63,7 @@ VariableRows productRows(const PageContext& context, const CategoryClass& catego
         AddImageVariables(row, context, *product->selectedImage(), imageKeys);
         row.Add(u"Product_PriceType", priceTypeOf(*price));
         if (hasVariants(*price)) {
-            row.Add(u"MultiplePrice", variantRows(context, *price, PriceOptions));
+            row.Add(u"MultiplePrice", variantRows(context, *price, priceOptions));
         } else {
             addPrices(row, price);
         }
@@ -72,7 +72,7 @@ VariableRows productRows(const PageContext& context, const CategoryClass& catego
         row.Add(u"server", serverAddress());
         row.Add(u"shop_currency", context.shop().shop_currency);
         cartButton.addTo(row);
-        addOptions(row, design, ProductOptions);
+        addOptions(row, design, productOptions);
         VariableRows related = relatedRows(context, *product);
         const bool hasRelated = !related.empty();
         if (hasRelated) {
@@ -89,7 +89,7 @@ VariableRows productRows(const PageContext& context, const CategoryClass& catego
 void addCategoryPage(Variables& vars, const PageContext& context, const PageObject& object)
 {
     auto& category = pageObjectAs<CategoryClass>(object);
-    addOptions(vars, context.design(), PageOptions);
+    addOptions(vars, context.design(), pageOptions);
     // Products do not count.
     const bool isEmpty = category.categories.isEmpty();
     vars.Add(u"Category_Empty", isEmpty ? u"Yes"_s : u"No"_s);

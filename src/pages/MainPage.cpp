@@ -8,7 +8,7 @@ using enum DesignOption;
 
 namespace {
 
-constexpr DesignOption Options[] = {
+constexpr DesignOption options[] = {
     Main_PageHeader,           Main_IncludePageHeader, Main_SearchButton,          Main_SearchTextfield,
     Main_IncludeTopCategories, Main_IncludeTwoLevel,   Main_IncludeNavigationMenu,
 };
@@ -70,5 +70,5 @@ void addMainPage(Variables& vars, const PageContext& context, const PageObject& 
     vars.Add(u"Main_IncludeShopDescription", design.Option(Main_IncludeShopDescription));
     addSlotVariables(vars, context, ImageSlot::MainSearchButton);
     AddCustomPageList(vars, context, *design.Pages(PageSelection::MainPageMenuList));
-    addOptions(vars, design, Options);
+    addOptions(vars, design, options);
 }

@@ -8,11 +8,11 @@ using enum DesignOption;
 
 namespace {
 
-constexpr DesignOption OptionsAheadOfTheCart[] = {
+constexpr DesignOption optionsAheadOfTheCart[] = {
     Menu_TopCategories, Menu_SearchButton, Menu_SearchTextfield, Menu_ShowMenu, Menu_ProductNames,
 };
 
-constexpr DesignOption OptionsBehindTheCart[] = {
+constexpr DesignOption optionsBehindTheCart[] = {
     Menu_CartButton,
     Menu_IncludeHeaderTopCategory,
     Menu_HeaderTopCategoryText,
@@ -56,9 +56,9 @@ void addMenuPage(Variables& vars, const PageContext& context, const PageObject&)
     addSlotVariables(vars, context, ImageSlot::MenuSearchButton);
     addSlotVariables(vars, context, ImageSlot::MenuShoppingCartButton);
     AddCustomPageList(vars, context, *design.Pages(PageSelection::MenuCustomPageSelected));
-    addOptions(vars, design, OptionsAheadOfTheCart);
+    addOptions(vars, design, optionsAheadOfTheCart);
     // Here the guard exists in any case, unlike the one of the cart page.
     vars.Add(u"HAS_ITEMS", context.cart().Count() != 0 ? u"Yes"_s : QString());
     vars.Add(u"products", cartRows(context));
-    addOptions(vars, design, OptionsBehindTheCart);
+    addOptions(vars, design, optionsBehindTheCart);
 }

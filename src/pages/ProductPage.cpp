@@ -6,7 +6,7 @@ using enum DesignOption;
 
 namespace {
 
-constexpr DesignOption Options[] = {
+constexpr DesignOption options[] = {
     ProductPage_IncludePageHeader,  ProductPage_PageHeader,       ProductPage_IncludeBreadcrumb,
     ProductPage_IncludeImage,       ProductPage_IncludeAddToCart, ProductPage_IncludeName,
     ProductPage_IncludeDescription, ProductPage_IncludePrice,     ProductPage_IncludeOldPrice,
@@ -14,7 +14,7 @@ constexpr DesignOption Options[] = {
     ProductPage_IncludeRelated,     ProductPage_Advanced,
 };
 
-constexpr VariantOptions PriceOptions = {
+constexpr VariantOptions priceOptions = {
     ProductPage_IncludeDescription,
     {ProductPage_IncludeOldPrice, ProductPage_IncludeNewPrice, ProductPage_IncludePrice}};
 
@@ -25,7 +25,7 @@ struct SecondName
     DesignOption option;
 };
 
-constexpr SecondName SecondNames[] = {
+constexpr SecondName secondNames[] = {
     {u"INCLUDE_PAGE_HEADER", ProductPage_IncludePageHeader},
     {u"INCLUDE_BREADCRUMB", ProductPage_IncludeBreadcrumb},
     {u"INCLUDE_IMAGE", ProductPage_IncludeImage},
@@ -59,11 +59,11 @@ void addProductPage(Variables& vars, const PageContext& context, const PageObjec
     vars.Add(u"Height", image.HeightBmp());
     vars.Add(u"Product_PriceType", priceTypeOf(*price));
     if (hasVariants(*price)) {
-        vars.Add(u"MultiplePrice", variantRows(context, *price, PriceOptions));
+        vars.Add(u"MultiplePrice", variantRows(context, *price, priceOptions));
     } else {
         addSinglePrice(vars, price);
     }
-    addOptions(vars, design, Options);
+    addOptions(vars, design, options);
     addSlotVariables(vars, context, ImageSlot::ProductCartButton);
     addRelated(vars, context, product);
 
@@ -73,7 +73,7 @@ void addProductPage(Variables& vars, const PageContext& context, const PageObjec
     }
     vars.Add(u"breadcrumb", breadcrumbRows(context, *category));
     vars.Add(u"shop_name", context.shop().name);
-    for (const SecondName& second : SecondNames) {
+    for (const SecondName& second : secondNames) {
         vars.Add(second.name, design.Option(second.option));
     }
 }

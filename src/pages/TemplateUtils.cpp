@@ -86,10 +86,10 @@ QString SelectedPicturePath(const ApplicationFolder& folder, CategoryClass& cate
 
 ImageKeys::ImageKeys(QStringView key)
 {
-    static constexpr std::array<QLatin1StringView, Count> Endings = {"_TYPE"_L1, "_FILENAME"_L1, "_TEXT"_L1,
+    static constexpr std::array<QLatin1StringView, Count> endings = {"_TYPE"_L1, "_FILENAME"_L1, "_TEXT"_L1,
                                                                      "_WIDTH"_L1, "_HEIGHT"_L1};
     for (std::size_t i = 0; i < Count; ++i) {
-        m_names[i] = key.toString() + Endings[i];
+        m_names[i] = key.toString() + endings[i];
     }
 }
 

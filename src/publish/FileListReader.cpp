@@ -21,7 +21,7 @@ QString upgradeText()
         u"Download the latest version."_s,
         u"Uninstall current version and install the new one."_s,
         u"Restore your store."_s,
-        u"For more info go to "_s + VendorAddresses::Upgrade(),
+        u"For more info go to "_s + VendorAddresses::upgrade(),
     };
     return lines.join("\r\n"_L1);
 }

@@ -159,7 +159,7 @@ QString readAnswer(const HttpAnswer& answer, UserPrompts& prompts)
     if (inBandStatus == "401"_L1) {
         showRefusal(prompts, 0,
                     "Incorrect login or password! In case you forgot your password please visit:\r\n"_L1 +
-                        VendorAddresses::PasswordRecovery());
+                        VendorAddresses::passwordRecovery());
         return errorResult;
     }
     if (inBandStatus == "500"_L1) {

@@ -6,25 +6,25 @@
 
 namespace VendorAddresses {
 
-inline const QString& DefaultShop()
+inline const QString& defaultShop()
 {
     static const QString address = QStringLiteral("http://shop.example.com/");
     return address;
 }
 
-inline const QString& SignUp()
+inline const QString& signUp()
 {
     static const QString address = QStringLiteral("http://www.example.com/signup");
     return address;
 }
 
-inline const QString& PasswordRecovery()
+inline const QString& passwordRecovery()
 {
     static const QString address = QStringLiteral("http://www.example.com/password");
     return address;
 }
 
-inline const QString& Upgrade()
+inline const QString& upgrade()
 {
     static const QString address = QStringLiteral("http://www.example.com/upgrade");
     return address;

@@ -7,12 +7,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QStringView OpeningMark = u"<!--:";
-constexpr QStringView ClosingMark = u":-->";
+constexpr QStringView openingMark = u"<!--:";
+constexpr QStringView closingMark = u":-->";
 
 // Where the last character of a tag or block may stand, counted from 1 at the start of the text that is parsed, which
 // is the body for what stands in a block. Literal text may go on beyond. The limit is part of the format.
-constexpr qsizetype LastPosition = 32767;
+constexpr qsizetype lastPosition = 32767;
 
 struct KindWord
 {
@@ -21,7 +21,7 @@ struct KindWord
 };
 
 // The case counts: "IF" is no kind word.
-constexpr std::array KindWords{
+constexpr std::array kindWords{
     KindWord{u"default", ElementType::Default}, KindWord{u"static", ElementType::Static},
     KindWord{u"text", ElementType::Text},       KindWord{u"html", ElementType::Html},
     KindWord{u"js", ElementType::Js},           KindWord{u"dhtml", ElementType::DHtml},
@@ -32,8 +32,8 @@ constexpr std::array KindWords{
 qint16 kindOf(QStringView word)
 {
     const auto* known =
-        std::find_if(KindWords.begin(), KindWords.end(), [word](const KindWord& kind) { return kind.word == word; });
-    return known == KindWords.end() ? ElementType::Default : known->type;
+        std::find_if(kindWords.begin(), kindWords.end(), [word](const KindWord& kind) { return kind.word == word; });
+    return known == kindWords.end() ? ElementType::Default : known->type;
 }
 
 TemplateError tooFar(qsizetype position)
@@ -53,22 +53,22 @@ struct Tag
 
 Tag readTag(QStringView text, qsizetype mark, qsizetype position)
 {
-    if (mark >= LastPosition) {
+    if (mark >= lastPosition) {
         throw tooFar(position + mark);
     }
-    const qsizetype closing = text.indexOf(ClosingMark, mark);
+    const qsizetype closing = text.indexOf(closingMark, mark);
     // The closing mark may share its colon with the opening one: "<!--:-->" is a tag that was never finished.
-    if (closing < mark + OpeningMark.size()) {
+    if (closing < mark + openingMark.size()) {
         throw TemplateError(ErrorNumber::InvalidArgument, u"A tag has no closing mark."_s, position + mark);
     }
 
     Tag tag;
     tag.start = mark;
-    tag.end = closing + ClosingMark.size();
-    if (tag.end > LastPosition) {
+    tag.end = closing + closingMark.size();
+    if (tag.end > lastPosition) {
         throw tooFar(position + mark);
     }
-    tag.name = text.sliced(mark + OpeningMark.size(), closing - mark - OpeningMark.size());
+    tag.name = text.sliced(mark + openingMark.size(), closing - mark - openingMark.size());
     tag.empty = tag.name.isEmpty();
 
     // The colon comes first, so a fallback with a colon in a tag without a kind word is split at that colon.
@@ -107,15 +107,15 @@ struct ClosingTag
 ClosingTag findClosingTag(QStringView text, const Tag& block, qsizetype position)
 {
     const QString closing = u"<!--:end:%1:-->"_s.arg(block.name);
-    qsizetype start = text.indexOf(OpeningMark, block.end);
+    qsizetype start = text.indexOf(openingMark, block.end);
     while (start >= 0 && !text.sliced(start).startsWith(closing, Qt::CaseInsensitive)) {
-        start = text.indexOf(OpeningMark, start + 1);
+        start = text.indexOf(openingMark, start + 1);
     }
     if (start < 0) {
         throw TemplateError(ErrorNumber::InvalidArgument, u"The block \"%1\" is never closed."_s.arg(block.name),
                             position + block.start);
     }
-    if (start + closing.size() > LastPosition) {
+    if (start + closing.size() > lastPosition) {
         throw tooFar(position + block.start);
     }
     return {start, start + closing.size()};
@@ -148,7 +148,7 @@ ElementArray parse_text(QStringView text, qsizetype position)
     qsizetype next = 0;    // where the next tag is looked for
     bool afterEmptyTag = false;
     while (next < text.size() || afterEmptyTag) {
-        const qsizetype mark = text.indexOf(OpeningMark, next);
+        const qsizetype mark = text.indexOf(openingMark, next);
         if (mark < 0) {
             parts.push_back(makeElement(ElementType::Static, text.sliced(pending)));
             break;

@@ -51,9 +51,9 @@ void Variables::Add(QStringView key, VariableRows rows)
 // common to rows of different kinds.
 void Variables::makeRoom()
 {
-    constexpr int FirstRoom = 4;
+    constexpr int firstRoom = 4;
     const int count = m_shape->size();
-    const int room = count < FirstRoom ? FirstRoom : std::max(m_shape->longest(), count * 2);
+    const int room = count < firstRoom ? firstRoom : std::max(m_shape->longest(), count * 2);
     m_values.reserve(static_cast<std::size_t>(room));
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 // The pattern that all pages use is matched by hand: several times as fast as the engine, linear even for a text full
 // of "<", and indifferent to broken surrogate pairs, on which the engine gives up.
-constexpr QStringView TagPattern = u"<[^>]*>";
+constexpr QStringView tagPattern = u"<[^>]*>";
 
 QString replaceTags(const QString& text, const QString& replacement)
 {
@@ -47,7 +47,7 @@ QString replaceMatches(const QRegularExpression& engine, const QString& text, co
 
 QString firstWords(const QString& text, int count)
 {
-    constexpr qsizetype LastPosition = 32767; // counted from 1, like the cursors of the template language
+    constexpr qsizetype lastPosition = 32767; // counted from 1, like the cursors of the template language
     int words = 0;
     qsizetype next = 0;
     qsizetype blank = 0;
@@ -56,7 +56,7 @@ QString firstWords(const QString& text, int count)
         if (blank < 0) {
             return text;
         }
-        if (blank >= LastPosition) {
+        if (blank >= lastPosition) {
             throw RuntimeError(ErrorNumber::Overflow);
         }
         if (blank > next) {
@@ -82,7 +82,7 @@ void clsRegExp::Execute(const QString& text)
 QString clsRegExp::Replace(const QString& text, const QString& replacement, int count)
 {
     const QString result =
-        m_pattern == TagPattern ? replaceTags(text, replacement) : replaceMatches(engine(), text, replacement);
+        m_pattern == tagPattern ? replaceTags(text, replacement) : replaceMatches(engine(), text, replacement);
     return count <= 0 ? result : firstWords(result, count);
 }
 

@@ -16,7 +16,7 @@ const QString upgradeText = u"You don't have the latest version of the software.
                             "Uninstall current version and install the new one.\r\n"
                             "Restore your store.\r\n"
                             "For more info go to "_s +
-                            VendorAddresses::Upgrade();
+                            VendorAddresses::upgrade();
 
 TEST(FileListReader, ALineHasNameSizeAndAThirdValue)
 {

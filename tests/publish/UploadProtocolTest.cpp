@@ -90,7 +90,7 @@ struct AnswerRow
 std::vector<AnswerRow> answerRows()
 {
     const QString wrongLogin = u"Incorrect login or password! In case you forgot your password please visit:\r\n"_s +
-                               VendorAddresses::PasswordRecovery();
+                               VendorAddresses::passwordRecovery();
     const QString serverError = u"Server internal error"_s;
     return {
         {"a plain answer", 200, "1.2.0|", u"1.2.0|"_s, {}, {}},

@@ -169,7 +169,7 @@ TEST_F(UploadRunTest, AnErrorInAnyAnswerStopsTheUploadAndLeavesTheScreenReady)
         QString text;
     };
     const QString wrongLogin = u"Incorrect login or password! In case you forgot your password please visit:\r\n"_s +
-                               VendorAddresses::PasswordRecovery();
+                               VendorAddresses::passwordRecovery();
     const std::vector<Row> rows{
         {Answer(200, "401"), u"Error 0"_s, wrongLogin},
         {Answer(200, "500"), u"Error 0"_s, u"Server internal error"_s},

@@ -27,7 +27,7 @@ enum class Request {
 };
 
 // What stands behind the server's address. As many characters are cut off as that has, wherever it stands.
-QString QueryOf(const QString& url)
+QString queryOf(const QString& url)
 {
     return url.sliced(serverAddress().size());
 }
@@ -97,7 +97,7 @@ NavigationDecision PreviewNavigation::judge(const QString& url)
     if (!url.contains(serverAddress())) {
         return {false, showsCartAtTheEnd(url)};
     }
-    const QString query = QueryOf(url);
+    const QString query = queryOf(url);
     const bool isUnknown = !query.isEmpty() && requestOf(url, query) == Request::Unknown;
     return {true, !isUnknown || showsCartAtTheEnd(url)};
 }
@@ -106,7 +106,7 @@ void PreviewNavigation::act(const QString& url)
 {
     QString query;
     if (url.contains(serverAddress())) {
-        query = QueryOf(url);
+        query = queryOf(url);
         if (query.isEmpty()) {
             query = homeQuery();
         }

@@ -4,14 +4,14 @@
 
 namespace {
 
-constexpr std::size_t UnitCount = 0x10000;
+constexpr std::size_t unitCount = 0x10000;
 
 // Marks in the table of known units. Neither is a character of any text.
-constexpr char16_t NotMetYet = 0;
-constexpr char16_t SeveralUnits = 0xFFFF; // the upper case is longer, or the unit is half of a pair
+constexpr char16_t notMetYet = 0;
+constexpr char16_t severalUnits = 0xFFFF; // the upper case is longer, or the unit is half of a pair
 
 // One character becomes three at most.
-constexpr qsizetype LongestUpperCase = 3;
+constexpr qsizetype longestUpperCase = 3;
 
 bool isAscii(char16_t unit)
 {
@@ -27,7 +27,7 @@ char16_t asciiUpperCase(char16_t unit)
 } // namespace
 
 ProductSearch::ProductSearch(const QString& what)
-    : m_matcher(what.toUpper()), m_findsAll(what.isEmpty()), m_known(UnitCount, NotMetYet)
+    : m_matcher(what.toUpper()), m_findsAll(what.isEmpty()), m_known(unitCount, notMetYet)
 {
 }
 
@@ -42,7 +42,7 @@ bool ProductSearch::isIn(const QString& text)
 // Upper case depends on no neighbours, so the units outside ASCII can be learned one by one.
 QStringView ProductSearch::upperCase(QStringView text)
 {
-    const auto room = static_cast<std::size_t>(text.size() * LongestUpperCase);
+    const auto room = static_cast<std::size_t>(text.size() * longestUpperCase);
     if (m_buffer.size() < room) {
         m_buffer.resize(room);
     }
@@ -54,7 +54,7 @@ QStringView ProductSearch::upperCase(QStringView text)
             continue;
         }
         const char16_t upper = upperCaseOf(units[i]);
-        if (upper != SeveralUnits) {
+        if (upper != severalUnits) {
             *out++ = upper;
             continue;
         }
@@ -69,10 +69,10 @@ QStringView ProductSearch::upperCase(QStringView text)
 char16_t ProductSearch::upperCaseOf(char16_t unit)
 {
     char16_t& known = m_known[unit];
-    if (known == NotMetYet) {
+    if (known == notMetYet) {
         const QString upper = QString(QChar(unit)).toUpper();
         const bool isOne = upper.size() == 1 && !QChar(unit).isSurrogate();
-        known = isOne ? upper[0].unicode() : SeveralUnits;
+        known = isOne ? upper[0].unicode() : severalUnits;
     }
     return known;
 }

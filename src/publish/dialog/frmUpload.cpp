@@ -64,7 +64,7 @@ void frmUpload::makeControls()
         field.control->setObjectName(QLatin1StringView(field.name));
         field.control->setAccessibleName(field.accessibleName);
     }
-    txtURL->setText(VendorAddresses::DefaultShop());
+    txtURL->setText(VendorAddresses::defaultShop());
     txtURL->setInputMethodHints(Qt::ImhUrlCharactersOnly);
     txtPassword->setEchoMode(QLineEdit::Password);
 
@@ -87,7 +87,7 @@ void frmUpload::makeControls()
     lblSignUp->setObjectName(u"lblSignUp"_s);
     lblSignUp->setTextFormat(Qt::RichText);
     lblSignUp->setText(uR"(<a href="%1">%2</a>)"_s.arg(
-        VendorAddresses::SignUp(), u"Don't have login and password. Sign up here"_s.toHtmlEscaped()));
+        VendorAddresses::signUp(), u"Don't have login and password. Sign up here"_s.toHtmlEscaped()));
     lblSignUp->setTextInteractionFlags(Qt::LinksAccessibleByMouse);
     lblSignUp->setFocusPolicy(Qt::TabFocus);
     lblSignUp->setMinimumHeight(leastTarget);
@@ -101,7 +101,7 @@ void frmUpload::layOutControls()
     fields->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     fields->setHorizontalSpacing(16);
     fields->setVerticalSpacing(8);
-    fields->addRow(u"ADDRESS"_s, txtURL); // makes the label the field's own
+    fields->addRow(u"ADDRESS"_s, txtURL); // makes the field the label's buddy
     fields->addRow(u"LOGIN"_s, txtLogin);
     fields->addRow(u"PASSWORD"_s, txtPassword);
 
@@ -111,7 +111,7 @@ void frmUpload::layOutControls()
     buttons->addWidget(OkBtn);
     buttons->addWidget(CancelBtn);
 
-    // The hidden bar keeps its room, so that nothing moves when it comes.
+    // The hidden bar keeps its room, so that nothing moves when it appears.
     QSizePolicy policy = ProgressBar->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     ProgressBar->setSizePolicy(policy);
@@ -169,8 +169,8 @@ void frmUpload::done(int result)
 
 void frmUpload::closeEvent(QCloseEvent* event)
 {
-    // The main window's own frame is out of reach behind this dialog. A server that never answers leaves the user this
-    // one, and what it closes then is the program, with the question that the main window asks.
+    // The main window cannot be closed while this dialog is open. When a server never answers, closing the dialog is
+    // the user's only way out. It closes the program, which asks its usual question.
     if (isTransferring() && event->spontaneous() && parentWidget()) {
         event->ignore();
         QMetaObject::invokeMethod(parentWidget()->window(), "close", Qt::QueuedConnection); // not inside of this event
@@ -225,7 +225,7 @@ bool frmUpload::signUpPressed(QEvent* event)
 
 void frmUpload::openSignUpPage()
 {
-    m_openUrl(QUrl(VendorAddresses::SignUp()));
+    m_openUrl(QUrl(VendorAddresses::signUp()));
 }
 
 void frmUpload::abandonTransfer()
@@ -246,7 +246,7 @@ void frmUpload::setAddress(const QString& address)
 
 void frmUpload::setHourglass(bool on)
 {
-    // Fields and the link have pointers of their own.
+    // Fields and the link set their own mouse pointers.
     for (QWidget* field : {txtURL, txtLogin, txtPassword}) {
         field->setCursor(on ? Qt::WaitCursor : Qt::IBeamCursor);
     }

@@ -8,7 +8,7 @@ namespace {
 
 // A click counts when it came from the visitor's hand, not from a script; the page's own handlers come later and cannot
 // hide it. A page is not asked whether it may be left: the preview shows what the program hands it.
-constexpr auto Source = R"((function() {
+constexpr auto source = R"((function() {
     const tell = text => console.debug('%1' + text);
     const watchClick = event => {
         const link = event.isTrusted && event.composedPath().find(element => element.href);
@@ -36,7 +36,7 @@ QWebEngineScript PageWatch::script() const
     script.setWorldId(QWebEngineScript::ApplicationWorld);
     script.setInjectionPoint(QWebEngineScript::DocumentCreation);
     script.setRunsOnSubFrames(true);
-    script.setSourceCode(QString(Source).replace("%1"_L1, m_key));
+    script.setSourceCode(QString(source).replace("%1"_L1, m_key));
     return script;
 }
 

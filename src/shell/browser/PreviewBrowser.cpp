@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 PatienceInMilliseconds = 5000;
+constexpr qint64 patienceInMilliseconds = 5000;
 
 // The pseudo-server does not exist, and what a page embeds from it is not announced as a navigation.
 class NoPseudoServer : public QWebEngineUrlRequestInterceptor
@@ -158,7 +158,7 @@ void PreviewBrowser::act(const QString& url)
 // the page has had its time, and its process is ended.
 void PreviewBrowser::showDocument()
 {
-    if (m_asked.isValid() && m_asked.hasExpired(PatienceInMilliseconds) && endProcess()) {
+    if (m_asked.isValid() && m_asked.hasExpired(patienceInMilliseconds) && endProcess()) {
         m_isEnding = true;
         return;
     }

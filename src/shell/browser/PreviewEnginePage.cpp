@@ -17,10 +17,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int MostBoxes = 3;
+constexpr int mostBoxes = 3;
 
 // What a page of the shop has no need of, and must not use against the owner's disk or attention.
-constexpr std::array SettingsOff = {
+constexpr std::array settingsOff = {
     QWebEngineSettings::LocalContentCanAccessFileUrls,
     QWebEngineSettings::LocalContentCanAccessRemoteUrls,
     QWebEngineSettings::PluginsEnabled,
@@ -36,9 +36,9 @@ constexpr std::array SettingsOff = {
 };
 
 // All others show the owner's disk or the engine itself, or are for other programs.
-constexpr std::array ShownSchemes = {"http"_L1, "https"_L1, "about"_L1, "data"_L1, "blob"_L1};
+constexpr std::array shownSchemes = {"http"_L1, "https"_L1, "about"_L1, "data"_L1, "blob"_L1};
 // What the desktop may be handed.
-constexpr std::array DesktopSchemes = {"mailto"_L1, "tel"_L1};
+constexpr std::array desktopSchemes = {"mailto"_L1, "tel"_L1};
 
 template <std::size_t Count>
 bool isOneOf(const std::array<QLatin1StringView, Count>& schemes, const QUrl& url)
@@ -56,7 +56,7 @@ QString textOf(const QUrl& url)
 PreviewEnginePage::PreviewEnginePage(QWebEngineProfile* profile, NavigationRules rules)
     : QWebEnginePage(profile), m_rules(std::move(rules))
 {
-    for (const QWebEngineSettings::WebAttribute attribute : SettingsOff) {
+    for (const QWebEngineSettings::WebAttribute attribute : settingsOff) {
         settings()->setAttribute(attribute, false);
     }
     // A face that this computer does not have falls to a sans one, as the shop's own styles would have it.
@@ -79,7 +79,7 @@ bool PreviewEnginePage::acceptNavigationRequest(const QUrl& url, NavigationType 
     if (isMainFrame) {
         return acceptInMainFrame(url, type);
     }
-    return isOneOf(ShownSchemes, url) && !m_rules.judge(textOf(url)).cancel;
+    return isOneOf(shownSchemes, url) && !m_rules.judge(textOf(url)).cancel;
 }
 
 bool PreviewEnginePage::acceptInMainFrame(const QUrl& url, NavigationType type)
@@ -101,10 +101,10 @@ bool PreviewEnginePage::acceptInMainFrame(const QUrl& url, NavigationType type)
     }
     // The engine asks about an address for the desktop when it has found that it cannot show it. Of a redirection from
     // a server it then tells nothing, but that is still under way.
-    if (isOneOf(DesktopSchemes, url)) {
+    if (isOneOf(desktopSchemes, url)) {
         return !isRedirection && !m_isUnderWay;
     }
-    if (!isOneOf(ShownSchemes, url)) {
+    if (!isOneOf(shownSchemes, url)) {
         return false;
     }
     m_isUnderWay = true;
@@ -122,13 +122,13 @@ bool PreviewEnginePage::mayAct() const
 // The page must not be touched while the engine waits for an answer, so the load is put off.
 void PreviewEnginePage::loadInThisWindow(const QUrl& url, bool isByHand)
 {
-    if (isOneOf(DesktopSchemes, url)) {
+    if (isOneOf(desktopSchemes, url)) {
         if (isByHand) {
             QDesktopServices::openUrl(url);
         }
         return;
     }
-    if (isOneOf(ShownSchemes, url)) {
+    if (isOneOf(shownSchemes, url)) {
         QMetaObject::invokeMethod(
             this, [this, url] { load(url); }, Qt::QueuedConnection);
     }
@@ -157,7 +157,7 @@ void PreviewEnginePage::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel l
 
 bool PreviewEnginePage::takeBox()
 {
-    return ++m_boxes <= MostBoxes;
+    return ++m_boxes <= mostBoxes;
 }
 
 void PreviewEnginePage::javaScriptAlert(const QUrl& securityOrigin, const QString& message)

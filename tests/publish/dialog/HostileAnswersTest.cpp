@@ -16,12 +16,12 @@ const QString noListText = u"Server error.\r\nServer didn't send image list.\r\n
 const QString unknownErrorText =
     u"Unknown error.\r\nPlease, submit to vendor 'upload.log' file that located in app folder"_s;
 const QString wrongLoginText = u"Incorrect login or password! In case you forgot your password please visit:\r\n"_s +
-                               VendorAddresses::PasswordRecovery();
+                               VendorAddresses::passwordRecovery();
 const QString upgradeText = u"You don't have the latest version of the software.\r\nTo upgrade:\r\n"
                             "Backup your store.\r\nDownload the latest version.\r\n"
                             "Uninstall current version and install the new one.\r\nRestore your store.\r\n"
                             "For more info go to "_s +
-                            VendorAddresses::Upgrade();
+                            VendorAddresses::upgrade();
 
 RawServer::Handler Status(int status, const QByteArray& body)
 {
@@ -63,7 +63,7 @@ class HostileAnswersTest : public UploadDialogTest
 protected:
     HostileAnswersTest() { useSmallShop(files); }
 
-    // Uploads to a server that gives the answer to the request of that number, 0-based.
+    // Uploads to a server that gives this answer to the request of that number, 0-based.
     void uploadWith(const Row& row, std::size_t number)
     {
         server.requests.clear();

@@ -87,7 +87,7 @@ TEST_F(frmUploadTest, TheTabKeyGoesThroughTheControlsInOrder)
 TEST_F(frmUploadTest, WithoutALogTheFieldsHaveTheirDefaults)
 {
     open();
-    EXPECT_EQ(textOf("txtURL"), VendorAddresses::DefaultShop());
+    EXPECT_EQ(textOf("txtURL"), VendorAddresses::defaultShop());
     EXPECT_EQ(textOf("txtLogin"), u""_s);
     EXPECT_EQ(textOf("txtPassword"), u""_s);
 }
@@ -105,7 +105,7 @@ TEST_F(frmUploadTest, ALogOfMoreThanFourItemsLeavesTheFieldsAsTheyStand)
 {
     WriteFile(files.path(u"upload.log"_s), "1\r\n2\r\n3\r\n4\r\n5\r\n");
     open();
-    EXPECT_EQ(textOf("txtURL"), VendorAddresses::DefaultShop());
+    EXPECT_EQ(textOf("txtURL"), VendorAddresses::defaultShop());
     EXPECT_EQ(textOf("txtLogin"), u""_s);
 }
 
@@ -265,7 +265,7 @@ TEST_F(frmUploadTest, TheLinkOpensTheSignUpPageByClickAndByKey)
     open();
     auto* link = find<QLabel>("lblSignUp");
     QTest::mouseClick(link, Qt::LeftButton, Qt::NoModifier, QPoint(20, link->height() / 2));
-    EXPECT_EQ(openedUrls, QList<QUrl>{QUrl(VendorAddresses::SignUp())});
+    EXPECT_EQ(openedUrls, QList<QUrl>{QUrl(VendorAddresses::signUp())});
     find("CancelBtn")->setFocus();
     press(Qt::Key_Tab);
     EXPECT_EQ(dialog->focusWidget(), link);
