@@ -72,7 +72,7 @@ std::optional<int> digitsOnly(QStringView text)
     return number;
 }
 
-// The date that the text is. Error 13 when it is none.
+// The date that the text is. ErrorNumber::TypeMismatch when it is none.
 QDate readLocalDate(const QString& text)
 {
     const QString form = localForm();

@@ -12,9 +12,9 @@ struct ImageSize
     qint16 height = 0;
 };
 
-// The size as the 16-bit numbers that the shop file has. Error 6 when one is larger than 32767.
+// The size as the 16-bit numbers that the shop file has. ErrorNumber::Overflow when one is larger than 32767.
 ImageSize narrowedImageSize(int width, int height);
 
-// The size of the picture of that name under pictures/. Error 53 when there is no such file there, 5 when it is no
-// picture, 6 when it is larger than 32767 pixels.
+// The size of the picture of that name under pictures/. ErrorNumber::FileNotFound when there is no such file there,
+// InvalidArgument when it is no picture, Overflow when it is larger than 32767 pixels.
 ImageSize readImageSize(const ApplicationFolder& folder, const QString& fileName);

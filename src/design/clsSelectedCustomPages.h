@@ -20,15 +20,15 @@ public:
     // Names in order; each is its own key.
     const KeyedCollection<QString>& selectedPages() const { return m_selectedPages; }
 
-    // Appends a name. Error 457 when it is there already.
+    // Appends a name. ErrorNumber::DuplicateKey when it is there already.
     void Add(const QString& name);
     void Clear();
     // Gives an entry another name at its place. An entry that has the new name already stays, and the old one goes;
     // without an entry of the old name nothing happens.
     void rename(const QString& from, const QString& to);
 
-    // The node is the ShopDesign element. An empty Tag shows a box and changes nothing. Error 91 when a row of the
-    // selection has no child, 457 when a name stands twice.
+    // The node is the ShopDesign element. An empty Tag shows a box and changes nothing. ErrorNumber::ObjectNotSet when
+    // a row of the selection has no child, DuplicateKey when a name stands twice.
     void FromXML(const pugi::xml_node& node);
     void ToXML(pugi::xml_node node) const;
 

@@ -47,7 +47,7 @@ public:
     // errors as for readImageSize.
     void ToXML(pugi::xml_node parent, Unwritable unwritable = Unwritable::Raises);
     // Reads the first element named Tag below the node; changes nothing when there is none. An empty Tag shows a box.
-    // Error 13 when a size of an image slot is no number, 6 when it does not fit.
+    // ErrorNumber::TypeMismatch when a size of an image slot is no number, Overflow when it does not fit.
     void FromXML(const pugi::xml_node& node);
 
     // The texts for the two boxes: what is kept, or where that is 0 the size of the picture that is shown beside them.

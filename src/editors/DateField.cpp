@@ -75,7 +75,7 @@ void DateField::settle()
 void DateField::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
-    // Its calendar and its context menu do not take the focus away for good.
+    // Opening its calendar or its context menu does not count as leaving the field.
     if (event->reason() != Qt::PopupFocusReason) {
         settle();
     }

@@ -36,7 +36,7 @@ QString TextArea::text() const
     if (!document()->isModified()) {
         return m_filled;
     }
-    // Not toPlainText, which would make blanks of all hard ones.
+    // Not toPlainText(), which turns non-breaking spaces into plain ones.
     QString text = document()->toRawText();
     const QString lineEnd = m_filled.contains("\r\n"_L1) ? u"\r\n"_s : u"\n"_s;
     text.replace(QChar::LineSeparator, QChar::ParagraphSeparator);

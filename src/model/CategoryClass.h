@@ -42,15 +42,15 @@ public:
 
     // How many categories there are from the root down to this one, itself included.
     int Level() const;
-    // Products in this category and in all below. Error 6 above 32767.
+    // Products in this category and in all below. ErrorNumber::Overflow above 32767.
     qint16 GetProductCount() const;
-    // Takes everything below this category out of ObjectsCollection; the collections stay as they are. Error 5 when an
-    // entry is missing there.
+    // Takes everything below this category out of ObjectsCollection; the collections stay as they are.
+    // ErrorNumber::InvalidArgument when an entry is missing there.
     void RemoveChilds();
 
     // The element is a "Category" element; ToXML is given an empty one. An empty id takes the next one of the shop. The
-    // caller adds the category to its parent afterwards, under the id that was read. Error 28 when it lies too deep,
-    // 457 when an id stands twice in one parent. Both are the work of model/shop_file.
+    // caller adds the category to its parent afterwards, under the id that was read. ErrorNumber::OutOfStackSpace when
+    // it lies too deep, DuplicateKey when an id stands twice in one parent. Both are the work of model/shop_file.
     void FromXML(const pugi::xml_node& element, ShopClass& owner, const std::shared_ptr<CategoryClass>& parent,
                  ShopReading& reading);
     void ToXML(pugi::xml_node element, Unwritable unwritable = Unwritable::Raises);
@@ -66,5 +66,6 @@ private:
     std::shared_ptr<clsDiscount> m_discount;
 };
 
-// A category that is to stand below that parent (none: a root category) must not lie too deep. Error 28 when it would.
+// A category that is to stand below that parent (none: a root category) must not lie too deep.
+// ErrorNumber::OutOfStackSpace when it would.
 void checkCategoryLevel(const CategoryClass* parent);

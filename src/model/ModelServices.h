@@ -40,5 +40,5 @@ struct ModelServices
     const std::shared_ptr<ShopClass>& shop;
 };
 
-// The open shop. Error 91 when there is none.
+// The open shop. ErrorNumber::ObjectNotSet when there is none.
 ShopClass& currentShop(const ModelServices& services);

@@ -1,6 +1,6 @@
 // Every node of the catalogue tree under its node key ("ID_SHOP", or "ID" followed by the id), in the order of adding.
 // It is the only link from a tree node to the model. The session owns the one collection; it is made when the tree is
-// built, and asking it before that, which a shop file without a shop leads to, is error 91.
+// built, and asking it before that, which a shop file without a shop leads to, is ErrorNumber::ObjectNotSet.
 #pragma once
 
 #include "base/KeyedCollection.h"
@@ -31,14 +31,15 @@ public:
     void create(int expected = 0) { m_items.emplace().reserve(expected); }
     bool isCreated() const { return m_items.has_value(); }
 
-    // Error 457 when the key is there already.
+    // ErrorNumber::DuplicateKey when the key is there already.
     void Add(const CatalogueObject& object, const QString& key) { ownItems().Add(object, key); }
-    // Error 5 when the key is missing.
+    // ErrorNumber::InvalidArgument when the key is missing.
     void Remove(const QString& key) { ownItems().Remove(key); }
     const CatalogueObject& Item(const QString& key) const { return items().Item(key); }
     bool hasKey(const QString& key) const { return items().hasKey(key); }
 
-    // The category or product with that id. Error 5 when there is no node of that id, 13 when it is of another kind.
+    // The category or product with that id. ErrorNumber::InvalidArgument when there is no node of that id, TypeMismatch
+    // when it is of another kind.
     const std::shared_ptr<CategoryClass>& Category(const QString& id) const;
     const std::shared_ptr<ProductClass>& Product(const QString& id) const;
 

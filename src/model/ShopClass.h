@@ -56,10 +56,10 @@ public:
     const std::shared_ptr<clsDiscount>& Discount() const { return m_discount; }
     void setDiscount(std::shared_ptr<clsDiscount> discount) { m_discount = std::move(discount); }
 
-    // Raises MaxProductId by one and returns it. Error 13 when it is no whole number, 6 when it is the largest one; it
-    // then stays as it is.
+    // Raises MaxProductId by one and returns it. ErrorNumber::TypeMismatch when it is no whole number, Overflow when it
+    // is the largest one; it then stays as it is.
     QString getNextProductId();
-    // Products of the whole catalogue. Error 6 when a category has more than 32767.
+    // Products of the whole catalogue. ErrorNumber::Overflow when a category has more than 32767.
     qint32 GetProductCount() const;
 
     // The element is the "Shop" element; ToXML is given an empty one. Reading a file of another version asks for a save

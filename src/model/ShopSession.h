@@ -44,7 +44,7 @@ public:
     std::shared_ptr<ShopClass> shop; // none until a shop file is read
     std::unique_ptr<clsCart> Cart;   // may be none
 
-    // Reads countries.txt. Error 53 when it is missing, 457 when a country stands twice.
+    // Reads countries.txt. ErrorNumber::FileNotFound when it is missing, DuplicateKey when a country stands twice.
     bool LoadCountries();
 
     // Makes ObjectsCollection new and enters the shop and all nodes, each category before its contents, sub-categories

@@ -22,7 +22,7 @@ public:
 
     // The name of the product in the catalogue. Errors as for ParentProduct.
     QString ProductName() const;
-    // The product in the catalogue, not the one that was set. Error 5 when it is gone.
+    // The product in the catalogue, not the one that was set. ErrorNumber::InvalidArgument when it is gone.
     const std::shared_ptr<ProductClass>& ParentProduct() const;
     void setParentProduct(std::shared_ptr<ProductClass> product) { m_parentProduct = std::move(product); }
 
@@ -49,14 +49,15 @@ public:
     float tax = 0;    // percent
     float Charge = 0; // amount
 
-    // Adds a line, or adds the quantity to the line of the same product at the same price. Error 5 when the product is
-    // not in the catalogue.
+    // Adds a line, or adds the quantity to the line of the same product at the same price. ErrorNumber::InvalidArgument
+    // when the product is not in the catalogue.
     void AddNewProduct(const QString& id, const QString& productName, const std::shared_ptr<ProductClass>& product,
                        const QString& price, const QString& quantity);
     // Sets a line's quantity; "0" removes the line. A line that is not there is passed over.
     void Recalculate(const QString& id, const QString& price, const QString& quantity);
 
-    // Lines by 1-based position, or by key: the id followed by the price. Error 9 or 5 when there is none.
+    // Lines by 1-based position, or by key: the id followed by the price. ErrorNumber::SubscriptOutOfRange or
+    // InvalidArgument when there is none.
     const std::shared_ptr<clsCartProduct>& Item(int index) const { return m_lines.Item(index); }
     const std::shared_ptr<clsCartProduct>& Item(const QString& key) const { return m_lines.Item(key); }
     int Count() const { return m_lines.Count(); }
@@ -65,8 +66,8 @@ public:
     // Removes all lines; tax and Charge stay.
     void Clear() { m_lines.Clear(); }
 
-    // The prices of all lines, deliberately whatever their quantities, with tax and charge, rounded to two decimals,
-    // as number text. Error 13 when a price is no number.
+    // The prices of all lines, deliberately whatever their quantities, with tax and charge, rounded to two decimals, as
+    // number text. ErrorNumber::TypeMismatch when a price is no number.
     QString TotalCost() const;
 
     auto begin() const { return m_lines.begin(); }

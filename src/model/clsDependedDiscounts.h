@@ -27,11 +27,11 @@ class clsDependedDiscounts
 {
 public:
     // Appends a band, under a key when that is not empty, and returns it; the reference holds until the next change of
-    // the list. Error 457 when the key is there already.
+    // the list. ErrorNumber::DuplicateKey when the key is there already.
     clsDependedDiscount& Add(const QString& priceFrom, const QString& priceTo, const QString& value,
                              const QString& key = QString());
 
-    // 1-based. Error 9 when there is no such band.
+    // 1-based. ErrorNumber::SubscriptOutOfRange when there is no such band.
     clsDependedDiscount& Item(int index) { return m_items.Item(index); }
     const clsDependedDiscount& Item(int index) const { return m_items.Item(index); }
     int Count() const { return m_items.Count(); }

@@ -52,9 +52,9 @@ public:
 
     // The discounts below, under the ids of their nodes (no prefix).
     const KeyedCollection<std::shared_ptr<clsDiscount>>& Childs() const;
-    // Error 457 when the key is there already.
+    // ErrorNumber::DuplicateKey when the key is there already.
     void AddChildDiscount(const std::shared_ptr<clsDiscount>& child, const QString& key);
-    // Error 5 when the key is missing.
+    // ErrorNumber::InvalidArgument when the key is missing.
     void RemoveChildDiscount(const QString& key);
 
     // The discount above; none when there is none or it is gone. Setting it also makes this discount the parent of each
@@ -62,12 +62,12 @@ public:
     std::shared_ptr<clsDiscount> ParentDiscount() const { return m_parentDiscount.lock(); }
     void setParentDiscount(const std::shared_ptr<clsDiscount>& parent);
 
-    // The percentage for a price (a number text); the empty text when no discount applies. Error 13 when a date is no
-    // date, or when bands are walked and the price or a limit is no number.
+    // The percentage for a price (a number text); the empty text when no discount applies. ErrorNumber::TypeMismatch
+    // when a date is no date, or when bands are walked and the price or a limit is no number.
     QString Value(const QString& price) const;
 
     // Pushes this level's result down the whole tree below it. The two dates are those in force above this level.
-    // Error 13 when a date is no date.
+    // ErrorNumber::TypeMismatch when a date is no date.
     void SendDiscountToChilds(const QString& dateFrom, const QString& dateTo);
 
     // A copy for another product's price: dates, Inherit, Specific and Status, nothing else.

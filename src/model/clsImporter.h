@@ -22,9 +22,9 @@ public:
     {
     }
 
-    // Imports a file to its end. A failure in a line ends it there, and what the lines before it made stays: error 9
-    // for a line with fewer than three fields, an empty one among them; 28 for a path that is too deep. Error 53, 70 or
-    // 75 for a file that cannot be opened.
+    // Imports a file to its end. A failure in a line ends it there, and what the lines before it made stays:
+    // ErrorNumber::SubscriptOutOfRange for a line with fewer than three fields, such as an empty one; OutOfStackSpace
+    // for a path that is too deep. FileNotFound, PermissionDenied or PathFileAccess for a file that cannot be opened.
     void Import(const QString& fileName);
 
     // Of the last import, also of one that stopped: the products that it made, and the line that it read last, which is

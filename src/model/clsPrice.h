@@ -24,7 +24,8 @@ public:
     QString Value;
     std::shared_ptr<clsDiscount> Discount; // the one of the price that holds the variant; none before that
 
-    // The discounted Value. Error 91 when the variant has no discount, others as for CalculateNewPrice.
+    // The discounted Value. ErrorNumber::ObjectNotSet when the variant has no discount, others as for
+    // CalculateNewPrice.
     QString NewValue() const;
     // Without the discount.
     std::shared_ptr<clsMultiPrice> CreateClone() const;
@@ -47,17 +48,17 @@ public:
     // clsDiscount::Value.
     QString NewPrice(const QString& price);
     QString SelectedNew();
-    // The plain price. Error 28 for a price with variants.
+    // The plain price. ErrorNumber::OutOfStackSpace for a price with variants.
     QString OldPrice() const;
 
     // The variants, without keys.
     const KeyedCollection<std::shared_ptr<clsMultiPrice>>& MultiPriceCollection() const { return m_multiPrices; }
     std::shared_ptr<clsMultiPrice> AddMultiPrice();
     void AddExistingMultiPrice(const std::shared_ptr<clsMultiPrice>& multiPrice);
-    // Indexes are 1-based. Error 9 when there is no such variant.
+    // Indexes are 1-based. ErrorNumber::SubscriptOutOfRange when there is no such variant.
     void RemoveMultiPrice(int index);
     const std::shared_ptr<clsMultiPrice>& GetMultiPrice(int index) const;
-    // Error 6 above 32767.
+    // ErrorNumber::Overflow above 32767.
     qint16 MultiPriceCount() const;
     // Removes all variants.
     void clearMultiPrices() { m_multiPrices.Clear(); }

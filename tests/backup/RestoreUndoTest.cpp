@@ -160,7 +160,7 @@ TEST_F(RestoreUndo, TheLastThreeKeptFilesStayAndTheRestoredOneAndAllOfOtherNames
         WriteFile(files.path(u"backups/"_s + name), "x");
     }
     WriteFile(files.path(u"backups/"_s + restored), referenceBytes(u"current"_s));
-    // By a path that looks different.
+    // Through a path that is spelled differently.
     ASSERT_TRUE(restorer.Restore(files.path(u"pictures/../backups/"_s + restored)));
     QStringList expected = others + old.last(2) + QStringList{restored, keptName};
     expected.sort();

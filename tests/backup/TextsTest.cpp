@@ -25,7 +25,7 @@ class BackUpTexts : public BackUpTest
 protected:
     BackUpTexts() { useReferenceShop(); }
 
-    // Each scene has prompts of its own, which must have said it all at its end.
+    // Each scene has its own prompts, all of which must have been shown by its end.
     void backUp(const QString& name, const std::vector<Box>& boxes)
     {
         RecordingPrompts scene;

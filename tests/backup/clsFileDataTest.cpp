@@ -142,7 +142,7 @@ TEST_F(FileDataTest, SizesForPeopleAreBytesUpTo1023AndKilobytesFrom1024)
         {2147483647, localised(u"2097152. Kb"_s) + u"."_s},
     };
     for (const auto& expected : cases) {
-        // A deflated entry tells any size it likes.
+        // A deflated entry may claim any size.
         ASSERT_TRUE(readFrom(entryBytes("a", -1, expected.size, 0, {})));
         EXPECT_EQ(entry.SizeString(), expected.text);
     }
@@ -294,7 +294,7 @@ TEST_F(FileDataTest, WhatCannotBeInflatedStaysAsItIs)
         EXPECT_TRUE(entry.Compressed());
         EXPECT_EQ(entry.ToString(), QString());
         EXPECT_EQ(written(), bytes);
-        // The deflated bytes are what is put out then, without a word.
+        // The deflated bytes themselves are written then, and nothing is said.
         EXPECT_EQ(putOut(), bad.data);
         EXPECT_EQ(written(), bytes);
     }

@@ -1,4 +1,4 @@
-// The order in which a file goes down to the disk, and what happens when one of the calls fails.
+// The order of the calls that write a file to the disk, and what happens when one of them fails.
 #include "base/FileBytes.h"
 #include "support/RecordingFileCalls.h"
 #include "support/TestSupport.h"
@@ -105,7 +105,7 @@ TEST_F(DurableFiles, RoomIsTakenWithoutChangingTheSize)
     EXPECT_EQ(fileBytes(path), "old");
     // A file system that cannot reserve takes none; the ones that tests run on can.
     EXPECT_GE(roomOf(path), before + 900000);
-    // Given back by a cut to the size that the file has.
+    // Truncating the file to its own size gives the reserved room back.
     file->cut(3);
     EXPECT_EQ(roomOf(path), before);
 }

@@ -140,7 +140,7 @@ TEST_P(FileBytes, AFileThatCannotBeReplacedStaysAndIsAnError)
     EXPECT_FALSE(QFile::exists(path + u".new"_s));
 }
 
-// What the calls of this system do beyond.
+// What only the calls of this system do.
 
 TEST(SystemFileBytes, WithoutRoomTheOldFileStaysWhole)
 {

@@ -14,7 +14,7 @@ QByteArray element(const QByteArray& name, const QByteArray& content)
     return '<' + name + '>' + content + "</" + name + '>';
 }
 
-// So many elements of a name, each in the one before.
+// That many elements of one name, nested.
 QByteArray nested(const QByteArray& name, int depth, const QByteArray& content)
 {
     return ('<' + name + '>').repeated(depth) + content + ("</" + name + '>').repeated(depth);
@@ -34,7 +34,7 @@ QByteArray product(const QByteArray& elements)
     return element("Product", "<Related/>" + elements);
 }
 
-// Categories in each other, as deep as they may be, each with nothing but an id of its own.
+// Categories nested as deep as they may be, each with nothing but an id.
 QByteArray categories(const QByteArray& content)
 {
     constexpr int deepest = 500;

@@ -1,4 +1,4 @@
-// The browser comes into the window when the preview is first asked for, and nothing of it is there before.
+// The browser is made when the preview is first asked for, and nothing of it exists before.
 #include "e2e/BrowserDriver.h"
 #include "shell/BrowserPreview.h"
 #include "shell/ShortcartButton.h"

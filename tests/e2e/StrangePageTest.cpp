@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Error 5, for anyone who acts on it.
+// Whoever acts on it raises ErrorNumber::InvalidArgument.
 constexpr auto GoneProduct = "http://previewmode/ACTION=product.php&id=99"_L1;
 
 // Fills the view, so that a click anywhere hits it.

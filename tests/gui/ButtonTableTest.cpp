@@ -1,4 +1,4 @@
-// The thirty buttons and their panels, against a list of their own.
+// The thirty buttons and their panels, compared with a second list.
 #include "editors/Panel.h"
 #include "shell/ShortcartButton.h"
 #include "support/WindowTest.h"

@@ -176,7 +176,7 @@ TEST_F(Import, MakesTheNodesThatALineAsksFor)
         EXPECT_EQ(node->image, TreeImage::Product);
         EXPECT_EQ(window->session().objects.Product(node->key.mid(2))->Description, QLatin1String(line.description));
     }
-    // Tea was there before; equal lines make two products in the one category.
+    // Tea existed before; equal lines make two products in one category.
     EXPECT_EQ(root()->children.size(), 7U);
     const TreeNode* same = root()->children.back().get();
     ASSERT_EQ(same->children.size(), 2U);

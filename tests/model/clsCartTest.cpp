@@ -150,7 +150,7 @@ TEST_F(Carts, TheTotalIsComputedInSingles)
     cart().tax = 0;
     add(u"3"_s, localised(u"16777216"_s), u"1"_s);
     add(u"3"_s, u"1"_s, u"1"_s);
-    // A single has no place for the 1 behind so large a number.
+    // A single is too coarse for the 1 at the end of so large a number.
     EXPECT_EQ(cart().TotalCost(), u"16777216"_s);
 }
 

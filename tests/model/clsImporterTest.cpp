@@ -20,7 +20,7 @@ TEST(FieldsOfAnImportLine, AreSplitByTheirRules)
         {u","_s, {QString(), QString()}},
         {u"a,,c"_s, {u"a"_s, QString(), u"c"_s}},
         {u"a,b,"_s, {u"a"_s, u"b"_s, QString()}},
-        // Blanks: those behind a field go, those ahead of a plain one stay.
+        // Blanks after a field are dropped, those before a plain one stay.
         {u"x , y ,z"_s, {u"x"_s, u" y"_s, u"z"_s}},
         {u"a b , c  d  ,e"_s, {u"a b"_s, u" c  d"_s, u"e"_s}},
         {u"a, ,c"_s, {u"a"_s, QString(), u"c"_s}},

@@ -1,4 +1,4 @@
-// The chances of one run: the same seed throws the same.
+// The dice of one run: the same seed gives the same throws.
 #pragma once
 
 #include <cstdint>

@@ -79,14 +79,14 @@ void Monkey::turn()
     if (waitsForUpload() || (isAtWork && m_disturbances == 0)) {
         return;
     }
-    // How often work lets events run is not the dice's affair: it is decided ahead of it.
+    // How often work lets events run must not depend on the dice, so it is decided beforehand.
     m_disturbances = isAtWork ? m_disturbances - 1 : std::max(0, m_dice.below(12) - 8);
     Watchdog::feed();
     --m_stepsLeft;
     act();
 }
 
-// How long an upload takes is not the dice's affair, so most of them are left alone.
+// How long an upload takes must not depend on the dice, so most of them are left alone.
 bool Monkey::waitsForUpload() const
 {
     const auto* upload = qobject_cast<frmUpload*>(QApplication::activeModalWidget());

@@ -150,7 +150,7 @@ int checkShop(const QString& folder)
 {
     Program program(folder, 1, PlayedBy::WildHands);
     QByteArray former;
-    // What reading makes plainer shows in the second file. From then on nothing changes.
+    // Reading may simplify a shop, which shows in the second file. From then on nothing changes.
     for (int turn = 1; turn <= 3; ++turn) {
         const bool hadUnsaved = program.hasUnsaved();
         program.start();

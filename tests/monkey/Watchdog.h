@@ -3,7 +3,7 @@
 
 namespace Watchdog {
 
-// From now on there is this much time until the next call.
+// Allows this much time until the next call.
 void feed();
 void calmDown();
 

@@ -314,7 +314,7 @@ TEST_F(CategoryPageTest, APictureNameWithAColonFailsThePageOfTheCategory)
 {
     setPicture(*tea->selectedImage(), u"http://elsewhere/tea.png"_s, 1, 1);
     EXPECT_EQ(errorOf([&] { variablesOf(u"category"_s, tea); }), 438);
-    // The main page shows the same picture by another road and does not mind.
+    // The main page shows the same picture in another way and is not affected.
     EXPECT_EQ(valueInRow(u"main"_s, session.shop, u"categories"_s, 1, u"MAINPAGE_IMAGE_FILENAME"_s),
               u"http://elsewhere/tea.png"_s);
 }

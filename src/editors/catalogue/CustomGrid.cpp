@@ -266,8 +266,8 @@ void CustomGrid::arrangeColumns()
     fitHeader();
 }
 
-// As high as the longest title needs, in as many lines as its column makes of it. The titles stand over the texts of
-// their columns, that of the pictures over their middle.
+// High enough for the longest title, wrapped to the width of its column. Titles are aligned with the texts below them;
+// the one above the pictures is centred.
 void CustomGrid::fitHeader()
 {
     QHeaderView* header = BaseGrd->horizontalHeader();

@@ -100,7 +100,7 @@ bool CustomGrid::eventFilter(QObject* watched, QEvent* event)
             break;
         }
     }
-    // Its own context menu does not take the focus away for good.
+    // Opening its context menu does not count as leaving it.
     if (watched == ForGridTxt && event->type() == QEvent::FocusOut &&
         static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
         ForGridTxt->hide();

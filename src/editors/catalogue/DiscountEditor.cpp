@@ -232,7 +232,7 @@ QString inheritedText(const clsDiscount& discount, const QString& price)
     try {
         return percentText(discount.Value(price.isEmpty() ? u"0"_s : price));
     } catch (const RuntimeError&) {
-        // The words of a label are no reason to end the program.
+        // The text of a label is no reason to end the program.
         return u"The inherited discount depends on the price, which cannot be read as a number."_s;
     }
 }

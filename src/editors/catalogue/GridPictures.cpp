@@ -10,7 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-// A static library's resources have to be asked for, and only a function of no namespace can do so.
+// A static library's resources must be registered by hand, in a function outside all namespaces.
 static void takePictures()
 {
     Q_INIT_RESOURCE(catalogue);

@@ -91,7 +91,7 @@ void ProductShippingCostsPanel::fillCosts(ProductClass& product)
 void ProductShippingCostsPanel::fill(ProductClass& product)
 {
     fillCosts(product);
-    m_options->setExclusive(false); // another word than the three chooses none
+    m_options->setExclusive(false); // any other word selects none
     for (std::size_t i = 0; i < shippingOptions.size(); ++i) {
         m_options->button(static_cast<int>(i))->setChecked(product.ShippingStatus == shippingOptions[i].status);
     }

@@ -1,5 +1,4 @@
-// The list of related products that ProductsRelatedPanel edits: it holds ids and shows names. The panel owns
-// it.
+// The list of related products that ProductsRelatedPanel edits: it holds ids and shows names. The panel owns it.
 #pragma once
 
 #include <QAbstractListModel>

@@ -42,7 +42,7 @@ const QStringList& fontSizes()
     return sizes;
 }
 
-// Selects the entry of that text. One that the list does not hold joins it until the next call.
+// Selects the entry with that text. One that the list does not have is added until the next call.
 void select(QComboBox* list, const QStringList& entries, const QString& text)
 {
     while (list->count() > entries.size()) {

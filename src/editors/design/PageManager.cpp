@@ -19,7 +19,7 @@ PageManager::PageManager(PanelHost& host, ShopPage page, QWidget* parent)
     : Panel(parent),
       m_host(host),
       m_table(managerTable(page)),
-      m_tabs(new QTabWidget(this)), // ahead of what stands in it, for the tab key
+      m_tabs(new QTabWidget(this)), // made before its contents, for the order of the tab key
       m_options(new PageOptions(host, m_table, m_tabs)),
       m_template(new TemplatePart(host, m_table, m_tabs))
 {

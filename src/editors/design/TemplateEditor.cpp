@@ -118,7 +118,7 @@ void TemplateEditor::find(QTextDocument::FindFlags direction)
     if (text.isEmpty() || TemplateTxt->find(text, direction)) {
         return;
     }
-    // On from the other end.
+    // Continues from the other end.
     const QTextCursor before = TemplateTxt->textCursor();
     TemplateTxt->moveCursor(direction.testFlag(QTextDocument::FindBackward) ? QTextCursor::End : QTextCursor::Start);
     if (!TemplateTxt->find(text, direction)) {

@@ -30,7 +30,7 @@ constexpr std::array settings{
     Setting{CURLOPT_QUICK_EXIT, 1},                  // closing the program does not wait for a name server
 };
 
-// What is no address of a server fails like a server that cannot be found.
+// An address that names no server fails like a server that cannot be found.
 QByteArray addressForLibrary(const QUrl& url)
 {
     if (!url.isValid() || url.host().isEmpty() || url.scheme() != "http"_L1) {

@@ -7,7 +7,7 @@
 
 namespace {
 
-// One socket that the library waits for. Notifiers of its own for each direction, as Qt wants it.
+// One socket that the library waits for. Qt wants a notifier for each direction.
 class SocketWatch : public QObject
 {
 public:
@@ -74,7 +74,7 @@ int TransferLoop::socketCallback(CURL* /*transfer*/, curl_socket_t socket, int w
     if (what == CURL_POLL_REMOVE) {
         if (watch) {
             watch->waitFor(CURL_POLL_NONE);
-            watch->deleteLater(); // later: one of its notifiers may have led here
+            watch->deleteLater(); // deferred: this may run in a signal of one of its notifiers
         }
         return 0;
     }
@@ -108,6 +108,6 @@ void TransferLoop::act(curl_socket_t socket, int events)
     int waiting = 0;
     const CURLMsg* message = curl_multi_info_read(m_transfers, &waiting);
     if (message && message->msg == CURLMSG_DONE) {
-        Q_EMIT ended(message->data.result); // the last that happens here
+        Q_EMIT ended(message->data.result); // comes last: it may delete this object
     }
 }

@@ -21,7 +21,7 @@ public:
     // Breaks the transfer off, or takes it back when it has ended. Never from inside one of the library's callbacks.
     void remove(CURL* transfer);
 
-signals:
+Q_SIGNALS:
     // Not from inside the library: whoever hears it may remove the transfer, start the next one or delete this loop.
     void ended(CURLcode result);
 

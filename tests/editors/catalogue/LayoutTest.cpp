@@ -1,4 +1,4 @@
-// How the catalogue's panels stand in the window: nothing clipped, everything named, and the Tab key follows the eye.
+// The layout of the catalogue's panels: nothing is clipped, everything has a name, and the Tab key follows the eye.
 #include "PanelTest.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-// How the managers stand in the window: nothing is cut off at any size, and the tab key goes as one reads.
+// The layout of the managers: nothing is cut off at any size, and the tab key follows the order of reading.
 #include "DesignTest.h"
 
 #include <QAbstractButton>

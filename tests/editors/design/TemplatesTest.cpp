@@ -131,7 +131,7 @@ TEST_P(Templates, StayClosedWhenTheAdvancedModeIsRefused)
     EXPECT_FALSE(advanced(GetParam())->isChecked());
     EXPECT_FALSE(isEditable());
     EXPECT_EQ(templateFile(GetParam().page), before);
-    // The guard is down again: the next try asks again.
+    // The flag is cleared again: the next try asks again.
     switchOn(GetParam());
     EXPECT_TRUE(isEditable());
 }

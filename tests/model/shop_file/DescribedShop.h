@@ -5,5 +5,5 @@
 
 #include <QStringList>
 
-// Every member of the shop that its file holds, one a line. It does not go through the writer.
+// Every member of the shop that its file holds, one per line. It does not use the writer.
 QStringList described(ShopClass& shop);

@@ -1,4 +1,4 @@
-// Shops made of chance, with odd texts in every member, and their description for comparisons.
+// Random shops, with odd texts in every member, and their description for comparisons.
 #pragma once
 
 #include "model/ShopClass.h"

@@ -1,4 +1,4 @@
-// What a shop does not give back after it was written and read, each of it meant. All else comes back: see
+// What a shop deliberately loses when it is written and read again. Everything else survives: see
 // ShopFileRoundTripTest.cpp.
 #include "base/Dates.h"
 #include "base/Numbers.h"

@@ -1,4 +1,4 @@
-// Shops made of chance are written and read back: the same model, and then the same bytes.
+// Random shops are written and read back: the same model, and then the same bytes.
 #include "DescribedShop.h"
 #include "RandomShop.h"
 #include "model/ShopFixture.h"

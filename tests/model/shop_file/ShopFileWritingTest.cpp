@@ -174,7 +174,7 @@ TEST_F(ShopFileWriting, NumbersAreWrittenWithTheUsersSeparator)
 TEST_F(ShopFileWriting, WithACommaLocaleAPriceIsWrittenAsItStandsAndAVariantComesBackCutAtTheComma)
 {
     if (localised(u"."_s) != u","_s) {
-        // The same rule where the point separates: nothing is cut.
+        // The same rule where the point is the separator: nothing is cut.
         ASSERT_EQ(load(shopFile(category("2", product("3", "<MultiplePrice><MPrice>12.50</MPrice></MultiplePrice>")))),
                   0);
         ASSERT_EQ(load(saved()), 0);

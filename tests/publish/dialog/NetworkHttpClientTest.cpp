@@ -247,7 +247,7 @@ TEST_F(NetworkHttpClientTest, AnAddressThatIsNoneIsAFailure)
         ASSERT_TRUE(answer.failure.has_value()) << url.toStdString();
         EXPECT_EQ(answer.failure->ErrorNumber, CURLE_URL_MALFORMAT) << url.toStdString();
     }
-    // Its server is "https".
+    // This is a URL whose server is named "https".
     EXPECT_TRUE(post(u"http://https://127.0.0.1:1/admin/list.php"_s).failure.has_value());
 }
 

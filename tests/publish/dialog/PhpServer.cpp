@@ -55,7 +55,7 @@ PhpServer::~PhpServer()
 {
     m_process.kill();
     m_process.waitForFinished();
-    // Here, since Qt cannot remove files whose names are no UTF-8.
+    // Done here, since Qt cannot remove files whose names are not UTF-8.
     std::error_code failure;
     std::filesystem::remove_all(m_store.path().toStdString(), failure);
 }

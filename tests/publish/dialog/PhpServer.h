@@ -18,7 +18,7 @@ public:
     PhpServer& operator=(const PhpServer&) = delete;
     ~PhpServer();
 
-    // False when the server cannot be started; why tells the reason.
+    // False when the server cannot be started; `why` gets the reason.
     bool start();
     QString why() const { return m_process.errorString(); }
 
