@@ -39,7 +39,7 @@ const QMap<QString, QStringList>& unguardedSignals()
         // A look is shown. The bus is told the path of what it listens to.
         {u"look/DesktopScheme.cpp"_s, {u"QDBusPendingCallWatcher::finished"_s, u"path"_s}},
         {u"look/Theme.cpp"_s, {u"DesktopScheme::told"_s}},
-        // These call the transfer library; what a transfer's end leads to is guarded where it is connected.
+        // These call the transfer library; what the end of a transfer does is guarded where it is connected.
         {u"publish/dialog/TransferLoop.cpp"_s,
          {u"QSocketNotifier::activated"_s, u"QSocketNotifier::activated"_s, u"QTimer::timeout"_s}},
         // The page takes note of where it is and loads the address; what it asks before a navigation is guarded.
