@@ -4,6 +4,7 @@
 #   --format            all but clang-tidy
 #   --all               clang-tidy over tests, benchmarks and fuzz targets too
 #   --changed [COMMIT]  clang-tidy over what differs from that commit (HEAD), and over what includes a header that does
+#   --touched [COMMIT]  clang-tidy over the sources that differ, and those of a header that does
 #   FILE...             clang-tidy over these sources
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -20,6 +21,21 @@ sources_of() {
   done | sort -u
 }
 
+# The sources among the given files, and the one beside each header.
+sources_beside() {
+  local file
+  for file in "$@"; do
+    file=${file%.*}.cpp
+    [ ! -f "$file" ] || echo "$file"
+  done | sort -u
+}
+
+# Our files that differ from a commit.
+changed_since() {
+  git diff --name-only --diff-filter=d "$1" -- '*.h' '*.cpp'
+  git ls-files --others --exclude-standard -- '*.h' '*.cpp'
+}
+
 need git clang-format shellcheck desktop-file-utils appstream
 git ls-files '*.h' '*.cpp' | xargs -r clang-format --dry-run -Werror
 echo "clang-format: clean"
@@ -34,9 +50,12 @@ case ${1:-} in
   "") mapfile -t files < <(git ls-files 'src/*.cpp' 'tour/*.cpp') ;;
   --all) mapfile -t files < <(git ls-files '*.cpp') ;;
   --changed)
-    mapfile -t changed < <(git diff --name-only --diff-filter=d "${2:-HEAD}" -- '*.h' '*.cpp'
-      git ls-files --others --exclude-standard -- '*.h' '*.cpp')
+    mapfile -t changed < <(changed_since "${2:-HEAD}")
     mapfile -t files < <(sources_of "${changed[@]}")
+    ;;
+  --touched)
+    mapfile -t changed < <(changed_since "${2:-HEAD}")
+    mapfile -t files < <(sources_beside "${changed[@]}")
     ;;
   *) files=("$@") ;;
 esac

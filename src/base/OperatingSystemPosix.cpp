@@ -35,6 +35,7 @@ namespace {
 
 bool isUnsupported(int code)
 {
+    // NOLINTNEXTLINE(misc-redundant-expression): the last two are one number here, and two elsewhere
     return code == EINVAL || code == ENOSYS || code == EOPNOTSUPP || code == ENOTSUP;
 }
 

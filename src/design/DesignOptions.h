@@ -124,6 +124,7 @@ struct DesignOptionRow
     QString defaultText;
 };
 
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a term of a sum
 #define TARNWICK_OPTION_COUNT(group, name, defaultText) +1
 inline constexpr std::size_t DesignOptionCount = 0 TARNWICK_DESIGN_OPTIONS(TARNWICK_OPTION_COUNT);
 #undef TARNWICK_OPTION_COUNT

@@ -37,6 +37,7 @@ struct ImageSlotRow
     int sending;
 };
 
+// NOLINTNEXTLINE(bugprone-macro-parentheses): a term of a sum
 #define TARNWICK_SLOT_COUNT(slot, tag, sending) +1
 inline constexpr std::size_t ImageSlotCount = 0 TARNWICK_IMAGE_SLOTS(TARNWICK_SLOT_COUNT);
 #undef TARNWICK_SLOT_COUNT
