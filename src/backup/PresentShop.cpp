@@ -122,7 +122,7 @@ qint64 sizeOfFiles(const QString& folder)
 QString keepPresentShop(const ApplicationFolder& folder, const QString& version, const QDateTime& moment,
                         const FileCalls& calls)
 {
-    const QString path = freePath(folder.backupsFolder(), moment);
+    QString path = freePath(folder.backupsFolder(), moment);
     GrowingPackedFile packed(path, version, calls);
     KeyedCollection<int> packedSpecs; // a packed file with two names that differ by case alone could not be read
     for (const QString& fileSpec : shopFileSpecs(folder)) {

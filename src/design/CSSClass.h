@@ -2,9 +2,9 @@
 // followed by the name. All values are texts as they stand in a style sheet; the switches are the words "Yes" and "No".
 #pragma once
 
-#include <QString>
+#include "base/XmlNode.h"
 
-#include <pugixml.hpp>
+#include <QString>
 
 class CSSClass
 {
@@ -12,8 +12,8 @@ public:
     CSSClass();
 
     QString CSSName;
-    // A new style has decimal colour numbers here, "0" and "255", and keeps them until an editor saves it: this is
-    // meant.
+    // A new style has decimal colour numbers here, "0" and "255", and keeps them until an editor saves it,
+    // deliberately.
     QString ForeGroundColor;
     QString BackGroundColor;
     QString FontName;

@@ -1,9 +1,9 @@
 // A page that the shop owner writes himself. The shop owns them in ShopClass::CustomPages, under the page's name.
 #pragma once
 
-#include <QString>
+#include "base/XmlNode.h"
 
-#include <pugixml.hpp>
+#include <QString>
 
 class CustomPageClass
 {

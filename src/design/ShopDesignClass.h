@@ -3,6 +3,7 @@
 #pragma once
 
 #include "base/Unwritable.h"
+#include "base/XmlNode.h"
 #include "design/DesignOptions.h"
 #include "design/DesignServices.h"
 #include "design/ImageSlots.h"
@@ -14,7 +15,6 @@
 #include <array>
 #include <cstddef>
 #include <memory>
-#include <pugixml.hpp>
 
 // The page selections, in the order in which they are read.
 enum class PageSelection {

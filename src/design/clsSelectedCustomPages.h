@@ -3,11 +3,10 @@
 #pragma once
 
 #include "base/KeyedCollection.h"
+#include "base/XmlNode.h"
 #include "design/DesignServices.h"
 
 #include <QString>
-
-#include <pugixml.hpp>
 
 class clsSelectedCustomPages
 {

@@ -3,13 +3,13 @@
 #pragma once
 
 #include "base/Unwritable.h"
+#include "base/XmlNode.h"
 #include "design/DesignServices.h"
 #include "design/ImageSize.h"
 
 #include <QString>
 
 #include <memory>
-#include <pugixml.hpp>
 
 enum class ImageSelection : qint32 { Nothing = 0, Text = 1, Image = 2 };
 

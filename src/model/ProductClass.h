@@ -31,7 +31,7 @@ public:
     QString Unit;
     QString LINK;
     // "No", "Weight" or "Individual". A new product has "Weight", one read from a file without the word "No": both are
-    // meant.
+    // deliberate.
     QString ShippingStatus;
     QString Weight;
     // Ids of related products; the last entry is always a spare empty one.

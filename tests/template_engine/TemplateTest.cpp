@@ -156,7 +156,7 @@ const Golden Goldens[] = {
     {"a text that looks like a closing tag closes", u"<!--:if:empty:-->a<!--:text:nothing=<!--:end:empty:-->b",
      u"ERROR"},
 
-    // Empty tags, meant so: the text ahead comes once more, with the empty tag's own characters.
+    // Empty tags, deliberately: the text ahead comes once more, with the empty tag's own characters.
     {"an empty tag behind a text", u"abc<!--::-->", u"abcabc<!--::-->"},
     {"an empty tag alone", u"<!--::-->", u"<!--::-->"},
     {"text on both sides of an empty tag", u"a<!--::-->b", u"aa<!--::-->b"},

@@ -58,8 +58,8 @@ TEST_F(ProductPanels, PutTheSchemeInFrontOfALink)
     EXPECT_EQ(savedLink(u"shop.example/page"_s), u"http://shop.example/page"_s);
     EXPECT_EQ(savedLink(u"http://shop.example/page"_s), u"http://shop.example/page"_s);
     EXPECT_EQ(savedLink(QString()), QString());
-    EXPECT_EQ(savedLink(u"HTTP://shop.example"_s), u"http://HTTP://shop.example"_s);   // meant
-    EXPECT_EQ(savedLink(u"https://shop.example"_s), u"http://https://shop.example"_s); // meant
+    EXPECT_EQ(savedLink(u"HTTP://shop.example"_s), u"http://HTTP://shop.example"_s);   // deliberate
+    EXPECT_EQ(savedLink(u"https://shop.example"_s), u"http://https://shop.example"_s); // deliberate
 }
 
 TEST_F(ProductPanels, WriteTheNameOfThePictureAsAText)
