@@ -79,7 +79,7 @@ QWidget* CustomPageManager::makeEditor()
     PageContentTextCtl->setTabChangesFocus(true);
     PageContentTextCtl->setMinimumHeight(140);
 
-    auto* group = new Section(u"Your pages"_s, this);
+    auto* group = new Section(u"Your pages"_s, this, Section::Line::None);
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(8);
     buttons->addWidget(AddPageBtn);
