@@ -9,6 +9,7 @@
 #include "look/Measures.h"
 #include "model/ShopSession.h"
 
+#include <QEvent>
 #include <QHeaderView>
 #include <QScrollBar>
 #include <QVBoxLayout>
