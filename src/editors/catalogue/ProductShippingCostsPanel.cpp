@@ -5,6 +5,7 @@
 
 #include <QButtonGroup>
 #include <QFormLayout>
+#include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
 
