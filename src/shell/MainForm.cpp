@@ -19,6 +19,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QMouseEvent>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -135,7 +136,8 @@ void MainForm::CreateShop()
         return;
     }
     AddShopToTheTree();
-    m_unsaved->begin();
+    // It makes the whole text of the shop, which the first painted window need not wait for.
+    QTimer::singleShot(0, this, [this] { m_unsaved->begin(); });
     setTreeGround(*m_parts->CategoriesAndProductsTree);
     m_session->log.WriteLoadLog(u"End Sub CreateShop"_s);
 }
