@@ -21,6 +21,8 @@
 #include <QMouseEvent>
 #include <QTimer>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 MainForm::MainForm(std::unique_ptr<ShopSession> session, std::unique_ptr<UnsavedShop> unsaved,
@@ -136,8 +138,7 @@ void MainForm::CreateShop()
         return;
     }
     AddShopToTheTree();
-    // It makes the whole text of the shop, which the first painted window need not wait for.
-    QTimer::singleShot(0, this, [this] { m_unsaved->begin(); });
+    m_isToBeKept = true;
     setTreeGround(*m_parts->CategoriesAndProductsTree);
     m_session->log.WriteLoadLog(u"End Sub CreateShop"_s);
 }
@@ -328,6 +329,10 @@ bool MainForm::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::MouseMove) {
         const QPoint place = static_cast<QMouseEvent*>(event)->position().toPoint();
         ClearButtonHover(place.x(), place.y());
+    }
+    // It makes the whole text of the shop, which the first painted window need not wait for.
+    if (event->type() == QEvent::Paint && std::exchange(m_isToBeKept, false)) {
+        QTimer::singleShot(0, this, [this] { m_unsaved->begin(); });
     }
     if (watched == m_parts->frmCopyright && (event->type() == QEvent::Move || event->type() == QEvent::Resize)) {
         m_parts->arrangeOverlays(size());

@@ -213,6 +213,7 @@ TEST_F(UnsavedWorkAndARestore, GoesAheadOfTheBoxAndStaysAway)
     window.reset();
     window = startProgram({files.folder(), watching, clock, errors, [this] { ++restarts; }},
                           [this](QWidget* parent) { return makePreview(parent); });
+    letBePainted(*window);
     ASSERT_TRUE(isThere());
     trigger("mnuRestore");
     EXPECT_EQ(restarts, 1);
@@ -300,6 +301,7 @@ TEST_F(UnsavedWork, OfASecondWindowIsNone)
     const QByteArray kept = unsaved();
     window = startProgram({files.folder(), prompts, clock, errors, [this] { ++restarts; }, UnsavedShop::Window::Second},
                           [this](QWidget* parent) { return makePreview(parent); });
+    letBePainted(*window);
     type("ShopNameTxt", u"Fern"_s);
     click("ShopTaxesSBtn");
     EXPECT_EQ(unsaved(), kept);

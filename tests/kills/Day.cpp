@@ -76,8 +76,7 @@ public:
                                     [preview](PreviewNavigation* navigation) { preview->navigation = navigation; }};
             });
         });
-        window->activateWindow();
-        QCoreApplication::processEvents();
+        letBePainted(*window);
     }
 
     // The number of the last piece of work that is in the shop.

@@ -58,12 +58,18 @@ void WindowTest::useShop(const QByteArray& inside)
     WriteFile(files.path(u"countries.txt"_s), "Norway\r\n");
 }
 
+void letBePainted(MainForm& window)
+{
+    window.activateWindow();
+    static_cast<void>(QTest::qWaitForWindowExposed(&window));
+    QTest::qWait(1); // milliseconds
+}
+
 void WindowTest::start()
 {
     const ProgramServices services{files.folder(), prompts, clock, errors, [this] { ++restarts; }};
     window = startProgram(services, [this](QWidget* parent) { return makePreview(parent); });
-    window->activateWindow();
-    QCoreApplication::processEvents();
+    letBePainted(*window);
 }
 
 PreviewParts WindowTest::makePreview(QWidget* parent)

@@ -30,6 +30,9 @@ public:
     PreviewNavigation* navigation = nullptr;
 };
 
+// Lets a window that was just made be painted, and what waits for that happen.
+void letBePainted(MainForm& window);
+
 class WindowTest : public testing::Test
 {
 protected:
