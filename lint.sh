@@ -4,7 +4,7 @@
 #   --format            all but clang-tidy
 #   --all               clang-tidy over tests, benchmarks and fuzz targets too
 #   --changed [COMMIT]  clang-tidy over what differs from that commit (HEAD), and over what includes a header that does
-#   --touched [COMMIT]  clang-tidy over the sources that differ, and those of a header that does
+#   --touched [COMMIT]  clang-tidy over the program's own sources that differ, and those of a header that does
 #   FILE...             clang-tidy over these sources
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -26,7 +26,9 @@ sources_beside() {
   local file
   for file in "$@"; do
     file=${file%.*}.cpp
-    [ ! -f "$file" ] || echo "$file"
+    case $file in
+      src/* | tour/*) [ ! -f "$file" ] || echo "$file" ;;
+    esac
   done | sort -u
 }
 
