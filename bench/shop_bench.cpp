@@ -32,6 +32,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <pugixml.hpp>
 #include <utility>
 #include <vector>
 
