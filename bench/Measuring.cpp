@@ -2,7 +2,10 @@
 
 #include "base/RuntimeError.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
+#include <QThread>
 
 #include <algorithm>
 #include <cstdio>
@@ -21,6 +24,16 @@ void giveUp(const QString& why)
 void GiveUpOnErrors::fatalError(const RuntimeError& error) noexcept
 {
     giveUp(error.description());
+}
+
+void settle(int milliseconds)
+{
+    QElapsedTimer time;
+    time.start();
+    while (time.elapsed() < milliseconds) {
+        QCoreApplication::processEvents();
+        QThread::msleep(1);
+    }
 }
 
 double median(std::vector<double> values)

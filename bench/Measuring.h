@@ -17,6 +17,9 @@ public:
     void fatalError(const RuntimeError& error) noexcept override;
 };
 
+// Lets the application's events run for so long.
+void settle(int milliseconds);
+
 // Of an uneven number of values; there is at least one.
 double median(std::vector<double> values);
 

@@ -47,16 +47,6 @@ constexpr double barAtMost = 0.6;
 
 // ---- The processes that are measured ----
 
-void settle(int milliseconds)
-{
-    QElapsedTimer time;
-    time.start();
-    while (time.elapsed() < milliseconds) {
-        QCoreApplication::processEvents();
-        QThread::msleep(1);
-    }
-}
-
 // Milliseconds of processor time.
 double costOf(const std::function<void()>& work)
 {

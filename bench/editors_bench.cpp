@@ -1,10 +1,10 @@
 // How long the panel of related products takes to open over a catalogue of 100,000 products, all of them related,
 // beside the window's own tree over the same catalogue. It may take twice as long.
+#include "LonePanelHost.h"
 #include "Measuring.h"
 #include "NoPrompts.h"
 #include "Ratios.h"
 #include "base/Clock.h"
-#include "editors/PanelHost.h"
 #include "editors/catalogue/ProductsRelatedPanel.h"
 #include "model/CategoryClass.h"
 #include "model/ProductClass.h"
@@ -25,22 +25,6 @@ namespace {
 
 constexpr int categoryCount = 100;
 constexpr int productsEach = 1000;
-
-class Host : public PanelHost
-{
-public:
-    explicit Host(ShopSession& session) : m_session(session) {}
-    ShopSession& session() override { return m_session; }
-    Templates_Set& CurrentTemplatesSet() override { std::abort(); } // nothing here asks for templates
-    FatalErrorHandler& errorHandler() override { return m_errors; }
-    void ApplyActivePanel() override {}
-    void ResetActivePanel() override {}
-    void setNodeText(const QString& /*key*/, const QString& /*text*/) override {}
-
-private:
-    ShopSession& m_session;
-    GiveUpOnErrors m_errors;
-};
 
 // The catalogue, with the first product's list of related ones filled with all others.
 std::shared_ptr<ProductClass> fillShop(ShopSession& session)
@@ -124,7 +108,7 @@ int main(int argc, char** argv)
     ShopSession session(ApplicationFolder(folder.path()), prompts, clock);
     const std::shared_ptr<ProductClass> product = fillShop(session);
 
-    Host host(session);
+    LonePanelHost host(session);
     CatalogueTree tree(host.errorHandler(), nullptr);
     tree.resize(280, 600);
     tree.show();

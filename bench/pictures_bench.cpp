@@ -3,11 +3,11 @@
 // The limits are milliseconds: 100 for the dialog, 50 for a wait.
 //
 // On a screen, or under a virtual one: ./bench.sh sees to that.
+#include "LonePanelHost.h"
 #include "Measuring.h"
 #include "NoPrompts.h"
 #include "base/Clock.h"
 #include "design/clsSelectedImage.h"
-#include "editors/PanelHost.h"
 #include "editors/design/pickers/PictureGrid.h"
 #include "editors/design/pickers/Thumbnail.h"
 #include "editors/design/pickers/frmSelectImage.h"
@@ -38,22 +38,6 @@ constexpr int pictureCount = 5'000;
 constexpr int rounds = 7;
 constexpr double dialogAtMost = 100;
 constexpr double waitAtMost = 50;
-
-class Host : public PanelHost
-{
-public:
-    explicit Host(ShopSession& session) : m_session(session) {}
-    ShopSession& session() override { return m_session; }
-    Templates_Set& CurrentTemplatesSet() override { std::abort(); } // nothing here asks for templates
-    FatalErrorHandler& errorHandler() override { return m_errors; }
-    void ApplyActivePanel() override {}
-    void ResetActivePanel() override {}
-    void setNodeText(const QString& /*key*/, const QString& /*text*/) override {}
-
-private:
-    ShopSession& m_session;
-    GiveUpOnErrors m_errors;
-};
 
 // As a camera makes them, and as a shop has them: a JPEG of 12 megapixels in every tenth place, else a PNG of 800 by
 // 600.
@@ -134,7 +118,7 @@ int main(int argc, char** argv)
     ShopSession session(ApplicationFolder(folder.path()), prompts, clock);
     QDir().mkpath(session.folder.picturesFolder());
     makePictures(session.folder.picturesFolder(), originals.path());
-    Host host(session);
+    LonePanelHost host(session);
 
     const double photo = milliseconds([&] {
         readThumbnail(session.folder.picturesFolder() + u"Teapot 0000.jpg"_s, {100, 76}, 1);

@@ -23,7 +23,6 @@
 #include <QMainWindow>
 #include <QProcess>
 #include <QTemporaryDir>
-#include <QThread>
 #include <QWebEnginePage>
 #include <QWebEngineView>
 
@@ -39,16 +38,6 @@ constexpr int products = 1'000;
 constexpr double wantedAtMost = 1.15;
 
 // ---- The processes that are measured ----
-
-void settle(int milliseconds)
-{
-    QElapsedTimer time;
-    time.start();
-    while (time.elapsed() < milliseconds) {
-        QCoreApplication::processEvents();
-        QThread::msleep(1);
-    }
-}
 
 // Asks for a page, and tells the seconds until it is loaded. `ask` gives the page that it will be in.
 double secondsUntilLoaded(const std::function<QWebEnginePage*()>& ask)
