@@ -10,6 +10,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <string_view>
 
 using namespace Qt::StringLiterals;
@@ -132,7 +133,7 @@ QString generalForm(const Decimal& decimal, int limit)
 }
 
 // Reads "12", "-12.5" and the like, the bulk of all numbers, without the locale's slow road. False for all else.
-bool readPlainNumber(QStringView text, QChar separator, double& number)
+bool readPlainNumber(QStringView text, std::optional<QChar> separator, double& number)
 {
     std::array<char, 64> plain{};
     if (text.isEmpty() || text.size() > static_cast<qsizetype>(plain.size())) {
@@ -182,8 +183,12 @@ QString NormalizeDecimal(const QString& text)
 double numberFromText(const QString& text)
 {
     const QStringView trimmed = QStringView(text).trimmed();
-    const QLocale locale;
     double number = 0;
+    // Most numbers are whole, and making a locale takes longer than reading one.
+    if (readPlainNumber(trimmed, std::nullopt, number)) {
+        return number;
+    }
+    const QLocale locale;
     if (readPlainNumber(trimmed, locale.decimalPoint().front(), number)) {
         return number;
     }

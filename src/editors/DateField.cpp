@@ -19,6 +19,7 @@
 #include <QToolButton>
 
 #include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -44,7 +45,8 @@ bool isTyping(const QKeyEvent& event)
 
 } // namespace
 
-DateField::DateField(MonthCalendar& calendar, QWidget* parent) : QLineEdit(parent), m_calendar(calendar)
+DateField::DateField(const Clock& clock, std::function<MonthCalendar&()> calendar, QWidget* parent)
+    : QLineEdit(parent), m_clock(clock), m_calendar(std::move(calendar))
 {
     setInUse(true);
 }
@@ -52,7 +54,7 @@ DateField::DateField(MonthCalendar& calendar, QWidget* parent) : QLineEdit(paren
 bool DateField::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip) { // on the day on which it is shown
-        setToolTip(u"A date such as %1, or nothing for an open end"_s.arg(m_calendar.exampleText()));
+        setToolTip(u"A date such as %1, or nothing for an open end"_s.arg(localDateText(m_clock.today())));
     }
     return QLineEdit::event(event);
 }
@@ -97,14 +99,14 @@ void DateField::mouseReleaseEvent(QMouseEvent* event)
 {
     QLineEdit::mouseReleaseEvent(event);
     if (event->button() == Qt::LeftButton && rect().contains(event->pos()) && !isReadOnly()) {
-        m_calendar.openUnder(*this);
+        m_calendar().openUnder(*this);
     }
 }
 
 void DateField::keyPressEvent(QKeyEvent* event)
 {
     if ((event->key() == Qt::Key_Down || event->key() == Qt::Key_F4) && !isReadOnly()) {
-        m_calendar.openUnder(*this);
+        m_calendar().openUnder(*this);
         return;
     }
     QLineEdit::keyPressEvent(event);
@@ -212,11 +214,6 @@ void MonthCalendar::write(const QString& text)
         m_field->setText(text);
     }
     hide();
-}
-
-QString MonthCalendar::exampleText() const
-{
-    return localDateText(m_clock.today());
 }
 
 void MonthCalendar::openUnder(QLineEdit& field)

@@ -8,6 +8,8 @@
 #include <QCalendarWidget>
 #include <QLineEdit>
 
+#include <functional>
+
 class MonthCalendar;
 class QAbstractItemView;
 
@@ -16,8 +18,9 @@ class DateField : public QLineEdit
     Q_OBJECT
 
 public:
-    // The calendar must outlive the field.
-    DateField(MonthCalendar& calendar, QWidget* parent = nullptr);
+    // calendar() gives the form's calendar, and is asked each time that it is to open. The clock must outlive the
+    // field.
+    DateField(const Clock& clock, std::function<MonthCalendar&()> calendar, QWidget* parent = nullptr);
 
     // Shows a text of the model, whether it is a date or not.
     void fill(const QString& text);
@@ -35,7 +38,8 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
 private:
-    MonthCalendar& m_calendar;
+    const Clock& m_clock;
+    std::function<MonthCalendar&()> m_calendar;
     QString m_former; // the last text that was taken
 };
 
@@ -51,8 +55,6 @@ public:
 
     // Opens at the left of the field, below it, with the field's date selected, or today when it holds none.
     void openUnder(QLineEdit& field);
-    // Today's date in the form that a field wants.
-    QString exampleText() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

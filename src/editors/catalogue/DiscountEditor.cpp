@@ -83,10 +83,17 @@ void DiscountEditor::makeOptions(PanelFrame* frame)
 
 void DiscountEditor::makeDates(PanelFrame* frame)
 {
-    DateMV = new MonthCalendar(m_host.session().clock, frame);
     QFormLayout* form = frame->addForm(u"Valid from and to (inclusive)"_s);
-    DateFromTxt = new DateField(*DateMV, frame);
-    DateToTxt = new DateField(*DateMV, frame);
+    const Clock& clock = m_host.session().clock;
+    // Made when it first opens, since making one takes a good part of what starting the program does.
+    const auto calendar = [this, frame, &clock]() -> MonthCalendar& {
+        if (!DateMV) {
+            DateMV = new MonthCalendar(clock, frame);
+        }
+        return *DateMV;
+    };
+    DateFromTxt = new DateField(clock, calendar, frame);
+    DateToTxt = new DateField(clock, calendar, frame);
     addField(form, u"First day"_s, DateFromTxt, "DateFromTxt");
     addField(form, u"Last day"_s, DateToTxt, "DateToTxt");
     for (DateField* field : {DateFromTxt, DateToTxt}) {
