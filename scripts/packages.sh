@@ -5,7 +5,7 @@ BUILD_PACKAGES=(g++ cmake ninja-build ccache qt6-base-dev qt6-webengine-dev qt6-
   libcurl4-openssl-dev cmark-gfm)
 RUN_PACKAGES=(libqt6webenginewidgets6 libqt6svg6 libcurl4 qt6-qpa-plugins fonts-dejavu-core fonts-liberation)
 VIRTUAL_DISPLAY_PACKAGES=(xvfb xauth)
-TEST_PACKAGES=(libexpat1-dev libgtest-dev libgmock-dev git php-cli tidy xdg-user-dirs dbus-daemon)
+TEST_PACKAGES=(libexpat1-dev libgtest-dev libgmock-dev git php-cli tidy xdg-user-dirs dbus-daemon openbox)
 LINT_PACKAGES=(clang clang-format clang-tidy libclang-rt-14-dev)
 PACKAGING_PACKAGES=(librsvg2-bin file dpkg-dev)
 AXE_PACKAGES=(npm)
