@@ -26,7 +26,7 @@ public:
     QString text() const override { return u"9.90"_s; }
 };
 
-Variables Row(NameTable& names, QStringView id)
+Variables row(NameTable& names, QStringView id)
 {
     Variables row(names);
     row.Add(u"id", id.toString());
@@ -45,9 +45,9 @@ Variables makePage(NameTable& names, const QByteArray& ownVariables)
     page.Add(u"total", 12.5F);
     page.Add(u"price", std::make_shared<const FixedText>());
     page.Add(u"none", VariableRows());
-    page.Add(u"products", VariableRows{Row(names, u"1"), Row(names, u"2")});
-    Variables nested = Row(names, u"1");
-    nested.Add(u"tags", VariableRows{Row(names, u"a"), Row(names, u"b")});
+    page.Add(u"products", VariableRows{row(names, u"1"), row(names, u"2")});
+    Variables nested = row(names, u"1");
+    nested.Add(u"tags", VariableRows{row(names, u"a"), row(names, u"b")});
     VariableRows rows;
     rows.push_back(std::move(nested));
     rows.emplace_back(names).Add(u"ID", u"3"_s);

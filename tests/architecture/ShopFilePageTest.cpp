@@ -114,7 +114,7 @@ TEST(ShopFilePage, NamesEveryElementAndNoOther)
     RecordingPrompts prompts;
     const FixedClock clock{QDate(2024, 5, 15)};
     ShopSession session{folder.folder(), prompts, clock};
-    WriteFile(session.folder.shopFile(), fullShop);
+    writeFile(session.folder.shopFile(), fullShop);
     ASSERT_TRUE(loadShop(session));
     writeShopFile(session);
     XmlFile written;

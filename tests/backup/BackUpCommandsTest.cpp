@@ -25,7 +25,7 @@ protected:
         askedFor(u"may"_s);
         prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
         backUpFromMenu(services);
-        WriteFile(files.path(u"shop.xml"_s), "changed");
+        writeFile(files.path(u"shop.xml"_s), "changed");
         return files.path(u"backups/may.kvb"_s);
     }
 
@@ -55,7 +55,7 @@ TEST_F(BackUpCommandsTest, WithoutANameNothingHappens)
 
 TEST_F(BackUpCommandsTest, AFullDiskIsToldTwiceAndThenOnceMore)
 {
-    WriteFile(files.path(u"pictures/noise.png"_s), noise(100000, 7));
+    writeFile(files.path(u"pictures/noise.png"_s), noise(100000, 7));
     askedFor(u"may"_s);
     prompts.expectMessage(u"The program"_s, u"Backuping: file saving error ocured"_s);
     prompts.expectMessage(u"The program"_s, u"Backuping: file saving error ocured"_s);
@@ -66,7 +66,7 @@ TEST_F(BackUpCommandsTest, AFullDiskIsToldTwiceAndThenOnceMore)
 
 TEST_F(BackUpCommandsTest, AFileInTheFoldersPlaceIsARunTimeError)
 {
-    WriteFile(files.path(u"backups"_s), "in the way");
+    writeFile(files.path(u"backups"_s), "in the way");
     askedFor(u"may"_s);
     EXPECT_EQ(errorOf([&] { backUpFromMenu(services); }), 75);
 }
@@ -93,8 +93,8 @@ TEST_F(BackUpCommandsTest, WithoutAChoiceNothingIsRestored)
 
 TEST_F(BackUpCommandsTest, FilesThatAreLeftOutAreNamedInTheLogAndCounted)
 {
-    WriteFile(files.path(u"pictures/empty.png"_s), "");
-    WriteFile(files.path(u"pictures/a\\b.png"_s), "x");
+    writeFile(files.path(u"pictures/empty.png"_s), "");
+    writeFile(files.path(u"pictures/a\\b.png"_s), "x");
     // Larger than an entry may be; it takes no room on the disk.
     QFile large(files.path(u"pictures/large.png"_s));
     ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(Q_INT64_C(2147483648)));
@@ -117,7 +117,7 @@ TEST_F(BackUpCommandsTest, ARestoreThatIsStoppedIsAFailure)
     QDir().mkpath(files.path(u"elsewhere"_s));
     ASSERT_TRUE(QFile::rename(path, files.path(u"elsewhere/may.kvb"_s)));
     ASSERT_TRUE(QDir().rmdir(files.path(u"backups"_s)));
-    WriteFile(files.path(u"backups"_s), "in the way");
+    writeFile(files.path(u"backups"_s), "in the way");
     prompts.answerFile(files.path(u"elsewhere/may.kvb"_s));
     prompts.answerDefaultNo(u"Restoring"_s, u"The present shop could not be kept. Restore all the same?"_s, false);
     prompts.expectMessage(u"Error"_s, u"Restore backup is failed"_s, PromptIcon::Critical);

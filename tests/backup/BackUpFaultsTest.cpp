@@ -21,7 +21,7 @@ protected:
     BackUpFaultsTest()
     {
         useReferenceShop();
-        WriteFile(files.path(u"pictures/noise.png"_s), noise(100000, 7));
+        writeFile(files.path(u"pictures/noise.png"_s), noise(100000, 7));
     }
 
     // All files but the backups.
@@ -103,7 +103,7 @@ TEST_F(BackUpFaultsTest, AFolderInThePackedFilesPlaceIsAFailureToWrite)
 
 TEST_F(BackUpFaultsTest, AFileInTheFoldersPlaceIsARunTimeError)
 {
-    WriteFile(files.path(u"backups"_s), "in the way");
+    writeFile(files.path(u"backups"_s), "in the way");
     QString name = u"may"_s;
     EXPECT_EQ(errorOf([&] { packer.BackUp(name); }), 75);
     EXPECT_EQ(fileBytes(files.path(u"backups"_s)), "in the way");
@@ -111,7 +111,7 @@ TEST_F(BackUpFaultsTest, AFileInTheFoldersPlaceIsARunTimeError)
     QFile::remove(files.path(u"backups"_s));
     const QString whole = makeBackUp();
     ASSERT_TRUE(QDir(files.path(u"pictures"_s)).removeRecursively());
-    WriteFile(files.path(u"pictures"_s), "in the way");
+    writeFile(files.path(u"pictures"_s), "in the way");
     EXPECT_EQ(errorOf([&] { packer.Restore(whole); }), 75);
     EXPECT_EQ(fileBytes(files.path(u"pictures"_s)), "in the way");
     EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), referenceShop());
@@ -183,7 +183,7 @@ TEST_F(BackUpFaultsTest, AProcessKilledWhileItRestoresLeavesTheBackupToRestoreAg
     const QMap<QString, QByteArray> before = shopFiles();
     const QString whole = makeBackUp();
     const QByteArray wholeBytes = fileBytes(whole);
-    WriteFile(files.path(u"pictures/stray.png"_s), "stray");
+    writeFile(files.path(u"pictures/stray.png"_s), "stray");
     QFile::remove(files.path(u"pictures/noise.png"_s)); // so that the present shop is small enough to be kept
     const int ended = signalThatEnded(40000, [&] { packer.Restore(whole); });
     EXPECT_EQ(ended, SIGXFSZ);

@@ -77,9 +77,9 @@ BackUpTest::BackUpTest()
 
 void BackUpTest::useReferenceShop()
 {
-    WriteFile(files.path(u"shop.xml"_s), referenceShop());
-    WriteFile(files.path(u"pictures/cup.png"_s), referencePicture());
-    WriteFile(files.path(u"templates/main.html"_s), referencePage());
+    writeFile(files.path(u"shop.xml"_s), referenceShop());
+    writeFile(files.path(u"pictures/cup.png"_s), referencePicture());
+    writeFile(files.path(u"templates/main.html"_s), referencePage());
 }
 
 void BackUpTest::listenTo(clsPacker& source)
@@ -98,7 +98,7 @@ QStringList BackUpTest::takeEvents()
 QString BackUpTest::packedFile(const QByteArray& bytes)
 {
     QString path = files.path(u"given.kvb"_s);
-    WriteFile(path, bytes);
+    writeFile(path, bytes);
     return path;
 }
 

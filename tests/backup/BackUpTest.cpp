@@ -41,7 +41,7 @@ QStringList entriesOf(clsPacker& packer)
 TEST_F(BackUpTest, TheShopItsPicturesAndItsTemplatesArePacked)
 {
     useReferenceShop();
-    WriteFile(files.path(u"countries.txt"_s), "Norway");
+    writeFile(files.path(u"countries.txt"_s), "Norway");
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     QString name = u"may"_s;
     EXPECT_TRUE(packer.BackUp(name));
@@ -108,7 +108,7 @@ TEST_F(BackUpTest, AnExistingBackupIsReplacedWithoutAQuestion)
 {
     useReferenceShop();
     QDir().mkpath(files.path(u"backups"_s));
-    WriteFile(files.path(u"backups/may.kvb"_s), "old");
+    writeFile(files.path(u"backups/may.kvb"_s), "old");
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     QString name = u"may.kvb"_s;
     EXPECT_TRUE(packer.BackUp(name));
@@ -120,7 +120,7 @@ TEST_F(BackUpTest, FilesFollowInTheOrderOfTheFileSystem)
     useReferenceShop();
     QFile::remove(files.path(u"pictures/cup.png"_s));
     for (int i = 0; i < 40; ++i) {
-        WriteFile(files.path(u"pictures/%1.png"_s.arg(i * 7919 % 1000)), "x");
+        writeFile(files.path(u"pictures/%1.png"_s.arg(i * 7919 % 1000)), "x");
     }
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     QString name = u"may"_s;
@@ -136,9 +136,9 @@ TEST_F(BackUpTest, FilesFollowInTheOrderOfTheFileSystem)
 TEST_F(BackUpTest, HiddenFilesAreFilesSubFoldersAreNot)
 {
     useReferenceShop();
-    WriteFile(files.path(u"pictures/.hidden"_s), "x");
+    writeFile(files.path(u"pictures/.hidden"_s), "x");
     QDir().mkpath(files.path(u"pictures/deep"_s));
-    WriteFile(files.path(u"pictures/deep/cup.png"_s), "x");
+    writeFile(files.path(u"pictures/deep/cup.png"_s), "x");
     QDir().mkpath(files.path(u"templates/old"_s));
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     QString name = u"may"_s;
@@ -152,14 +152,14 @@ TEST_F(BackUpTest, HiddenFilesAreFilesSubFoldersAreNot)
 TEST_F(BackUpTest, WhatIsEmptyOrNoFileOrHasNoNameInTheFormatIsLeftOut)
 {
     useReferenceShop();
-    WriteFile(files.path(u"pictures/empty.png"_s), {});
-    WriteFile(files.path(u"templates/empty.html"_s), {});
+    writeFile(files.path(u"pictures/empty.png"_s), {});
+    writeFile(files.path(u"templates/empty.html"_s), {});
     ASSERT_EQ(mkfifo(QFile::encodeName(files.path(u"pictures/pipe"_s)).constData(), 0600), 0);
     ASSERT_TRUE(QFile::link(u"nowhere"_s, files.path(u"pictures/link"_s)));
     // A backslash separates folders in the format.
     QDir().mkpath(files.path(u"pictures/deep"_s));
-    WriteFile(files.path(u"pictures/deep/cup.png"_s), "another cup");
-    WriteFile(files.path(u"pictures/deep\\cup.png"_s), "a third");
+    writeFile(files.path(u"pictures/deep/cup.png"_s), "another cup");
+    writeFile(files.path(u"pictures/deep\\cup.png"_s), "a third");
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     QString name = u"may"_s;
     ASSERT_TRUE(packer.BackUp(name));
@@ -169,7 +169,7 @@ TEST_F(BackUpTest, WhatIsEmptyOrNoFileOrHasNoNameInTheFormatIsLeftOut)
 TEST_F(BackUpTest, OfTwoNamesThatDifferByCaseOneIsPacked)
 {
     useReferenceShop();
-    WriteFile(files.path(u"pictures/CUP.PNG"_s), "another");
+    writeFile(files.path(u"pictures/CUP.PNG"_s), "another");
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     QString name = u"may"_s;
     ASSERT_TRUE(packer.BackUp(name));
@@ -206,7 +206,7 @@ TEST_F(BackUpTest, WithoutAShopFileNothingIsWritten)
 
 TEST_F(BackUpTest, AShopWithNothingButEmptyFilesIsNotWritten)
 {
-    WriteFile(files.path(u"shop.xml"_s), {});
+    writeFile(files.path(u"shop.xml"_s), {});
     QString name = u"may"_s;
     EXPECT_FALSE(packer.BackUp(name));
     EXPECT_EQ(name, u"may.kvb"_s);
@@ -223,7 +223,7 @@ TEST_F(BackUpTest, AMissingFolderHasItsBoxAndNothingIsWritten)
     EXPECT_FALSE(packer.BackUp(name));
 
     ASSERT_TRUE(QDir(files.path(u"pictures"_s)).removeRecursively());
-    WriteFile(files.path(u"pictures"_s), "a file in its place");
+    writeFile(files.path(u"pictures"_s), "a file in its place");
     prompts.expectMessage(u"Error"_s, u"Picture folder not found"_s, PromptIcon::Critical);
     EXPECT_FALSE(packer.BackUp(name));
 

@@ -36,7 +36,7 @@ TEST_F(DurableBackUp, ANewBackupIsFlushedAndItsFolderToo)
 
 TEST_F(DurableBackUp, AnOverwrittenBackupIsFlushedAndKeepsItsOldTail)
 {
-    WriteFile(files.path(u"backups.kvb"_s), QByteArray(100000, 'o'));
+    writeFile(files.path(u"backups.kvb"_s), QByteArray(100000, 'o'));
     durable.setCompressed(true);
     ASSERT_EQ(durable.AddFile(u"shop.xml"_s), AddFileResult::Added);
     ASSERT_TRUE(durable.WriteFile(files.path(u"backups.kvb"_s)));

@@ -109,8 +109,8 @@ TEST_F(PackedFilesTest, AStoredContainerIsWrittenByteForByte)
 
 TEST_F(PackedFilesTest, NamesAreWrittenInUtf8)
 {
-    WriteFile(files.path(u"shop.xml"_s), referenceShop());
-    WriteFile(files.path(u"pictures/M\u00FCller \u20AC \u6771.png"_s), referencePicture());
+    writeFile(files.path(u"shop.xml"_s), referenceShop());
+    writeFile(files.path(u"pictures/M\u00FCller \u20AC \u6771.png"_s), referencePicture());
     packer.setCompressed(true);
     packer.AddFile(u"shop.xml"_s);
     packer.AddFile(u"pictures\\M\u00FCller \u20AC \u6771.png"_s);
@@ -262,7 +262,7 @@ TEST_F(PackedFilesTest, ASmallerContentLeavesTheTailOfALongerOldFile)
     useReferenceShop();
     const QString path = files.path(u"out"_s);
     const QByteArray old(5000, 'o');
-    WriteFile(path, old);
+    writeFile(path, old);
     packer.setCompressed(true);
     packer.AddFile(u"shop.xml"_s);
     ASSERT_TRUE(packer.WriteFile(path));

@@ -17,10 +17,10 @@ class RestoreTest : public BackUpTest
 protected:
     RestoreTest()
     {
-        WriteFile(files.path(u"shop.xml"_s), "<old/>");
-        WriteFile(files.path(u"pictures/old.png"_s), "old picture");
-        WriteFile(files.path(u"templates/old.html"_s), "old page");
-        WriteFile(files.path(u"countries.txt"_s), "Norway");
+        writeFile(files.path(u"shop.xml"_s), "<old/>");
+        writeFile(files.path(u"pictures/old.png"_s), "old picture");
+        writeFile(files.path(u"templates/old.html"_s), "old page");
+        writeFile(files.path(u"countries.txt"_s), "Norway");
     }
 
     // All files but those that the restores kept of the shop before.
@@ -52,7 +52,7 @@ TEST_F(RestoreTest, TheSameVersionRestoresEverythingAndLeavesNoOldFileBehind)
 {
     for (const QString& name : {u"current"_s, u"stored"_s, u"raw_entry_among_deflated"_s, u"stale_tail"_s}) {
         SCOPED_TRACE(name.toStdString());
-        WriteFile(files.path(u"pictures/old.png"_s), "old picture");
+        writeFile(files.path(u"pictures/old.png"_s), "old picture");
         EXPECT_TRUE(packer.Restore(referencePath(name)));
         EXPECT_EQ(onDisk(), restoredShop);
     }
@@ -62,7 +62,7 @@ TEST_F(RestoreTest, AnOlderVersionKeepsTheTemplatesOfTheInstallation)
 {
     for (const QString& name : {u"older"_s, u"legacy"_s, u"version_1_10_0"_s}) {
         SCOPED_TRACE(name.toStdString());
-        WriteFile(files.path(u"pictures/old.png"_s), "old picture");
+        writeFile(files.path(u"pictures/old.png"_s), "old picture");
         EXPECT_TRUE(packer.Restore(referencePath(name)));
         EXPECT_EQ(onDisk(), referenceShopWithOldTemplates);
     }
@@ -165,10 +165,10 @@ TEST_F(RestoreTest, AFileWithoutEntriesLeavesAnEmptyShop)
 TEST_F(RestoreTest, EmptyingAFolderTakesEveryFileAndNoSubFolder)
 {
     const QTemporaryDir outside;
-    WriteFile(outside.filePath(u"kept"_s), "kept");
+    writeFile(outside.filePath(u"kept"_s), "kept");
     QDir().mkpath(files.path(u"pictures/deep"_s));
-    WriteFile(files.path(u"pictures/deep/cup.png"_s), "deep");
-    WriteFile(files.path(u"pictures/.hidden"_s), "x");
+    writeFile(files.path(u"pictures/deep/cup.png"_s), "deep");
+    writeFile(files.path(u"pictures/.hidden"_s), "x");
     QFile readOnly(files.path(u"pictures/old.png"_s));
     ASSERT_TRUE(readOnly.setPermissions(QFile::ReadOwner));
     ASSERT_EQ(mkfifo(QFile::encodeName(files.path(u"pictures/pipe"_s)).constData(), 0600), 0);
@@ -200,7 +200,7 @@ TEST_F(RestoreTest, AShopFileThatCannotBeRemovedStopsItWhenTheFoldersAreEmpty)
 {
     ASSERT_TRUE(QFile::remove(files.path(u"shop.xml"_s)));
     QDir().mkpath(files.path(u"shop.xml"_s));
-    WriteFile(files.path(u"shop.xml/inside"_s), "x");
+    writeFile(files.path(u"shop.xml/inside"_s), "x");
     prompts.expectMessage(u"Restoring canceled"_s, u"Can't remove shop.xml"_s, PromptIcon::Critical);
     EXPECT_FALSE(packer.Restore(referencePath(u"older"_s)));
     QMap<QString, QByteArray> expected = {

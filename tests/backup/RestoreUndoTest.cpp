@@ -14,10 +14,10 @@ class RestoreUndo : public BackUpTest
 protected:
     RestoreUndo()
     {
-        WriteFile(files.path(u"shop.xml"_s), "<present/>");
-        WriteFile(files.path(u"pictures/own.png"_s), "own picture");
-        WriteFile(files.path(u"pictures/empty.png"_s), "");
-        WriteFile(files.path(u"templates/own.html"_s), "own page");
+        writeFile(files.path(u"shop.xml"_s), "<present/>");
+        writeFile(files.path(u"pictures/own.png"_s), "own picture");
+        writeFile(files.path(u"pictures/empty.png"_s), "");
+        writeFile(files.path(u"templates/own.html"_s), "own page");
     }
 
     QStringList keptFiles() const { return QDir(files.path(u"backups"_s)).entryList(QDir::Files, QDir::Name); }
@@ -129,7 +129,7 @@ TEST_F(RestoreUndo, WhatCannotBeWrittenAsksAndNoTouchesNothing)
     }
     // A file in the folder's place.
     QDir(files.path(u"backups"_s)).removeRecursively();
-    WriteFile(files.path(u"backups"_s), "in the way");
+    writeFile(files.path(u"backups"_s), "in the way");
     askedToGoOn(false);
     EXPECT_FALSE(restorer.Restore(referencePath(u"current"_s)));
     EXPECT_EQ(shopFiles().value(u"shop.xml"_s), "<present/>");
@@ -157,9 +157,9 @@ TEST_F(RestoreUndo, TheLastThreeKeptFilesStayAndTheRestoredOneAndAllOfOtherNames
     const QStringList old = {u"before restore 2025-02-01 00.00.00.kvb"_s, u"before restore 2025-03-01 00.00.00.kvb"_s,
                              u"before restore 2025-04-01 00.00.00.kvb"_s, u"before restore 2025-05-01 00.00.00.kvb"_s};
     for (const QString& name : others + old) {
-        WriteFile(files.path(u"backups/"_s + name), "x");
+        writeFile(files.path(u"backups/"_s + name), "x");
     }
-    WriteFile(files.path(u"backups/"_s + restored), referenceBytes(u"current"_s));
+    writeFile(files.path(u"backups/"_s + restored), referenceBytes(u"current"_s));
     // Through a path that is spelled differently.
     ASSERT_TRUE(restorer.Restore(files.path(u"pictures/../backups/"_s + restored)));
     QStringList expected = others + old.last(2) + QStringList{restored, keptName};
@@ -173,7 +173,7 @@ TEST_F(RestoreUndo, AFailedRestoreDeletesNoKeptFile)
 {
     QDir().mkpath(files.path(u"backups"_s));
     for (int month = 1; month <= 5; ++month) {
-        WriteFile(files.path(u"backups/before restore 2025-0%1-01 00.00.00.kvb"_s.arg(month)), "x");
+        writeFile(files.path(u"backups/before restore 2025-0%1-01 00.00.00.kvb"_s.arg(month)), "x");
     }
     QFile::remove(files.path(u"shop.xml"_s));
     QDir().mkpath(files.path(u"shop.xml/inside"_s));
@@ -223,9 +223,9 @@ TEST_F(RestoreUndo, OfTwoEntriesOfOneTargetTheLaterIsTheFileWithoutATailOfTheFor
 
 TEST_F(RestoreUndo, TheKeptFileCanBeReadWhateverTheNamesAre)
 {
-    WriteFile(files.path(u"pictures/OWN.png"_s), "differs by case alone");
-    WriteFile(files.path(u"pictures/a\\b.png"_s), "a backslash");
-    WriteFile(files.path(u"pictures/.hidden \u00FC"_s), "hidden");
+    writeFile(files.path(u"pictures/OWN.png"_s), "differs by case alone");
+    writeFile(files.path(u"pictures/a\\b.png"_s), "a backslash");
+    writeFile(files.path(u"pictures/.hidden \u00FC"_s), "hidden");
     ASSERT_TRUE(restorer.Restore(referencePath(u"no_entries"_s)));
     ASSERT_TRUE(restorer.Restore(files.path(u"backups/"_s + keptName)));
     EXPECT_EQ(shopFiles().size(), 4);

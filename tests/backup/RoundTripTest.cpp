@@ -25,7 +25,7 @@ TEST_F(RoundTripTest, AShopWith2000PicturesComesBackByteForByte)
         shop.insert(u"templates/page%1.html"_s.arg(i), referencePage() + QByteArray::number(i));
     }
     for (auto file = shop.cbegin(); file != shop.cend(); ++file) {
-        WriteFile(files.path(file.key()), file.value());
+        writeFile(files.path(file.key()), file.value());
     }
     ASSERT_EQ(filesBelow(files.folder().path()), shop);
 
@@ -39,13 +39,13 @@ TEST_F(RoundTripTest, AShopWith2000PicturesComesBackByteForByte)
     const QByteArray packed = fileBytes(elsewhere);
 
     // The shop goes on living: files change, go and come.
-    WriteFile(files.path(u"shop.xml"_s), "changed");
-    WriteFile(files.path(u"pictures/picture 1 \u00FC.png"_s), QByteArray(100000, 'c'));
+    writeFile(files.path(u"shop.xml"_s), "changed");
+    writeFile(files.path(u"pictures/picture 1 \u00FC.png"_s), QByteArray(100000, 'c'));
     QFile::remove(files.path(u"pictures/picture 2 \u00FC.png"_s));
     for (int i = 0; i < 50; ++i) {
-        WriteFile(files.path(u"pictures/stray%1.png"_s.arg(i)), "stray");
+        writeFile(files.path(u"pictures/stray%1.png"_s.arg(i)), "stray");
     }
-    WriteFile(files.path(u"templates/stray.html"_s), "stray");
+    writeFile(files.path(u"templates/stray.html"_s), "stray");
 
     clsPacker restorer(files.folder(), prompts, clock, u"1.2.0"_s);
     ASSERT_TRUE(restorer.Restore(elsewhere));

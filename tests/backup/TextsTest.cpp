@@ -136,9 +136,9 @@ TEST_F(BackUpTexts, OfARestoreAreTheSystemsOwn)
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.when);
-        WriteFile(packed, row.file);
+        writeFile(packed, row.file);
         const QString shop = files.path(u"shop.xml"_s);
-        WriteFile(shop, "changed");
+        writeFile(shop, "changed");
         if (row.shopStays) {
             QFile::remove(shop);
             QDir().mkpath(shop + u"/inside"_s);

@@ -50,7 +50,7 @@ protected:
 
     clsFileData& loaded(qsizetype size)
     {
-        WriteFile(files.path(u"shop.xml"_s), noise(size, 1));
+        writeFile(files.path(u"shop.xml"_s), noise(size, 1));
         packer.Clear();
         EXPECT_EQ(packer.AddFile(u"shop.xml"_s), AddFileResult::Added);
         return packer.Item(1);

@@ -159,7 +159,7 @@ TEST_F(FileDataTest, TheDeflatedSizeOfAStoredEntryIsNotAvailable)
 
 TEST_F(FileDataTest, LoadReadsAFileOfTheApplicationFolder)
 {
-    WriteFile(files.path(u"pictures/cup.png"_s), "12345");
+    writeFile(files.path(u"pictures/cup.png"_s), "12345");
     ASSERT_TRUE(entry.Load(u"pictures\\cup.png"_s, false));
     EXPECT_EQ(entry.FileSpec(), u"pictures\\cup.png"_s);
     EXPECT_EQ(entry.Size(), 5);
@@ -171,7 +171,7 @@ TEST_F(FileDataTest, LoadReadsAFileOfTheApplicationFolder)
 TEST_F(FileDataTest, LoadDeflatesWhenAskedTo)
 {
     const QByteArray plain = referencePage();
-    WriteFile(files.path(u"shop.xml"_s), plain);
+    writeFile(files.path(u"shop.xml"_s), plain);
     ASSERT_TRUE(entry.Load(u"shop.xml"_s, true));
     EXPECT_TRUE(entry.Compressed());
     EXPECT_EQ(entry.Size(), plain.size());
@@ -182,7 +182,7 @@ TEST_F(FileDataTest, LoadDeflatesWhenAskedTo)
 
 TEST_F(FileDataTest, AFileThatIsNotThereOrEmptyOrNoFileCannotBeLoaded)
 {
-    WriteFile(files.path(u"empty"_s), {});
+    writeFile(files.path(u"empty"_s), {});
     ASSERT_EQ(mkfifo(QFile::encodeName(files.path(u"pipe"_s)).constData(), 0600), 0);
     for (const QString& path : {u"empty"_s, u"gone"_s, u"pictures"_s, u"pictures\\gone"_s, u""_s, u"pipe"_s}) {
         EXPECT_FALSE(entry.Load(path, true)) << path.toStdString();
@@ -201,7 +201,7 @@ TEST_F(FileDataTest, AFileTooLargeForItsSizeFieldCannotBeLoaded)
 TEST_F(FileDataTest, AnIncompressibleFileIsStoredDeflatedAndLarger)
 {
     const QByteArray plain = noise(1000, 1);
-    WriteFile(files.path(u"noise"_s), plain);
+    writeFile(files.path(u"noise"_s), plain);
     ASSERT_TRUE(entry.Load(u"noise"_s, true));
     EXPECT_TRUE(entry.Compressed());
     EXPECT_EQ(entry.CompressedSize(), deflated(plain).size());
@@ -212,7 +212,7 @@ TEST_F(FileDataTest, AnIncompressibleFileIsStoredDeflatedAndLarger)
 TEST_F(FileDataTest, ChangingCompressedDeflatesAndInflatesTheBytesInMemory)
 {
     const QByteArray plain = referencePage();
-    WriteFile(files.path(u"a"_s), plain);
+    writeFile(files.path(u"a"_s), plain);
     ASSERT_TRUE(entry.Load(u"a"_s, false));
     entry.setCompressed(true);
     EXPECT_TRUE(entry.Compressed());
@@ -315,7 +315,7 @@ TEST_F(FileDataTest, DataIsPutAtTheFilesPosition)
 {
     ASSERT_TRUE(readFrom(deflatedEntry("a", "plain", 5)));
     const QString path = files.path(u"put"_s);
-    WriteFile(path, "0123456789");
+    writeFile(path, "0123456789");
     {
         PackedStream stream(path, PackedStream::Mode::Write);
         stream.write("ab");

@@ -116,7 +116,7 @@ TEST_F(PackerTest, AddingAPathThatIsPresentLeavesTheFirstEntryInPlace)
     useReferenceShop();
     packer.AddFile(u"shop.xml"_s);
     takeEvents();
-    WriteFile(files.path(u"shop.xml"_s), "another");
+    writeFile(files.path(u"shop.xml"_s), "another");
     EXPECT_EQ(packer.AddFile(u"shop.xml"_s), AddFileResult::AlreadyPresent);
     EXPECT_EQ(takeEvents(), QStringList{u"Working(True)"_s});
     EXPECT_EQ(packer.AddFile(u"Shop.XML"_s), AddFileResult::AlreadyPresent);
@@ -127,7 +127,7 @@ TEST_F(PackerTest, AddingAPathThatIsPresentLeavesTheFirstEntryInPlace)
 
 TEST_F(PackerTest, AFileThatCannotBeLoadedIsTakenOutAgain)
 {
-    WriteFile(files.path(u"pictures/empty"_s), {});
+    writeFile(files.path(u"pictures/empty"_s), {});
     for (const QString& path : {u"pictures\\gone"_s, u"pictures\\empty"_s, u"pictures"_s}) {
         EXPECT_EQ(packer.AddFile(path), AddFileResult::CannotLoad);
         EXPECT_EQ(takeEvents(), workingOnly);
@@ -135,7 +135,7 @@ TEST_F(PackerTest, AFileThatCannotBeLoadedIsTakenOutAgain)
     }
     EXPECT_TRUE(packer.Changed());
     // The key is free again.
-    WriteFile(files.path(u"pictures/empty"_s), "x");
+    writeFile(files.path(u"pictures/empty"_s), "x");
     EXPECT_EQ(packer.AddFile(u"pictures\\empty"_s), AddFileResult::Added);
 }
 

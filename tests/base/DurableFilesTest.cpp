@@ -33,7 +33,7 @@ qint64 roomOf(const QString& path)
 
 TEST_F(DurableFiles, AGrowingFileTakesItsRoomIsWrittenFlushedAndClosed)
 {
-    WriteFile(path, "old");
+    writeFile(path, "old");
     writeFileBytes(path, "longer", calls);
     EXPECT_EQ(calls.takeCalls(),
               (QStringList{u"overwrite main.html"_s, u"reserve 3 to 6"_s, u"write 6"_s, u"flush"_s, u"close"_s}));
@@ -41,7 +41,7 @@ TEST_F(DurableFiles, AGrowingFileTakesItsRoomIsWrittenFlushedAndClosed)
 
 TEST_F(DurableFiles, AShrinkingFileIsCutBeforeItIsFlushed)
 {
-    WriteFile(path, "longer");
+    writeFile(path, "longer");
     writeFileBytes(path, "new", calls);
     EXPECT_EQ(calls.takeCalls(), (QStringList{u"overwrite main.html"_s, u"reserve 6 to 3"_s, u"write 3"_s, u"cut 3"_s,
                                               u"flush"_s, u"close"_s}));
@@ -56,7 +56,7 @@ TEST_F(DurableFiles, OfAFileThatIsMadeTheFolderIsFlushedToo)
 
 TEST_F(DurableFiles, AReplacedFileIsOnTheDiskBeforeItIsRenamedAndItsNameAfterwards)
 {
-    WriteFile(path, "old");
+    writeFile(path, "old");
     replaceFileDurably(path, "new", calls);
     EXPECT_EQ(calls.takeCalls(),
               (QStringList{u"create main.html.new"_s, u"reserve 0 to 3"_s, u"write 3"_s, u"flush"_s, u"close"_s,
@@ -84,7 +84,7 @@ TEST_F(DurableFiles, EveryCallThatFailsIsTold)
 
 TEST_F(DurableFiles, AFailureBeforeTheRenamingLeavesTheOldFileAndNoOther)
 {
-    WriteFile(path, "old");
+    writeFile(path, "old");
     for (const QString& call : {u"create"_s, u"reserve"_s, u"write"_s, u"flush"_s, u"close"_s, u"rename"_s}) {
         SCOPED_TRACE(call.toStdString());
         calls.failAtCall(call, ErrorNumber::DeviceError);
@@ -96,7 +96,7 @@ TEST_F(DurableFiles, AFailureBeforeTheRenamingLeavesTheOldFileAndNoOther)
 
 TEST_F(DurableFiles, RoomIsTakenWithoutChangingTheSize)
 {
-    WriteFile(path, "old");
+    writeFile(path, "old");
     const std::unique_ptr<FileCalls> system = systemFileCalls();
     const std::unique_ptr<OpenFile> file = system->open(path, FileCalls::Access::Overwrite);
     const qint64 before = roomOf(path);

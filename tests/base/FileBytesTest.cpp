@@ -30,14 +30,14 @@ TEST_P(FileBytes, AFileIsReadWhole)
 {
     for (const qsizetype size : {0, 1, 4096, 1000000}) {
         const QByteArray bytes(size, 'x');
-        WriteFile(shop.path(u"file"_s), bytes);
+        writeFile(shop.path(u"file"_s), bytes);
         EXPECT_EQ(readFileBytes(shop.path(u"file"_s), *calls), bytes);
     }
 }
 
 TEST_P(FileBytes, AFileThatCannotBeReadIsAnErrorThatNamesIt)
 {
-    WriteFile(shop.path(u"file"_s), "x");
+    writeFile(shop.path(u"file"_s), "x");
     EXPECT_EQ(errorOf([&] { readFileBytes(shop.path(u"gone"_s), *calls); }), 53);
     EXPECT_EQ(errorOf([&] { readFileBytes(shop.path(u"gone/file"_s), *calls); }), 53);
     EXPECT_EQ(errorOf([&] { readFileBytes(shop.path(u"file/file"_s), *calls); }), 53);
@@ -81,7 +81,7 @@ TEST_P(FileBytes, WritingReplacesTheContent)
 TEST_P(FileBytes, WritingKeepsTheFileItselfAndMakesNoOther)
 {
     const QString path = shop.path(u"templates/file"_s);
-    WriteFile(path, "old");
+    writeFile(path, "old");
     ASSERT_TRUE(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     ASSERT_TRUE(QFile::link(u"file"_s, shop.path(u"templates/link"_s)));
     writeFileBytes(shop.path(u"templates/link"_s), "the new content", *calls);
@@ -109,7 +109,7 @@ TEST_P(FileBytes, AppendingMakesTheFileAndAddsToIt)
 
 TEST_P(FileBytes, WithoutRoomAppendingIsAnError)
 {
-    WriteFile(shop.path(u"log"_s), "12345");
+    writeFile(shop.path(u"log"_s), "12345");
     const FileSizeLimit limit(5);
     EXPECT_NE(errorOf([&] { appendFileBytes(shop.path(u"log"_s), "6", *calls); }), 0);
     EXPECT_EQ(fileBytes(shop.path(u"log"_s)), "12345");
@@ -118,7 +118,7 @@ TEST_P(FileBytes, WithoutRoomAppendingIsAnError)
 TEST_P(FileBytes, ReplacingAFileLeavesTheNewOneAndNoOther)
 {
     const QString path = shop.path(u"templates/file"_s);
-    WriteFile(path + u".new"_s, "left by a cut of power, and longer");
+    writeFile(path + u".new"_s, "left by a cut of power, and longer");
     for (const QByteArray& bytes : {QByteArray("first"), QByteArray(100000, 'x'), QByteArray()}) {
         replaceFileDurably(path, bytes, *calls);
         EXPECT_EQ(fileBytes(path), bytes);
@@ -133,7 +133,7 @@ TEST_P(FileBytes, AFileThatCannotBeReplacedStaysAndIsAnError)
     EXPECT_EQ(errorOf([&] { replaceFileDurably(shop.path(u"gone/file"_s), "x", *calls); }), 75);
     EXPECT_TRUE(QDir(shop.path(u"templates"_s)).entryList(QDir::Files).isEmpty());
     const QString path = shop.path(u"shop.xml"_s);
-    WriteFile(path, "old");
+    writeFile(path, "old");
     const FileSizeLimit limit(1000);
     EXPECT_NE(errorOf([&] { replaceFileDurably(path, QByteArray(1001, 'n'), *calls); }), 0);
     EXPECT_EQ(fileBytes(path), "old");
@@ -147,7 +147,7 @@ TEST(SystemFileBytes, WithoutRoomTheOldFileStaysWhole)
     const TemporaryShopFolder shop;
     const QString path = shop.path(u"shop.xml"_s);
     const QByteArray old(10000, 'o');
-    WriteFile(path, old);
+    writeFile(path, old);
     const FileSizeLimit limit(20000);
     EXPECT_EQ(errorOf([&] { writeFileBytes(path, QByteArray(20001, 'n')); }), 61);
     EXPECT_EQ(fileBytes(path), old);
@@ -166,7 +166,7 @@ TEST(SystemFileBytes, WithoutRoomANewFileIsNotLeftBehind)
 TEST(SystemFileBytes, WithoutRoomAppendingIsAFullDisk)
 {
     const TemporaryShopFolder shop;
-    WriteFile(shop.path(u"log"_s), "12345");
+    writeFile(shop.path(u"log"_s), "12345");
     const FileSizeLimit limit(5);
     EXPECT_EQ(errorOf([&] { appendFileBytes(shop.path(u"log"_s), "6"); }), 61);
 }

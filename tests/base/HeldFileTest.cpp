@@ -128,7 +128,7 @@ TEST_F(AHeldFile, IsNoneWhereItCannotBeMade)
 
 TEST_F(AHeldFile, KeepsWhatSomebodyWroteIntoIt)
 {
-    WriteFile(path, "notes");
+    writeFile(path, "notes");
     const std::unique_ptr<HeldFile> first = holdFile(path);
     EXPECT_EQ(fileBytes(path), "notes");
 }

@@ -49,7 +49,7 @@ TEST(LoadLog, ALogThatCannotBeDeletedIsNoErrorButOneThatCannotBeAppendedToIs)
 {
     const TemporaryShopFolder shop;
     QDir().mkdir(shop.path(u"load.log"_s));
-    WriteFile(shop.path(u"load.log/keeps"_s), "the folder");
+    writeFile(shop.path(u"load.log/keeps"_s), "the folder");
     LoadLog log(shop.folder());
     EXPECT_EQ(errorOf([&] { log.reset(); }), 0);
     EXPECT_EQ(errorOf([&] { log.WriteLoadLog(u"x"_s); }), 75);

@@ -88,7 +88,7 @@ TEST(TextFile, ATextThatWindows1252CannotHoldIsWrittenInUtf8)
 TEST(TextFile, AFileIsReadAndDecoded)
 {
     const TemporaryShopFolder shop;
-    WriteFile(shop.path(u"text"_s), "\xEF\xBB\xBF\xC3\xBC\r\n");
+    writeFile(shop.path(u"text"_s), "\xEF\xBB\xBF\xC3\xBC\r\n");
     EXPECT_EQ(readTextFile(shop.path(u"text"_s)).text, u"\u00FC\r\n"_s);
     EXPECT_EQ(errorOf([&] { readTextFile(shop.path(u"gone"_s)); }), 53);
     EXPECT_EQ(errorOf([] { readTextFile(u"/dev/zero"_s); }), 75);

@@ -332,7 +332,7 @@ TEST(XmlFile, AFileThatIsMissingOrNoFileIsAnEmptyDocument)
 TEST(XmlFile, AFileIsRead)
 {
     const TemporaryShopFolder shop;
-    WriteFile(shop.path(u"shop.xml"_s), "<a><b>text</b></a>");
+    writeFile(shop.path(u"shop.xml"_s), "<a><b>text</b></a>");
     XmlFile file;
     file.load(shop.path(u"shop.xml"_s));
     EXPECT_EQ(GetNodeText(file.document(), "b", QString()), u"text"_s);

@@ -24,7 +24,7 @@ TEST_F(ImageSizes, TheHeaderIsEnough)
     // A PNG that is cut off where its picture data begins has none at all.
     writePicture(u"whole.png"_s, 33, 44);
     const QByteArray bytes = fileBytes(temporary.path(u"pictures/whole.png"_s));
-    WriteFile(temporary.path(u"pictures/cut.png"_s), bytes.first(bytes.indexOf("IDAT") + 8));
+    writeFile(temporary.path(u"pictures/cut.png"_s), bytes.first(bytes.indexOf("IDAT") + 8));
     EXPECT_EQ(readImageSize(folder, u"cut.png"_s).width, 33);
     EXPECT_EQ(readImageSize(folder, u"cut.png"_s).height, 44);
 }
@@ -51,7 +51,7 @@ TEST_F(ImageSizes, ANameThatLeadsOutOfTheFolderIsLikeAFileThatIsNotThere)
 
 TEST_F(ImageSizes, AFileThatIsNoPictureIsError5)
 {
-    WriteFile(temporary.path(u"pictures/text.png"_s), "no picture");
+    writeFile(temporary.path(u"pictures/text.png"_s), "no picture");
     EXPECT_EQ(errorOf([&] { readImageSize(folder, u"text.png"_s); }), 5);
 }
 

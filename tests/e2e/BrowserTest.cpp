@@ -45,7 +45,7 @@ void BrowserTest::openEmptyShop()
 
 void BrowserTest::writeTemplate(const QString& name, const QByteArray& text)
 {
-    WriteFile(files.path(u"templates/"_s + name + u".html"_s), text);
+    writeFile(files.path(u"templates/"_s + name + u".html"_s), text);
 }
 
 void BrowserTest::openPreview()

@@ -49,7 +49,7 @@ void Day::importProducts()
         const QByteArray number = QByteArray::number(product);
         lines += "\"Candle " + number + "\",\"Beeswax, number " + number + "\",Light\\Candles\n";
     }
-    WriteFile(files.path(u"candles.txt"_s), lines);
+    writeFile(files.path(u"candles.txt"_s), lines);
     const int before = shop().GetProductCount();
     prompts.answerFile(files.path(u"candles.txt"_s));
     trigger("mnuImport");

@@ -19,11 +19,11 @@ protected:
     HostilePageTest()
     {
         openEmptyShop();
-        WriteFile(pictures + u"drawing.svg"_s, Svg);
-        WriteFile(pictures + u"notes.txt"_s, "secret notes");
-        WriteFile(pictures + u"page.html"_s, "<script>top.ranInFrame = true</script>");
-        WriteFile(files.path(u"outside.svg"_s), Svg);
-        WriteFile(files.path(u"secret.txt"_s), "secret text");
+        writeFile(pictures + u"drawing.svg"_s, Svg);
+        writeFile(pictures + u"notes.txt"_s, "secret notes");
+        writeFile(pictures + u"page.html"_s, "<script>top.ranInFrame = true</script>");
+        writeFile(files.path(u"outside.svg"_s), Svg);
+        writeFile(files.path(u"secret.txt"_s), "secret text");
         QImage(30, 10, QImage::Format_RGB32).save(files.path(u"outside.png"_s));
         QImage(30, 10, QImage::Format_RGB32).save(pictures + u"inside.png"_s);
         QFile::link(files.path(u"outside.png"_s), pictures + u"link.png"_s);

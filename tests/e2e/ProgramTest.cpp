@@ -68,7 +68,7 @@ TEST_F(TheProgram, AsksBeforeItOpensAFolderThatIsOpenAndLeavesTheLogAloneUntilTh
     start(first);
     ASSERT_TRUE(isShown());
     EXPECT_TRUE(QFileInfo::exists(files.folder().runningFile()));
-    WriteFile(files.folder().loadLogFile(), "the first one's");
+    writeFile(files.folder().loadLogFile(), "the first one's");
     QProcess second;
     start(second);
     EXPECT_FALSE(second.waitForFinished(2000)); // it waits for an answer

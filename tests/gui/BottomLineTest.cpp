@@ -41,7 +41,7 @@ protected:
     }
     void import(const QByteArray& lines)
     {
-        WriteFile(files.path(u"products.txt"_s), lines);
+        writeFile(files.path(u"products.txt"_s), lines);
         prompts.answerFile(files.path(u"products.txt"_s));
         trigger("mnuImport");
     }
@@ -82,7 +82,7 @@ TEST_F(BottomLineTest, TellsHowManyProductsWereImported)
 
 TEST_F(BottomLineTest, TellsWhichLineStoppedAnImport)
 {
-    WriteFile(files.path(u"products.txt"_s), "Sencha,fine,Tea\nshort,line\nLost,line,Tea\n");
+    writeFile(files.path(u"products.txt"_s), "Sencha,fine,Tea\nshort,line\nLost,line,Tea\n");
     prompts.answerFile(files.path(u"products.txt"_s));
     prompts.expectMessage(u"Ambrel eCommerce Software"_s, u"Line 2: Subscript out of range\n1 product imported"_s,
                           PromptIcon::Warning);
@@ -95,7 +95,7 @@ TEST_F(BottomLineTest, TellsWhichLineStoppedAnImport)
 
 TEST_F(BottomLineTest, TellsWhatABackupIs)
 {
-    WriteFile(files.path(u"pictures/a\\b.png"_s), "x");
+    writeFile(files.path(u"pictures/a\\b.png"_s), "x");
     prompts.answerText(u"Backing up"_s, u"Enter file name"_s, u"first"_s);
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     trigger("mnuBackUp");

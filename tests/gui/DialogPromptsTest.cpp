@@ -213,7 +213,7 @@ TEST_F(DialogPromptsTest, AnInputBoxTellsAnEmptyAnswerFromCancel)
 class DialogPromptsFile : public DialogPromptsTest
 {
 protected:
-    DialogPromptsFile() { WriteFile(files.path(u"list.txt"_s), "Tea"); }
+    DialogPromptsFile() { writeFile(files.path(u"list.txt"_s), "Tea"); }
 
     static void open(QFileDialog& dialog, const QString& name)
     {

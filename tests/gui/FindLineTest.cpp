@@ -216,7 +216,7 @@ TEST_F(Find, StaysOpenBehindTheOtherModes)
 TEST_F(Find, WithoutAShopFindsNothing)
 {
     window.reset();
-    WriteFile(files.path(u"shop.xml"_s), "<Tarnwick/>");
+    writeFile(files.path(u"shop.xml"_s), "<Tarnwick/>");
     prompts.expectMessage(u"Ambrel eCommerce Software"_s, u"Error in the configuration XML file. No 'Shop' node."_s);
     start();
     ask(u"tea"_s);

@@ -29,7 +29,7 @@ protected:
         QDir().mkpath(files.path(u"guide"_s));
         for (const QString& page : QDir(guide).entryList({u"*.md"_s})) {
             const QString name = page == u"README.md"_s ? u"index"_s : page.chopped(3);
-            WriteFile(files.path(u"guide/%1.html"_s.arg(name)), "<h1>" + name.toUtf8() + "</h1>");
+            writeFile(files.path(u"guide/%1.html"_s.arg(name)), "<h1>" + name.toUtf8() + "</h1>");
         }
     }
     // The page that the desktop was asked to open, without its folder.

@@ -29,7 +29,7 @@ protected:
 
     void import(const QByteArray& lines)
     {
-        WriteFile(files.path(u"products.txt"_s), lines);
+        writeFile(files.path(u"products.txt"_s), lines);
         prompts.answerFile(files.path(u"products.txt"_s));
         trigger("mnuImport");
     }
@@ -108,7 +108,7 @@ TEST_F(Import, WithoutAShopLeavesTheTreeEmpty)
     ASSERT_TRUE(QFile::remove(files.path(u"shop.xml"_s)));
     prompts.expectMessage(u"Ambrel eCommerce Software"_s, u"Error in the configuration XML file. No 'Shop' node."_s);
     start();
-    WriteFile(files.path(u"products.txt"_s), "Sencha,fine,Tea\n");
+    writeFile(files.path(u"products.txt"_s), "Sencha,fine,Tea\n");
     prompts.answerFile(files.path(u"products.txt"_s));
     prompts.expectMessage(
         u"Ambrel eCommerce Software"_s,
@@ -125,7 +125,7 @@ TEST_F(Import, ReportsALineThatIsTooShortInABoxAndKeepsWhatCameBefore)
         u"Ambrel eCommerce Software"_s,
         u"Line 2: %1\n1 product imported"_s.arg(RuntimeError(ErrorNumber::SubscriptOutOfRange).description()),
         PromptIcon::Warning);
-    WriteFile(files.path(u"products.txt"_s), "Sencha,fine,Tea\nshort,line\nLost,line,Tea\n");
+    writeFile(files.path(u"products.txt"_s), "Sencha,fine,Tea\nshort,line\nLost,line,Tea\n");
     trigger("mnuImport");
     EXPECT_EQ(root()->children[0]->children.size(), 1U);
     EXPECT_TRUE(errors.numbers.empty());

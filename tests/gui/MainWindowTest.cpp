@@ -34,9 +34,9 @@ protected:
     {
         for (const char* page :
              {"main", "footer", "menu", "category", "product", "search", "cart", "header", "custompage", "checkout"}) {
-            WriteFile(files.path(u"templates/%1.html"_s.arg(QLatin1String(page))), QByteArray("page ") + page);
+            writeFile(files.path(u"templates/%1.html"_s.arg(QLatin1String(page))), QByteArray("page ") + page);
         }
-        WriteFile(files.path(u"templates/layout.html"_s), "<!--:main_part:-->");
+        writeFile(files.path(u"templates/layout.html"_s), "<!--:main_part:-->");
     }
 };
 

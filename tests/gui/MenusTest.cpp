@@ -211,8 +211,8 @@ TEST_F(Menus, SaveBeforeTheUploadWhenTheAnswerIsYes)
 TEST_F(Menus, AskForANameOfABackupAndMakeIt)
 {
     prompts.answerText(u"Backing up"_s, u"Enter file name"_s, u"first"_s);
-    WriteFile(files.path(u"templates/main.html"_s), "text");
-    WriteFile(files.path(u"pictures/a.png"_s), "bytes");
+    writeFile(files.path(u"templates/main.html"_s), "text");
+    writeFile(files.path(u"pictures/a.png"_s), "bytes");
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     trigger("mnuBackUp");
     EXPECT_TRUE(QFile::exists(files.path(u"backups/first.kvb"_s)));
@@ -220,7 +220,7 @@ TEST_F(Menus, AskForANameOfABackupAndMakeIt)
 
 TEST_F(Menus, StartTheProgramAgainAfterARestore)
 {
-    WriteFile(files.path(u"templates/main.html"_s), "text");
+    writeFile(files.path(u"templates/main.html"_s), "text");
     prompts.answerText(u"Backing up"_s, u"Enter file name"_s, u"first"_s);
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     trigger("mnuBackUp");

@@ -97,7 +97,7 @@ TEST_F(SaveShop, ThatFailsIsFatalAndItsFrameStaysVisible)
 TEST_F(SaveShop, OfAShopWhoseLoadFoundNoneIsErrorNinetyOne)
 {
     window.reset();
-    WriteFile(files.path(u"shop.xml"_s), "<Tarnwick/>");
+    writeFile(files.path(u"shop.xml"_s), "<Tarnwick/>");
     prompts.expectMessage(u"Ambrel eCommerce Software"_s, u"Error in the configuration XML file. No 'Shop' node."_s);
     start();
     trigger("mnuSaveShop");

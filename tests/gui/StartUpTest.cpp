@@ -72,7 +72,7 @@ TEST_F(StartUp, KeepsTheLogOfTheLastStartOnly)
 TEST_F(StartUp, WithAnEmptyListOfCountriesIsNormal)
 {
     useShop(smallShop);
-    WriteFile(files.path(u"countries.txt"_s), "");
+    writeFile(files.path(u"countries.txt"_s), "");
     start();
     EXPECT_EQ(window->session().CountriesCollection.Count(), 0);
     EXPECT_TRUE(window->isVisible());
@@ -90,7 +90,7 @@ TEST_F(StartUp, WithoutCountriesFailsBeforeAnyWindow)
 TEST_F(StartUp, WithACountryTwiceFailsBeforeAnyWindow)
 {
     useShop(smallShop);
-    WriteFile(files.path(u"countries.txt"_s), "Norway\r\nChad\r\nnorway\r\n");
+    writeFile(files.path(u"countries.txt"_s), "Norway\r\nChad\r\nnorway\r\n");
     EXPECT_EQ(errorOf([&] { start(); }), 457);
     EXPECT_EQ(window, nullptr);
 }
@@ -126,7 +126,7 @@ class StartUpOnBadShopFile : public WindowTest, public testing::WithParamInterfa
 TEST_P(StartUpOnBadShopFile, ShowsTheSameBoxAndGoesOn)
 {
     useShop(smallShop);
-    WriteFile(files.path(u"shop.xml"_s), GetParam());
+    writeFile(files.path(u"shop.xml"_s), GetParam());
     prompts.expectMessage(u"Ambrel eCommerce Software"_s, noShopText);
     start();
     EXPECT_TRUE(window->isVisible());
@@ -198,7 +198,7 @@ TEST_F(StartUp, LeavesAFileOfItsOwnVersionAlone)
 TEST_F(StartUp, WithABrokenTemplateGoesOnWithTheTemplatesBeforeIt)
 {
     useSampleShop();
-    WriteFile(files.path(u"templates/menu.html"_s), "<!--:if:x=1:-->");
+    writeFile(files.path(u"templates/menu.html"_s), "<!--:if:x=1:-->");
     start();
     EXPECT_FALSE(logLines().contains(u"End parseTemplates"_s));
     EXPECT_TRUE(window->CurrentTemplatesSet().templates.hasKey(u"footer"_s));

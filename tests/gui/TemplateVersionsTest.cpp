@@ -17,7 +17,7 @@ class TemplateVersions : public testing::Test
 protected:
     void useTemplate(const QString& name, const QByteArray& text)
     {
-        WriteFile(files.path(u"templates/%1.html"_s.arg(name)), text);
+        writeFile(files.path(u"templates/%1.html"_s.arg(name)), text);
     }
 
     void expectMismatch(const QString& name)

@@ -77,7 +77,7 @@ TEST_F(WindowTexts, OfAllBoxesAreTheSystemsOwn)
 TEST_F(WindowTexts, OfARefusedImportIsTheErrorsOwnBetweenLineAndCount)
 {
     start();
-    WriteFile(files.path(u"products.txt"_s), "short,line\n");
+    writeFile(files.path(u"products.txt"_s), "short,line\n");
     prompts.answerFile(files.path(u"products.txt"_s));
     prompts.expectMessage(programTitle, u"Line 1: Subscript out of range\n0 products imported"_s, PromptIcon::Warning);
     trigger("mnuImport");
@@ -86,7 +86,7 @@ TEST_F(WindowTexts, OfARefusedImportIsTheErrorsOwnBetweenLineAndCount)
 TEST_F(WindowTexts, OfAStartWithoutAShopAreTheSystemsOwn)
 {
     for (const char* file : {"", "<Tarnwick/>", "no markup"}) {
-        WriteFile(files.path(u"shop.xml"_s), file);
+        writeFile(files.path(u"shop.xml"_s), file);
         prompts.expectMessage(programTitle, u"Error in the configuration XML file. No 'Shop' node."_s);
         start();
         window.reset();

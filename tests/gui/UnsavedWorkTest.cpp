@@ -93,7 +93,7 @@ TEST_F(UnsavedWork, IsKeptAfterTheCommandsOfTheCatalogue)
 TEST_F(UnsavedWork, IsKeptAfterAnImportEvenOneThatFails)
 {
     const QString list = files.path(u"list.txt"_s);
-    WriteFile(list, "Sencha,green,Moss\nbroken\n");
+    writeFile(list, "Sencha,green,Moss\nbroken\n");
     prompts.answerFile(list);
     prompts.expectMessage(title, u"Line 2: Subscript out of range\n1 product imported"_s, PromptIcon::Warning);
     trigger("mnuImport");
@@ -239,8 +239,8 @@ TEST_F(UnsavedWorkAndARestore, StaysWhenTheRestoreIsCancelledOrFails)
 
 TEST_F(UnsavedWorkAndARestore, IsInNoBackUpNorInWhatARestoreKeeps)
 {
-    WriteFile(files.folder().oldUnsavedShopFile(), "older");
-    WriteFile(files.folder().runningFile(), "");
+    writeFile(files.folder().oldUnsavedShopFile(), "older");
+    writeFile(files.folder().runningFile(), "");
     prompts.answerText(u"Backing up"_s, u"Enter file name"_s, u"second"_s);
     prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
     trigger("mnuBackUp");

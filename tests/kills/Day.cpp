@@ -163,7 +163,7 @@ private:
     {
         after([&] {
             auto& picture = *find<ShortcartButton>(button).findChild<QLabel*>(u"IconImg"_s);
-            Press(picture, picture.rect().center());
+            pressAt(picture, picture.rect().center());
         });
     }
     void trigger(const char* action)
@@ -179,7 +179,7 @@ private:
         }
         const QModelIndex index = tree.nodes().indexOf(&node);
         tree.scrollTo(index);
-        after([&] { Press(*tree.viewport(), tree.visualRect(index).center()); });
+        after([&] { pressAt(*tree.viewport(), tree.visualRect(index).center()); });
     }
     TreeNode& root() { return *m_window.parts().CategoriesAndProductsTree->nodes().rootNode(); }
     TreeNode& category() { return *m_dice.pick(root().children); }

@@ -67,7 +67,7 @@ void Kills::fillFolder() const
     for (int line = 1; line <= 40; ++line) {
         list += "Tea " + QByteArray::number(line) + ",\"A good one, too\",Teas\\Green\n";
     }
-    WriteFile(m_folder + u"/list.txt"_s, list);
+    writeFile(m_folder + u"/list.txt"_s, list);
 }
 
 bool Kills::killOnce()

@@ -25,7 +25,7 @@ class Bus
 public:
     Bus()
     {
-        WriteFile(m_folder.filePath(u"bus.conf"_s),
+        writeFile(m_folder.filePath(u"bus.conf"_s),
                   "<!DOCTYPE busconfig PUBLIC \"-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN\" "
                   "\"http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd\">"
                   "<busconfig><type>session</type><listen>unix:dir=" +

@@ -9,7 +9,7 @@ class Countries : public ShopFixture
 protected:
     int loadCountries(const QByteArray& bytes)
     {
-        WriteFile(session.folder.countriesFile(), bytes);
+        writeFile(session.folder.countriesFile(), bytes);
         return errorOf([this] { EXPECT_TRUE(session.LoadCountries()); });
     }
 };

@@ -36,7 +36,7 @@ protected:
     // Writes the shop file and loads it; the number of the error that the loading raises, else 0.
     int load(const QByteArray& xml)
     {
-        WriteFile(session.folder.shopFile(), xml);
+        writeFile(session.folder.shopFile(), xml);
         return errorOf([this] { loadShop(session); });
     }
 

@@ -39,7 +39,7 @@ TEST_F(Sessions, TwoSessionsDoNotKnowOfEachOther)
 {
     TemporaryShopFolder otherFolder;
     ShopSession other(otherFolder.folder(), prompts, clock);
-    WriteFile(other.folder.shopFile(), shopFile("", "1.2.0"));
+    writeFile(other.folder.shopFile(), shopFile("", "1.2.0"));
     ASSERT_EQ(load(shopFile(category("2", ""))), 0);
     loadShop(other);
     EXPECT_EQ(other.shop->categories.Count(), 0);

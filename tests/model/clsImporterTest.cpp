@@ -61,7 +61,7 @@ protected:
     int import(const QByteArray& bytes)
     {
         const QString path = session.folder.path() + u"/products.txt"_s;
-        WriteFile(path, bytes);
+        writeFile(path, bytes);
         return errorOf([&] { clsImporter(session).Import(path); });
     }
 
@@ -116,7 +116,7 @@ TEST_F(Importing, EndsAtAnEmptyLineAndKeepsWhatCameBefore)
 TEST_F(Importing, TellsTheLineThatIsNotUnderstood)
 {
     const QString path = session.folder.path() + u"/products.txt"_s;
-    WriteFile(path, "a,1,x\r\nb,2,x\ntwo,fields\nc,3,x\n");
+    writeFile(path, "a,1,x\r\nb,2,x\ntwo,fields\nc,3,x\n");
     EXPECT_EQ(circumstancesOf([&] { clsImporter(session).Import(path); }),
               (QStringList{u"The line has fewer than three fields."_s,
                            u"Line 3 of the import file \"products.txt\" was being read."_s}));
@@ -125,11 +125,11 @@ TEST_F(Importing, TellsTheLineThatIsNotUnderstood)
 TEST_F(Importing, CountsItsProductsAndTheLineThatStoppedIt)
 {
     clsImporter importer(session);
-    WriteFile(session.folder.path() + u"/whole.txt"_s, "a,b,c\r\nd,e,f\r\n");
+    writeFile(session.folder.path() + u"/whole.txt"_s, "a,b,c\r\nd,e,f\r\n");
     importer.Import(session.folder.path() + u"/whole.txt"_s);
     EXPECT_EQ(importer.productCount, 2);
     EXPECT_EQ(importer.line, 2);
-    WriteFile(session.folder.path() + u"/short.txt"_s, "a,b,c\rg,h,i\nshort\nlost,b,c");
+    writeFile(session.folder.path() + u"/short.txt"_s, "a,b,c\rg,h,i\nshort\nlost,b,c");
     EXPECT_EQ(errorOf([&] { importer.Import(session.folder.path() + u"/short.txt"_s); }), 9);
     EXPECT_EQ(importer.productCount, 2);
     EXPECT_EQ(importer.line, 3);
@@ -155,7 +155,7 @@ TEST_F(Importing, ReportsHowFarItIs)
     for (int line = 0; line < 1200; ++line) {
         lines += "a,b,c\n";
     }
-    WriteFile(session.folder.path() + u"/products.txt"_s, lines);
+    writeFile(session.folder.path() + u"/products.txt"_s, lines);
     QList<qsizetype> reports;
     clsImporter(session, [&](qsizetype done, qsizetype total) {
         EXPECT_EQ(total, 7200);

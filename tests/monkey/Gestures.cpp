@@ -31,7 +31,7 @@ void send(QWidget& widget, QEvent& event)
 
 } // namespace
 
-QString NameOf(const QWidget& widget)
+QString nameOf(const QWidget& widget)
 {
     QString name = QString::fromLatin1(widget.metaObject()->className());
     int named = 0;
@@ -44,7 +44,7 @@ QString NameOf(const QWidget& widget)
     return name;
 }
 
-void Press(QWidget& widget, const QPoint& place, Qt::MouseButton button)
+void pressAt(QWidget& widget, const QPoint& place, Qt::MouseButton button)
 {
     const QPointer<QWidget> kept(&widget);
     QTest::mousePress(&widget, button, {}, place);
@@ -56,7 +56,7 @@ void Press(QWidget& widget, const QPoint& place, Qt::MouseButton button)
 void pressTwice(QWidget& widget, const QPoint& place, Qt::MouseButton button)
 {
     const QPointer<QWidget> kept(&widget);
-    Press(widget, place, button);
+    pressAt(widget, place, button);
     if (canTake(kept)) {
         QMouseEvent second(QEvent::MouseButtonDblClick, place, widget.mapToGlobal(place), button, button, {});
         send(widget, second);

@@ -7,9 +7,9 @@
 #include <QWidget>
 
 // The class and the names from the widget up to the next named parents.
-QString NameOf(const QWidget& widget);
+QString nameOf(const QWidget& widget);
 
-void Press(QWidget& widget, const QPoint& place, Qt::MouseButton button = Qt::LeftButton);
+void pressAt(QWidget& widget, const QPoint& place, Qt::MouseButton button = Qt::LeftButton);
 void pressTwice(QWidget& widget, const QPoint& place, Qt::MouseButton button = Qt::LeftButton);
 // Both places are the widget's; the second may lie outside.
 void drag(QWidget& widget, const QPoint& from, const QPoint& to, Qt::MouseButton button = Qt::LeftButton);

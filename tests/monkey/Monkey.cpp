@@ -132,7 +132,7 @@ void Monkey::actInWindow()
     } else if (what < 95) {
         pressCommandKey();
     } else if (what < 97) {
-        Note(u"walk"_s);
+        note(u"walk"_s);
         walk(m_window);
     } else {
         changeWindow();
@@ -145,11 +145,11 @@ void Monkey::actInDialog(QWidget& dialog)
     if (upload && !upload->isTransferring() && m_dice.chance(30)) {
         const QString address = m_dice.chance(70) ? m_server : u"http://127.0.0.1:1/"_s;
         m_isRestless = m_dice.chance(20);
-        Note(u"upload to "_s + address);
+        note(u"upload to "_s + address);
         dialog.findChild<QLineEdit*>(u"txtURL"_s)->setText(address);
-        Press(*dialog.findChild<QWidget*>(u"OkBtn"_s), QPoint(5, 5));
+        pressAt(*dialog.findChild<QWidget*>(u"OkBtn"_s), QPoint(5, 5));
     } else if (m_dice.chance(7)) {
-        Note(u"close "_s + NameOf(dialog));
+        note(u"close "_s + nameOf(dialog));
         pressClose(dialog);
     } else if (m_dice.chance(10)) {
         pressAnyKey(dialog);
@@ -166,10 +166,10 @@ void Monkey::actInPopup(QWidget& popup)
         if (m_isCareful && !mayChoose(action->objectName(), m_window)) {
             return;
         }
-        Note(u"entry "_s + action->text());
-        Press(popup, menu->actionGeometry(action).center());
+        note(u"entry "_s + action->text());
+        pressAt(popup, menu->actionGeometry(action).center());
     } else if (m_dice.chance(30)) {
-        Note(u"close "_s + NameOf(popup));
+        note(u"close "_s + nameOf(popup));
         popup.close();
     } else if (m_dice.chance(50)) {
         pressAnyKey(popup);
@@ -188,7 +188,7 @@ void Monkey::chooseEntry()
     }
     entries.removeIf([](const QAction* entry) { return entry->isSeparator(); });
     QAction* action = m_dice.pick(entries);
-    Note(u"menu "_s + action->objectName());
+    note(u"menu "_s + action->objectName());
     action->trigger();
 }
 
@@ -197,7 +197,7 @@ void Monkey::pressCommandKey()
 {
     QWidget* tree = m_window.parts().CategoriesAndProductsTree;
     if (m_dice.chance(20)) {
-        Note(u"menu key"_s);
+        note(u"menu key"_s);
         QContextMenuEvent event(QContextMenuEvent::Keyboard, {}, {});
         QApplication::sendEvent(tree, &event);
         return;
@@ -205,7 +205,7 @@ void Monkey::pressCommandKey()
     const WindowKey& command =
         windowKeys()[static_cast<std::size_t>(m_dice.below(static_cast<int>(windowKeys().size())))];
     const QKeyCombination key = QKeySequence(QLatin1String(command.keys))[0];
-    Note(u"key "_s + QLatin1String(command.keys));
+    note(u"key "_s + QLatin1String(command.keys));
     QWidget* focus = m_window.focusWidget();
     QTest::keyPress(focus && focus->isVisible() ? focus : &m_window, key.key(), key.keyboardModifiers());
     QPointer<QLineEdit> line = m_window.findChild<QLineEdit*>(u"CatalogueFindTxt"_s);
@@ -232,7 +232,7 @@ void Monkey::followLink()
         return;
     }
     const QString url = isOdd ? oddAddress(m_dice) : m_dice.pick(links);
-    Note((isOdd ? u"go to "_s : u"follow "_s) + url.left(200));
+    note((isOdd ? u"go to "_s : u"follow "_s) + url.left(200));
     if (PreviewNavigation::judge(url).hasAction) {
         guarded(m_window.errorHandler(), [&] { m_preview.navigation->act(url); });
     }
@@ -241,10 +241,10 @@ void Monkey::followLink()
 void Monkey::changeWindow()
 {
     if (m_dice.chance(20)) {
-        Note(u"close the window"_s);
+        note(u"close the window"_s);
         m_window.close();
     } else {
         m_window.resize(50 + m_dice.below(1400), 50 + m_dice.below(1000));
-        Note(u"resize to %1, %2"_s.arg(m_window.width()).arg(m_window.height()));
+        note(u"resize to %1, %2"_s.arg(m_window.width()).arg(m_window.height()));
     }
 }

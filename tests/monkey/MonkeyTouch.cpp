@@ -152,31 +152,31 @@ void Monkey::touch(QWidget& widget)
     if (m_isCareful && leavesEmptyRow(widget)) {
         addFilledRow(widget);
     } else if (how < 3) {
-        Note(u"context "_s + NameOf(widget));
+        note(u"context "_s + nameOf(widget));
         askForContextMenu(widget, place);
     } else if (how < 6) {
-        Note(u"wheel "_s + NameOf(widget));
+        note(u"wheel "_s + nameOf(widget));
         turnWheel(widget, place, m_dice.chance(50) ? 1 : -1);
     } else if (how < 9) {
-        Note(u"drag "_s + NameOf(widget));
+        note(u"drag "_s + nameOf(widget));
         drag(widget, place, anyPlace(), anyButton());
     } else if (how < 12) {
-        Note(u"press and release elsewhere "_s + NameOf(widget));
+        note(u"press and release elsewhere "_s + nameOf(widget));
         pressAndReleaseElsewhere(widget, place, anyPlace(), anyButton());
     } else if (qobject_cast<QLineEdit*>(&widget) || qobject_cast<QPlainTextEdit*>(&widget)) {
         touchText(widget);
     } else if (viewOf(widget) && !qobject_cast<QHeaderView*>(&widget) && how < 90) {
         touchItems(widget);
     } else if (auto* tabs = qobject_cast<QTabBar*>(&widget); tabs && tabs->count() > 0) {
-        Note(u"tab "_s + NameOf(widget));
-        Press(widget, tabs->tabRect(m_dice.below(tabs->count())).center());
+        note(u"tab "_s + nameOf(widget));
+        pressAt(widget, tabs->tabRect(m_dice.below(tabs->count())).center());
     } else if (how < 18) {
-        Note(u"press twice "_s + NameOf(widget));
+        note(u"press twice "_s + nameOf(widget));
         pressTwice(widget, place, anyButton());
     } else {
         const auto* button = qobject_cast<QAbstractButton*>(&widget);
-        Note(u"press "_s + NameOf(widget) + (button ? u" \"%1\""_s.arg(button->text()) : QString()));
-        Press(widget, place, anyButton());
+        note(u"press "_s + nameOf(widget) + (button ? u" \"%1\""_s.arg(button->text()) : QString()));
+        pressAt(widget, place, anyButton());
     }
 }
 
@@ -190,9 +190,9 @@ QString Monkey::textFor(const QWidget& field)
 void Monkey::touchText(QWidget& widget)
 {
     const QString text = textFor(widget);
-    Note(u"type "_s + NameOf(widget) + u' ' + shortened(text));
+    note(u"type "_s + nameOf(widget) + u' ' + shortened(text));
     const QPointer<QWidget> kept(&widget);
-    Press(widget, widget.rect().center());
+    pressAt(widget, widget.rect().center());
     if (kept && QApplication::activePopupWidget() == nullptr && (m_isCareful || m_dice.chance(70))) {
         pressKey(widget, Qt::Key_A, Qt::ControlModifier, u"\x01"_s);
     }
@@ -211,38 +211,38 @@ void Monkey::touchItems(QWidget& widget)
     const int rows = model ? model->rowCount(view.rootIndex()) : 0;
     const int columns = model ? model->columnCount(view.rootIndex()) : 0;
     if (rows == 0 || columns == 0) {
-        Press(*view.viewport(), placeIn(*view.viewport()));
+        pressAt(*view.viewport(), placeIn(*view.viewport()));
         return;
     }
     const QModelIndex index = model->index(m_dice.below(rows), m_dice.below(columns), view.rootIndex());
     view.scrollTo(index);
     const QPoint place = view.visualRect(index).center();
-    Note(u"item %1, %2 of "_s.arg(index.row()).arg(index.column()) + NameOf(view));
+    note(u"item %1, %2 of "_s.arg(index.row()).arg(index.column()) + nameOf(view));
     if (m_dice.chance(15)) {
         pressTwice(*view.viewport(), place);
     } else {
-        Press(*view.viewport(), place);
+        pressAt(*view.viewport(), place);
     }
     if (QWidget* editor = QApplication::focusWidget();
         editor && m_dice.chance(50) && editor->window() == view.window()) {
         const QString text = textFor(*editor);
-        Note(u"  type "_s + shortened(text));
+        note(u"  type "_s + shortened(text));
         typeText(*editor, text);
     }
 }
 
 void Monkey::addFilledRow(QWidget& link)
 {
-    Note(u"add a row "_s + NameOf(link));
-    Press(link, link.rect().center());
+    note(u"add a row "_s + nameOf(link));
+    pressAt(link, link.rect().center());
     const auto& table = *link.parentWidget()->findChild<QTableWidget*>(u"BaseGrd"_s);
     const int row = table.rowCount() - 1;
     for (int column = 0; column < table.columnCount() - 1; ++column) { // the last one removes the row
         const QModelIndex cell = table.model()->index(row, column);
-        Press(*table.viewport(), table.visualRect(cell).center());
+        pressAt(*table.viewport(), table.visualRect(cell).center());
         if (auto* box = qobject_cast<QLineEdit*>(QApplication::focusWidget())) {
             const QString text = textFor(*box);
-            Note(u"  type "_s + shortened(text));
+            note(u"  type "_s + shortened(text));
             typeText(*box, text);
         }
     }
@@ -268,20 +268,20 @@ void Monkey::touchTree()
     }
     tree.scrollTo(index);
     const QPoint place = tree.visualRect(index).center();
-    Note(u"node "_s + shortened(index.data().toString()));
+    note(u"node "_s + shortened(index.data().toString()));
     const QPoint elsewhere(m_dice.below(2 * tree.viewport()->width()), m_dice.below(tree.viewport()->height()));
     if (m_dice.chance(15)) {
-        Press(*tree.viewport(), place, Qt::RightButton);
+        pressAt(*tree.viewport(), place, Qt::RightButton);
     } else if (m_dice.chance(10)) {
         pressTwice(*tree.viewport(), place, anyButton());
     } else if (m_dice.chance(10)) {
-        Note(u"  and drag"_s);
+        note(u"  and drag"_s);
         drag(*tree.viewport(), place, elsewhere, anyButton());
     } else if (m_dice.chance(10)) {
-        Note(u"  and release elsewhere"_s);
+        note(u"  and release elsewhere"_s);
         pressAndReleaseElsewhere(*tree.viewport(), place, elsewhere, anyButton());
     } else {
-        Press(*tree.viewport(), place, anyButton());
+        pressAt(*tree.viewport(), place, anyButton());
     }
 }
 
@@ -321,7 +321,7 @@ void Monkey::pressAnyKey(QWidget& root)
     }
     QWidget* focus = QApplication::focusWidget();
     QWidget& target = focus && focus->window() == root.window() && focus->isVisible() ? *focus : root;
-    Note(u"key %1 "_s.arg(QKeySequence(QKeyCombination(key.modifiers, static_cast<Qt::Key>(key.key))).toString()) +
-         NameOf(target));
+    note(u"key %1 "_s.arg(QKeySequence(QKeyCombination(key.modifiers, static_cast<Qt::Key>(key.key))).toString()) +
+         nameOf(target));
     pressKey(target, key.key, key.modifiers, QString::fromLatin1(key.text));
 }

@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-void Note(const QString& line)
+void note(const QString& line)
 {
     std::fprintf(stderr, "# %s\n", qPrintable(QString(line).replace(u'\n', u' ').replace(u'\r', u' ')));
 }

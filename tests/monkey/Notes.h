@@ -3,6 +3,6 @@
 
 #include <QString>
 
-void Note(const QString& line);
+void note(const QString& line);
 // A text as it fits into a line: control characters and what is too long are cut out.
 QString shortened(const QString& text);

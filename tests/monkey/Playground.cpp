@@ -60,9 +60,9 @@ void Playground::makeOddFiles() const
     picture.fill(Qt::blue);
     picture.save(m_files + u"blue.png"_s);
     picture.save(m_files + u"odd name, with & and <.JPG"_s, "JPG");
-    WriteFile(m_files + u"no_picture.gif"_s, "GIF89a");
-    WriteFile(m_files + u"empty.bmp"_s, "");
-    WriteFile(m_files + u"text.kvb"_s, "not packed");
+    writeFile(m_files + u"no_picture.gif"_s, "GIF89a");
+    writeFile(m_files + u"empty.bmp"_s, "");
+    writeFile(m_files + u"text.kvb"_s, "not packed");
 }
 
 void Playground::changeShop(Dice& dice) const
@@ -74,13 +74,13 @@ void Playground::changeShop(Dice& dice) const
         QFile::remove(folder().shopFile());
         break;
     case 1:
-        WriteFile(folder().shopFile(), "<Tarnwick><Shop>");
+        writeFile(folder().shopFile(), "<Tarnwick><Shop>");
         break;
     case 2:
-        WriteFile(folder().shopFile(), emptyShop);
+        writeFile(folder().shopFile(), emptyShop);
         break;
     case 3:
-        WriteFile(folder().countriesFile(), "");
+        writeFile(folder().countriesFile(), "");
         break;
     case 4:
         QDir(folder().picturesFolder()).removeRecursively();
@@ -114,7 +114,7 @@ QString Playground::packedFile(Dice& dice) const
     }
     QString cut = m_files + u"cut.kvb"_s;
     const QByteArray bytes = fileBytes(backup);
-    WriteFile(cut, bytes.first(dice.below(static_cast<int>(bytes.size()) + 1)));
+    writeFile(cut, bytes.first(dice.below(static_cast<int>(bytes.size()) + 1)));
     return cut;
 }
 
@@ -138,7 +138,7 @@ QString Playground::chosenFile(Dice& dice, const QString& filter)
     }
     if (filter.contains(u".txt"_s)) {
         QString path = m_files + u"products.txt"_s;
-        WriteFile(path, m_isCareful ? fittingImportFile(dice) : oddImportFile(dice));
+        writeFile(path, m_isCareful ? fittingImportFile(dice) : oddImportFile(dice));
         return path;
     }
     return m_isCareful ? m_files + u"blue.png"_s : oneOf(dice, m_files);

@@ -24,7 +24,7 @@ class EndingErrors : public FatalErrorHandler
 public:
     void fatalError(const RuntimeError& error) noexcept override
     {
-        Note(u"ends by error %1: %2"_s.arg(static_cast<int>(error.number())).arg(error.description()));
+        note(u"ends by error %1: %2"_s.arg(static_cast<int>(error.number())).arg(error.description()));
         std::_Exit(hasWindow ? FatalError : FailedStart);
     }
 
@@ -73,7 +73,7 @@ public:
 
     void start()
     {
-        Note(u"start"_s);
+        note(u"start"_s);
         Watchdog::feed();
         m_errors.hasWindow = false;
         m_prompts.wasOfferedUnsaved = false;
@@ -81,7 +81,7 @@ public:
                                        m_prompts,
                                        m_clock,
                                        m_errors,
-                                       [] { Note(u"  starts anew"_s); },
+                                       [] { note(u"  starts anew"_s); },
                                        UnsavedShop::Window::First,
                                        [this] { return fileCallsThatTell([this] { noteModel(); }); }};
         m_window = guarded(m_errors, [&] {
@@ -117,7 +117,7 @@ public:
 
 private:
     QByteArray outline() const { return outlineOf(*m_window->session().shop).join(u'\n').toUtf8(); }
-    void noteModel() const { WriteFile(m_playground.keptModel(), outline()); }
+    void noteModel() const { writeFile(m_playground.keptModel(), outline()); }
 
     PlayedBy m_player;
     Dice m_dice;
@@ -139,7 +139,7 @@ int runMonkey(const QString& folder, std::uint32_t seed, int steps, PlayedBy pla
         program.start();
         const QString disagreement = program.play(steps);
         if (!disagreement.isEmpty()) {
-            Note(u"Out of step: "_s + disagreement);
+            note(u"Out of step: "_s + disagreement);
             return OutOfStep;
         }
     }
@@ -155,12 +155,12 @@ int checkShop(const QString& folder)
         const bool hadUnsaved = program.hasUnsaved();
         program.start();
         if (hadUnsaved && !program.isAsItWasKept()) {
-            Note(u"What was not saved has changed."_s);
+            note(u"What was not saved has changed."_s);
             return WorkLost;
         }
         const QByteArray saved = program.save();
         if (turn == 3 && saved != former) {
-            Note(u"The shop changes with every save."_s);
+            note(u"The shop changes with every save."_s);
             return Unsettled;
         }
         former = saved;

@@ -32,7 +32,7 @@ protected:
     {
         const QString path = package.filePath(name);
         QDir().mkpath(QFileInfo(path).path());
-        WriteFile(path, bytes);
+        writeFile(path, bytes);
     }
     void putProgram(const QByteArray& word)
     {
@@ -80,7 +80,7 @@ TEST_F(OwnersFolder, StandsInTheDocumentsFolderThatTheDesktopNames)
 {
     QDir(home.path()).mkpath(u".config"_s);
     QDir(home.path()).mkpath(u"Papers"_s);
-    WriteFile(home.filePath(u".config/user-dirs.dirs"_s), "XDG_DOCUMENTS_DIR=\"$HOME/Papers\"\n");
+    writeFile(home.filePath(u".config/user-dirs.dirs"_s), "XDG_DOCUMENTS_DIR=\"$HOME/Papers\"\n");
     start();
     EXPECT_TRUE(QFileInfo(home.filePath(u"Papers/Tarnwick/shop.xml"_s)).isFile());
 }
@@ -99,7 +99,7 @@ TEST_F(OwnersFolder, GetsANewerProgramNewerFactoryTemplatesAndTheNewerGuide)
 TEST_F(OwnersFolder, KeepsTheShopItsPicturesAndTheTemplatesInUse)
 {
     start();
-    WriteFile(folder() + u"/shop.xml"_s, "mine");
+    writeFile(folder() + u"/shop.xml"_s, "mine");
     QFile::remove(folder() + u"/pictures/cup.png"_s);
     put(u"share/tarnwick/shop/shop.xml"_s, "newer sample");
     put(u"share/tarnwick/shop/countries.txt"_s, "Norway,Chile");
@@ -126,7 +126,7 @@ TEST_F(OwnersFolder, LeavesARunningProgramTheFileThatItWasStartedFrom)
 TEST_F(OwnersFolder, WithAShopFromElsewhereGetsNoSample)
 {
     QDir().mkpath(folder());
-    WriteFile(folder() + u"/shop.xml"_s, "mine");
+    writeFile(folder() + u"/shop.xml"_s, "mine");
     start();
     EXPECT_EQ(bytes(u"shop.xml"_s), "mine");
     EXPECT_FALSE(QFileInfo::exists(folder() + u"/countries.txt"_s));

@@ -114,7 +114,7 @@ TEST_F(TemplateUtils, ASizeThatIsNotKnownIsReadFromTheFile)
 {
     clsSelectedImage image(session.designServices);
     image.imageFileName = u"dot.pbm"_s;
-    WriteFile(session.folder.picturesFolder() + image.imageFileName, "P1\n3 2\n0 0 0\n0 0 0\n");
+    writeFile(session.folder.picturesFolder() + image.imageFileName, "P1\n3 2\n0 0 0\n0 0 0\n");
     Variables vars = context.newVariables();
     AddImageVariables(vars, context, image, ImageKeys(u"KEY"));
     EXPECT_EQ(textOf(vars.Item(u"KEY_WIDTH")), u"3"_s);

@@ -57,12 +57,12 @@ void useSampleShop(const TemporaryShopFolder& files)
     copyFiles(QStringLiteral(TARNWICK_SOURCE_DIR "/app/"), files.folder().path() + u'/');
 }
 
-HttpAnswer Answer(int status, const QByteArray& body)
+HttpAnswer httpAnswer(int status, const QByteArray& body)
 {
     return {status, body, std::nullopt};
 }
 
-HttpAnswer Failure(const QString& description, int number)
+HttpAnswer httpFailure(const QString& description, int number)
 {
     return {0, {}, TransferFailure{description, number}};
 }
@@ -83,9 +83,9 @@ void FakeHttpClient::answer(const HttpAnswer& answer)
 
 void FakeHttpClient::answerAll(const QByteArray& lines)
 {
-    answer(Answer(200, "1.2.0|" + lines));
+    answer(httpAnswer(200, "1.2.0|" + lines));
     while (isWaiting()) {
-        answer(Answer(200, "ok"));
+        answer(httpAnswer(200, "ok"));
     }
 }
 

@@ -22,8 +22,8 @@ void useSmallShop(const TemporaryShopFolder& files);
 // The whole sample shop of the program.
 void useSampleShop(const TemporaryShopFolder& files);
 
-HttpAnswer Answer(int status, const QByteArray& body);
-HttpAnswer Failure(const QString& description, int number);
+HttpAnswer httpAnswer(int status, const QByteArray& body);
+HttpAnswer httpFailure(const QString& description, int number);
 
 class FakeHttpClient : public HttpClient
 {

@@ -20,7 +20,7 @@ TEST(UploadLog, WithoutAFailureItHasTwoLines)
 TEST(UploadLog, AFailureIsItsThirdLine)
 {
     const TemporaryShopFolder files;
-    WriteFile(files.path(u"upload.log"_s), QByteArray(500, 'x'));
+    writeFile(files.path(u"upload.log"_s), QByteArray(500, 'x'));
     writeUploadLog(files.folder(), u"anna"_s, u"http://shop.test/"_s, TransferFailure{u"Connection refused"_s, 1});
     EXPECT_EQ(fileBytes(files.path(u"upload.log"_s)), "anna\r\nhttp://shop.test/\r\nConnection refused|1\r\n");
 }
@@ -58,7 +58,7 @@ TEST(UploadLog, ItRemembersItsFirstTwoItems)
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
         const TemporaryShopFolder files;
-        WriteFile(files.path(u"upload.log"_s), row.bytes);
+        writeFile(files.path(u"upload.log"_s), row.bytes);
         const RememberedUpload remembered = readUploadLog(files.folder());
         EXPECT_EQ(remembered.login, row.login);
         EXPECT_EQ(remembered.address, row.address);

@@ -15,11 +15,11 @@ class UploadPlanTest : public testing::Test
 protected:
     void useShop(const QByteArray& inside)
     {
-        WriteFile(files.path(u"shop.xml"_s), "<Tarnwick><Shop>" + inside + "</Shop></Tarnwick>");
+        writeFile(files.path(u"shop.xml"_s), "<Tarnwick><Shop>" + inside + "</Shop></Tarnwick>");
     }
     void addLocal(const QString& name, int size)
     {
-        WriteFile(files.path("pictures/"_L1 + name), QByteArray(size, 'p'));
+        writeFile(files.path("pictures/"_L1 + name), QByteArray(size, 'p'));
     }
     void addOnServer(const QString& name, qint32 size) { server.Add({name, size, {}}, name); }
 
@@ -172,9 +172,9 @@ TEST_F(UploadPlanTest, MissingElementsAreToldApart)
 {
     const auto found = [this] { return UploadPlan(files.folder(), server).walkShopFile(); };
     EXPECT_EQ(found(), UploadPlan::Found::NoShop); // no file
-    WriteFile(files.path(u"shop.xml"_s), "<Tarnwick><Shop>");
+    writeFile(files.path(u"shop.xml"_s), "<Tarnwick><Shop>");
     EXPECT_EQ(found(), UploadPlan::Found::NoShop);
-    WriteFile(files.path(u"shop.xml"_s), "<Tarnwick/>");
+    writeFile(files.path(u"shop.xml"_s), "<Tarnwick/>");
     EXPECT_EQ(found(), UploadPlan::Found::NoShop);
     useShop("<Name>Cups</Name>");
     EXPECT_EQ(found(), UploadPlan::Found::NoShopDesign);
@@ -264,9 +264,9 @@ TEST_F(UploadPlanTest, KnowsNothingOfWhatWasNotSaved)
 {
     const QByteArray unsaved = "<Tarnwick><Shop><Category><Picture>new.png</Picture></Category><ShopDesign/></Shop>"
                                "</Tarnwick>";
-    WriteFile(files.folder().unsavedShopFile(), unsaved);
-    WriteFile(files.folder().oldUnsavedShopFile(), unsaved);
-    WriteFile(files.folder().runningFile(), "");
+    writeFile(files.folder().unsavedShopFile(), unsaved);
+    writeFile(files.folder().oldUnsavedShopFile(), unsaved);
+    writeFile(files.folder().runningFile(), "");
     EXPECT_EQ(picturesOf("<Category><Picture>cup.png</Picture></Category><ShopDesign/>"), QStringList{u"cup.png"_s});
     UploadPlan plan(files.folder(), server);
     EXPECT_EQ(plan.walkShopFile(), UploadPlan::Found::All);

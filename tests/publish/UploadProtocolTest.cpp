@@ -125,7 +125,7 @@ TEST(UploadProtocol, AnAnswerIsItsTextOrTheWordError)
         if (!row.title.isEmpty()) {
             prompts.expectMessage(row.title, row.text, PromptIcon::Warning);
         }
-        EXPECT_EQ(readAnswer(Answer(row.status, row.body), prompts), row.result);
+        EXPECT_EQ(readAnswer(httpAnswer(row.status, row.body), prompts), row.result);
     }
 }
 
@@ -135,7 +135,7 @@ TEST(UploadProtocol, ABoxShowsTheStartOfAnAnswerThatIsTooLongForIt)
     const QByteArray page(1000000, 'x');
     prompts.expectMessage(u"Error 503"_s, u"Uploading is failed.\r\n"_s + QString(4000, u'x') + u"Error #503\r\n"_s,
                           PromptIcon::Warning);
-    EXPECT_EQ(readAnswer(Answer(503, page), prompts).size(), 1000000);
+    EXPECT_EQ(readAnswer(httpAnswer(503, page), prompts).size(), 1000000);
 }
 
 TEST(UploadProtocol, EachLineOfAnAnswerIsReadInItsOwnEncoding)

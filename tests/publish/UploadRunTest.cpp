@@ -39,9 +39,9 @@ protected:
         for (int i = 0; i < count; ++i) {
             const QByteArray name = QByteArray::number(i) + ".png";
             shop += "<Product><Picture>" + name + "</Picture></Product>";
-            WriteFile(files.path("pictures/"_L1 + QString::fromLatin1(name)), "p");
+            writeFile(files.path("pictures/"_L1 + QString::fromLatin1(name)), "p");
         }
-        WriteFile(files.path(u"shop.xml"_s), shop + "</Category><ShopDesign/></Shop></Tarnwick>");
+        writeFile(files.path(u"shop.xml"_s), shop + "</Category><ShopDesign/></Shop></Tarnwick>");
     }
 
     TemporaryShopFolder files;
@@ -103,7 +103,7 @@ TEST_F(UploadRunTest, ASecondStartDuringATransferDoesNothing)
     run.start();
     run.start();
     EXPECT_EQ(client.requests.size(), 1U);
-    client.answer(Answer(200, "1.2.0|"));
+    client.answer(httpAnswer(200, "1.2.0|"));
     run.start();
     EXPECT_EQ(client.requests.size(), 2U);
     EXPECT_EQ(screen.progress.size(), 2U);
@@ -152,9 +152,9 @@ TEST_F(UploadRunTest, AStatusThatIsNotNamedShowsItsBoxAndTheUploadGoesOn)
 {
     run.start();
     prompts.expectMessage(u"Error 503"_s, u"Uploading is failed.\r\n1.2.0|Error #503\r\n"_s, PromptIcon::Warning);
-    client.answer(Answer(503, "1.2.0|"));
+    client.answer(httpAnswer(503, "1.2.0|"));
     prompts.expectMessage(u"Error 404"_s, u"Document not found"_s, PromptIcon::Warning);
-    client.answer(Answer(404, "no such page"));
+    client.answer(httpAnswer(404, "no such page"));
     EXPECT_TRUE(run.isTransferring());
     EXPECT_EQ(client.requests.size(), 3U);
     EXPECT_TRUE(client.lastFileName().endsWith("\\pictures\\cups.png"));
@@ -171,10 +171,10 @@ TEST_F(UploadRunTest, AnErrorInAnyAnswerStopsTheUploadAndLeavesTheScreenReady)
     const QString wrongLogin = u"Incorrect login or password! In case you forgot your password please visit:\r\n"_s +
                                VendorAddresses::passwordRecovery();
     const std::vector<Row> rows{
-        {Answer(200, "401"), u"Error 0"_s, wrongLogin},
-        {Answer(200, "500"), u"Error 0"_s, u"Server internal error"_s},
-        {Answer(200, "error"), {}, {}},
-        {Answer(404, "error"), u"Error 404"_s, u"Document not found"_s},
+        {httpAnswer(200, "401"), u"Error 0"_s, wrongLogin},
+        {httpAnswer(200, "500"), u"Error 0"_s, u"Server internal error"_s},
+        {httpAnswer(200, "error"), {}, {}},
+        {httpAnswer(404, "error"), u"Error 404"_s, u"Document not found"_s},
     };
     for (const Row& row : rows) {
         for (int before = 0; before < 20; ++before) {
@@ -182,7 +182,7 @@ TEST_F(UploadRunTest, AnErrorInAnyAnswerStopsTheUploadAndLeavesTheScreenReady)
             client.requests.clear();
             run.start();
             for (int i = 0; i < before; ++i) {
-                client.answer(Answer(200, i == 0 ? "1.2.0|" : "ok"));
+                client.answer(httpAnswer(200, i == 0 ? "1.2.0|" : "ok"));
             }
             if (!row.title.isEmpty()) {
                 prompts.expectMessage(row.title, row.text, PromptIcon::Warning);
@@ -198,14 +198,14 @@ TEST_F(UploadRunTest, AnErrorInAnyAnswerStopsTheUploadAndLeavesTheScreenReady)
 TEST_F(UploadRunTest, AListThatCannotBeReadClosesTheScreen)
 {
     run.start();
-    client.answer(Answer(200, "")); // without a word
+    client.answer(httpAnswer(200, "")); // without a word
     EXPECT_EQ(screen.closings, 1);
     EXPECT_FALSE(run.isTransferring());
     EXPECT_FALSE(screen.hourglass);
 
     run.start();
     prompts.expectMessage(u"Error 13"_s, u"Type mismatch\r\n"_s, PromptIcon::Warning);
-    client.answer(Answer(200, "1.2.0|cup.png|big|x\r\n"));
+    client.answer(httpAnswer(200, "1.2.0|cup.png|big|x\r\n"));
     EXPECT_EQ(screen.closings, 2);
     EXPECT_FALSE(run.isTransferring());
     EXPECT_EQ(client.requests.size(), 2U);
@@ -215,7 +215,7 @@ TEST_F(UploadRunTest, WithoutAnAnswerToTheListTheScreenClosesAfterItsBox)
 {
     run.start();
     prompts.expectMessage(u"Uploading data"_s, noListText, PromptIcon::Critical);
-    client.answer(Failure(u"Connection refused"_s, 1));
+    client.answer(httpFailure(u"Connection refused"_s, 1));
     EXPECT_EQ(log(), "anna\r\nhttp://shop.test/\r\nConnection refused|1\r\n");
     EXPECT_EQ(screen.closings, 1);
     EXPECT_FALSE(run.isTransferring());
@@ -225,10 +225,10 @@ TEST_F(UploadRunTest, WithoutAnAnswerToTheListTheScreenClosesAfterItsBox)
 TEST_F(UploadRunTest, WithoutAnAnswerToAFileTheScreenStaysOpen)
 {
     run.start();
-    client.answer(Answer(200, "1.2.0|"));
-    client.answer(Answer(200, "ok"));
+    client.answer(httpAnswer(200, "1.2.0|"));
+    client.answer(httpAnswer(200, "ok"));
     prompts.expectMessage(u"Uploading data"_s, unknownErrorText, PromptIcon::Critical);
-    client.answer(Failure(u"Connection closed"_s, 2));
+    client.answer(httpFailure(u"Connection closed"_s, 2));
     EXPECT_EQ(log(), "anna\r\nhttp://shop.test/\r\nConnection closed|2\r\n");
     expectReady();
 }
@@ -274,37 +274,37 @@ TEST_F(UploadRunTest, AFileThatHoldsTheBoundaryIsNamedAndNothingOfTheShopIsSent)
         screen.progress.clear();
         const QByteArray before = fileBytes(files.path(row.file));
         const QByteArray after = row.file == u"shop.xml"_s ? QByteArray("</Name></Shop></Tarnwick>") : QByteArray();
-        WriteFile(files.path(row.file), row.ahead + smuggled + after);
+        writeFile(files.path(row.file), row.ahead + smuggled + after);
         run.start();
         prompts.expectMessage(u"Uploading data"_s,
                               row.named + u" cannot be sent: a line that begins with \"--AaB03x\" ends what the server "
                                           "reads."_s,
                               PromptIcon::Warning);
-        client.answer(Answer(200, "1.2.0|"));
+        client.answer(httpAnswer(200, "1.2.0|"));
         EXPECT_EQ(client.requests.size(), 1U); // the one for the list
         EXPECT_EQ(screen.progress, std::vector<int>{0});
         expectReady();
         EXPECT_FALSE(QFile::exists(files.path(u"upload.log"_s)));
-        WriteFile(files.path(row.file), before);
+        writeFile(files.path(row.file), before);
     }
 }
 
 TEST_F(UploadRunTest, AFileThatCannotBeReadKeepsNoOtherFromBeingSearched)
 {
     ASSERT_TRUE(QFile::remove(files.path(u"pictures/cups.png"_s)));
-    WriteFile(files.path(u"templates/menu.html"_s), "--AaB03x");
+    writeFile(files.path(u"templates/menu.html"_s), "--AaB03x");
     run.start();
     prompts.expectMessage(
         u"Uploading data"_s,
         u"The template menu.html cannot be sent: a line that begins with \"--AaB03x\" ends what the server reads."_s,
         PromptIcon::Warning);
-    client.answer(Answer(200, "1.2.0|"));
+    client.answer(httpAnswer(200, "1.2.0|"));
     EXPECT_EQ(client.requests.size(), 1U);
 }
 
 TEST_F(UploadRunTest, APictureThatTheServerHasIsNotSearched)
 {
-    WriteFile(files.path(u"pictures/cups.png"_s), "--AaB03x");
+    writeFile(files.path(u"pictures/cups.png"_s), "--AaB03x");
     expectComplete();
     run.start();
     client.answerAll("cups.png|8|x\r\n");
@@ -345,14 +345,15 @@ TEST_F(UploadRunTest, AListOfMoreThanFourMegabytesIsAFailure)
     const qsizetype most = qsizetype{4} * 1024 * 1024;
     const QByteArray version = "1.2.0|";
     run.start();
-    client.answer(Answer(200, version + QByteArray(most - version.size(), 'x'))); // a line without an end is not read
+    client.answer(
+        httpAnswer(200, version + QByteArray(most - version.size(), 'x'))); // a line without an end is not read
     EXPECT_EQ(client.requests.size(), 2U);
     run.abandon();
 
     client.requests.clear();
     run.start();
     prompts.expectMessage(u"Uploading data"_s, noListText, PromptIcon::Critical);
-    client.answer(Answer(200, version + QByteArray(most + 1 - version.size(), 'x')));
+    client.answer(httpAnswer(200, version + QByteArray(most + 1 - version.size(), 'x')));
     EXPECT_EQ(client.requests.size(), 1U);
     EXPECT_EQ(log(), "anna\r\nhttp://shop.test/\r\nThe answer is too long|6\r\n");
     EXPECT_EQ(screen.closings, 1);
@@ -362,7 +363,7 @@ TEST_F(UploadRunTest, AListOfMoreThanFourMegabytesIsAFailure)
 
 TEST_F(UploadRunTest, APictureNameThatLeadsOutOfItsFolderIsNotSent)
 {
-    WriteFile(files.path(u"shop.xml"_s), "<Tarnwick><Shop><Category><Picture>../shop.xml</Picture></Category>"
+    writeFile(files.path(u"shop.xml"_s), "<Tarnwick><Shop><Category><Picture>../shop.xml</Picture></Category>"
                                          "<ShopDesign/></Shop></Tarnwick>");
     run.start();
     prompts.expectMessage(u"Uploading data"_s, unknownErrorText, PromptIcon::Critical);
@@ -374,18 +375,18 @@ TEST_F(UploadRunTest, APictureNameThatLeadsOutOfItsFolderIsNotSent)
 TEST_F(UploadRunTest, AShopFileWithoutItsElementsStopsWithTheHourglassOn)
 {
     const auto title = u"Ambrel eCommerce Software"_s;
-    WriteFile(files.path(u"shop.xml"_s), "<Tarnwick/>");
+    writeFile(files.path(u"shop.xml"_s), "<Tarnwick/>");
     run.start();
     prompts.expectMessage(title, u"Error in the configuration XML file. No 'Shop' node."_s);
-    client.answer(Answer(200, "1.2.0|"));
+    client.answer(httpAnswer(200, "1.2.0|"));
     EXPECT_FALSE(run.isTransferring());
     EXPECT_TRUE(screen.hourglass);
     EXPECT_EQ(screen.closings, 0);
 
-    WriteFile(files.path(u"shop.xml"_s), "<Tarnwick><Shop/></Tarnwick>");
+    writeFile(files.path(u"shop.xml"_s), "<Tarnwick><Shop/></Tarnwick>");
     run.start();
     prompts.expectMessage(title, u"Error in the configuration XML file. No 'ShopDesign' node."_s);
-    client.answer(Answer(200, "1.2.0|"));
+    client.answer(httpAnswer(200, "1.2.0|"));
     EXPECT_FALSE(run.isTransferring());
     EXPECT_TRUE(screen.hourglass);
     EXPECT_EQ(client.requests.size(), 2U);
@@ -395,7 +396,7 @@ TEST_F(UploadRunTest, NothingTrapsAFailureOfTheWalk)
 {
     ASSERT_TRUE(QDir(files.path(u"pictures"_s)).removeRecursively());
     run.start();
-    EXPECT_EQ(errorOf([this] { client.answer(Answer(200, "1.2.0|")); }), 75);
+    EXPECT_EQ(errorOf([this] { client.answer(httpAnswer(200, "1.2.0|")); }), 75);
     EXPECT_FALSE(QFile::exists(files.path(u"upload.log"_s)));
 }
 
@@ -403,7 +404,7 @@ TEST_F(UploadRunTest, AFailureStaysInTheLogUntilTheScreenOpensAgain)
 {
     run.start();
     prompts.expectMessage(u"Uploading data"_s, noListText, PromptIcon::Critical);
-    client.answer(Failure(u"Connection refused"_s, 1));
+    client.answer(httpFailure(u"Connection refused"_s, 1));
     expectComplete();
     run.start();
     client.answerAll({});
@@ -417,7 +418,7 @@ TEST_F(UploadRunTest, AFailureStaysInTheLogUntilTheScreenOpensAgain)
 TEST_F(UploadRunTest, AnAbandonedTransferSendsNothingMore)
 {
     run.start();
-    client.answer(Answer(200, "1.2.0|"));
+    client.answer(httpAnswer(200, "1.2.0|"));
     run.abandon();
     EXPECT_FALSE(client.isWaiting());
     EXPECT_FALSE(run.isTransferring());
@@ -446,10 +447,10 @@ TEST_F(UploadRunTest, AnUploadThatIsAbandonedBehindABoxDoesNotGoOn)
         client.requests.clear();
         ended.start();
         for (int i = 0; i < before; ++i) {
-            client.answer(Answer(200, "1.2.0|"));
+            client.answer(httpAnswer(200, "1.2.0|"));
         }
         ending.expectMessage(u"Error 404"_s, u"Document not found"_s, PromptIcon::Warning);
-        client.answer(Answer(404, "1.2.0|"));
+        client.answer(httpAnswer(404, "1.2.0|"));
         EXPECT_FALSE(client.isWaiting());
         EXPECT_EQ(client.requests.size(), static_cast<std::size_t>(before) + 1);
         EXPECT_EQ(screen.closings, 0);

@@ -28,7 +28,7 @@ QString localised(const QString& textWithPoint);
 
 // The bytes of a file; a failed test when it cannot be read.
 QByteArray fileBytes(const QString& path);
-void WriteFile(const QString& path, const QByteArray& bytes);
+void writeFile(const QString& path, const QByteArray& bytes);
 
 // A temporary application folder with the sub-folders that an installation has.
 class TemporaryShopFolder

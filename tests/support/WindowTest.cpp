@@ -54,8 +54,8 @@ void WindowTest::useSampleShop()
 
 void WindowTest::useShop(const QByteArray& inside)
 {
-    WriteFile(files.path(u"shop.xml"_s), "<Tarnwick><Shop>" + inside + "</Shop></Tarnwick>");
-    WriteFile(files.path(u"countries.txt"_s), "Norway\r\n");
+    writeFile(files.path(u"shop.xml"_s), "<Tarnwick><Shop>" + inside + "</Shop></Tarnwick>");
+    writeFile(files.path(u"countries.txt"_s), "Norway\r\n");
 }
 
 void letBePainted(MainForm& window)

@@ -25,7 +25,7 @@ protected:
 
     void write(const QString& page, const QByteArray& bytes)
     {
-        WriteFile(shop.path(u"templates/"_s + page + u".html"_s), bytes);
+        writeFile(shop.path(u"templates/"_s + page + u".html"_s), bytes);
     }
     void remove(const QString& page) { QFile::remove(shop.path(u"templates/"_s + page + u".html"_s)); }
 
@@ -63,7 +63,7 @@ TEST_F(TemplatesSet, ThePathIsTheTemplatesFolderAndCanBeChanged)
     EXPECT_TRUE(set.Path.endsWith(QDir::separator()));
 
     const TemporaryShopFolder other;
-    WriteFile(other.path(u"templates/main.html"_s), "other\r\n");
+    writeFile(other.path(u"templates/main.html"_s), "other\r\n");
     set.Path = other.folder().templatesFolder();
     set.ReLoad(u"main"_s, u"main"_s);
     EXPECT_EQ(set.templates.Item(u"main"_s)->template_text, u"other\r"_s);

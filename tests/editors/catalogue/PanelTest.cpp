@@ -29,7 +29,7 @@ void PanelTest::SetUp()
             "<Category><Id>3</Id><Name>Green</Name>"
             "<Product><Id>5</Id><Name>Mint</Name><Price>8</Price><Related/></Product></Category>"
             "<Product><Id>4</Id><Name>Sencha</Name><Price>10</Price><Related/></Product></Category>");
-    WriteFile(files.path(u"countries.txt"_s), "Norway\r\nIceland\r\nMalta\r\n");
+    writeFile(files.path(u"countries.txt"_s), "Norway\r\nIceland\r\nMalta\r\n");
     start();
 }
 

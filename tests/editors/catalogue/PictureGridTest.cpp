@@ -45,14 +45,14 @@ protected:
 
     void savePicture(const QString& name, const QSize& size = {20, 10}, const char* format = "PNG") const
     {
-        WriteFile(files.path(name), pictureBytes(size, format));
+        writeFile(files.path(name), pictureBytes(size, format));
     }
     // picture000.png and so on.
     void savePictures(int count) const
     {
         const QByteArray bytes = pictureBytes({20, 10}, "PNG");
         for (int i = 0; i < count; ++i) {
-            WriteFile(files.path(u"pictures/picture%1.png"_s.arg(i, 3, 10, QChar(u'0'))), bytes);
+            writeFile(files.path(u"pictures/picture%1.png"_s.arg(i, 3, 10, QChar(u'0'))), bytes);
         }
     }
 
@@ -176,7 +176,7 @@ TEST_F(PictureGridTest, MakesNoThumbnailThatWasScrolledAwayBeforeItsTurn)
 TEST_F(PictureGridTest, ShowsThePicturesThemselvesUnderTheirBareNames)
 {
     savePicture(u"pictures/red.png"_s, {300, 200});
-    WriteFile(files.path(u"pictures/broken.png"_s), "no picture at all");
+    writeFile(files.path(u"pictures/broken.png"_s), "no picture at all");
     openDialog();
     settle();
     EXPECT_EQ(colourOf(u"red.png"_s), QColor(0xcc2211));
@@ -201,7 +201,7 @@ TEST_F(PictureGridTest, ReadsNoThumbnailThatWouldTakeLong)
         SCOPED_TRACE(row.format);
         const QString path = files.path(u"pictures/large"_s);
         const bool isJpeg = qstrcmp(row.format, "JPG") == 0;
-        WriteFile(path, pictureBytes(row.size, row.format, isJpeg ? QImage::Format_Grayscale8 : QImage::Format_Mono));
+        writeFile(path, pictureBytes(row.size, row.format, isJpeg ? QImage::Format_Grayscale8 : QImage::Format_Mono));
         const Thumbnail thumbnail = readThumbnail(path, {100, 76}, 1.5);
         EXPECT_EQ(thumbnail.size, row.size);
         EXPECT_EQ(!thumbnail.picture.isNull(), row.isShown);
@@ -222,7 +222,7 @@ TEST_F(PictureGridTest, DoesNotBlowUpASmallPicture)
 TEST_F(PictureGridTest, TellsTheSizeOfTheChosenOneInPixelsAndBytes)
 {
     savePicture(u"pictures/cup.png"_s, {120, 40});
-    WriteFile(files.path(u"pictures/broken.png"_s), QByteArray(2048, 'x'));
+    writeFile(files.path(u"pictures/broken.png"_s), QByteArray(2048, 'x'));
     openDialog();
     const auto* words = part<QLabel>("lblSize");
     EXPECT_EQ(words->text(), QString());
@@ -343,7 +343,7 @@ TEST_F(PictureGridTest, AddsTheFilesThatAreDroppedOntoIt)
     savePicture(u"one.png"_s);
     savePicture(u"two.jpg"_s, {8, 6}, "JPG");
     savePicture(u"picture000.png"_s, {50, 40});
-    WriteFile(files.path(u"notes.txt"_s), "no picture");
+    writeFile(files.path(u"notes.txt"_s), "no picture");
     openDialog();
     prompts.answerYesNo(u"Tarnwick"_s, u"Overwrite this file?"_s, false);
     EXPECT_EQ(drop(grid()->viewport(), {u"one.png"_s, u"notes.txt"_s, u"two.jpg"_s, u"picture000.png"_s}), u"taken"_s);
@@ -367,7 +367,7 @@ TEST_F(PictureGridTest, AddsTheFilesThatAreDroppedOntoThePreviewBesideIt)
 
 TEST_F(PictureGridTest, RefusesWhatIsNoFileOfAPicture)
 {
-    WriteFile(files.path(u"notes.txt"_s), "no picture");
+    writeFile(files.path(u"notes.txt"_s), "no picture");
     QDir().mkpath(files.path(u"folder.png"_s));
     openDialog();
     EXPECT_EQ(drop(grid()->viewport(), {u"notes.txt"_s, u"folder.png"_s, u"gone.png"_s}), u"refused"_s);

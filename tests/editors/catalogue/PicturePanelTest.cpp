@@ -29,7 +29,7 @@ protected:
         PanelTest::SetUp();
         savePicture(u"pictures/Cup.png"_s, 40, 30);
         savePicture(u"pictures/pot.png"_s, 120, 80);
-        WriteFile(files.path(u"pictures/broken.png"_s), "no picture at all");
+        writeFile(files.path(u"pictures/broken.png"_s), "no picture at all");
         clickNode(u"ID4"_s);
     }
 
@@ -58,7 +58,7 @@ protected:
         }
         bytes += QByteArray::fromHex("0000000049444154") + QByteArray::fromHex("35af061e") +
                  QByteArray::fromHex("0000000049454e44ae426082");
-        WriteFile(files.path(name), bytes);
+        writeFile(files.path(name), bytes);
     }
 
     clsSelectedImage& image() const { return *product("4")->selectedImage(); }

@@ -181,7 +181,7 @@ protected:
             const QByteArray name = variableOf(control).toLatin1();
             text += "[" + name + "=<!--:" + name + ":-->]";
         }
-        WriteFile(files.path(u"templates/%1.html"_s.arg(QLatin1String(GetParam().page))),
+        writeFile(files.path(u"templates/%1.html"_s.arg(QLatin1String(GetParam().page))),
                   text + "<!--:cycle:categories:-->" + text + "<!--:end:categories:--><!--:cycle:products:-->" + text +
                       "<!--:end:products:-->");
     }

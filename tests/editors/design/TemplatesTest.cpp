@@ -153,7 +153,7 @@ TEST_P(Templates, StayOpenWhenTheWayBackIsRefused)
 
 TEST_P(Templates, GoBackToTheFactoryCopyWhenTheAdvancedModeIsLeft)
 {
-    WriteFile(files.path(u"templates/%1.html.def"_s.arg(QLatin1String(GetParam().page))), "<p>made\r\nthere\r\n");
+    writeFile(files.path(u"templates/%1.html.def"_s.arg(QLatin1String(GetParam().page))), "<p>made\r\nthere\r\n");
     openInDesign(GetParam().button);
     switchOn(GetParam());
     // Nothing was changed, and the file is replaced all the same.
@@ -262,7 +262,7 @@ TEST_P(Templates, WithAMistakeDoOnLeavingWhatWasSaidBeforehand)
 TEST_P(Templates, ThatAreBrokenLockNoMoreThanTheirOwnPage)
 {
     const QByteArray broken = "<p>one</p>\r\n<!--:if:open=Yes:--><p>two</p>\r\n";
-    WriteFile(pathOf(GetParam().page), broken);
+    writeFile(pathOf(GetParam().page), broken);
     readAsAtAStart();
     click("ShopDesignSBtn");
     for (const ManagerCase& manager : managers) {
@@ -308,7 +308,7 @@ TEST_P(Templates, WithoutAFileShowNothingAndMakeNoneByLeaving)
 
 TEST_P(Templates, ThatAreBrokenAreWrittenOnLeavingWhenTheyWereMended)
 {
-    WriteFile(pathOf(GetParam().page), "<!--:if:open=Yes:-->");
+    writeFile(pathOf(GetParam().page), "<!--:if:open=Yes:-->");
     readAsAtAStart();
     openInDesign(GetParam().button);
     switchOn(GetParam());
@@ -324,13 +324,13 @@ TEST_P(Templates, ThatAreBrokenBringTheOtherAbsentPagesBackWithTheirRestore)
 {
     const char* other = qstrcmp(GetParam().page, "search") == 0 ? "cart" : "search";
     const QByteArray good = templateFile(other);
-    WriteFile(pathOf(GetParam().page), "<!--:if:open=Yes:-->");
-    WriteFile(pathOf(other), "<!--:");
+    writeFile(pathOf(GetParam().page), "<!--:if:open=Yes:-->");
+    writeFile(pathOf(other), "<!--:");
     readAsAtAStart();
     openInDesign(GetParam().button);
     switchOn(GetParam());
     EXPECT_FALSE(hasTemplate(other));
-    WriteFile(pathOf(other), good); // by another program
+    writeFile(pathOf(other), good); // by another program
     pressIn("RestoreTemplateBtn");
     EXPECT_EQ(templateFile(GetParam().page), factoryCopy(GetParam().page));
     EXPECT_EQ(state(), noMistakes);
@@ -387,7 +387,7 @@ TEST_F(Templates, ThatAreBrokenAreWrittenAndThenFailToBeRead)
 
 TEST_F(Templates, AreWrittenBackInTheirEncoding)
 {
-    WriteFile(files.path(u"templates/category.html"_s), "Gr\xFC\xDF"
+    writeFile(files.path(u"templates/category.html"_s), "Gr\xFC\xDF"
                                                         "e\r\n");
     window->CurrentTemplatesSet().ReLoad(u"category"_s, u"category"_s);
     openInDesign(category.button);
@@ -404,7 +404,7 @@ TEST_F(Templates, AreWrittenBackInTheirEncoding)
 
 TEST_F(Templates, KeepTheirNonBreakingBlanks)
 {
-    WriteFile(files.path(u"templates/category.html"_s), "a\xC2\xA0"
+    writeFile(files.path(u"templates/category.html"_s), "a\xC2\xA0"
                                                         "b\r\n");
     window->CurrentTemplatesSet().ReLoad(u"category"_s, u"category"_s);
     openInDesign(category.button);
@@ -416,7 +416,7 @@ TEST_F(Templates, KeepTheirNonBreakingBlanks)
 
 TEST_F(Templates, AreWrittenWithCrLfWhateverTheirLineEnds)
 {
-    WriteFile(files.path(u"templates/category.html"_s), "one\ntwo\rthree\r\nfour");
+    writeFile(files.path(u"templates/category.html"_s), "one\ntwo\rthree\r\nfour");
     window->CurrentTemplatesSet().ReLoad(u"category"_s, u"category"_s);
     openInDesign(category.button);
     switchOn(category);
@@ -480,7 +480,7 @@ TEST_F(Templates, HaveTheirTagsInColour)
 
 TEST_F(Templates, AreSearchedFromTheCursorAndOnFromTheOtherEnd)
 {
-    WriteFile(files.path(u"templates/category.html"_s), "one two\r\nTwo three\r\n");
+    writeFile(files.path(u"templates/category.html"_s), "one two\r\nTwo three\r\n");
     window->CurrentTemplatesSet().ReLoad(u"category"_s, u"category"_s);
     openInDesign(category.button);
     switchOn(category);
@@ -504,7 +504,7 @@ TEST_F(Templates, AreSearchedFromTheCursorAndOnFromTheOtherEnd)
 
 TEST_F(Templates, ThatTheSetDoesNotHaveAreReadOnceMore)
 {
-    WriteFile(pathOf("category"), "from the file\r\n");
+    writeFile(pathOf("category"), "from the file\r\n");
     set().templates.Remove(u"category"_s);
     openInDesign(category.button);
     EXPECT_EQ(templateText("category"), u"from the file\r"_s);
@@ -515,8 +515,8 @@ TEST_F(Templates, ThatTheSetDoesNotHaveAreReadOnceMore)
 // A file that another program mended, or broke, is left alone as long as its page is in the set.
 TEST_F(Templates, ThatTheSetHasAreNotReadAgain)
 {
-    WriteFile(pathOf("category"), "<!--:");
-    WriteFile(pathOf("menu"), "<!--:");
+    writeFile(pathOf("category"), "<!--:");
+    writeFile(pathOf("menu"), "<!--:");
     set().templates.Remove(u"search"_s);
     openInDesign(category.button);
     EXPECT_FALSE(hasTemplate("search"));

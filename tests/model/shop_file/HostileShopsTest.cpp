@@ -38,7 +38,7 @@ protected:
         load(shopFile(""));
         session.registerShop();
         const QString path = session.folder.path() + u"/import.txt"_s;
-        WriteFile(path, bytes);
+        writeFile(path, bytes);
         return errorOf([&] { clsImporter(session).Import(path); });
     }
 };
@@ -50,7 +50,7 @@ class EachHostileInput : public HostileShops, public testing::WithParamInterface
 TEST_P(EachHostileInput, TakesNoMoreTimeAndMemoryThanAnHonestFile)
 {
     const QByteArray bytes = GetParam().make(GetParam().size);
-    WriteFile(u"/proc/self/clear_refs"_s, "5"); // the peak counts from here
+    writeFile(u"/proc/self/clear_refs"_s, "5"); // the peak counts from here
     const qint64 before = memory("VmRSS:");
     const double start = processorSeconds();
     EXPECT_EQ(take(GetParam(), bytes), 0);

@@ -21,7 +21,7 @@ TEST_F(ShopFileFailures, AFileWithoutAShopShowsTheOneBoxAndTheSessionGoesOn)
     for (const QByteArray& bytes : {QByteArray("<Tarnwick/>"), QByteArray("<Tarnwick><shop/></Tarnwick>"), QByteArray(),
                                     QByteArray("<Tarnwick><Shop></Tarnwick>"), QByteArray("no XML at all"),
                                     QByteArray("<Shop/><Shop/>"), QByteArray("<Tarnwick><Shop/></Tarnwick>text")}) {
-        WriteFile(session.folder.shopFile(), bytes);
+        writeFile(session.folder.shopFile(), bytes);
         prompts.expectMessage(title, noShop, PromptIcon::None);
         EXPECT_FALSE(loadShop(session)) << bytes.toStdString();
         EXPECT_NE(session.shop, nullptr);
@@ -129,7 +129,7 @@ TEST_F(ShopFileFailures, ATableOfCostsThatNoMemoryHoldsIsError7)
 
 TEST_F(ShopFileFailures, ReadingTellsWhichFileItIs)
 {
-    WriteFile(session.folder.shopFile(), "<Tarnwick><Shop/></Tarnwick>");
+    writeFile(session.folder.shopFile(), "<Tarnwick><Shop/></Tarnwick>");
     EXPECT_EQ(circumstancesOf([this] { loadShop(session); }), QStringList{u"The file \"shop.xml\" was being read."_s});
 }
 
@@ -138,7 +138,7 @@ TEST_F(ShopFileFailures, ReadingTellsWhichFileItIs)
 TEST_F(ShopFileFailures, SavingAShopWhoseLoadFailedIsError91AndTheFileStays)
 {
     const QByteArray file = "<Tarnwick/>";
-    WriteFile(session.folder.shopFile(), file);
+    writeFile(session.folder.shopFile(), file);
     prompts.expectMessage(title, noShop, PromptIcon::None);
     loadShop(session);
     EXPECT_EQ(errorOf([this] { writeShopFile(session); }), 91);

@@ -15,7 +15,7 @@ TEST_F(ShopFileLookUp, ACategoryWithoutANameTakesItsSubCategorys)
 
 TEST_F(ShopFileLookUp, AShopTakesWhatItLacksFromWhateverComesFirstBelowIt)
 {
-    WriteFile(
+    writeFile(
         session.folder.shopFile(),
         "<Tarnwick><Shop><Version>1.2.0</Version><SelectedCountries/><X><Taxes><Type><Name>VAT</Name></Type></Taxes>"
         "</X><Category><Id>2</Id><Name>C</Name><Description>CD</Description></Category></Shop></Tarnwick>");
@@ -78,7 +78,7 @@ TEST_F(ShopFileLookUp, NamesAreMatchedByExactCase)
 
 TEST_F(ShopFileLookUp, AnIndentedFileReadsLikeARawOneAndALeafOfBlanksIsKept)
 {
-    WriteFile(session.folder.shopFile(), R"(<?xml version="1.0"?>
+    writeFile(session.folder.shopFile(), R"(<?xml version="1.0"?>
 <!-- a shop -->
 <Tarnwick>
   <Shop>

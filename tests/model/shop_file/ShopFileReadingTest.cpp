@@ -212,7 +212,7 @@ TEST_F(ShopFileReading, DiscountsArePushedAtTheEndOfALoad)
 
 TEST_F(ShopFileReading, CountriesAreAllChildNodesWhateverTheirNames)
 {
-    WriteFile(session.folder.shopFile(),
+    writeFile(session.folder.shopFile(),
               "<Tarnwick><Shop><Version>1.2.0</Version><SelectedCountries>Mali"
               "<Country7>Chad</Country7><!-- none --><X>Peru</X></SelectedCountries></Shop></Tarnwick>");
     loadShop(session);

@@ -58,7 +58,7 @@ protected:
     // A shop file with these elements, read.
     void openShop(const QByteArray& elements)
     {
-        WriteFile(session.folder.shopFile(), shopFile(elements));
+        writeFile(session.folder.shopFile(), shopFile(elements));
         ASSERT_EQ(open(), 0);
     }
     void save() { unsaved->shopWasSaved(writeShopFile(*next)); }
@@ -201,7 +201,7 @@ TEST_F(TheUnsavedShop, IsNeverWrittenBeforeAShopWasReadWhole)
     next->shop = std::make_shared<ShopClass>(next->services);
     unsaved->keep();
     EXPECT_FALSE(isThere());
-    WriteFile(session.folder.shopFile(), shopFile(category("2", "<Discount><Status>no word</Status></Discount>")));
+    writeFile(session.folder.shopFile(), shopFile(category("2", "<Discount><Status>no word</Status></Discount>")));
     EXPECT_EQ(open(), 94);
     next->shop->name = u"Moss"_s;
     unsaved->keep();
@@ -211,7 +211,7 @@ TEST_F(TheUnsavedShop, IsNeverWrittenBeforeAShopWasReadWhole)
 
 TEST_F(TheUnsavedShop, IsNeverWrittenWhereThereIsNoShop)
 {
-    WriteFile(session.folder.shopFile(), "<Tarnwick/>");
+    writeFile(session.folder.shopFile(), "<Tarnwick/>");
     prompts.expectMessage(title, u"Error in the configuration XML file. No 'Shop' node."_s);
     EXPECT_EQ(open(), 0);
     next->shop->name = u"Moss"_s;
@@ -289,7 +289,7 @@ TEST_F(TheUnsavedShop, GoesWithASaveAndTheFolderIsFlushed)
     openShop("");
     next->shop->name = u"Moss"_s;
     unsaved->keep();
-    WriteFile(session.folder.unsavedShopFile() + u".new"_s, "half of"); // as a kill leaves it
+    writeFile(session.folder.unsavedShopFile() + u".new"_s, "half of"); // as a kill leaves it
     calls->takeCalls();
     save();
     EXPECT_EQ(QDir(session.folder.path()).entryList({u"shop.*"_s}, QDir::Files), QStringList{u"shop.xml"_s});
@@ -325,7 +325,7 @@ TEST_F(TheUnsavedShop, ThatCannotBeRemovedIsALineInTheLog)
 
 TEST_F(TheUnsavedShop, IsNothingToASecondWindow)
 {
-    WriteFile(session.folder.unsavedShopFile(), "the first one's");
+    writeFile(session.folder.unsavedShopFile(), "the first one's");
     restart(UnsavedShop::Window::Second);
     openShop("");
     next->shop->name = u"Moss"_s;
@@ -395,7 +395,7 @@ TEST_F(TheNextStart, AsksBetweenItsFirstLineAndItsReading)
 TEST_F(TheNextStart, SetsTheUnsavedShopAsideOnNoAndReadsTheShopFile)
 {
     leaveUnsaved();
-    WriteFile(session.folder.oldUnsavedShopFile(), "an older one");
+    writeFile(session.folder.oldUnsavedShopFile(), "an older one");
     const QByteArray kept = bytes();
     prompts.answerYesNo(title, question, false);
     EXPECT_EQ(open(), 0);
@@ -432,7 +432,7 @@ TEST_F(TheNextStart, NeedsNoShopFileForTheUnsavedShop)
 TEST_F(TheNextStart, SavesAnUnsavedShopOfAnotherVersionAtOnce)
 {
     openShop("");
-    WriteFile(session.folder.unsavedShopFile(), shopFile("<Description>older</Description>", "1.1.9"));
+    writeFile(session.folder.unsavedShopFile(), shopFile("<Description>older</Description>", "1.1.9"));
     restart();
     next->callbacks.SaveShop = [this] { save(); };
     prompts.answerYesNo(title, question, true);
@@ -474,7 +474,7 @@ TEST_P(TheNextStartWith, SetsItAsideWithALineAndNoQuestionAndKeepsNothingOfIt)
 {
     openShop(category("2", ""));
     const QByteArray shopBefore = fileBytes(session.folder.shopFile());
-    WriteFile(session.folder.unsavedShopFile(), GetParam().bytes);
+    writeFile(session.folder.unsavedShopFile(), GetParam().bytes);
     next->log.reset();
     restart();
     EXPECT_EQ(open(), 0);
@@ -519,7 +519,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(TheNextStart, LeavesAnUnsavedShopThatCannotBeSetAsideWhereItIs)
 {
     openShop("");
-    WriteFile(session.folder.unsavedShopFile(), "half of");
+    writeFile(session.folder.unsavedShopFile(), "half of");
     restart();
     calls->failAtCall(u"rename"_s, ErrorNumber::PermissionDenied);
     EXPECT_EQ(open(), 0);

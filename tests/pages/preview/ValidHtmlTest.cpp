@@ -23,7 +23,7 @@ protected:
         QStringList names;
         for (const SamplePage& page : pages) {
             names << u"page%1.html"_s.arg(names.size());
-            WriteFile(files.path(names.last()), page.document.toUtf8());
+            writeFile(files.path(names.last()), page.document.toUtf8());
         }
         QProcess tidy;
         tidy.setWorkingDirectory(files.path(u"."_s));
@@ -100,7 +100,7 @@ TEST_F(ValidHtmlTest, QuotesInNamesAndTextsBreakNoPage)
 TEST_F(ValidHtmlTest, AMistakeInATemplateIsFound)
 {
     const QString cart = files.path(u"templates/cart.html"_s);
-    WriteFile(cart, fileBytes(cart).replace("</h1>", ""));
+    writeFile(cart, fileBytes(cart).replace("</h1>", ""));
     templates.parseTemplates();
     const SamplePage full = page(u"?addtoshopcart=&product_id=20&quantity=1&price=76"_s);
     EXPECT_FALSE(complaints({full}).filter(u"missing </h1>"_s).isEmpty());

@@ -23,7 +23,7 @@ const QString upgradeText = u"You don't have the latest version of the software.
                             "For more info go to "_s +
                             VendorAddresses::upgrade();
 
-RawServer::Handler Status(int status, const QByteArray& body)
+RawServer::Handler statusAnswer(int status, const QByteArray& body)
 {
     return [status, body](QTcpSocket& socket, const RawServer::Request&) { sendAnswer(socket, status, body); };
 }
@@ -128,30 +128,34 @@ TEST_F(HostileAnswersTest, EachAnswerToTheListRequestEndsInItsMessage)
              socket.disconnectFromHost();
          },
          list, Then::Closes, true},
-        {"a megabyte of list", Status(200, megabyte), {}, Then::GoesOn},
-        {"a size that is no number", Status(200, "1.2.0|a.png|x|y\r\n"), mismatch, Then::Closes},
-        {"a size that is too large", Status(200, "1.2.0|a.png|4294967296|y\r\n"), overflow, Then::Closes},
-        {"a line without bars", Status(200, "1.2.0|a.png\r\n"), invalid, Then::Closes},
-        {"a name twice", Status(200, "1.2.0|a.png|1|x\r\na.png|1|x\r\n"), twice, Then::Closes},
-        {"bytes of no meaning", Status(200, QByteArray("1.2.0|\0\xFF\xFE|1\0|x\r\n", 16)), mismatch, Then::Closes},
-        {"a blank behind the version", Status(200, "1.2.0 |"), upgrade, Then::Closes},
-        {"another version", Status(200, "1.3.0|"), upgrade, Then::Closes},
-        {"an empty answer", Status(200, ""), {}, Then::Closes},
-        {"a page", Status(200, "<html>Welcome</html>"), {}, Then::Closes},
-        {"401 in a 200", Status(200, "401"), {u"Error 0"_s, wrongLoginText}, Then::StaysOpen},
-        {"401 and more in a 200", Status(200, "4017|"), {u"Error 0"_s, wrongLoginText}, Then::StaysOpen},
-        {"500 in a 200", Status(200, "500"), {u"Error 0"_s, u"Server internal error"_s}, Then::StaysOpen},
-        {"the word error", Status(200, "error"), {}, Then::StaysOpen},
-        {"401", Status(401, "no"), {u"Error 401"_s, u"Login or password isn't correct"_s}, Then::Closes},
-        {"404", Status(404, "no"), {u"Error 404"_s, u"Document not found"_s}, Then::Closes},
-        {"500", Status(500, "no"), {u"Error 500"_s, u"Server internal error"_s}, Then::Closes},
-        {"503", Status(503, "no"), {u"Error 503"_s, u"Uploading is failed.\r\nnoError #503\r\n"_s}, Then::Closes},
-        {"302", Status(302, ""), {u"Error 302"_s, u"Uploading is failed.\r\nError #302\r\n"_s}, Then::Closes},
+        {"a megabyte of list", statusAnswer(200, megabyte), {}, Then::GoesOn},
+        {"a size that is no number", statusAnswer(200, "1.2.0|a.png|x|y\r\n"), mismatch, Then::Closes},
+        {"a size that is too large", statusAnswer(200, "1.2.0|a.png|4294967296|y\r\n"), overflow, Then::Closes},
+        {"a line without bars", statusAnswer(200, "1.2.0|a.png\r\n"), invalid, Then::Closes},
+        {"a name twice", statusAnswer(200, "1.2.0|a.png|1|x\r\na.png|1|x\r\n"), twice, Then::Closes},
+        {"bytes of no meaning", statusAnswer(200, QByteArray("1.2.0|\0\xFF\xFE|1\0|x\r\n", 16)), mismatch,
+         Then::Closes},
+        {"a blank behind the version", statusAnswer(200, "1.2.0 |"), upgrade, Then::Closes},
+        {"another version", statusAnswer(200, "1.3.0|"), upgrade, Then::Closes},
+        {"an empty answer", statusAnswer(200, ""), {}, Then::Closes},
+        {"a page", statusAnswer(200, "<html>Welcome</html>"), {}, Then::Closes},
+        {"401 in a 200", statusAnswer(200, "401"), {u"Error 0"_s, wrongLoginText}, Then::StaysOpen},
+        {"401 and more in a 200", statusAnswer(200, "4017|"), {u"Error 0"_s, wrongLoginText}, Then::StaysOpen},
+        {"500 in a 200", statusAnswer(200, "500"), {u"Error 0"_s, u"Server internal error"_s}, Then::StaysOpen},
+        {"the word error", statusAnswer(200, "error"), {}, Then::StaysOpen},
+        {"401", statusAnswer(401, "no"), {u"Error 401"_s, u"Login or password isn't correct"_s}, Then::Closes},
+        {"404", statusAnswer(404, "no"), {u"Error 404"_s, u"Document not found"_s}, Then::Closes},
+        {"500", statusAnswer(500, "no"), {u"Error 500"_s, u"Server internal error"_s}, Then::Closes},
+        {"503", statusAnswer(503, "no"), {u"Error 503"_s, u"Uploading is failed.\r\nnoError #503\r\n"_s}, Then::Closes},
+        {"302", statusAnswer(302, ""), {u"Error 302"_s, u"Uploading is failed.\r\nError #302\r\n"_s}, Then::Closes},
         {"503 with a good list",
-         Status(503, "1.2.0|"),
+         statusAnswer(503, "1.2.0|"),
          {u"Error 503"_s, u"Uploading is failed.\r\n1.2.0|Error #503\r\n"_s},
          Then::GoesOn},
-        {"404 with the word error", Status(404, "error"), {u"Error 404"_s, u"Document not found"_s}, Then::StaysOpen},
+        {"404 with the word error",
+         statusAnswer(404, "error"),
+         {u"Error 404"_s, u"Document not found"_s},
+         Then::StaysOpen},
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.what);
@@ -166,14 +170,14 @@ TEST_F(HostileAnswersTest, EachAnswerToAFileEndsInItsMessage)
     const std::vector<Row> rows{
         {"dropped", drop, unknown, Then::StaysOpen, true},
         {"cut off", cutOff, unknown, Then::StaysOpen, true},
-        {"an empty answer", Status(200, ""), {}, Then::GoesOn},
-        {"401 in a 200", Status(200, "401 no"), {u"Error 0"_s, wrongLoginText}, Then::StaysOpen},
-        {"500 in a 200", Status(200, "500"), {u"Error 0"_s, u"Server internal error"_s}, Then::StaysOpen},
-        {"401", Status(401, "no"), {u"Error 401"_s, u"Login or password isn't correct"_s}, Then::GoesOn},
-        {"404", Status(404, "no"), {u"Error 404"_s, u"Document not found"_s}, Then::GoesOn},
-        {"500", Status(500, "no"), {u"Error 500"_s, u"Server internal error"_s}, Then::GoesOn},
-        {"503", Status(503, "no"), {u"Error 503"_s, u"Uploading is failed.\r\nnoError #503\r\n"_s}, Then::GoesOn},
-        {"the word error", Status(500, "error"), {u"Error 500"_s, u"Server internal error"_s}, Then::StaysOpen},
+        {"an empty answer", statusAnswer(200, ""), {}, Then::GoesOn},
+        {"401 in a 200", statusAnswer(200, "401 no"), {u"Error 0"_s, wrongLoginText}, Then::StaysOpen},
+        {"500 in a 200", statusAnswer(200, "500"), {u"Error 0"_s, u"Server internal error"_s}, Then::StaysOpen},
+        {"401", statusAnswer(401, "no"), {u"Error 401"_s, u"Login or password isn't correct"_s}, Then::GoesOn},
+        {"404", statusAnswer(404, "no"), {u"Error 404"_s, u"Document not found"_s}, Then::GoesOn},
+        {"500", statusAnswer(500, "no"), {u"Error 500"_s, u"Server internal error"_s}, Then::GoesOn},
+        {"503", statusAnswer(503, "no"), {u"Error 503"_s, u"Uploading is failed.\r\nnoError #503\r\n"_s}, Then::GoesOn},
+        {"the word error", statusAnswer(500, "error"), {u"Error 500"_s, u"Server internal error"_s}, Then::StaysOpen},
     };
     for (const std::size_t number : {1U, 3U, 19U}) { // the shop, a picture, the last template
         for (const Row& row : rows) {

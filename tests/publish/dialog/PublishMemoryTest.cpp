@@ -33,14 +33,14 @@ protected:
         for (int i = 0; i < count; ++i) {
             const QByteArray name = QByteArray::number(i) + ".png";
             shop += "<Product><Picture>" + name + "</Picture></Product>";
-            WriteFile(files.path("pictures/"_L1 + QString::fromLatin1(name)), QByteArray(size, static_cast<char>(i)));
+            writeFile(files.path("pictures/"_L1 + QString::fromLatin1(name)), QByteArray(size, static_cast<char>(i)));
         }
-        WriteFile(files.path(u"shop.xml"_s), shop + "</Category><ShopDesign/></Shop></Tarnwick>");
+        writeFile(files.path(u"shop.xml"_s), shop + "</Category><ShopDesign/></Shop></Tarnwick>");
         open();
         typeAll(server.address());
         malloc_trim(0); // what was freed so far does not count as idle
         const qint64 idle = statusOf("VmRSS:");
-        WriteFile(u"/proc/self/clear_refs"_s, "5"); // the peak counts from here
+        writeFile(u"/proc/self/clear_refs"_s, "5"); // the peak counts from here
         expectComplete();
         click("OkBtn");
         waitForEnd();

@@ -93,7 +93,7 @@ TEST_F(PublishToServerTest, ASecondUploadSendsNoPictureAndAChangedSizeSendsThatO
     // Equal size counts as equal content.
     QByteArray other = fileBytes(files.path(u"pictures/teapot-moor.png"_s));
     other.fill('y');
-    WriteFile(files.path(u"pictures/teapot-moor.png"_s), other);
+    writeFile(files.path(u"pictures/teapot-moor.png"_s), other);
     EXPECT_EQ(publish().size(), 15U);
 }
 
@@ -103,9 +103,9 @@ TEST_F(PublishToServerTest, PicturesWithLettersOutsideOfAsciiAreKnownAgain)
     QByteArray shop = "<Tarnwick><Shop><Category>";
     for (const QString& name : names) {
         shop += "<Product><Picture>" + name.toUtf8() + "</Picture></Product>";
-        WriteFile(files.path("pictures/"_L1 + name), "picture of " + name.toUtf8());
+        writeFile(files.path("pictures/"_L1 + name), "picture of " + name.toUtf8());
     }
-    WriteFile(files.path(u"shop.xml"_s), shop + "</Category><ShopDesign/></Shop></Tarnwick>");
+    writeFile(files.path(u"shop.xml"_s), shop + "</Category><ShopDesign/></Shop></Tarnwick>");
     EXPECT_EQ(publish().size(), 17U);
     EXPECT_EQ(publish().size(), 15U);
 }

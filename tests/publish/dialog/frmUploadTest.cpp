@@ -94,7 +94,7 @@ TEST_F(frmUploadTest, WithoutALogTheFieldsHaveTheirDefaults)
 
 TEST_F(frmUploadTest, TheLogFillsLoginAndAddress)
 {
-    WriteFile(files.path(u"upload.log"_s), "anna\r\nhttp://cups.test/\r\nConnection refused|1\r\n");
+    writeFile(files.path(u"upload.log"_s), "anna\r\nhttp://cups.test/\r\nConnection refused|1\r\n");
     open();
     EXPECT_EQ(textOf("txtLogin"), u"anna"_s);
     EXPECT_EQ(textOf("txtURL"), u"http://cups.test/"_s);
@@ -103,7 +103,7 @@ TEST_F(frmUploadTest, TheLogFillsLoginAndAddress)
 
 TEST_F(frmUploadTest, ALogOfMoreThanFourItemsLeavesTheFieldsAsTheyStand)
 {
-    WriteFile(files.path(u"upload.log"_s), "1\r\n2\r\n3\r\n4\r\n5\r\n");
+    writeFile(files.path(u"upload.log"_s), "1\r\n2\r\n3\r\n4\r\n5\r\n");
     open();
     EXPECT_EQ(textOf("txtURL"), VendorAddresses::defaultShop());
     EXPECT_EQ(textOf("txtLogin"), u""_s);
@@ -215,7 +215,7 @@ TEST_F(frmUploadTest, TheAddressIsCorrectedInItsField)
 
 TEST_F(frmUploadTest, AShopFileWithoutItsDesignLeavesTheHourglassOnUntilTheDialogCloses)
 {
-    WriteFile(files.path(u"shop.xml"_s), "<Tarnwick><Shop/></Tarnwick>");
+    writeFile(files.path(u"shop.xml"_s), "<Tarnwick><Shop/></Tarnwick>");
     open();
     prompts.expectMessage(u"Ambrel eCommerce Software"_s,
                           u"Error in the configuration XML file. No 'ShopDesign' node."_s);
