@@ -37,10 +37,16 @@ void Walk::hover(const char* name) const
     const QPoint middle = target->findChild<QLabel*>(u"IconImg"_s)->geometry().center();
     QMouseEvent move(QEvent::MouseMove, middle, target->mapToGlobal(middle), Qt::NoButton, Qt::NoButton, {});
     QApplication::sendEvent(target, &move);
+    target->setAttribute(Qt::WA_UnderMouse); // the mouse itself stands elsewhere
+    target->update();
 }
 
 void Walk::leaveButtons() const
 {
+    for (ShortcartButton* each : window.findChildren<ShortcartButton*>()) {
+        each->setAttribute(Qt::WA_UnderMouse, false);
+        each->update();
+    }
     QMouseEvent move(QEvent::MouseMove, QPoint(), window.mapToGlobal(QPoint()), Qt::NoButton, Qt::NoButton, {});
     QApplication::sendEvent(&window, &move);
 }
@@ -144,8 +150,10 @@ QPixmap Walk::picture() const
             }
             const QPoint place = above->pos() - window.pos();
             painter.drawPixmap(place, above->grab());
-            painter.setPen(window.palette().color(QPalette::Disabled, QPalette::WindowText));
-            painter.drawRect(QRect(place, above->size()).adjusted(-1, -1, 0, 0));
+            if (!popUps) { // those have an edge of their own; a dialog has that of the desktop
+                painter.setPen(window.palette().color(QPalette::Disabled, QPalette::WindowText));
+                painter.drawRect(QRect(place, above->size()).adjusted(-1, -1, 0, 0));
+            }
         }
     }
     return whole;
