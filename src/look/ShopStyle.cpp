@@ -36,9 +36,13 @@ void paintHeaderLabel(const QStyleOptionHeader& option, QPainter& painter, const
     painter.setFont(boldFont());
     const bool isOn = option.state.testFlag(QStyle::State_Enabled);
     painter.setPen(tone(isOn ? Tone::Text : Tone::Off));
-    const bool isCentred = option.textAlignment.testFlag(Qt::AlignHCenter);
+    Qt::Alignment alignment = option.textAlignment;
+    if (!(alignment & Qt::AlignVertical_Mask)) { // the toolkit's choice of a file names none
+        alignment |= Qt::AlignVCenter;
+    }
+    const bool isCentred = alignment.testFlag(Qt::AlignHCenter);
     const QRect words = option.rect.adjusted(isCentred ? 0 : Measure::Wide, 0, isCentred ? 0 : -Measure::Tight, 0);
-    style.drawItemText(&painter, words, static_cast<int>(option.textAlignment), option.palette, isOn, option.text);
+    style.drawItemText(&painter, words, static_cast<int>(alignment), option.palette, isOn, option.text);
     painter.restore();
 }
 
@@ -182,13 +186,14 @@ void ShopStyle::drawControl(ControlElement element, const QStyleOption* option, 
         break;
     case CE_Header:
         if (const auto* header = as<QStyleOptionHeader>(option)) {
-            paintHeaderSection(*header, *painter);
+            paintHeaderGround(header->rect, header->orientation, *painter);
             paintHeaderLabel(*header, *painter, *this);
             return;
         }
         break;
     case CE_HeaderEmptyArea:
-        fillSharp(*painter, option->rect, tone(Tone::Header));
+        paintHeaderGround(option->rect, option->state.testFlag(State_Horizontal) ? Qt::Horizontal : Qt::Vertical,
+                          *painter);
         return;
     case CE_TabBarTabShape:
         if (const auto* tab = as<QStyleOptionTab>(option)) {

@@ -111,11 +111,10 @@ void paintBranch(const QStyleOption& option, QPainter& painter)
     }
 }
 
-void paintHeaderSection(const QStyleOptionHeader& option, QPainter& painter)
+void paintHeaderGround(const QRect& place, Qt::Orientation orientation, QPainter& painter)
 {
-    fillSharp(painter, option.rect, tone(Tone::Header));
-    if (option.orientation == Qt::Horizontal) {
-        const QRect& place = option.rect;
+    fillSharp(painter, place, tone(Tone::Header));
+    if (orientation == Qt::Horizontal) {
         fillSharp(painter,
                   QRectF(place.left(), place.bottom() + 1 - Measure::Hairline, place.width(), Measure::Hairline),
                   tone(Tone::Line));

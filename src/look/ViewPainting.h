@@ -7,7 +7,6 @@
 
 class QPainter;
 class QStyleOption;
-class QStyleOptionHeader;
 class QStyleOptionViewItem;
 class QWidget;
 
@@ -22,4 +21,5 @@ QPalette cellPalette(const QPalette& palette);
 void paintFocus(const QStyleOption& option, QPainter& painter, const QWidget* widget);
 // The angle ahead of a row that can be opened.
 void paintBranch(const QStyleOption& option, QPainter& painter);
-void paintHeaderSection(const QStyleOptionHeader& option, QPainter& painter);
+// A title of a grid, or what is left beside the last one.
+void paintHeaderGround(const QRect& place, Qt::Orientation orientation, QPainter& painter);

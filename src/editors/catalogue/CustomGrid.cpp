@@ -6,6 +6,7 @@
 #include "editors/PanelParts.h"
 #include "editors/Twips.h"
 #include "editors/catalogue/GridPictures.h"
+#include "editors/catalogue/RuledTable.h"
 #include "look/Measures.h"
 #include "model/ShopSession.h"
 
@@ -42,7 +43,7 @@ enum UseRole { CheckedRole = MarkedRole + 1, ModelIndexRole };
 
 CustomGrid::CustomGrid(PanelHost& host, QWidget* parent)
     : QWidget(parent),
-      BaseGrd(named(new QTableWidget(this), "BaseGrd", u"Table"_s)),
+      BaseGrd(named<QTableWidget>(new RuledTable(this), "BaseGrd", u"Table"_s)),
       ForGridTxt(named(new QLineEdit(BaseGrd->viewport()), "ForGridTxt", u"Text of the cell"_s)),
       AddItemButtonLbl(new LinkLabel("AddItemButtonLbl", u"Add item"_s, this)),
       m_host(host)
@@ -50,7 +51,6 @@ CustomGrid::CustomGrid(PanelHost& host, QWidget* parent)
     BaseGrd->setSelectionMode(QAbstractItemView::SingleSelection);
     BaseGrd->setEditTriggers(QAbstractItemView::NoEditTriggers);
     BaseGrd->setTabKeyNavigation(false);
-    BaseGrd->setShowGrid(false); // the style draws the lines between rows
     BaseGrd->setItemDelegate(newGridDelegate(BaseGrd));
     BaseGrd->verticalHeader()->hide();
     BaseGrd->verticalHeader()->setDefaultSectionSize(gridRowHeight(BaseGrd->fontMetrics()));

@@ -6,6 +6,7 @@
 
 #include <QIcon>
 #include <QPixmapCache>
+#include <QStyle>
 #include <QStyledItemDelegate>
 
 using namespace Qt::StringLiterals;
@@ -28,6 +29,12 @@ public:
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
     {
         QStyledItemDelegate::paint(painter, option, index);
+        if (const auto picture = index.data(Qt::DecorationRole).value<QPixmap>(); !picture.isNull()) {
+            const QStyle& style = *option.widget->style();
+            const bool isOn = option.state.testFlag(QStyle::State_Enabled);
+            style.drawItemPixmap(painter, option.rect, Qt::AlignCenter,
+                                 isOn ? picture : style.generatedIconPixmap(QIcon::Disabled, picture, &option));
+        }
         if (index.data(MarkedRole).toBool()) {
             // Inside the ring of the focus, so that both show.
             const int inset = option.state.testFlag(QStyle::State_HasFocus) ? Measure::Ring : 0;
@@ -40,13 +47,13 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
-        if (option->features.testFlag(QStyleOptionViewItem::HasDecoration)) {
-            option->decorationSize = option->rect.size();
-            option->decorationAlignment = Qt::AlignCenter;
-        }
+        // The style would put the picture beside a text, and take its pixels for those of the window.
+        option->features.setFlag(QStyleOptionViewItem::HasDecoration, false);
+        option->icon = QIcon();
         if (!option->state.testFlag(QStyle::State_Enabled)) {
             const QBrush grey = option->widget->palette().brush(QPalette::Disabled, QPalette::Text);
             option->palette.setBrush(QPalette::Disabled, QPalette::Text, grey);
+            option->font.setUnderline(false); // as any link that is off
         }
     }
 };

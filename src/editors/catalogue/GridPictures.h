@@ -14,5 +14,5 @@ QPixmap usePicture(bool isChecked, const QWidget& grid);
 inline constexpr int MarkedRole = Qt::UserRole;
 
 // Puts a picture into the middle of its cell, rings the marked cells, and greys the links too in a grid that is not in
-// use. The parent owns it.
+// use, which takes their line away. The parent owns it.
 QAbstractItemDelegate* newGridDelegate(QObject* parent);

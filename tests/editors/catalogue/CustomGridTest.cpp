@@ -3,8 +3,11 @@
 #include "editors/LinkLabel.h"
 #include "editors/NumericBox.h"
 #include "editors/TextArea.h"
+#include "look/Tones.h"
 
 #include <QHeaderView>
+#include <QImage>
+#include <QPixmap>
 #include <QTextCursor>
 
 using namespace Qt::StringLiterals;
@@ -336,6 +339,47 @@ TEST_F(Grid, RemovesOneRowByADoubleClick)
     EXPECT_EQ(cell(grid.get(), 0, 0), u"b"_s);
     QTest::mouseClick(cells, Qt::LeftButton, {}, place); // a single one still does
     EXPECT_EQ(grid->BaseGrd->rowCount(), 1);
+}
+
+TEST_F(Grid, PutsTheMarkOfUseInTheMiddleOfItsCellAtAnyScale)
+{
+    grid->InitForCharges();
+    QTableWidgetItem* use = grid->BaseGrd->item(0, 2);
+    const QRect room = grid->BaseGrd->visualItemRect(use);
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        QPixmap mark((QSizeF(18, 18) * scale).toSize());
+        mark.setDevicePixelRatio(scale);
+        mark.fill(Qt::red);
+        use->setData(Qt::DecorationRole, mark);
+        const QImage shown = grid->BaseGrd->viewport()->grab(room).toImage();
+        QRect red;
+        for (int y = 0; y < shown.height(); ++y) {
+            for (int x = 0; x < shown.width(); ++x) {
+                if (shown.pixelColor(x, y) == QColor(Qt::red)) {
+                    red |= QRect(x, y, 1, 1);
+                }
+            }
+        }
+        EXPECT_EQ(red.size(), QSize(18, 18)) << scale;
+        EXPECT_NEAR(red.center().x(), shown.rect().center().x(), 1) << scale;
+        EXPECT_NEAR(red.center().y(), shown.rect().center().y(), 1) << scale;
+    }
+}
+
+TEST_F(Grid, DrawsTheLineOfARowToItsOwnEdge)
+{
+    grid->InitForCharges(); // whose columns leave some room beside them
+    QCoreApplication::processEvents();
+    const QTableWidget& table = *grid->BaseGrd;
+    const int end = table.horizontalHeader()->length();
+    const int width = table.viewport()->width();
+    ASSERT_LT(end, width);
+    const QImage shown = table.viewport()->grab().toImage();
+    const int bottom = table.rowViewportPosition(0) + table.rowHeight(0) - 1;
+    for (const int x : {0, end - 1, end, width - 1}) {
+        EXPECT_EQ(shown.pixelColor(x, bottom), tone(Tone::Line)) << x;
+        EXPECT_EQ(shown.pixelColor(x, bottom - 1), tone(Tone::Field)) << x;
+    }
 }
 
 } // namespace
