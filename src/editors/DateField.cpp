@@ -8,9 +8,9 @@
 #include "look/Type.h"
 
 #include <QAbstractItemView>
+#include <QBoxLayout>
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QLayout>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -128,7 +128,10 @@ MonthCalendar::MonthCalendar(const Clock& clock, QWidget* parent)
     const auto pick = [this](const QDate& date) { write(localDateText(date)); };
     auto* noDate = new QPushButton(u"No date"_s, this);
     noDate->setObjectName(u"NoDateBtn"_s);
-    layout()->addWidget(noDate);
+    auto* foot = new QHBoxLayout;
+    foot->setContentsMargins(Measure::Gap, Measure::Tight, Measure::Gap, Measure::Gap);
+    foot->addWidget(noDate);
+    qobject_cast<QVBoxLayout*>(layout())->addLayout(foot);
     connect(noDate, &QPushButton::clicked, this, [this] { write(QString()); });
     connect(this, &QCalendarWidget::clicked, this, pick);   // with the mouse
     connect(this, &QCalendarWidget::activated, this, pick); // with the Enter key
@@ -137,7 +140,7 @@ MonthCalendar::MonthCalendar(const Clock& clock, QWidget* parent)
 // The bar of month and year on the ground of the days, with plain angles, and a weekend like any day.
 void MonthCalendar::dress()
 {
-    setContentsMargins(1, 1, 1, 1);
+    setContentsMargins(Measure::FieldFrame, Measure::FieldFrame, Measure::FieldFrame, Measure::FieldFrame);
     if (auto* bar = findChild<QWidget*>(u"qt_calendar_navigationbar"_s)) {
         bar->setBackgroundRole(QPalette::Base);
         QPalette colours = bar->palette(); // its buttons write in the colour of a selected text
@@ -205,7 +208,9 @@ QSize MonthCalendar::sizeOfMonth() const
     const auto* bar = findChild<const QWidget*>(u"qt_calendar_navigationbar"_s);
     const auto* button = findChild<const QWidget*>(u"NoDateBtn"_s);
     const int row = rowHeight(fontMetrics());
-    return {7 * (row + Measure::Section) + 2, bar->sizeHint().height() + 7 * row + button->sizeHint().height() + 2};
+    const int foot = Measure::Tight + button->sizeHint().height() + Measure::Gap;
+    const int frame = 2 * Measure::FieldFrame;
+    return {7 * (row + Measure::Section) + frame, bar->sizeHint().height() + 7 * row + foot + frame};
 }
 
 void MonthCalendar::write(const QString& text)

@@ -16,7 +16,7 @@ constexpr int Far = 24;
 
 constexpr int Hairline = 1;
 constexpr int Ring = 2;       // focus, error
-constexpr int FieldFrame = 2; // room for the ring around a list or a text area
+constexpr int FieldFrame = 2; // room for the ring around a list or a text area, and for the edge of a menu
 constexpr int Radius = 4;
 constexpr int LargeRadius = 6;
 constexpr int SmallRadius = 3;

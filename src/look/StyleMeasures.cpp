@@ -189,7 +189,7 @@ int ShopStyle::pixelMetric(PixelMetric metric, const QStyleOption* option, const
     case PM_TabBarBaseOverlap:
         return 0;
     case PM_MenuPanelWidth:
-        return Measure::Hairline;
+        return Measure::FieldFrame; // a hairline alone is half covered by the entries at 150 %
     case PM_MenuVMargin:
         return Measure::Tight;
     case PM_MenuHMargin:

@@ -138,12 +138,18 @@ TEST_F(Look, GivesTheCalendarAnEdgeInBothLooks)
     for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
         showScheme(scheme);
         QCoreApplication::processEvents();
-        const QImage shown = month->grab().toImage();
-        const QPoint middle = shown.rect().center();
-        const QPoint last = shown.rect().bottomRight();
-        for (const QPoint& place : {QPoint(0, middle.y()), QPoint(middle.x(), 0), QPoint(last.x(), middle.y()),
-                                    QPoint(middle.x(), last.y())}) {
-            EXPECT_EQ(shown.pixelColor(place), toneIn(scheme, Tone::Edge)) << place.x() << ' ' << place.y();
+        for (const double scale : {1.0, 1.5}) {
+            QImage shown((QSizeF(month->size()) * scale).toSize(), QImage::Format_RGB32);
+            shown.setDevicePixelRatio(scale);
+            month->render(&shown);
+            const QPoint middle = shown.rect().center();
+            const QPoint last = shown.rect().bottomRight();
+            for (int line = 0; line < qRound(scale); ++line) {
+                for (const QPoint& place : {QPoint(line, middle.y()), QPoint(middle.x(), line),
+                                            QPoint(last.x() - line, middle.y()), QPoint(middle.x(), last.y() - line)}) {
+                    EXPECT_EQ(shown.pixelColor(place), toneIn(scheme, Tone::Edge)) << place.x() << ' ' << place.y();
+                }
+            }
         }
     }
     month->hide();

@@ -6,9 +6,11 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFrame>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -187,6 +189,50 @@ TEST(StyleOfRows, LeavesRoomForTheHighestLettersInEveryFontAndScale)
             }
         }
     }
+}
+
+TEST(StyleOfHeaders, PutsATitleInTheMiddleOfItsHeightThoughTheViewAsksForNone)
+{
+    const auto firstInk = [](Qt::Alignment alignment) {
+        QTableWidget grid(1, 1);
+        grid.setHorizontalHeaderLabels({u"HHH"_s});
+        grid.horizontalHeader()->setDefaultAlignment(alignment);
+        grid.horizontalHeader()->setFixedHeight(60);
+        grid.resize(200, 200);
+        grid.show();
+        const QImage image = shown(*grid.horizontalHeader()->viewport(), 1);
+        int row = 0;
+        while (row < 60 && inkRows(image, QRect(0, row, 90, 1), tone(Tone::Header)) == 0) {
+            ++row;
+        }
+        return row;
+    };
+    const int middle = firstInk(Qt::AlignLeft | Qt::AlignVCenter);
+    EXPECT_GT(middle, 15);
+    EXPECT_LT(middle, 35);
+    EXPECT_EQ(firstInk(Qt::AlignLeft), middle);
+}
+
+TEST(StyleOfMenus, KeepsAWholeEdgeAroundTheEntriesAtAnyScale)
+{
+    QMenu menu;
+    menu.addAction(u"One"_s);
+    menu.addSeparator();
+    menu.addAction(u"Another"_s);
+    menu.popup(QPoint());
+    QCoreApplication::processEvents();
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        const QImage image = shown(menu, scale);
+        const QRect inside = image.rect().marginsRemoved(QMargins(1, 1, 1, 1) * qRound(scale));
+        int others = 0; // pixels of the edge in another colour
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                others += !inside.contains(x, y) && image.pixelColor(x, y) != tone(Tone::Edge) ? 1 : 0;
+            }
+        }
+        EXPECT_EQ(others, 0) << scale;
+    }
+    menu.hide();
 }
 
 } // namespace

@@ -1,5 +1,9 @@
 #include "editors/design/ColourText.h"
 
+#include "look/Measures.h"
+#include "look/Paint.h"
+#include "look/Tones.h"
+
 #include <QPainter>
 
 namespace {
@@ -37,15 +41,18 @@ QPixmap colourSwatch(const QColor& colour, const QColor& edge, qreal pixelRatio)
 {
     QPixmap swatch = emptySwatch(pixelRatio);
     QPainter painter(&swatch);
-    painter.setPen(edge);
-    painter.setBrush(colour.isValid() ? QBrush(colour) : QBrush(Qt::NoBrush));
-    painter.drawRect(QRectF(0.5, 0.5, swatchSize - 1, swatchSize - 1));
+    const QRectF square(0, 0, swatchSize, swatchSize);
+    if (colour.isValid()) {
+        fillSharp(painter, square, colour);
+    }
+    drawRing(painter, square, 0, Measure::Hairline, edge);
     return swatch;
 }
 
 QPixmap styleSwatch(const QColor& text, const QColor& background, qreal pixelRatio)
 {
-    QPixmap swatch = colourSwatch(background, Qt::gray, pixelRatio);
+    // A piece of the page, which is light as a rule: its edge is seen on a light button and on a dark one.
+    QPixmap swatch = colourSwatch(background, toneIn(Scheme::Light, Tone::Edge), pixelRatio);
     QPainter painter(&swatch);
     QFont font = painter.font();
     font.setPixelSize(swatchSize - 4);

@@ -1,10 +1,12 @@
 // The style editor, its dialog, and the buttons that open it.
 #include "DesignTest.h"
 #include "design/CSSClass.h"
+#include "editors/design/ColourText.h"
 #include "editors/design/FontAndColorEditorPanel.h"
 
 #include <QComboBox>
 #include <QGroupBox>
+#include <QImage>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -366,6 +368,27 @@ TEST_F(Styles, LeaveTheWheelOverAClosedListToThePanelAroundIt)
     static_cast<QObject*>(list)->event(&wheel);
     EXPECT_EQ(list->currentIndex(), 0);
     EXPECT_FALSE(wheel.isAccepted()); // what is not accepted goes on to the widget around it
+}
+
+TEST(Swatches, HaveFourEqualEdgesAtAnyScale)
+{
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+        const QImage swatch = styleSwatch(Qt::white, Qt::white, scale).toImage();
+        const int last = qRound(SwatchIconSize.height() * scale) - 1;
+        const int middle = last / 2;
+        const auto edge = [&](const QPoint& from, const QPoint& inward) {
+            int width = 0;
+            while (width < middle && swatch.pixelColor(from + width * inward) != QColor(Qt::white)) {
+                ++width;
+            }
+            return width;
+        };
+        const int expected = qRound(scale);
+        EXPECT_EQ(edge({0, middle}, {1, 0}), expected) << "left at " << scale;
+        EXPECT_EQ(edge({middle, 0}, {0, 1}), expected) << "top at " << scale;
+        EXPECT_EQ(edge({last, middle}, {-1, 0}), expected) << "right at " << scale;
+        EXPECT_EQ(edge({middle, last}, {0, -1}), expected) << "bottom at " << scale;
+    }
 }
 
 } // namespace
