@@ -8,6 +8,8 @@
 #include "editors/design/pickers/PicturesList.h"
 #include "editors/design/pickers/frmSelectImage.h"
 #include "editors/design/pickers/ucSelectImage.h"
+#include "look/Theme.h"
+#include "look/Tones.h"
 
 #include <QApplication>
 #include <QDir>
@@ -346,6 +348,23 @@ TEST_F(Pictures, CannotBePickedByAControlWithoutItsForm)
     ucSelectImage control(*window, nullptr);
     control.SetActiveObject(product("4")->selectedImage());
     EXPECT_EQ(control.selectedImage(), nullptr);
+}
+
+TEST_F(Pictures, StandOnWhiteInADarkWindowTooButAnEmptyBoxDoesNot)
+{
+    PictureBox plain(u"Invalid Picture"_s);
+    plain.resize(144, 144);
+    plain.show();
+    const auto ground = [&plain] { return plain.grab().toImage().pixelColor(8, 8); };
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        showScheme(scheme);
+        EXPECT_EQ(ground(), tone(Tone::Field));
+        plain.showFile(files.path(u"pictures/Cup.png"_s));
+        EXPECT_EQ(ground(), QColor(Qt::white));
+        plain.showFile(files.path(u"pictures/broken.png"_s));
+        EXPECT_EQ(ground(), tone(Tone::Field));
+    }
+    showScheme(Scheme::Light);
 }
 
 } // namespace

@@ -2,6 +2,9 @@
 
 #include "base/RuntimeError.h"
 #include "editors/design/pickers/PictureFiles.h"
+#include "look/Measures.h"
+#include "look/Paint.h"
+#include "look/Tones.h"
 
 #include <QDragEnterEvent>
 #include <QImageReader>
@@ -19,7 +22,6 @@ PictureBox::PictureBox(const QString& invalidText, QWidget* parent) : QFrame(par
 {
     setFrameShape(QFrame::StyledPanel);
     setMinimumSize(120, 100);
-    setBackground(Qt::white); // pictures are made for pages, which are light as a rule
     setAcceptDrops(true);
     clear();
 }
@@ -73,19 +75,18 @@ void PictureBox::setMessage(const QString& message)
 
 void PictureBox::setBackground(const QColor& colour)
 {
-    QPalette colours = palette();
-    colours.setColor(QPalette::Base, colour);
-    colours.setColor(QPalette::Text, colour.lightness() < 128 ? Qt::white : Qt::black);
-    setPalette(colours);
+    m_background = colour;
+    update();
 }
 
 void PictureBox::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);
-    painter.fillRect(contentsRect(), palette().base());
+    // Only a picture stands on a page's ground: an empty box would be a white spot in the dark look.
+    fillRounded(painter, rect(), Measure::Radius, m_image.isNull() ? tone(Tone::Field) : m_background);
     const QRect place = contentsRect().adjusted(6, 6, -6, -6);
     if (m_image.isNull()) {
-        painter.setPen(palette().color(QPalette::Text));
+        painter.setPen(tone(Tone::Muted));
         painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, m_message);
     } else {
         QSize shown = QSize(m_size.width, m_size.height);

@@ -29,6 +29,7 @@ public:
     // What stands in the place of the picture; empty when the picture itself does.
     QString message() const { return m_message; }
 
+    // What a picture stands on; white until it is set.
     void setBackground(const QColor& colour);
 
     QSize sizeHint() const override { return {144, 144}; }
@@ -47,6 +48,7 @@ private:
 
     QString m_invalidText;
     QString m_message;
-    QImage m_image; // scaled down while it was read
+    QImage m_image;                  // scaled down while it was read
+    QColor m_background = Qt::white; // pictures are made for pages, which are light as a rule
     ImageSize m_size;
 };
