@@ -73,7 +73,9 @@ void paintScrollBar(const QStyleOptionSlider& option, QPainter& painter, const Q
                              .adjusted(beside, beside, -beside, -beside);
     const bool isHeld = option.state.testFlag(QStyle::State_MouseOver) || option.state.testFlag(QStyle::State_Sunken);
     QColor colour = tone(isHeld ? Tone::Muted : Tone::Edge);
-    if (hasOwnSelection(option.palette)) {
+    if (!option.state.testFlag(QStyle::State_Enabled)) {
+        colour = tone(Tone::EdgeOff); // what is off cannot be scrolled
+    } else if (hasOwnSelection(option.palette)) {
         colour = tone(isHeld ? Tone::TreeText : Tone::TreeThumb);
     }
     fillRounded(painter, place, Measure::Thumb / 2.0, colour);

@@ -2,6 +2,7 @@
 
 #include "editors/PanelParts.h"
 #include "editors/design/TemplateText.h"
+#include "look/Measures.h"
 #include "look/WordLabel.h"
 #include "template_engine/TemplateParser.h"
 #include "template_engine/Templates_Set.h"
@@ -30,7 +31,7 @@ TemplateEditor::TemplateEditor(bool writtenOnLeaving, QWidget* parent)
 
     auto* column = new QVBoxLayout(this);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(6);
+    column->setSpacing(Measure::Gap);
     column->addWidget(TemplateTxt, 1);
     column->addWidget(TemplateStateLbl);
     makeFindRow();
@@ -54,7 +55,9 @@ void TemplateEditor::makeFindRow()
     FindResultLbl->setObjectName(u"FindResultLbl"_s);
 
     auto* row = new QHBoxLayout;
+    row->setSpacing(Measure::Gap);
     row->addWidget(newCaption(u"&Find:"_s, FindTxt));
+    row->addSpacing(Measure::Wide - Measure::Gap);
     row->addWidget(FindTxt, 1);
     row->addWidget(FindNextBtn);
     row->addWidget(FindPreviousBtn);

@@ -83,8 +83,8 @@ void TemplateText::paintLineNumbers(const QRect& area, QWidget* margin)
 void TemplateText::resizeEvent(QResizeEvent* event)
 {
     QPlainTextEdit::resizeEvent(event);
-    const QRect inside = contentsRect();
-    m_margin->setGeometry(inside.left(), inside.top(), lineNumberWidth(), inside.height());
+    const QRect lines = viewport()->geometry(); // a scroll bar below them takes the room of the numbers too
+    m_margin->setGeometry(contentsRect().left(), lines.top(), lineNumberWidth(), lines.height());
 }
 
 void TemplateText::changeEvent(QEvent* event)

@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QFileInfo>
 #include <QLabel>
+#include <QScrollBar>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -461,6 +462,24 @@ TEST_F(Templates, StandInLettersOfOneWidthWithNumberedLines)
     EXPECT_EQ(numbers(), one);
     QTest::keyClick(field, Qt::Key_Return);
     EXPECT_NE(numbers(), one);
+}
+
+TEST_F(Templates, NumberNoLineThatStandsBehindTheBarBelowThem)
+{
+    openInDesign(category.button);
+    auto* field = in<QPlainTextEdit>("TemplateTxt");
+    field->setPlainText(QString(500, u'x'));
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(field->horizontalScrollBar()->isVisible());
+    const QRect text = field->viewport()->geometry();
+    int margins = 0;
+    for (const QWidget* part : field->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (part->isVisible() && part->geometry().right() < text.left()) {
+            EXPECT_EQ(part->geometry().bottom(), text.bottom());
+            ++margins;
+        }
+    }
+    EXPECT_EQ(margins, 1);
 }
 
 TEST_F(Templates, HaveTheirTagsInColour)
