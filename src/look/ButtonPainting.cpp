@@ -78,8 +78,8 @@ void paintButtonLabel(const QStyleOptionButton& option, QPainter& painter, const
     QRect room(0, 0, std::min(picture + words, option.rect.width()), option.rect.height());
     room.moveCenter(option.rect.center());
     if (!option.icon.isNull()) {
-        const QRect place(room.left(), room.center().y() - option.iconSize.height() / 2, option.iconSize.width(),
-                          option.iconSize.height());
+        const QRect place(room.left(), room.top() + (room.height() - option.iconSize.height()) / 2,
+                          option.iconSize.width(), option.iconSize.height());
         option.icon.paint(&painter, QStyle::visualRect(option.direction, option.rect, place), Qt::AlignCenter,
                           isOn ? QIcon::Normal : QIcon::Disabled);
     }

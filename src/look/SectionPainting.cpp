@@ -18,7 +18,7 @@ bool isSection(const QStyleOptionGroupBox& option)
 
 int besideHeading(const QStyleOptionGroupBox& option)
 {
-    return isSection(option) ? 0 : Measure::Section;
+    return isSection(option) ? 0 : Measure::Hairline + Measure::Section; // where the words below it begin
 }
 
 int aboveHeading(const QStyleOptionGroupBox& option)

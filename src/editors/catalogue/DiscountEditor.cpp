@@ -61,6 +61,7 @@ void DiscountEditor::makeOptions(PanelFrame* frame)
         QRadioButton* button = newOption(option.name, QLatin1String(option.caption), frame);
         m_buttons->addButton(button, static_cast<int>(i));
         auto* row = new QHBoxLayout;
+        row->setSpacing(Measure::Tight); // the option keeps some room behind its words
         row->addWidget(button);
         column->addLayout(row);
         if (option.has(UsesPercent)) {

@@ -4,6 +4,7 @@
 #include "editors/CatalogueTreeModel.h"
 #include "editors/LinkLabel.h"
 #include "editors/catalogue/RelatedProducts.h"
+#include "look/Measures.h"
 #include "look/TreeLook.h"
 #include "model/ShopSession.h"
 
@@ -42,6 +43,8 @@ ProductsRelatedPanel::ProductsRelatedPanel(PanelHost& host, QWidget* parent)
     RelatedProductsLst->setModel(m_related);
 
     auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(Measure::Gap);
+    grid->setVerticalSpacing(Measure::Tight);
     grid->addWidget(newCaption(u"All products"_s, AllProductsTree), 0, 0);
     grid->addWidget(AllProductsTree, 1, 0, 4, 1);
     grid->addWidget(ToRelatedLbl, 2, 1);

@@ -78,10 +78,11 @@ QWidget* CustomPageManager::makeEditor()
     PageContentTextCtl->setObjectName(u"PageContentTextCtl"_s);
     PageContentTextCtl->setTabChangesFocus(true);
     PageContentTextCtl->setMinimumHeight(140);
+    PageContentTextCtl->document()->setDocumentMargin(Measure::Gap - Measure::FieldFrame); // under the name
 
     auto* group = new Section(u"Your pages"_s, this, Section::Line::None);
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(8);
+    buttons->setSpacing(Measure::Gap);
     buttons->addWidget(AddPageBtn);
     buttons->addWidget(DeletePageBtn);
     auto* grid = new QGridLayout(group);

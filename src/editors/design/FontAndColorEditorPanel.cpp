@@ -85,7 +85,7 @@ FontAndColorEditorPanel::FontAndColorEditorPanel(PanelHost& host, QWidget* paren
     SampleLbl->setAccessibleName(u"Sample of the style"_s);
     SampleLbl->setAlignment(Qt::AlignCenter);
     SampleLbl->setAutoFillBackground(true);
-    SampleLbl->setMinimumSize(300, 72);
+    SampleLbl->setMinimumSize(300, 64);
     SampleLbl->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     form->addRow(SampleLbl);
     for (QWidget* field :

@@ -9,6 +9,7 @@
 #include "design/ShopDesignClass.h"
 
 #include <QString>
+#include <Qt>
 
 #include <optional>
 #include <span>
@@ -27,7 +28,8 @@ struct TextRow
     DesignOption option;
     const char* control;
     const char* caption;
-    int width = 620; // of the field at the most, in pixels
+    int width = 620;                        // of the field at the most, in pixels
+    Qt::AlignmentFlag side = Qt::AlignLeft; // a number stands at the right of its field
 };
 
 // Check boxes, and texts below them, that stand together.

@@ -12,7 +12,6 @@
 #include "editors/design/pickers/frmSelectedCustomPages.h"
 #include "editors/design/pickers/ucSelectCustPage.h"
 #include "look/Measures.h"
-#include "look/Section.h"
 #include "look/SwatchButton.h"
 #include "look/WordLabel.h"
 #include "model/ShopSession.h"
@@ -81,10 +80,9 @@ PageOptions::PageOptions(PanelHost& host, const ManagerTable& table, QWidget* pa
 
 // The controls --------------------------------------------------------------------------------------------------------
 
-QVBoxLayout* PageOptions::newGroup(const QString& caption)
+QVBoxLayout* PageOptions::newGroup(const QString& caption, Section::Line line)
 {
-    const bool isFirst = m_column->count() == 0; // the line below the tabs serves it
-    auto* box = new Section(caption, this, isFirst ? Section::Line::None : Section::Line::Above);
+    auto* box = new Section(caption, this, line);
     auto* column = new QVBoxLayout(box);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(Measure::Tight);
@@ -102,7 +100,8 @@ QPushButton* PageOptions::namedButton(const char* name, const QString& caption)
 
 void PageOptions::makeGroup(const OptionGroup& group)
 {
-    QVBoxLayout* column = newGroup(captionText(group.caption));
+    const bool isFirst = m_column->count() == 0; // the line below the tabs serves it
+    QVBoxLayout* column = newGroup(captionText(group.caption), isFirst ? Section::Line::None : Section::Line::Above);
     auto* grid = new ColumnGrid(mostColumns, 0, this);
     for (const SwitchRow& row : group.switches) {
         auto* box = new QCheckBox(captionText(row.caption), grid);
@@ -117,6 +116,7 @@ void PageOptions::makeGroup(const OptionGroup& group)
         QLineEdit* field = textField(this);
         field->setObjectName(QLatin1String(row.control));
         field->setMaximumWidth(row.width);
+        field->setAlignment(row.side);
         QLabel* caption = newCaption(captionText(row.caption), field);
         caption->setFixedHeight(controlHeight(caption->fontMetrics()));
         form->addRow(caption, field);

@@ -5,6 +5,7 @@
 
 #include "design/DesignOptions.h"
 #include "editors/design/ManagerTables.h"
+#include "look/Section.h"
 
 #include <QWidget>
 
@@ -43,7 +44,7 @@ private:
     void makeGroup(const OptionGroup& group);
     void makeImagesAndLists();
     void makeStyles();
-    QVBoxLayout* newGroup(const QString& caption);
+    QVBoxLayout* newGroup(const QString& caption, Section::Line line = Section::Line::Above);
     QLabel* addChoice(QGridLayout* grid, QPushButton* button);
     QPushButton* namedButton(const char* name, const QString& caption);
 

@@ -69,7 +69,7 @@ constexpr SwitchRow categoryProductSwitches[] = {
     {Category_AddToCart,          "chkIncludeAddToCart",          showAddToCart},
 };
 constexpr TextRow categoryProductTexts[] = {
-    {Category_Limit_Desc, "txtLimit", limit, numberWidth},
+    {Category_Limit_Desc, "txtLimit", limit, numberWidth, Qt::AlignRight},
 };
 constexpr OptionGroup categoryGroups[] = {
     {page,                       categoryPageSwitches,        categoryPageTexts},
@@ -172,7 +172,7 @@ constexpr SwitchRow searchSwitches[] = {
     {SearchPage_IncludeAddToCart,   "chkIncludeAddToCart",   showAddToCart},
 };
 constexpr TextRow searchTexts[] = {
-    {SearchPage_Limit_Desc, "txtLimit", limit, numberWidth},
+    {SearchPage_Limit_Desc, "txtLimit", limit, numberWidth, Qt::AlignRight},
 };
 constexpr OptionGroup searchGroups[] = {
     {page,     searchPageSwitches, searchPageTexts},
@@ -223,7 +223,7 @@ constexpr SwitchRow cartSwitches[] = {
     {CartPage_IncludeAddToCart,   "chkIncludeAddToCart",   "Let visitors change the quantity"},
 };
 constexpr TextRow cartTexts[] = {
-    {CartPage_Limit_Desc, "txtLimit", limit, numberWidth},
+    {CartPage_Limit_Desc, "txtLimit", limit, numberWidth, Qt::AlignRight},
 };
 constexpr OptionGroup cartGroups[] = {
     {page,     cartPageSwitches, cartPageTexts},

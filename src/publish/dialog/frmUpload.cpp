@@ -22,6 +22,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int leastTarget = 24; // pixels that can be pressed
+constexpr int leastButton = 96; // pixels, as in the other dialogs
 
 } // namespace
 
@@ -104,12 +105,18 @@ void frmUpload::layOutControls()
     fields->addRow(u"ADDRESS"_s, txtURL); // makes the field the label's buddy
     fields->addRow(u"LOGIN"_s, txtLogin);
     fields->addRow(u"PASSWORD"_s, txtPassword);
+    for (QLineEdit* field : {txtURL, txtLogin, txtPassword}) {
+        // As high as its field: a label of one line would stand above the field's words.
+        fields->labelForField(field)->setMinimumHeight(field->sizeHint().height());
+    }
 
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(8);
     buttons->addStretch();
-    buttons->addWidget(OkBtn);
-    buttons->addWidget(CancelBtn);
+    for (QPushButton* button : {OkBtn, CancelBtn}) {
+        button->setMinimumWidth(leastButton);
+        buttons->addWidget(button);
+    }
 
     // The hidden bar keeps its room, so that nothing moves when it appears.
     QSizePolicy policy = ProgressBar->sizePolicy();

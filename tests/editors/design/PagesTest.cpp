@@ -1,7 +1,10 @@
 // The manager of the custom pages.
 #include "CustomPagesTest.h"
+#include "look/Tones.h"
 #include "support/PageNameCases.h"
 
+#include <QGroupBox>
+#include <QImage>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -212,6 +215,16 @@ TEST_F(CustomPages, ComeBackWithResetAndStayOpen)
     EXPECT_EQ(nameField()->text(), u"Delivery"_s);
     EXPECT_EQ(textField()->toPlainText(), u"text of Delivery"_s);
     EXPECT_EQ(pages(), (QStringList{u"About"_s, u"Delivery"_s, u"Care"_s}));
+}
+
+TEST_F(CustomPages, StandApartFromTheirStyleByALine)
+{
+    QWidget* style = in("btnCSS_general_custom_pages");
+    while (!qobject_cast<QGroupBox*>(style)) {
+        style = style->parentWidget();
+        ASSERT_NE(style, nullptr);
+    }
+    EXPECT_EQ(style->grab().toImage().pixelColor(20, 0), tone(Tone::Line));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "design/CustomPageClass.h"
 #include "design/PageTable.h"
 #include "design/clsSelectedCustomPages.h"
+#include "look/Measures.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -46,8 +47,8 @@ ucSelectCustPage::ucSelectCustPage(QWidget* parent) : QWidget(parent)
     around->addWidget(Frame1);
 
     auto* column = new QVBoxLayout(Frame1);
-    column->setContentsMargins(14, 12, 14, 14);
-    column->setSpacing(8);
+    column->setContentsMargins(Measure::Section, Measure::Gap, Measure::Section, Measure::Section);
+    column->setSpacing(Measure::Gap);
     for (std::size_t i = 0; i < FixedPageNames.size(); ++i) {
         auto* box = new QCheckBox(FixedPageNames[i], Frame1);
         box->setObjectName(u"chkSelectPage%1"_s.arg(i));
