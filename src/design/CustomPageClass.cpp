@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Row
+struct PageField
 {
     QString CustomPageClass::*member;
     const char* element;
@@ -16,25 +16,25 @@ struct Row
 };
 
 // In the order of the file.
-constexpr std::array rows = {
-    Row{&CustomPageClass::pageName, "PageName", "UNDEFINED_PAGE_NAME"_L1},
-    Row{&CustomPageClass::ImageName, "ImageName", ""_L1},
-    Row{&CustomPageClass::ImageAligment, "ImageAligment", "Left"_L1},
-    Row{&CustomPageClass::ContentText, "ContentText", ""_L1},
+constexpr std::array pageFields = {
+    PageField{&CustomPageClass::pageName, "PageName", "UNDEFINED_PAGE_NAME"_L1},
+    PageField{&CustomPageClass::ImageName, "ImageName", ""_L1},
+    PageField{&CustomPageClass::ImageAligment, "ImageAligment", "Left"_L1},
+    PageField{&CustomPageClass::ContentText, "ContentText", ""_L1},
 };
 
 } // namespace
 
 void CustomPageClass::FromXML(const pugi::xml_node& element)
 {
-    for (const Row& row : rows) {
-        this->*row.member = GetNodeText(element, row.element, row.defaultText);
+    for (const PageField& field : pageFields) {
+        this->*field.member = GetNodeText(element, field.element, field.defaultText);
     }
 }
 
 void CustomPageClass::ToXML(pugi::xml_node element) const
 {
-    for (const Row& row : rows) {
-        AddChildElement(element, row.element, this->*row.member);
+    for (const PageField& field : pageFields) {
+        AddChildElement(element, field.element, this->*field.member);
     }
 }

@@ -5,17 +5,17 @@
 namespace {
 
 #define TARNWICK_SLOT_ROW(slot, tag, sending) ImageSlotRow{ImageSlot::slot, QLatin1StringView(tag), sending},
-constexpr std::array<ImageSlotRow, ImageSlotCount> table = {TARNWICK_IMAGE_SLOTS(TARNWICK_SLOT_ROW)};
+constexpr std::array<ImageSlotRow, ImageSlotCount> slotRows = {TARNWICK_IMAGE_SLOTS(TARNWICK_SLOT_ROW)};
 #undef TARNWICK_SLOT_ROW
 
 } // namespace
 
 std::span<const ImageSlotRow> imageSlotTable()
 {
-    return table;
+    return slotRows;
 }
 
 QString tagOf(ImageSlot slot)
 {
-    return table[static_cast<std::size_t>(slot)].tag;
+    return slotRows[static_cast<std::size_t>(slot)].tag;
 }

@@ -8,19 +8,19 @@ namespace {
 
 #define TARNWICK_PAGE_ROW(page, name, kind, advanced, reading, composing, checking)                                    \
     PageRow{ShopPage::page, QLatin1StringView(name), PageKind::kind, advanced, reading, composing, checking},
-constexpr std::array table = {TARNWICK_PAGES(TARNWICK_PAGE_ROW)};
+constexpr std::array pageRows = {TARNWICK_PAGES(TARNWICK_PAGE_ROW)};
 #undef TARNWICK_PAGE_ROW
 
 } // namespace
 
 std::span<const PageRow> pageTable()
 {
-    return table;
+    return pageRows;
 }
 
 const PageRow& rowOf(ShopPage page)
 {
-    return table[static_cast<std::size_t>(page)];
+    return pageRows[static_cast<std::size_t>(page)];
 }
 
 QString nameOf(ShopPage page)
@@ -31,7 +31,7 @@ QString nameOf(ShopPage page)
 QStringList pageNamesBy(int PageRow::*order)
 {
     std::vector<PageRow> rows;
-    std::copy_if(table.begin(), table.end(), std::back_inserter(rows),
+    std::copy_if(pageRows.begin(), pageRows.end(), std::back_inserter(rows),
                  [order](const PageRow& row) { return row.*order != 0; });
     std::sort(rows.begin(), rows.end(),
               [order](const PageRow& left, const PageRow& right) { return left.*order < right.*order; });

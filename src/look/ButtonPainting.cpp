@@ -10,17 +10,12 @@
 
 namespace {
 
-bool has(const QStyleOption& option, QStyle::StateFlag flag)
-{
-    return option.state.testFlag(flag);
-}
-
 Tone groundOf(const QStyleOptionButton& option)
 {
-    if (has(option, QStyle::State_Sunken) || has(option, QStyle::State_On)) {
+    if (option.state.testFlag(QStyle::State_Sunken) || option.state.testFlag(QStyle::State_On)) {
         return Tone::Pressed;
     }
-    if (has(option, QStyle::State_MouseOver)) {
+    if (option.state.testFlag(QStyle::State_MouseOver)) {
         return Tone::Hover;
     }
     return option.features.testFlag(QStyleOptionButton::DefaultButton) ? Tone::Soft : Tone::Button;
@@ -41,13 +36,13 @@ struct BoxColours
 
 BoxColours coloursOf(const QStyleOption& option, bool isMarked)
 {
-    if (!has(option, QStyle::State_Enabled)) {
+    if (!option.state.testFlag(QStyle::State_Enabled)) {
         return {isMarked ? tone(Tone::EdgeOff) : tone(Tone::FieldOff), tone(Tone::EdgeOff), tone(Tone::Off)};
     }
     if (isMarked) {
         return {tone(Tone::Accent), tone(Tone::Accent), tone(Tone::OnAccent)};
     }
-    const bool isUnderMouse = has(option, QStyle::State_MouseOver);
+    const bool isUnderMouse = option.state.testFlag(QStyle::State_MouseOver);
     return {tone(Tone::Field), tone(isUnderMouse ? Tone::Muted : Tone::Edge), {}};
 }
 
@@ -56,12 +51,12 @@ BoxColours coloursOf(const QStyleOption& option, bool isMarked)
 void paintButton(const QStyleOptionButton& option, QPainter& painter)
 {
     constexpr double radius = Measure::Radius;
-    if (!has(option, QStyle::State_Enabled)) {
+    if (!option.state.testFlag(QStyle::State_Enabled)) {
         drawRing(painter, option.rect, radius, Measure::Hairline, tone(Tone::EdgeOff));
         return;
     }
     fillRounded(painter, option.rect, radius, tone(groundOf(option)));
-    if (has(option, QStyle::State_HasFocus)) {
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
         drawRing(painter, option.rect, radius, Measure::Ring, tone(Tone::Accent));
     } else {
         const bool isDefault = option.features.testFlag(QStyleOptionButton::DefaultButton);
@@ -72,7 +67,7 @@ void paintButton(const QStyleOptionButton& option, QPainter& painter)
 void paintButtonLabel(const QStyleOptionButton& option, QPainter& painter, const QStyle& style)
 {
     constexpr int besidePicture = 6;
-    const bool isOn = has(option, QStyle::State_Enabled);
+    const bool isOn = option.state.testFlag(QStyle::State_Enabled);
     const int words = option.fontMetrics.size(Qt::TextShowMnemonic, option.text).width();
     const int picture = option.icon.isNull() ? 0 : option.iconSize.width() + (words > 0 ? besidePicture : 0);
     QRect room(0, 0, std::min(picture + words, option.rect.width()), option.rect.height());
@@ -91,22 +86,22 @@ void paintButtonLabel(const QStyleOptionButton& option, QPainter& painter, const
 
 void paintToolButton(const QStyleOption& option, QPainter& painter)
 {
-    if (has(option, QStyle::State_Enabled)) {
-        if (has(option, QStyle::State_Sunken) || has(option, QStyle::State_On)) {
+    if (option.state.testFlag(QStyle::State_Enabled)) {
+        if (option.state.testFlag(QStyle::State_Sunken) || option.state.testFlag(QStyle::State_On)) {
             fillRounded(painter, option.rect, Measure::Radius, tone(Tone::Pressed));
-        } else if (has(option, QStyle::State_MouseOver)) {
+        } else if (option.state.testFlag(QStyle::State_MouseOver)) {
             fillRounded(painter, option.rect, Measure::Radius, tone(Tone::Hover));
         }
     }
-    if (has(option, QStyle::State_HasFocus)) {
+    if (option.state.testFlag(QStyle::State_HasFocus)) {
         drawRing(painter, option.rect, Measure::Radius, Measure::Ring, tone(Tone::Accent));
     }
 }
 
 void paintCheckBox(const QStyleOption& option, QPainter& painter)
 {
-    const bool isPartly = has(option, QStyle::State_NoChange);
-    const bool isMarked = has(option, QStyle::State_On) || isPartly;
+    const bool isPartly = option.state.testFlag(QStyle::State_NoChange);
+    const bool isMarked = option.state.testFlag(QStyle::State_On) || isPartly;
     const BoxColours colours = coloursOf(option, isMarked);
     const QRectF box = boxIn(option.rect);
     fillRounded(painter, box, Measure::SmallRadius, colours.ground);
@@ -120,7 +115,7 @@ void paintCheckBox(const QStyleOption& option, QPainter& painter)
 
 void paintOption(const QStyleOption& option, QPainter& painter)
 {
-    const bool isMarked = has(option, QStyle::State_On);
+    const bool isMarked = option.state.testFlag(QStyle::State_On);
     const BoxColours colours = coloursOf(option, isMarked);
     const QRectF box = boxIn(option.rect);
     fillRounded(painter, box, Measure::Box / 2.0, colours.ground);

@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString service = u"org.freedesktop.portal.Desktop"_s;
-const QString path = u"/org/freedesktop/portal/desktop"_s;
+const QString portalPath = u"/org/freedesktop/portal/desktop"_s;
 const QString settings = u"org.freedesktop.portal.Settings"_s;
 const QString appearance = u"org.freedesktop.appearance"_s;
 const QString colorScheme = u"color-scheme"_s;
@@ -29,9 +29,9 @@ uint preferenceIn(QVariant value)
 void DesktopScheme::follow(QDBusConnection bus)
 {
     // Any sender: to watch one by its name would have to wait for the bus.
-    bus.connect(QString(), path, settings, u"SettingChanged"_s, this,
+    bus.connect(QString(), portalPath, settings, u"SettingChanged"_s, this,
                 SLOT(settingChanged(QString, QString, QDBusVariant)));
-    QDBusMessage question = QDBusMessage::createMethodCall(service, path, settings, u"Read"_s);
+    QDBusMessage question = QDBusMessage::createMethodCall(service, portalPath, settings, u"Read"_s);
     question << appearance << colorScheme;
     auto* call = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
     connect(call, &QDBusPendingCallWatcher::finished, this, [this, call] {

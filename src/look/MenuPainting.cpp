@@ -15,14 +15,9 @@ constexpr int tickColumn = 28;  // pixels ahead of the words
 constexpr int behindWords = 28; // of an entry, where the angle of a menu below it stands
 constexpr int separatorRow = 9;
 
-bool has(const QStyleOption& option, QStyle::StateFlag flag)
-{
-    return option.state.testFlag(flag);
-}
-
 void paintWords(const QStyleOptionMenuItem& option, QPainter& painter, const QStyle& style)
 {
-    const bool isOn = has(option, QStyle::State_Enabled);
+    const bool isOn = option.state.testFlag(QStyle::State_Enabled);
     const QRect words = option.rect.adjusted(tickColumn, 0, -behindWords, 0);
     const QString caption = option.text.section(QLatin1Char('\t'), 0, 0);
     const QString keys = option.text.section(QLatin1Char('\t'), 1);
@@ -55,18 +50,18 @@ void paintMenuItem(const QStyleOptionMenuItem& option, QPainter& painter, const 
                   tone(Tone::Line));
         return;
     }
-    if (has(option, QStyle::State_Selected) && has(option, QStyle::State_Enabled)) {
-        const bool isPressed = has(option, QStyle::State_Sunken);
+    if (option.state.testFlag(QStyle::State_Selected) && option.state.testFlag(QStyle::State_Enabled)) {
+        const bool isPressed = option.state.testFlag(QStyle::State_Sunken);
         fillRounded(painter, place.adjusted(Measure::Tight, 0, -Measure::Tight, 0), Measure::Radius,
                     tone(isPressed ? Tone::Pressed : Tone::Soft));
     }
     const QRectF ahead(place.left() + Measure::Gap, place.center().y() - Measure::Box / 2.0, Measure::Box,
                        Measure::Box);
     if (option.checkType != QStyleOptionMenuItem::NotCheckable && option.checked) {
-        drawTick(painter, ahead, tone(has(option, QStyle::State_Enabled) ? Tone::Accent : Tone::Off));
+        drawTick(painter, ahead, tone(option.state.testFlag(QStyle::State_Enabled) ? Tone::Accent : Tone::Off));
     } else if (!option.icon.isNull()) {
         option.icon.paint(&painter, ahead.toRect(), Qt::AlignCenter,
-                          has(option, QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled);
+                          option.state.testFlag(QStyle::State_Enabled) ? QIcon::Normal : QIcon::Disabled);
     }
     paintWords(option, painter, style);
     if (option.menuItemType == QStyleOptionMenuItem::SubMenu) {
@@ -93,13 +88,13 @@ void paintMenuBarGround(const QStyleOption& option, QPainter& painter)
 void paintMenuBarItem(const QStyleOptionMenuItem& option, QPainter& painter, const QStyle& style)
 {
     paintMenuBarGround(option, painter);
-    if (has(option, QStyle::State_Enabled) && has(option, QStyle::State_Selected)) {
+    if (option.state.testFlag(QStyle::State_Enabled) && option.state.testFlag(QStyle::State_Selected)) {
         fillRounded(painter, QRectF(option.rect).adjusted(0, 2, 0, -2), Measure::Radius,
-                    tone(has(option, QStyle::State_Sunken) ? Tone::Soft : Tone::Hover));
+                    tone(option.state.testFlag(QStyle::State_Sunken) ? Tone::Soft : Tone::Hover));
     }
     const int underline =
         style.styleHint(QStyle::SH_UnderlineShortcut, &option) ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
-    painter.setPen(tone(has(option, QStyle::State_Enabled) ? Tone::Text : Tone::Off));
+    painter.setPen(tone(option.state.testFlag(QStyle::State_Enabled) ? Tone::Text : Tone::Off));
     painter.drawText(option.rect, Qt::AlignCenter | Qt::TextSingleLine | underline, option.text);
 }
 

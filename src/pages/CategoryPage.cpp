@@ -9,17 +9,17 @@ using enum DesignOption;
 
 namespace {
 
-constexpr DesignOption pageOptions[] = {Category_BreadCrumb, Category_PageHeader, Category_IncludePageHeader};
+constexpr DesignOption categoryPageOptions[] = {Category_BreadCrumb, Category_PageHeader, Category_IncludePageHeader};
 
 constexpr DesignOption subCategoryOptions[] = {Category_Description, Category_Name, Category_Image};
 
-constexpr DesignOption productOptions[] = {
+constexpr DesignOption categoryProductOptions[] = {
     Category_NewPrice,    Category_OldPrice, Category_AddToCart,    Category_Price, Category_ProductImage,
     Category_ProductName, Category_Related,  Category_ShoppingInfo, Category_Taxes, Category_ProductDescription,
 };
 
-constexpr VariantOptions priceOptions = {Category_ProductDescription,
-                                         {Category_Price, Category_OldPrice, Category_NewPrice}};
+constexpr VariantOptions categoryPriceOptions = {Category_ProductDescription,
+                                                 {Category_Price, Category_OldPrice, Category_NewPrice}};
 
 VariableRows subCategoryRows(const PageContext& context, const CategoryClass& category)
 {
@@ -63,7 +63,7 @@ VariableRows productRows(const PageContext& context, const CategoryClass& catego
         AddImageVariables(row, context, *product->selectedImage(), imageKeys);
         row.Add(u"Product_PriceType", priceTypeOf(*price));
         if (hasVariants(*price)) {
-            row.Add(u"MultiplePrice", variantRows(context, *price, priceOptions));
+            row.Add(u"MultiplePrice", variantRows(context, *price, categoryPriceOptions));
         } else {
             addPrices(row, price);
         }
@@ -72,7 +72,7 @@ VariableRows productRows(const PageContext& context, const CategoryClass& catego
         row.Add(u"server", serverAddress());
         row.Add(u"shop_currency", context.shop().shop_currency);
         cartButton.addTo(row);
-        addOptions(row, design, productOptions);
+        addOptions(row, design, categoryProductOptions);
         VariableRows related = relatedRows(context, *product);
         const bool hasRelated = !related.empty();
         if (hasRelated) {
@@ -89,7 +89,7 @@ VariableRows productRows(const PageContext& context, const CategoryClass& catego
 void addCategoryPage(Variables& vars, const PageContext& context, const PageObject& object)
 {
     auto& category = pageObjectAs<CategoryClass>(object);
-    addOptions(vars, context.design(), pageOptions);
+    addOptions(vars, context.design(), categoryPageOptions);
     // Products do not count.
     const bool isEmpty = category.categories.isEmpty();
     vars.Add(u"Category_Empty", isEmpty ? u"Yes"_s : u"No"_s);

@@ -8,7 +8,7 @@ using enum DesignOption;
 
 namespace {
 
-constexpr DesignOption options[] = {
+constexpr DesignOption checkoutOptions[] = {
     BuyingForm_PageHeaderText,
     BuyingForm_IncludeBreadCrumb,
     BuyingForm_IncludePageHeader,
@@ -73,7 +73,7 @@ void addCheckoutPage(Variables& vars, const PageContext& context, const PageObje
 {
     const ShopClass& shop = context.shop();
     addSlotVariables(vars, context, ImageSlot::BuyingFormMakeOrderButton);
-    addOptions(vars, context.design(), options);
+    addOptions(vars, context.design(), checkoutOptions);
     // Only the hosted shop knows of errors in the form.
     vars.Add(u"error", u"No"_s);
     vars.Add(u"shop_name", shop.name);

@@ -5,7 +5,7 @@ using enum DesignOption;
 
 namespace {
 
-constexpr DesignOption options[] = {
+constexpr DesignOption headerOptions[] = {
     Header_ShowLogo,
     Header_ShowMenu,
     Header_IncludeSearchBoxTextField,
@@ -22,5 +22,5 @@ void addHeaderPage(Variables& vars, const PageContext& context, const PageObject
     addSlotVariables(vars, context, ImageSlot::HeaderSearchButton);
     addSlotVariables(vars, context, ImageSlot::HeaderShoppingCartButton);
     AddCustomPageList(vars, context, *design.Pages(PageSelection::HeaderCustomPageSelected));
-    addOptions(vars, design, options);
+    addOptions(vars, design, headerOptions);
 }

@@ -8,12 +8,12 @@ using enum DesignOption;
 
 namespace {
 
-constexpr DesignOption options[] = {
+constexpr DesignOption mainPageOptions[] = {
     Main_PageHeader,           Main_IncludePageHeader, Main_SearchButton,          Main_SearchTextfield,
     Main_IncludeTopCategories, Main_IncludeTwoLevel,   Main_IncludeNavigationMenu,
 };
 
-VariableRows subCategoryRows(const PageContext& context, const CategoryClass& category)
+VariableRows innerCategoryRows(const PageContext& context, const CategoryClass& category)
 {
     VariableRows rows;
     for (const auto& subCategory : category.categories) {
@@ -40,7 +40,7 @@ Variables categoryRow(const PageContext& context, CategoryClass& category, const
     row.Add(u"to_date", discount.DateTo);
     row.Add(u"discount", discount.ApplyToWhole());
     if (context.design().isOn(Main_IncludeTwoLevel) && !category.categories.isEmpty()) {
-        row.Add(u"Main_TwoLevel", subCategoryRows(context, category));
+        row.Add(u"Main_TwoLevel", innerCategoryRows(context, category));
     }
 
     // Deliberately the first and the last band in the stored order, not the smallest and the largest.
@@ -70,5 +70,5 @@ void addMainPage(Variables& vars, const PageContext& context, const PageObject& 
     vars.Add(u"Main_IncludeShopDescription", design.Option(Main_IncludeShopDescription));
     addSlotVariables(vars, context, ImageSlot::MainSearchButton);
     AddCustomPageList(vars, context, *design.Pages(PageSelection::MainPageMenuList));
-    addOptions(vars, design, options);
+    addOptions(vars, design, mainPageOptions);
 }

@@ -6,7 +6,7 @@ using enum DesignOption;
 
 namespace {
 
-constexpr DesignOption options[] = {
+constexpr DesignOption productPageOptions[] = {
     ProductPage_IncludePageHeader,  ProductPage_PageHeader,       ProductPage_IncludeBreadcrumb,
     ProductPage_IncludeImage,       ProductPage_IncludeAddToCart, ProductPage_IncludeName,
     ProductPage_IncludeDescription, ProductPage_IncludePrice,     ProductPage_IncludeOldPrice,
@@ -14,7 +14,7 @@ constexpr DesignOption options[] = {
     ProductPage_IncludeRelated,     ProductPage_Advanced,
 };
 
-constexpr VariantOptions priceOptions = {
+constexpr VariantOptions productPriceOptions = {
     ProductPage_IncludeDescription,
     {ProductPage_IncludeOldPrice, ProductPage_IncludeNewPrice, ProductPage_IncludePrice}};
 
@@ -59,11 +59,11 @@ void addProductPage(Variables& vars, const PageContext& context, const PageObjec
     vars.Add(u"Height", image.HeightBmp());
     vars.Add(u"Product_PriceType", priceTypeOf(*price));
     if (hasVariants(*price)) {
-        vars.Add(u"MultiplePrice", variantRows(context, *price, priceOptions));
+        vars.Add(u"MultiplePrice", variantRows(context, *price, productPriceOptions));
     } else {
         addSinglePrice(vars, price);
     }
-    addOptions(vars, design, options);
+    addOptions(vars, design, productPageOptions);
     addSlotVariables(vars, context, ImageSlot::ProductCartButton);
     addRelated(vars, context, product);
 

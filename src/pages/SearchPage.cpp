@@ -9,15 +9,15 @@ using enum DesignOption;
 
 namespace {
 
-constexpr DesignOption pageOptions[] = {SearchPage_IncludePageHeader, SearchPage_PageHeader};
+constexpr DesignOption searchPageOptions[] = {SearchPage_IncludePageHeader, SearchPage_PageHeader};
 
-constexpr DesignOption productOptions[] = {
+constexpr DesignOption searchProductOptions[] = {
     SearchPage_IncludeBreadcrumb,  SearchPage_IncludeImage,    SearchPage_IncludeAddToCart, SearchPage_IncludeName,
     SearchPage_IncludeDescription, SearchPage_IncludePrice,    SearchPage_IncludeOldPrice,  SearchPage_IncludeNewPrice,
     SearchPage_IncludeTaxes,       SearchPage_IncludeShipping, SearchPage_IncludeRelated,
 };
 
-constexpr VariantOptions priceOptions = {
+constexpr VariantOptions searchPriceOptions = {
     SearchPage_IncludeDescription, {SearchPage_IncludeOldPrice, SearchPage_IncludeNewPrice, SearchPage_IncludePrice}};
 
 VariableRows productRows(const PageContext& context, const SearchResults& results)
@@ -37,14 +37,14 @@ VariableRows productRows(const PageContext& context, const SearchResults& result
         row.Add(u"cut_count", design.Option(SearchPage_Limit_Desc));
         row.Add(u"Product_PriceType", priceTypeOf(*price));
         if (hasVariants(*price)) {
-            row.Add(u"MultiplePrice", variantRows(context, *price, priceOptions));
+            row.Add(u"MultiplePrice", variantRows(context, *price, searchPriceOptions));
         } else {
             addSinglePrice(row, price);
         }
         AddImageVariables(row, context, *product->selectedImage(), imageKeys);
         row.Add(u"description", descriptions.cut(product->Description));
         cartButton.addTo(row);
-        addOptions(row, design, productOptions);
+        addOptions(row, design, searchProductOptions);
         row.Add(u"server", serverAddress());
         addRelated(row, context, *product);
         rows.push_back(std::move(row));
@@ -60,5 +60,5 @@ void addSearchPage(Variables& vars, const PageContext& context, const PageObject
     vars.Add(u"products", productRows(context, results));
     vars.Add(u"SEARCH_WORD", results.word);
     vars.Add(u"HAS_ITEMS", results.products.empty() ? u"No"_s : u"Yes"_s);
-    addOptions(vars, context.design(), pageOptions);
+    addOptions(vars, context.design(), searchPageOptions);
 }

@@ -7,7 +7,7 @@ using enum ButtonName;
 using enum PanelName;
 using namespace PanelCode;
 
-constexpr std::array<ButtonRow, 30> buttons = {{
+constexpr std::array<ButtonRow, 30> buttonRows = {{
     {SaveShopSBtn, ToolbarFrame, "Save The Shop", std::nullopt, Show, "131"},
     {ProductCatalogSBtn, ToolbarFrame, "Products Catalog", ShopGeneralPnl, Show, "133"},
     {ShopDesignSBtn, ToolbarFrame, "The Shop Design and Layout", MainPagePnl, Show, "134"},
@@ -53,5 +53,5 @@ constexpr std::array<ButtonRow, 30> buttons = {{
 
 std::span<const ButtonRow> buttonTable()
 {
-    return buttons;
+    return buttonRows;
 }

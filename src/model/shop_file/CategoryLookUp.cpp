@@ -6,8 +6,8 @@
 
 namespace {
 
-constexpr std::array<const char*, inCategory::Count> names = {"Id",    "Name",   "Description", "Picture",
-                                                              "Width", "Height", "Discount"};
+constexpr std::array<const char*, inCategory::Count> categoryNames = {"Id",    "Name",   "Description", "Picture",
+                                                                      "Width", "Height", "Discount"};
 
 } // namespace
 
@@ -28,8 +28,8 @@ CategoryLookUp::Found CategoryLookUp::lookThrough(const pugi::xml_node& category
     Found found;
     std::size_t missing = found.size();
     for (const pugi::xml_node& child : category.children()) {
-        for (std::size_t name = 0; name < names.size(); ++name) {
-            if (!found[name] && isNamed(child, names[name])) {
+        for (std::size_t name = 0; name < categoryNames.size(); ++name) {
+            if (!found[name] && isNamed(child, categoryNames[name])) {
                 found[name] = child;
                 --missing;
             }
@@ -40,11 +40,11 @@ CategoryLookUp::Found CategoryLookUp::lookThrough(const pugi::xml_node& category
         if (level < MaximumCategoryLevel && isNamed(child, "Category")) {
             const Found below = lookThrough(child, level + 1);
             m_ahead.emplace(child.hash_value(), below);
-            for (std::size_t name = 0; name < names.size(); ++name) {
+            for (std::size_t name = 0; name < categoryNames.size(); ++name) {
                 found[name] = found[name] ? found[name] : below[name];
             }
         } else if (child.first_child()) {
-            findFirstDescendants(child, names, found);
+            findFirstDescendants(child, categoryNames, found);
         }
         missing = static_cast<std::size_t>(std::count(found.begin(), found.end(), pugi::xml_node()));
     }

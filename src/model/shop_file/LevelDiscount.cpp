@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 enum Element : std::size_t { Status, DateFrom, DateTo, Percentage, PriceFrame, From, To, Percent, Count };
-constexpr std::array<const char*, Count> names = {"Status",     "DateFrom", "DateTo", "ApplyToAll",
-                                                  "PriceFrame", "From",     "To",     "Percent"};
+constexpr std::array<const char*, Count> discountNames = {"Status",     "DateFrom", "DateTo", "ApplyToAll",
+                                                          "PriceFrame", "From",     "To",     "Percent"};
 constexpr std::array<std::size_t, 3> inBand = {From, To, Percent};
 
 // Bands that belong to a category below; a file that is written here makes nobody take any.
@@ -40,7 +40,7 @@ void LevelDiscount::read(const pugi::xml_node& element, clsDiscount& discount, c
 
 void LevelDiscount::take(const pugi::xml_node& element, ShopReading& reading)
 {
-    FlatElements elements(names);
+    FlatElements elements(discountNames);
     elements.gather(element);
     std::array<FlatElements::Place, Count> found{};
     elements.findFirst(0, found);
