@@ -123,6 +123,32 @@ TEST_F(SampleShopTest, AVisitorWalksFromTheMainPageDownToAProductAndBackUp)
     EXPECT_TRUE(shows(session->shop->categories.Item(session->shop->categories.Count())->name));
 }
 
+// What is not for sale has its prices in a list, without buttons.
+TEST_F(SampleShopTest, AListOfPricesIsAsHighAsItsLines)
+{
+    QStringList pages;
+    for (const CatalogueObject& object : session->objects.items()) {
+        const auto* category = std::get_if<std::shared_ptr<CategoryClass>>(&object);
+        if (category == nullptr) {
+            continue;
+        }
+        for (const std::shared_ptr<ProductClass>& product : (*category)->products) {
+            if (!product->ForSale && product->Price()->MultiPriceCount() > 1) {
+                pages << u"?ACTION=search.php&where=0&what="_s + product->name
+                      << u"ACTION=category.php&id="_s + (*category)->id << u"ACTION=product.php&id="_s + product->id;
+            }
+        }
+    }
+    ASSERT_FALSE(pages.isEmpty()) << "the sample shop has no such product";
+    const QString highest =
+        u"Math.max(...Array.from(document.querySelectorAll('main ul.variants > li'), line => line.offsetHeight))"_s;
+    for (const QString& page : pages) {
+        goTo(page);
+        ASSERT_GT(countOf(u"main ul.variants > li"_s), 1) << page.toStdString();
+        EXPECT_LE(script(highest).toInt(), 60) << page.toStdString();
+    }
+}
+
 TEST_F(SampleShopTest, ASearchFindsProductsByAPartOfTheirName)
 {
     const auto product = productWithOnePrice();
