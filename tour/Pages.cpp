@@ -82,6 +82,8 @@ void keepPage(Walk& walk, int width, const QString& name)
     PreviewBrowser& browser = walk.browser();
     QWebEnginePage& page = *browser.page();
     browser.setFixedSize(width, least); // a page is as high as the window at least
+    // A scroll bar would take width, so that the page came out higher than it is in the picture.
+    script(page, u"document.documentElement.style.overflow = 'hidden'"_s);
     for (int pass = 0; pass < 2; ++pass) {
         script(page, u"for (const image of document.images) image.loading = 'eager'"_s);
         Walk::pause(60);
