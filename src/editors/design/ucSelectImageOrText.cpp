@@ -77,7 +77,7 @@ void ucSelectImageOrText::SetParent(QDialog* form)
 
 void ucSelectImageOrText::useText(bool text)
 {
-    m_pictures->lstImages->setEnabled(!text);
+    m_pictures->setChoosable(!text);
     txtText->setEnabled(text);
 }
 

@@ -136,6 +136,7 @@ TEST_F(ImageSlots, TakeATextAndKeepTheirFile)
     QDialog* form = openSlot(cases[0]);
     tick(chkText(form));
     EXPECT_FALSE(images(form)->isEnabled());
+    EXPECT_FALSE(form->findChild<QLineEdit*>(u"txtFilter"_s)->isEnabled());
     EXPECT_TRUE(txtText(form)->isEnabled());
     type(txtText(form), u"My shop"_s);
     press(form, "OkBtn");

@@ -117,6 +117,12 @@ QString PicturesList::selectedPicture() const
     return selected.isEmpty() ? QString() : selected.front()->text();
 }
 
+void PicturesList::setChoosable(bool isChoosable)
+{
+    lstImages->setEnabled(isChoosable);
+    txtFilter->setEnabled(isChoosable);
+}
+
 // Adding --------------------------------------------------------------------------------------------------------------
 
 void PicturesList::addPicture()

@@ -30,6 +30,8 @@ public:
     void selectPicture(const QString& name);
     // Empty when nothing is selected.
     QString selectedPicture() const;
+    // Turns the list and its filter on or off.
+    void setChoosable(bool isChoosable);
 
     // What AddBttn does: asks for a file and adds it.
     void addPicture();
