@@ -81,10 +81,12 @@ void ColumnGrid::arrange()
 {
     const int columns = fittingColumns(width());
     const int height = cell().height();
-    const int step = (width() + columnGap) / columns;
+    // The last column ends at the right edge, whatever remains of the division.
+    const auto left = [&](int column) { return column * (width() + columnGap) / columns; };
     for (std::size_t i = 0; i < m_widgets.size(); ++i) {
-        const int place = static_cast<int>(i);
-        m_widgets[i]->setGeometry(place % columns * step, place / columns * (height + m_rowGap), step - columnGap,
+        const int column = static_cast<int>(i) % columns;
+        const int row = static_cast<int>(i) / columns;
+        m_widgets[i]->setGeometry(left(column), row * (height + m_rowGap), left(column + 1) - columnGap - left(column),
                                   height);
     }
 }

@@ -9,7 +9,6 @@
 #include "design/ShopDesignClass.h"
 
 #include <QString>
-#include <Qt>
 
 #include <optional>
 #include <span>
@@ -22,14 +21,15 @@ struct SwitchRow
     const char* caption; // what the visitor will see
 };
 
-// A line of text.
+enum class Holds { Text, Number };
+
+// A line of text, or a number.
 struct TextRow
 {
     DesignOption option;
     const char* control;
     const char* caption;
-    int width = 620;                        // of the field at the most, in pixels
-    Qt::AlignmentFlag side = Qt::AlignLeft; // a number stands at the right of its field
+    Holds holds = Holds::Text;
 };
 
 // Check boxes, and texts below them, that stand together.

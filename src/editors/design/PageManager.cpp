@@ -8,6 +8,7 @@
 #include "editors/design/ManagerTables.h"
 #include "editors/design/PageOptions.h"
 #include "editors/design/TemplatePart.h"
+#include "look/Measures.h"
 #include "model/ShopSession.h"
 
 #include <QTabWidget>
@@ -32,7 +33,9 @@ PageManager::PageManager(PanelHost& host, ShopPage page, QWidget* parent)
 
     QVBoxLayout* column = newPanelColumn(this, heading);
     column->addWidget(m_tabs, 1);
-    column->addWidget(new SubmitReset(host, this));
+    auto* buttons = new SubmitReset(host, this);
+    buttons->layout()->setContentsMargins(0, 0, Measure::Tight, 0); // end where the groups end
+    column->addWidget(buttons);
 }
 
 ShopPage PageManager::page() const

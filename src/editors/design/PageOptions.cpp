@@ -28,6 +28,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int mostColumns = 3;
+constexpr int longestText = 620; // pixels of a field for a text
 
 ShopDesignClass& designOf(PanelHost& host)
 {
@@ -68,7 +69,7 @@ QString describe(const clsSelectedCustomPages& pages)
 PageOptions::PageOptions(PanelHost& host, const ManagerTable& table, QWidget* parent)
     : QWidget(parent), m_host(host), m_table(table), m_column(new QVBoxLayout(this))
 {
-    m_column->setContentsMargins(0, Measure::Wide, Measure::Tight, Measure::Wide);
+    m_column->setContentsMargins(0, Measure::Wide, Measure::Tight, 0);
     m_column->setSpacing(Measure::Wide);
     for (const OptionGroup& group : table.groups) {
         makeGroup(group);
@@ -115,8 +116,11 @@ void PageOptions::makeGroup(const OptionGroup& group)
     for (const TextRow& row : group.texts) {
         QLineEdit* field = textField(this);
         field->setObjectName(QLatin1String(row.control));
-        field->setMaximumWidth(row.width);
-        field->setAlignment(row.side);
+        const bool isNumber = row.holds == Holds::Number;
+        field->setMaximumWidth(isNumber ? FieldWidth::Number : longestText);
+        if (isNumber) {
+            field->setAlignment(Qt::AlignRight);
+        }
         QLabel* caption = newCaption(captionText(row.caption), field);
         caption->setFixedHeight(controlHeight(caption->fontMetrics()));
         form->addRow(caption, field);
@@ -146,7 +150,7 @@ void PageOptions::makeImagesAndLists()
     grid->setHorizontalSpacing(Measure::Section);
     grid->setVerticalSpacing(Measure::Gap);
     grid->setColumnStretch(1, 1);
-    newGroup(m_table.lists.empty() ? u"Buttons"_s : u"Buttons and links"_s)->addLayout(grid);
+    newGroup(m_table.lists.empty() ? u"Buttons"_s : u"Buttons and links"_s, Section::Line::Above)->addLayout(grid);
     for (const SlotRow& row : m_table.imageSlots) {
         QPushButton* button = namedButton(row.control, captionText(row.caption) + u"..."_s);
         m_slotLabels.push_back(addChoice(grid, button));
@@ -165,7 +169,7 @@ void PageOptions::makeImagesAndLists()
 
 void PageOptions::makeStyles()
 {
-    QVBoxLayout* column = newGroup(u"Colours and fonts"_s);
+    QVBoxLayout* column = newGroup(u"Colours and fonts"_s, Section::Line::Above);
     column->setContentsMargins(0, Measure::Gap, 0, 0);
     m_styleGroup = column->parentWidget();
     auto* grid = new ColumnGrid(mostColumns, Measure::Gap, m_styleGroup);

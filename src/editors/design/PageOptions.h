@@ -44,7 +44,7 @@ private:
     void makeGroup(const OptionGroup& group);
     void makeImagesAndLists();
     void makeStyles();
-    QVBoxLayout* newGroup(const QString& caption, Section::Line line = Section::Line::Above);
+    QVBoxLayout* newGroup(const QString& caption, Section::Line line);
     QLabel* addChoice(QGridLayout* grid, QPushButton* button);
     QPushButton* namedButton(const char* name, const QString& caption);
 

@@ -23,8 +23,6 @@ constexpr const char* showAddToCart   = "Show the add-to-cart button";
 constexpr const char* pageHeader      = "Page header:";
 constexpr const char* limit           = "Words of the description (0: all):";
 
-constexpr int numberWidth = 80; // pixels of a field for a number
-
 constexpr const char* page      = "Page";
 constexpr const char* products  = "Products";
 constexpr const char* addButton = "Add-to-cart button";
@@ -69,7 +67,7 @@ constexpr SwitchRow categoryProductSwitches[] = {
     {Category_AddToCart,          "chkIncludeAddToCart",          showAddToCart},
 };
 constexpr TextRow categoryProductTexts[] = {
-    {Category_Limit_Desc, "txtLimit", limit, numberWidth, Qt::AlignRight},
+    {Category_Limit_Desc, "txtLimit", limit, Holds::Number},
 };
 constexpr OptionGroup categoryGroups[] = {
     {page,                       categoryPageSwitches,        categoryPageTexts},
@@ -172,7 +170,7 @@ constexpr SwitchRow searchSwitches[] = {
     {SearchPage_IncludeAddToCart,   "chkIncludeAddToCart",   showAddToCart},
 };
 constexpr TextRow searchTexts[] = {
-    {SearchPage_Limit_Desc, "txtLimit", limit, numberWidth, Qt::AlignRight},
+    {SearchPage_Limit_Desc, "txtLimit", limit, Holds::Number},
 };
 constexpr OptionGroup searchGroups[] = {
     {page,     searchPageSwitches, searchPageTexts},
@@ -223,7 +221,7 @@ constexpr SwitchRow cartSwitches[] = {
     {CartPage_IncludeAddToCart,   "chkIncludeAddToCart",   "Let visitors change the quantity"},
 };
 constexpr TextRow cartTexts[] = {
-    {CartPage_Limit_Desc, "txtLimit", limit, numberWidth, Qt::AlignRight},
+    {CartPage_Limit_Desc, "txtLimit", limit, Holds::Number},
 };
 constexpr OptionGroup cartGroups[] = {
     {page,     cartPageSwitches, cartPageTexts},

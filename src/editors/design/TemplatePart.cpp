@@ -37,7 +37,7 @@ TemplatePart::TemplatePart(PanelHost& host, const ManagerTable& table, QWidget* 
     buttons->addWidget(RestoreTemplateBtn);
     buttons->addStretch(1);
     auto* column = new QVBoxLayout(this);
-    column->setContentsMargins(0, Measure::Gap, 0, 0);
+    column->setContentsMargins(0, Measure::Gap, Measure::Tight, 0);
     column->setSpacing(Measure::Gap);
     column->addWidget(AdvancedCh);
     column->addWidget(m_editor, 1);

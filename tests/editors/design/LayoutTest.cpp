@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QLabel>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -82,6 +84,32 @@ TEST_P(FirstShowing, HasEverythingInItsPlaceBeforeAnyEventRuns)
         QCoreApplication::processEvents();
     }
     EXPECT_EQ(first, window->VisibleFrame->grab().toImage());
+}
+
+TEST_P(DesignLayout, EndsGroupsColumnsAndButtonsInOneLine)
+{
+    for (const int width : {1190, 1191, 1192}) { // with and without a remainder for three columns
+        window->resize(width, 1300);             // nothing scrolls
+        QCoreApplication::processEvents();
+        QCoreApplication::processEvents();
+        const QWidget* panel = window->VisibleFrame;
+        const auto endOf = [panel](const QWidget* widget) {
+            return widget->mapTo(panel, QPoint(widget->width(), 0)).x();
+        };
+        const int end = endOf(in("imgButtonReset"));
+        int lastStyle = 0;
+        int styles = 0;
+        for (const QAbstractButton* button : panel->findChildren<QAbstractButton*>()) {
+            if (button->objectName().startsWith(u"btnCSS_"_s)) {
+                EXPECT_EQ(endOf(button->parentWidget()), end);
+                lastStyle = std::max(lastStyle, endOf(button));
+                ++styles;
+            }
+        }
+        if (styles >= 3) {
+            EXPECT_EQ(lastStyle, end) << width;
+        }
+    }
 }
 
 TEST_P(DesignLayout, LeadsTheTabKeyFromTopToBottom)
