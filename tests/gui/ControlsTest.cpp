@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollBar>
@@ -207,6 +208,31 @@ TEST_F(EveryControl, IsLargeEnoughToBeHit)
             }
         }
     });
+}
+
+TEST_F(EveryControl, HasItsLabelBesideItOnTheSameHeightInEveryDialog)
+{
+    int labels = 0;
+    for (const DialogCase& row : dialogs) {
+        inDialog(row, [&](QWidget& shown) {
+            for (const QLabel* label : shown.findChildren<QLabel*>()) {
+                const QWidget* field = label->buddy();
+                if (!field || !label->isVisible()) {
+                    continue;
+                }
+                const auto placeOf = [&shown](const QWidget& widget) {
+                    return QRect(widget.mapTo(&shown, QPoint()), widget.size());
+                };
+                const QRect words = placeOf(*label);
+                const QRect place = placeOf(*field);
+                if (words.bottom() > place.top() && place.height() < 2 * words.height()) { // beside, not above
+                    EXPECT_NEAR(words.center().y(), place.center().y(), 1) << label->text().toStdString();
+                    ++labels;
+                }
+            }
+        });
+    }
+    EXPECT_GE(labels, 5);
 }
 
 // The upload's dialog, whose Enter starts a transfer, has tests of its own.

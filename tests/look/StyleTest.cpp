@@ -14,6 +14,7 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QTableWidget>
 #include <QTreeWidget>
@@ -211,6 +212,44 @@ TEST(StyleOfHeaders, PutsATitleInTheMiddleOfItsHeightThoughTheViewAsksForNone)
     EXPECT_GT(middle, 15);
     EXPECT_LT(middle, 35);
     EXPECT_EQ(firstInk(Qt::AlignLeft), middle);
+}
+
+TEST(StyleOfBars, PaintsAPaleThumbBesideAListThatIsOff)
+{
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        showScheme(scheme);
+        QListWidget list;
+        for (int row = 0; row < 40; ++row) {
+            list.addItem(QString::number(row));
+        }
+        list.resize(120, 120);
+        list.show();
+        QCoreApplication::processEvents();
+        const auto thumb = [&] {
+            const QScrollBar* bar = list.verticalScrollBar();
+            return shown(list, 1).pixelColor(bar->mapTo(&list, QPoint(bar->width() / 2, 12)));
+        };
+        EXPECT_EQ(thumb(), tone(Tone::Edge));
+        list.setEnabled(false);
+        EXPECT_EQ(thumb(), tone(Tone::EdgeOff));
+    }
+    showScheme(Scheme::Light);
+}
+
+TEST(StyleOfHeaders, DrawsTheHairlineBesideTheLastColumnToo)
+{
+    QTableWidget grid(1, 1);
+    grid.setColumnWidth(0, 60);
+    grid.verticalHeader()->hide();
+    grid.resize(300, 100);
+    grid.show();
+    QCoreApplication::processEvents();
+    const QWidget* header = grid.horizontalHeader()->viewport();
+    const QImage image = shown(*grid.horizontalHeader()->viewport(), 1);
+    for (const int x : {30, 200}) {
+        EXPECT_EQ(image.pixelColor(x, header->height() - 1), tone(Tone::Line)) << x;
+        EXPECT_EQ(image.pixelColor(x, 2), tone(Tone::Header)) << x;
+    }
 }
 
 TEST(StyleOfMenus, KeepsAWholeEdgeAroundTheEntriesAtAnyScale)
