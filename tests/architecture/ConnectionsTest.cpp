@@ -37,7 +37,7 @@ const QMap<QString, QStringList>& unguardedSignals()
         // One tick takes the others away.
         {u"editors/design/pickers/ucSelectCustPage.cpp"_s, {u"QCheckBox::toggled"_s, u"QListWidget::itemChanged"_s}},
         // A look is shown. The bus is told the path of what it listens to.
-        {u"look/DesktopScheme.cpp"_s, {u"QDBusPendingCallWatcher::finished"_s, u"path"_s}},
+        {u"look/DesktopScheme.cpp"_s, {u"QDBusPendingCallWatcher::finished"_s, u"portalPath"_s}},
         {u"look/Theme.cpp"_s, {u"DesktopScheme::told"_s}},
         // These call the transfer library; what the end of a transfer does is guarded where it is connected.
         {u"publish/dialog/TransferLoop.cpp"_s,

@@ -23,7 +23,9 @@ protected:
     }
 
     clsDiscount& discount() const { return *category("3")->Discount(); }
+    // Made when it first opens.
     MonthCalendar* calendar() const { return window->VisibleFrame->findChild<MonthCalendar*>(u"DateMV"_s); }
+    bool isMonthShown() const { return calendar() && calendar()->isVisible(); }
     void clickField(const char* name) { QTest::mouseClick(in(name), Qt::LeftButton); }
     // Clicks that day of the month that is shown.
     void clickDay(int day)
@@ -187,16 +189,16 @@ TEST_F(CategoryPanels, OpenAMonthUnderTheDateWithItsDaySelected)
     discount().DateTo =
         QLocale().toString(day, QLocale().language() == QLocale::German ? u"dd.MM.yyyy"_s : u"M/d/yyyy"_s);
     click("CategoryDiscountSBtn");
-    EXPECT_EQ(calendar(), nullptr); // made when it first opens
+    EXPECT_FALSE(isMonthShown());
     clickField("DateToTxt");
-    ASSERT_TRUE(calendar()->isVisible());
+    ASSERT_TRUE(isMonthShown());
     EXPECT_EQ(calendar()->selectedDate(), day);
     // At the left of the field, but for the width of a frame, unless the screen ends before the calendar would.
     const int lastPlace = calendar()->screen()->availableGeometry().right() - calendar()->width();
     const int expected = qMin(in("DateToTxt")->mapToGlobal(QPoint()).x(), lastPlace);
     EXPECT_NEAR(calendar()->mapToGlobal(QPoint()).x(), expected, 3);
     clickDay(21);
-    EXPECT_FALSE(calendar()->isVisible());
+    EXPECT_FALSE(isMonthShown());
     EXPECT_EQ(textIn("DateToTxt"), QLocale().language() == QLocale::German ? u"21.03.2026"_s : u"3/21/2026"_s);
     EXPECT_EQ(textIn("DateFromTxt"), QString());
     submit();
@@ -208,12 +210,12 @@ TEST_F(CategoryPanels, TakeADateByTheKeyboardToo)
     discount().Status = DiscountStatus::ToAll;
     click("CategoryDiscountSBtn");
     QTest::keyClick(in("DateFromTxt"), Qt::Key_Down);
-    ASSERT_TRUE(calendar()->isVisible());
+    ASSERT_TRUE(isMonthShown());
     EXPECT_EQ(calendar()->selectedDate(), clock.day); // an empty field starts with today
     auto* days = calendar()->findChild<QAbstractItemView*>();
     QTest::keyClick(days, Qt::Key_Right);
     QTest::keyClick(days, Qt::Key_Return);
-    EXPECT_FALSE(calendar()->isVisible());
+    EXPECT_FALSE(isMonthShown());
     EXPECT_EQ(textIn("DateFromTxt"), QLocale().language() == QLocale::German ? u"16.07.2026"_s : u"7/16/2026"_s);
 }
 
@@ -222,14 +224,14 @@ TEST_F(CategoryPanels, CloseTheMonthOnEscapeAndOnAClickElsewhere)
     discount().Status = DiscountStatus::ToAll;
     click("CategoryDiscountSBtn");
     clickField("DateFromTxt");
-    ASSERT_TRUE(calendar()->isVisible());
+    ASSERT_TRUE(isMonthShown());
     QTest::keyClick(calendar()->findChild<QAbstractItemView*>(), Qt::Key_Escape);
-    EXPECT_FALSE(calendar()->isVisible());
+    EXPECT_FALSE(isMonthShown());
     EXPECT_EQ(textIn("DateFromTxt"), QString());
     clickField("DateFromTxt");
-    ASSERT_TRUE(calendar()->isVisible());
+    ASSERT_TRUE(isMonthShown());
     QTest::mousePress(calendar(), Qt::LeftButton, {}, QPoint(-40, -40));
-    EXPECT_FALSE(calendar()->isVisible());
+    EXPECT_FALSE(isMonthShown());
     EXPECT_EQ(textIn("DateFromTxt"), QString());
 }
 
@@ -240,7 +242,7 @@ TEST_F(CategoryPanels, LeaveATextThatIsNoDateWhileItIsTyped)
     clickField("DateFromTxt");
     // What is typed while the month is open goes into the field.
     QTest::keyClicks(calendar()->findChild<QAbstractItemView*>(), u"s"_s);
-    EXPECT_FALSE(calendar()->isVisible());
+    EXPECT_FALSE(isMonthShown());
     QTest::keyClicks(in("DateFromTxt"), u"oon"_s);
     EXPECT_EQ(textIn("DateFromTxt"), u"soon"_s);
     clickField("DateFromTxt");
@@ -293,7 +295,7 @@ TEST_F(CategoryPanels, ClearADateInTheMonth)
     click("CategoryDiscountSBtn");
     clickField("DateFromTxt");
     QTest::mouseClick(calendar()->findChild<QPushButton*>(u"NoDateBtn"_s), Qt::LeftButton);
-    EXPECT_FALSE(calendar()->isVisible());
+    EXPECT_FALSE(isMonthShown());
     EXPECT_EQ(textIn("DateFromTxt"), QString());
 }
 
@@ -307,7 +309,7 @@ TEST_F(CategoryPanels, TakeAYearThatIsTypedIntoTheMonth)
     ASSERT_TRUE(year->isVisible());
     year->selectAll();
     QTest::keyClicks(year, u"2031"_s);
-    EXPECT_TRUE(calendar()->isVisible());
+    EXPECT_TRUE(isMonthShown());
     EXPECT_EQ(textIn("DateFromTxt"), QString());
     QTest::keyClick(year, Qt::Key_Return);
     EXPECT_FALSE(year->isVisible());
@@ -320,7 +322,7 @@ TEST_F(CategoryPanels, OpenNoMonthForDatesThatAreNotUsed)
 {
     click("CategoryDiscountSBtn");
     clickField("DateFromTxt");
-    EXPECT_FALSE(calendar()->isVisible());
+    EXPECT_FALSE(isMonthShown());
     QTest::keyClicks(in("DateFromTxt"), u"1"_s);
     EXPECT_EQ(textIn("DateFromTxt"), QString());
 }
