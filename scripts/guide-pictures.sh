@@ -21,6 +21,6 @@ pictures=(
 mkdir -p docs/guide/pictures
 for picture in "${pictures[@]}"; do
   read -r name screenshot <<<"$picture"
-  convert screenshots/light/*_"$screenshot".png -resize 900x -colors 96 -strip -define png:compression-level=9 \
+  convert screenshots/light/*_"$screenshot".png -resize 900x +dither -colors 255 -strip -define png:compression-level=9 \
     "docs/guide/pictures/$name.png"
 done
