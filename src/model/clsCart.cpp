@@ -105,10 +105,16 @@ QString clsCart::TotalCost() const
     return singleToShortestText(static_cast<float>(rounded));
 }
 
+void failWithoutCart()
+{
+    throw RuntimeError(ErrorNumber::ObjectNotSet)
+        .because(u"The cart is gone since the closing of the program was cancelled. The next start has one again."_s);
+}
+
 bool ConfirmEmptyCart(clsCart* cart, UserPrompts& prompts)
 {
     if (cart == nullptr) {
-        throw RuntimeError(ErrorNumber::ObjectNotSet);
+        failWithoutCart();
     }
     if (cart->Count() == 0) {
         return true;

@@ -78,6 +78,9 @@ private:
     KeyedCollection<std::shared_ptr<clsCartProduct>> m_lines;
 };
 
-// True when the cart is empty or the user agrees to empty it, which is then done. ErrorNumber::ObjectNotSet when there
-// is no cart.
+// The session has no cart any more, since the closing of the program was cancelled: ErrorNumber::ObjectNotSet with that
+// reason.
+[[noreturn]] void failWithoutCart();
+
+// True when the cart is empty or the user agrees to empty it, which is then done. Fails as above when there is no cart.
 bool ConfirmEmptyCart(clsCart* cart, UserPrompts& prompts);

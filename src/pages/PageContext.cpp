@@ -1,6 +1,7 @@
 #include "pages/PageContext.h"
 
 #include "design/PageTable.h"
+#include "model/clsCart.h"
 
 using namespace Qt::StringLiterals;
 
@@ -29,9 +30,7 @@ ShopDesignClass& PageContext::design() const
 clsCart& PageContext::cart() const
 {
     if (m_session->Cart == nullptr) {
-        throw RuntimeError(ErrorNumber::ObjectNotSet)
-            .because(
-                u"The cart is gone since the closing of the program was cancelled. The next start has one again."_s);
+        failWithoutCart();
     }
     return *m_session->Cart;
 }

@@ -4,6 +4,8 @@
 #include "design/clsSelectedCustomPages.h"
 #include "template_engine/Templates_Set.h"
 
+#include <gmock/gmock.h>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -50,6 +52,37 @@ TEST_F(Surprises, AfterCancelAtTheExitThePreviewHasNoCart)
     click("PreviewBrowserSBtn");
     EXPECT_EQ(errors.numbers, std::vector<int>{91});
 }
+
+// A panel that looks into the cart: the node to click ahead of its button, if any.
+struct CartPanel
+{
+    const char* node;
+    const char* button;
+};
+
+class SurprisesOfTheCart : public Surprises, public testing::WithParamInterface<CartPanel>
+{
+};
+
+TEST_P(SurprisesOfTheCart, AfterCancelAtTheExitThePanelMissesIt)
+{
+    if (const QString node = QString::fromLatin1(GetParam().node); !node.isEmpty()) {
+        clickNode(node);
+    }
+    prompts.answerYesNoCancel(u"Ambrel eCommerce Software"_s, u"Do you want save changes?"_s, PromptAnswer::Cancel);
+    EXPECT_FALSE(window->close());
+    click(GetParam().button);
+    EXPECT_EQ(errors.numbers, std::vector<int>{91});
+    EXPECT_THAT(
+        errors.circumstances,
+        testing::Contains(
+            u"The cart is gone since the closing of the program was cancelled. The next start has one again."_s));
+}
+
+INSTANTIATE_TEST_SUITE_P(Panels, SurprisesOfTheCart,
+                         testing::Values(CartPanel{"", "ShopDiscountSBtn"}, CartPanel{"ID2", "CategoryDiscountSBtn"},
+                                         CartPanel{"ID4", "ProductDiscountSBtn"}, CartPanel{"ID4", "ProductPriceSbtn"}),
+                         [](const auto& row) { return std::string(row.param.button); });
 
 TEST_F(Surprises, ADeletedPageThatAMenuShowsIsALinkToNothing)
 {
