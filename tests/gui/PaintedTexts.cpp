@@ -217,7 +217,7 @@ void paint(QWidget& widget, const QRect& seenOfParent, Device& device)
 
 double contrastBetween(const QColor& one, const QColor& other)
 {
-    const auto [darker, lighter] = std::minmax(luminance(one), luminance(other));
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 

@@ -133,7 +133,8 @@ TEST_F(DesktopSchemeTest, TellsWhatThePortalSaysAtTheStart)
         bool wrapsTwice;
         QList<Scheme> told;
     } rows[] = {
-        {1, true, {Scheme::Dark}}, {1, false, {Scheme::Dark}}, {2, true, {Scheme::Light}}, {0, true, {}}, {7, true, {}},
+        {1, true, {Scheme::Dark}},  {1, false, {Scheme::Dark}}, {2, true, {Scheme::Light}},
+        {0, true, QList<Scheme>()}, {7, true, QList<Scheme>()},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.preference);
