@@ -23,7 +23,7 @@ has_display || packages+=("${VIRTUAL_DISPLAY_PACKAGES[@]}")
 need "${packages[@]}"
 
 if [ ! -x build/release/Tarnwick/Tarnwick ]; then
-  echo "Building Tarnwick: about $((12 / $(nproc) + 1)) minutes and 1 GB the first time."
+  echo "Building Tarnwick: about $((4 / $(nproc) + 1)) minutes and 1 GB the first time."
 else
   echo "Building what has changed."
 fi
