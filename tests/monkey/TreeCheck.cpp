@@ -117,13 +117,13 @@ QString TreeCheck::ofNode(const TreeNode& node)
     return found;
 }
 
-// The name is on its way from the panel's field to the object.
+// The name is on its way from the panel's field to the object; a window that has closed meanwhile takes it along.
 bool TreeCheck::isTyped(const TreeNode& node) const
 {
     constexpr std::array fields = {"ShopNameTxt", "CategoryNameTxt", "ProductNameTxt"};
     for (const char* field : fields) {
         const auto* line = m_window.findChild<QLineEdit*>(QLatin1String(field));
-        if (line->isVisible() && line->text() == node.text) {
+        if (line->isVisibleTo(&m_window) && line->text() == node.text) {
             return true;
         }
     }
