@@ -97,7 +97,8 @@ void paintProgress(const QStyleOptionProgressBar& option, QPainter& painter)
 {
     QRectF groove(option.rect);
     groove.setHeight(progressHeight);
-    groove.moveTop(option.rect.top() + (option.rect.height() - progressHeight) / 2);
+    const int above = (option.rect.height() - progressHeight) / 2;
+    groove.moveTop(option.rect.top() + above);
     fillRounded(painter, groove, progressHeight / 2.0, tone(Tone::Header));
     const double range = option.maximum - option.minimum;
     const double done = range > 0 ? (option.progress - option.minimum) / range : 0;

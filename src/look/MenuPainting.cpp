@@ -15,18 +15,23 @@ constexpr int tickColumn = 28;  // pixels ahead of the words
 constexpr int behindWords = 28; // of an entry, where the angle of a menu below it stands
 constexpr int separatorRow = 9;
 
+// For words in one line, whose key is underlined where the desktop wants it.
+int flagsFor(Qt::Alignment alignment, const QStyleOption& option, const QStyle& style)
+{
+    const bool showsKey = style.styleHint(QStyle::SH_UnderlineShortcut, &option) != 0;
+    return static_cast<int>(alignment) | Qt::TextSingleLine | (showsKey ? Qt::TextShowMnemonic : Qt::TextHideMnemonic);
+}
+
 void paintWords(const QStyleOptionMenuItem& option, QPainter& painter, const QStyle& style)
 {
     const bool isOn = option.state.testFlag(QStyle::State_Enabled);
     const QRect words = option.rect.adjusted(tickColumn, 0, -behindWords, 0);
     const QString caption = option.text.section(QLatin1Char('\t'), 0, 0);
     const QString keys = option.text.section(QLatin1Char('\t'), 1);
-    const int underline =
-        style.styleHint(QStyle::SH_UnderlineShortcut, &option) ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
     painter.save();
     painter.setFont(option.font);
     painter.setPen(tone(isOn ? Tone::Text : Tone::Off));
-    painter.drawText(words, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | underline, caption);
+    painter.drawText(words, flagsFor(Qt::AlignLeft | Qt::AlignVCenter, option, style), caption);
     if (!keys.isEmpty()) {
         painter.setPen(tone(isOn ? Tone::Muted : Tone::Off));
         painter.drawText(words, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, keys);
@@ -92,10 +97,8 @@ void paintMenuBarItem(const QStyleOptionMenuItem& option, QPainter& painter, con
         fillRounded(painter, QRectF(option.rect).adjusted(0, 2, 0, -2), Measure::Radius,
                     tone(option.state.testFlag(QStyle::State_Sunken) ? Tone::Soft : Tone::Hover));
     }
-    const int underline =
-        style.styleHint(QStyle::SH_UnderlineShortcut, &option) ? Qt::TextShowMnemonic : Qt::TextHideMnemonic;
     painter.setPen(tone(option.state.testFlag(QStyle::State_Enabled) ? Tone::Text : Tone::Off));
-    painter.drawText(option.rect, Qt::AlignCenter | Qt::TextSingleLine | underline, option.text);
+    painter.drawText(option.rect, flagsFor(Qt::AlignCenter, option, style), option.text);
 }
 
 QSize menuBarItemSize(const QStyleOptionMenuItem& option, const QSize& text)

@@ -75,11 +75,11 @@ QSize ShopStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
         break;
     case CT_ItemViewItem: {
         const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-        return highEnough(size, rowHeight(option->fontMetrics));
+        return highEnough(size, option ? rowHeight(option->fontMetrics) : 0);
     }
     case CT_HeaderSection: {
         const QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-        return highEnough(size, gridHeaderHeight(option->fontMetrics));
+        return highEnough(size, option ? gridHeaderHeight(option->fontMetrics) : 0);
     }
     case CT_MenuItem:
         if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option)) {

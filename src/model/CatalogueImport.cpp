@@ -47,7 +47,7 @@ std::shared_ptr<CategoryClass> CatalogueImport::categoryBelow(const std::shared_
     if (level >= MaximumCategoryLevel) {
         throw RuntimeError(ErrorNumber::OutOfStackSpace);
     }
-    const std::shared_ptr<CategoryClass> made = makeCategory(parent, name.toString());
+    std::shared_ptr<CategoryClass> made = makeCategory(parent, name.toString());
     names->insert(made->name, made);
     return made;
 }
