@@ -86,17 +86,4 @@ TEST_F(FrameFitTest, LeavesASizeAloneThatSomebodyElseHasGiven)
     EXPECT_EQ(window.size(), QSize(700, 400));
 }
 
-TEST_F(FrameFitTest, FitsOnlyOnce)
-{
-    QWidget window;
-    new FrameFit(window, screen().size() + QSize(100, 100));
-    show(window);
-    const QSize first = window.size();
-    window.resize(600, 300);
-    QTest::qWait(200);
-    window.resize(first.width(), first.height() + 10);
-    QTest::qWait(200);
-    EXPECT_EQ(window.size(), QSize(first.width(), first.height() + 10));
-}
-
 } // namespace

@@ -63,9 +63,10 @@ bool Hands::drop(QWidget* widget, const QStringList& files)
     QWindow* target = widget->window()->windowHandle();
     const QPoint place = widget->mapTo(widget->window(), widget->rect().center());
     const Qt::DropActions offered = Qt::CopyAction | Qt::MoveAction;
-    QDragEnterEvent enter(place, offered, &dragged, Qt::LeftButton, {});
+    const Qt::KeyboardModifiers keys = Qt::ShiftModifier; // with it a desktop proposes to move the files
+    QDragEnterEvent enter(place, offered, &dragged, Qt::LeftButton, keys);
     QCoreApplication::sendEvent(target, &enter);
-    QDragMoveEvent move(place, offered, &dragged, Qt::LeftButton, {});
+    QDragMoveEvent move(place, offered, &dragged, Qt::LeftButton, keys);
     if (enter.isAccepted()) { // a move goes on with what the last event agreed on
         move.setDropAction(enter.dropAction());
         move.accept();
@@ -76,7 +77,7 @@ bool Hands::drop(QWidget* widget, const QStringList& files)
         QCoreApplication::sendEvent(target, &leave);
         return false;
     }
-    QDropEvent drop(place, offered, &dragged, Qt::LeftButton, {});
+    QDropEvent drop(place, offered, &dragged, Qt::LeftButton, keys);
     QCoreApplication::sendEvent(target, &drop);
     const bool isTaken = drop.isAccepted() && drop.dropAction() == Qt::CopyAction;
     QCoreApplication::processEvents();
