@@ -13,17 +13,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QDir root(QStringLiteral(TARNWICK_SOURCE_DIR));
+const QDir projectFolder(QStringLiteral(TARNWICK_SOURCE_DIR));
 
 QString page()
 {
-    return QString::fromUtf8(fileBytes(root.filePath(u"docs/architecture.md"_s)));
+    return QString::fromUtf8(fileBytes(projectFolder.filePath(u"docs/architecture.md"_s)));
 }
 
 TEST(ArchitecturePage, NamesEveryFolderAtTheTop)
 {
     const QString text = page();
-    for (const QString& folder : root.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+    for (const QString& folder : projectFolder.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         // What the scripts make is not part of the tree.
         if (folder != u"build"_s && folder != u"screenshots"_s) {
             EXPECT_TRUE(text.contains(u'`' + folder + u"/`"_s)) << folder.toStdString();
@@ -34,7 +34,7 @@ TEST(ArchitecturePage, NamesEveryFolderAtTheTop)
 // The folders below src/ that hold sources.
 QStringList sourceFolders()
 {
-    const QDir sources(root.filePath(u"src"_s));
+    const QDir sources(projectFolder.filePath(u"src"_s));
     QSet<QString> folders;
     QDirIterator files(sources.path(), {u"*.h"_s, u"*.cpp"_s}, QDir::Files, QDirIterator::Subdirectories);
     while (files.hasNext()) {
@@ -67,7 +67,7 @@ TEST(ArchitecturePage, NamesNoFileOrFolderThatIsNotThere)
         bool found = false;
         for (const char* place : {"", "src/", "tests/", "app/"}) {
             for (const char* ending : {"", ".cpp", ".h"}) {
-                found = found || root.exists(QLatin1String(place) + path + QLatin1String(ending));
+                found = found || projectFolder.exists(QLatin1String(place) + path + QLatin1String(ending));
             }
         }
         EXPECT_TRUE(found) << path.toStdString();

@@ -1,25 +1,16 @@
 // docs/page-variables.md and the pages agree: every variable that a page adds stands in the section of its template,
 // and a section names no variable that its page does not have.
+#include "SortedNames.h"
 #include "design/PageTable.h"
 #include "pages/PagesTest.h"
 #include "pages/RenderPage.h"
 #include "pages/preview/PreviewPage.h"
 
 #include <QRegularExpression>
-#include <QSet>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-using Names = QSet<QString>;
-
-std::string sortedText(const Names& names)
-{
-    QStringList sorted(names.begin(), names.end());
-    sorted.sort();
-    return sorted.join(u", "_s).toStdString();
-}
 
 // What a section tells of a variable's values and of the language.
 const Names& wordsThatAreNoVariables()

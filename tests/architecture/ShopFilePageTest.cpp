@@ -1,5 +1,6 @@
 // docs/shop-file.md and the shop file agree: the page names every element that the program writes or reads, and no
 // other.
+#include "SortedNames.h"
 #include "base/XmlFile.h"
 #include "design/DesignOptions.h"
 #include "model/ShopSession.h"
@@ -8,22 +9,12 @@
 
 #include <QDate>
 #include <QRegularExpression>
-#include <QSet>
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-using Names = QSet<QString>;
-
-std::string sortedText(const Names& names)
-{
-    QStringList sorted(names.begin(), names.end());
-    sorted.sort();
-    return sorted.join(u", "_s).toStdString();
-}
 
 // A number behind a name counts the elements of a list.
 QString withoutNumber(QString name)
