@@ -11,6 +11,7 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -102,7 +103,7 @@ class DesktopSchemeTest : public testing::Test
 protected:
     DesktopSchemeTest() : portal(bus.connection(u"portal"_s)), ours(bus.connection(u"program"_s))
     {
-        QObject::connect(&desktop, &DesktopScheme::told, &desktop, [this](Scheme scheme) { told.append(scheme); });
+        QObject::connect(&desktop, &DesktopScheme::told, &desktop, [this](Scheme scheme) { told.push_back(scheme); });
     }
     ~DesktopSchemeTest() override
     {
@@ -122,7 +123,7 @@ protected:
     Portal portal;
     QDBusConnection ours;
     DesktopScheme desktop;
-    QList<Scheme> told;
+    std::vector<Scheme> told;
 };
 
 TEST_F(DesktopSchemeTest, TellsWhatThePortalSaysAtTheStart)
@@ -131,10 +132,9 @@ TEST_F(DesktopSchemeTest, TellsWhatThePortalSaysAtTheStart)
     {
         uint preference;
         bool wrapsTwice;
-        QList<Scheme> told;
+        std::vector<Scheme> told;
     } rows[] = {
-        {1, true, {Scheme::Dark}},  {1, false, {Scheme::Dark}}, {2, true, {Scheme::Light}},
-        {0, true, QList<Scheme>()}, {7, true, QList<Scheme>()},
+        {1, true, {Scheme::Dark}}, {1, false, {Scheme::Dark}}, {2, true, {Scheme::Light}}, {0, true, {}}, {7, true, {}},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.preference);
@@ -168,7 +168,7 @@ TEST_F(DesktopSchemeTest, TellsEveryChangeOfThatSettingAndOfNoOther)
     }
     EXPECT_TRUE(QTest::qWaitFor([&] { return told.size() == 4; }));
     QTest::qWait(50);
-    EXPECT_EQ(told, (QList<Scheme>{Scheme::Dark, Scheme::Light, Scheme::Dark, Scheme::Light}));
+    EXPECT_EQ(told, (std::vector<Scheme>{Scheme::Dark, Scheme::Light, Scheme::Dark, Scheme::Light}));
 }
 
 TEST_F(DesktopSchemeTest, WaitsForNoPortalThatIsSlow)
@@ -176,16 +176,16 @@ TEST_F(DesktopSchemeTest, WaitsForNoPortalThatIsSlow)
     portal.isSilent = true;
     portal.preference = 1;
     askPortal(); // comes back, though no answer does
-    EXPECT_TRUE(told.isEmpty());
+    EXPECT_TRUE(told.empty());
     portal.change(appearance, colorScheme, 1);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return told == QList<Scheme>{Scheme::Dark}; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return told == std::vector<Scheme>{Scheme::Dark}; }));
 }
 
 TEST_F(DesktopSchemeTest, TellsNothingWhereThereIsNoBus)
 {
     desktop.follow(QDBusConnection(u"none"_s));
     QTest::qWait(50);
-    EXPECT_TRUE(told.isEmpty());
+    EXPECT_TRUE(told.empty());
 }
 
 // Last: a program has but one session bus.
