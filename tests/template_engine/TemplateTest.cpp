@@ -370,11 +370,11 @@ TEST(Template, TwelveHundredNestedBlocksExpand)
 TEST(Template, NestedCyclesExpandAsDeepAsTheyParse)
 {
     TryOut tryOut;
-    constexpr int Depth = 1000;
+    constexpr int depth = 1000;
     QString opening;
     QString closing;
     Variables row = tryOut.row({{u"x", u"bottom"}});
-    for (int i = 0; i < Depth; ++i) {
+    for (int i = 0; i < depth; ++i) {
         const QString name(QChar(u'\u4E00' + i));
         opening.prepend(u"<!--:cycle:%1:-->"_s.arg(name));
         closing += u"<!--:end:%1:-->"_s.arg(name);

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Keeps what it is told, and refuses the first documents when a test wants that.
-class KeepingSurface : public PreviewSurface
+class RefusingSurface : public PreviewSurface
 {
 public:
     bool replaceDocument(const QString& text) override
@@ -42,7 +42,7 @@ protected:
         return *style;
     }
 
-    KeepingSurface surface;
+    RefusingSurface surface;
     PreviewPage preview{session, templates, surface};
 };
 

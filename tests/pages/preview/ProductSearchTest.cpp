@@ -45,10 +45,10 @@ TEST(ProductSearch, AWordIsFoundInUpperCase)
 
 TEST(ProductSearch, EveryLetterIsComparedAsItsUpperCase)
 {
-    constexpr char32_t BlockSize = 0x100;
-    for (char32_t block = 0; block < 0x110000; block += BlockSize) {
+    constexpr char32_t blockSize = 0x100;
+    for (char32_t block = 0; block < 0x110000; block += blockSize) {
         QString text;
-        for (char32_t letter = block; letter < block + BlockSize; ++letter) {
+        for (char32_t letter = block; letter < block + blockSize; ++letter) {
             text += QString::fromUcs4(&letter, 1);
         }
         ASSERT_TRUE(isFound(text.toUpper(), text)) << std::hex << static_cast<unsigned>(block);
