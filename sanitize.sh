@@ -8,4 +8,4 @@ need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${LINT_PACKAGES[@]}"
 cmake --preset asan --log-level=WARNING
 cmake --build --preset asan
 LSAN_OPTIONS="suppressions=$PWD/scripts/leaks.supp:print_suppressions=0" \
-  ctest --test-dir build/asan --output-on-failure --no-tests=error "$@"
+  ctest --test-dir build/asan --output-on-failure --no-tests=error --parallel "$(nproc)" "$@"
