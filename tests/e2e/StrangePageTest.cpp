@@ -283,13 +283,13 @@ class DesktopTest : public QObject, public StrangePageTest
 public:
     DesktopTest()
     {
-        for (const QString& scheme : Schemes) {
+        for (const QString& scheme : schemes) {
             QDesktopServices::setUrlHandler(scheme, this, "open");
         }
     }
     ~DesktopTest() override
     {
-        for (const QString& scheme : Schemes) {
+        for (const QString& scheme : schemes) {
             QDesktopServices::unsetUrlHandler(scheme);
         }
     }
@@ -301,7 +301,7 @@ protected:
     QStringList takeOpened() { return std::exchange(opened, {}); }
 
     QStringList opened;
-    const QStringList Schemes{u"mailto"_s, u"tel"_s, u"steam"_s, u"ftp"_s, u"ssh"_s, u"ws"_s, u"file"_s};
+    const QStringList schemes{u"mailto"_s, u"tel"_s, u"steam"_s, u"ftp"_s, u"ssh"_s, u"ws"_s, u"file"_s};
 };
 
 TEST_F(DesktopTest, MailAndTelephoneGoToTheDesktopAndNothingElseDoes)

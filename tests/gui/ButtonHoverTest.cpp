@@ -13,14 +13,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Expected
+struct ExpectedPicture
 {
     const char* title;
     const char* outside;
     const char* inside;
 };
 
-const Expected expectedPictures[] = {
+const ExpectedPicture expectedPictures[] = {
     {"Remove", "154", "154"},
     {"Remove Category", "113", "113"},
     {"Add new product", "114", "114"},
@@ -101,7 +101,7 @@ TEST_F(ButtonHover, TakesBothPicturesFromTheTableByTheTitle)
         ASSERT_TRUE(picture.save(files.path(u"pictures/%1"_s.arg(QLatin1String(file)))));
     }
     ASSERT_EQ(buttonPictureTable().size(), std::size(expectedPictures));
-    for (const Expected& expected : expectedPictures) {
+    for (const ExpectedPicture& expected : expectedPictures) {
         SCOPED_TRACE(expected.title);
         const auto button = makeButton(expected.title);
         const auto expectedImage = [&](const char* name) {
@@ -119,7 +119,7 @@ TEST_F(ButtonHover, TakesBothPicturesFromTheTableByTheTitle)
 TEST_F(ButtonHover, HasDifferentPicturesForInsideAndOutside)
 {
     constexpr QSize size(48, 48);
-    for (const Expected& expected : expectedPictures) {
+    for (const ExpectedPicture& expected : expectedPictures) {
         if (QByteArray(expected.outside).endsWith(".bmp")) {
             continue; // the shop's own files
         }

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct Expected
+struct ExpectedButton
 {
     const char* name;
     const char* frame;
@@ -19,7 +19,7 @@ struct Expected
     int code;
 };
 
-const Expected expectedButtons[] = {
+const ExpectedButton expectedButtons[] = {
     {"SaveShopSBtn", "ToolbarFrame", "Save The Shop", "", 0},
     {"ProductCatalogSBtn", "ToolbarFrame", "Products Catalog", "ShopGeneralPnl", 0},
     {"ShopDesignSBtn", "ToolbarFrame", "The Shop Design and Layout", "MainPagePnl", 0},
@@ -67,7 +67,7 @@ TEST_F(Buttons, StandInTheirFramesWithTitlesPanelsAndCodes)
     ASSERT_EQ(window->findChildren<ShortcartButton*>().size(), 30);
     const QStringList lines = logLines();
     qsizetype line = lines.indexOf(u"Countries loaded"_s);
-    for (const Expected& expected : expectedButtons) {
+    for (const ExpectedButton& expected : expectedButtons) {
         SCOPED_TRACE(expected.name);
         auto* button = find<ShortcartButton>(expected.name);
         EXPECT_EQ(button->parentWidget()->objectName(), QLatin1String(expected.frame));
@@ -85,7 +85,7 @@ TEST_F(Buttons, StandInTheirFramesWithTitlesPanelsAndCodes)
 
 TEST_F(Buttons, ThatShowAPanelOfTheCatalogueShowIt)
 {
-    for (const Expected& expected : expectedButtons) {
+    for (const ExpectedButton& expected : expectedButtons) {
         if (expected.code == 0 && qstrcmp(expected.frame, "ShopToolbar") == 0) {
             SCOPED_TRACE(expected.name);
             click(expected.name);
@@ -98,7 +98,7 @@ TEST_F(Buttons, ThatShowAPanelOfTheCatalogueShowIt)
 TEST_F(Buttons, OfTheDesignMenuShowTheirPanels)
 {
     click("ShopDesignSBtn");
-    for (const Expected& expected : expectedButtons) {
+    for (const ExpectedButton& expected : expectedButtons) {
         if (qstrcmp(expected.frame, "ShopDesignMenuFrame") == 0) {
             SCOPED_TRACE(expected.name);
             click(expected.name);

@@ -40,7 +40,7 @@ protected:
         }
         FAIL() << "The window manager gives no frames: " << m_manager.readAllStandardError().constData();
     }
-    ~FrameFitTest() override
+    void TearDown() override
     {
         m_manager.terminate();
         m_manager.waitForFinished();

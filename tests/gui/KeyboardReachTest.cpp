@@ -16,6 +16,7 @@
 #include <QSet>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTableView>
 #include <QTest>
 #include <QTimer>
 

@@ -105,7 +105,7 @@ protected:
     {
         QObject::connect(&desktop, &DesktopScheme::told, &desktop, [this](Scheme scheme) { told.push_back(scheme); });
     }
-    ~DesktopSchemeTest() override
+    void TearDown() override
     {
         QDBusConnection::disconnectFromBus(u"portal"_s);
         QDBusConnection::disconnectFromBus(u"program"_s);

@@ -34,9 +34,10 @@ constexpr NumberColumn variants = numberColumns[std::size(numberColumns) - 1];
 
 class CellMarks : public PanelTest
 {
-protected:
+public:
     ~CellMarks() override { showScheme(Scheme::Light); }
 
+protected:
     CustomGrid* open(const NumberColumn& row)
     {
         clickNode(QLatin1String(row.node));

@@ -26,7 +26,7 @@ struct SlotCase
     ImageSlot slot;
     const char* tag;
 };
-constexpr SlotCase cases[] = {
+constexpr SlotCase slotCases[] = {
     {"HeaderDesignSBtn", "lblLogo", ImageSlot::HeaderLogo, "HEADER_LOGO"},
     {"HeaderDesignSBtn", "lblSearchButton", ImageSlot::HeaderSearchButton, "HEADER_SEARCH_BUTTON"},
     {"HeaderDesignSBtn", "lblShoppingCartButton", ImageSlot::HeaderShoppingCartButton, "HEADER_SHOPPINGCART_BUTTON"},
@@ -100,7 +100,7 @@ protected:
 
 TEST_F(ImageSlots, AreOpenedByTheirButtonsOnTheirValuesAndReachTheShopFile)
 {
-    for (const SlotCase& row : cases) {
+    for (const SlotCase& row : slotCases) {
         SCOPED_TRACE(row.tag);
         clsSelectedImage& image = slot(row.slot);
         image.SelectionType = ImageSelection::Image;
@@ -123,7 +123,7 @@ TEST_F(ImageSlots, AreOpenedByTheirButtonsOnTheirValuesAndReachTheShopFile)
 
 TEST_F(ImageSlots, ShowInTheNextPage)
 {
-    QDialog* form = openSlot(cases[0]);
+    QDialog* form = openSlot(slotCases[0]);
     clickImage(form, u"aa.png"_s);
     press(form, "OkBtn");
     click("PreviewBrowserSBtn");
@@ -133,18 +133,18 @@ TEST_F(ImageSlots, ShowInTheNextPage)
 
 TEST_F(ImageSlots, TakeATextAndKeepTheirFile)
 {
-    QDialog* form = openSlot(cases[0]);
+    QDialog* form = openSlot(slotCases[0]);
     tick(chkText(form));
     EXPECT_FALSE(images(form)->isEnabled());
     EXPECT_FALSE(form->findChild<QLineEdit*>(u"txtFilter"_s)->isEnabled());
     EXPECT_TRUE(txtText(form)->isEnabled());
     type(txtText(form), u"My shop"_s);
     press(form, "OkBtn");
-    EXPECT_EQ(valueLabel(cases[0]), u"Text: My shop"_s);
+    EXPECT_EQ(valueLabel(slotCases[0]), u"Text: My shop"_s);
     saveShop();
-    EXPECT_EQ(savedSlot(cases[0]).mid(0, 3), (QStringList{u"Text"_s, u"logo.png"_s, u"My shop"_s}));
+    EXPECT_EQ(savedSlot(slotCases[0]).mid(0, 3), (QStringList{u"Text"_s, u"logo.png"_s, u"My shop"_s}));
     // It is shown as a text the next time, with the file's entry still selected.
-    form = openSlot(cases[0]);
+    form = openSlot(slotCases[0]);
     EXPECT_TRUE(chkText(form)->isChecked());
     EXPECT_EQ(selected(form), u"logo.png"_s);
     EXPECT_EQ(txtText(form)->text(), u"My shop"_s);
@@ -154,7 +154,7 @@ TEST_F(ImageSlots, TakeATextAndKeepTheirFile)
 TEST_F(ImageSlots, TakeNoTextThatWasTypedWhenAnImageIsChosen)
 {
     const QString before = slot(ImageSlot::HeaderLogo).TextValue;
-    QDialog* form = openSlot(cases[0]);
+    QDialog* form = openSlot(slotCases[0]);
     tick(chkText(form));
     type(txtText(form), u"My shop"_s);
     tick(chkText(form));
@@ -165,10 +165,10 @@ TEST_F(ImageSlots, TakeNoTextThatWasTypedWhenAnImageIsChosen)
 
 TEST_F(ImageSlots, StayAsTheyWereAfterCancel)
 {
-    QDialog* form = openSlot(cases[0]);
+    QDialog* form = openSlot(slotCases[0]);
     clickImage(form, u"aa.png"_s);
     press(form, "CancelBtn");
-    form = openSlot(cases[0]);
+    form = openSlot(slotCases[0]);
     tick(chkText(form));
     press(form, "CancelBtn");
     EXPECT_EQ(slot(ImageSlot::HeaderLogo).imageFileName, u"logo.png"_s);
@@ -181,7 +181,7 @@ TEST_F(ImageSlots, SelectTheirFileOnAnExactMatchOnly)
         {u"aa.png"_s, u"aa.png"_s}, {u"AA.PNG"_s, u"AA.PNG"_s}, {u"Aa.png"_s, QString()}, {u"LOGO.png"_s, QString()}};
     for (const auto& [name, expected] : names) {
         slot(ImageSlot::HeaderLogo).imageFileName = name;
-        QDialog* form = openSlot(cases[0]);
+        QDialog* form = openSlot(slotCases[0]);
         EXPECT_EQ(selected(form), expected);
         press(form, "CancelBtn");
     }
@@ -192,7 +192,7 @@ TEST_F(ImageSlots, LeaveTheTextWhenAPictureIsAdded)
     slot(ImageSlot::HeaderLogo).SelectionType = ImageSelection::Text;
     const QString source = files.path(u"elsewhere.png"_s);
     ASSERT_TRUE(QFile::copy(files.path(u"pictures/aa.png"_s), source));
-    QDialog* form = openSlot(cases[0]);
+    QDialog* form = openSlot(slotCases[0]);
     EXPECT_TRUE(chkText(form)->isChecked());
     prompts.answerFile(source);
     press(form, "AddBttn");
@@ -206,7 +206,7 @@ TEST_F(ImageSlots, LeaveTheTextWhenAPictureIsAdded)
 
 TEST_F(ImageSlots, ShowThePictureThatIsSelected)
 {
-    QDialog* form = openSlot(cases[0]);
+    QDialog* form = openSlot(slotCases[0]);
     clickImage(form, u"aa.png"_s);
     const auto* shown = form->findChild<PictureBox*>(u"imgPreview"_s);
     EXPECT_EQ(shown->pictureSize().width, 120);
@@ -218,7 +218,7 @@ TEST_F(ImageSlots, ShowThePictureThatIsSelected)
 TEST_F(ImageSlots, OpenTheStyleOfTheirText)
 {
     EXPECT_FALSE(shop().CSSs.hasKey(u"IDHEADER_LOGO"_s));
-    QDialog* form = openSlot(cases[0]);
+    QDialog* form = openSlot(slotCases[0]);
     press(form, "btnCSS_Text");
     auto* style = form->findChild<QDialog*>(u"CSSManagementForm"_s);
     ASSERT_NE(style, nullptr);

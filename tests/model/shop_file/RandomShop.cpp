@@ -149,23 +149,23 @@ void RandomShop::fillCategory(ShopSession& session, const std::shared_ptr<Catego
 
 void RandomShop::fillTables(ShopClass& shop)
 {
-    const auto texts = [] { return std::make_shared<TextCollection>(); };
-    shop.SelectedCountries = texts();
+    const auto newTexts = [] { return std::make_shared<TextCollection>(); };
+    shop.SelectedCountries = newTexts();
     for (int i = number(0, 4); i > 0; --i) {
         const QString country = uniqueText();
         shop.SelectedCountries->Add(country, country);
     }
     // A reader finds an empty list of types where the writer had none, so that there is always one.
-    shop.ShippingTypeName = texts();
-    shop.ShippingTypeDescription = texts();
+    shop.ShippingTypeName = newTexts();
+    shop.ShippingTypeDescription = newTexts();
     const int types = number(0, 3);
     for (int i = 0; i < types; ++i) {
         shop.ShippingTypeName->Add(uniqueText(), u"ship_name%1"_s.arg(i));
         shop.ShippingTypeDescription->Add(text(), u"ship_desc%1"_s.arg(i));
     }
     if (const int frames = number(0, 3); frames > 0) {
-        shop.ShippingCostFrameFrom = texts();
-        shop.ShippingCostFrameTo = texts();
+        shop.ShippingCostFrameFrom = newTexts();
+        shop.ShippingCostFrameTo = newTexts();
         shop.ShippingCosts = std::make_shared<KeyedCollection<TextCollection>>();
         for (int frame = 0; frame < frames; ++frame) {
             shop.ShippingCostFrameFrom->Add(decimal(), u"from%1"_s.arg(frame));
