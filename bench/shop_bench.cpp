@@ -191,6 +191,7 @@ double measureUnsaved(ShopSession& session, int products)
     session.shop.reset();
     constexpr int rounds = 15;
     std::vector<Sample> samples;
+    samples.reserve(rounds);
     for (int i = 0; i < rounds; ++i) {
         samples.push_back(sampleInProcess(u"--unsaved"_s, session.folder.path()));
     }

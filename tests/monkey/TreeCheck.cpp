@@ -9,8 +9,6 @@
 
 #include <QLineEdit>
 
-#include <array>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -69,9 +67,13 @@ TreeCheck::TreeCheck(MainForm& window) : m_window(window)
     if (const TreeNode* root = window.parts().CategoriesAndProductsTree->nodes().rootNode()) {
         collectKeys(*root, m_loaded);
     }
+    for (const char* field : {"ShopNameTxt", "CategoryNameTxt", "ProductNameTxt"}) {
+        QObject::connect(window.findChild<QLineEdit*>(QLatin1String(field)), &QLineEdit::textEdited, &m_listener,
+                         [this](const QString& text) { m_typed.insert(text); });
+    }
 }
 
-QString TreeCheck::disagreement()
+QString TreeCheck::disagreement() const
 {
     const TreeNode* root = m_window.parts().CategoriesAndProductsTree->nodes().rootNode();
     if (!root) {
@@ -100,7 +102,7 @@ QString TreeCheck::ofSelection() const
     return {};
 }
 
-QString TreeCheck::ofNode(const TreeNode& node)
+QString TreeCheck::ofNode(const TreeNode& node) const
 {
     const ObjectsCollection& objects = m_window.session().objects;
     if (!objects.hasKey(node.key)) {
@@ -117,27 +119,10 @@ QString TreeCheck::ofNode(const TreeNode& node)
     return found;
 }
 
-// The name is on its way from the panel's field to the object; a window that has closed meanwhile takes it along.
-bool TreeCheck::isTyped(const TreeNode& node) const
+// A name that was typed stands at the node before it is the object's, and stays there when Reset takes it back.
+QString TreeCheck::ofText(const TreeNode& node, const QString& name) const
 {
-    constexpr std::array fields = {"ShopNameTxt", "CategoryNameTxt", "ProductNameTxt"};
-    for (const char* field : fields) {
-        const auto* line = m_window.findChild<QLineEdit*>(QLatin1String(field));
-        if (line->isVisibleTo(&m_window) && line->text() == node.text) {
-            return true;
-        }
-    }
-    return false;
-}
-
-QString TreeCheck::ofText(const TreeNode& node, const QString& name)
-{
-    if (node.text == name) {
-        m_typed.remove(node.key);
-        return {};
-    }
-    if (m_typed.contains(node.key) || isTyped(node)) {
-        m_typed.insert(node.key);
+    if (node.text == name || m_typed.contains(node.text)) {
         return {};
     }
     return u"The node %1 shows \"%2\" for \"%3\""_s.arg(node.key, node.text, name);

@@ -2,6 +2,7 @@
 // the nodes, and their texts.
 #pragma once
 
+#include <QObject>
 #include <QSet>
 #include <QString>
 
@@ -15,16 +16,16 @@ public:
     explicit TreeCheck(MainForm& window);
 
     // What is out of step now, in words; empty when nothing is. To be called between two steps.
-    QString disagreement();
+    QString disagreement() const;
 
 private:
     QString ofSelection() const;
-    QString ofNode(const TreeNode& node);
-    QString ofText(const TreeNode& node, const QString& name);
+    QString ofNode(const TreeNode& node) const;
+    QString ofText(const TreeNode& node, const QString& name) const;
     QString ofChildren(const TreeNode& node) const;
-    bool isTyped(const TreeNode& node) const;
 
     MainForm& m_window;
     QSet<QString> m_loaded; // keys of the nodes that were there at the start
-    QSet<QString> m_typed;  // keys of the nodes whose text was typed and not submitted
+    QSet<QString> m_typed;  // every text that was typed as a name
+    QObject m_listener;
 };
