@@ -18,7 +18,7 @@ namespace {
 constexpr int rounds = 7;
 constexpr double wantedAtMost = 1.5;
 
-struct Shape
+struct ImportShape
 {
     const char* title;
     QByteArray (*category)(int line); // the third field of a line, 0-based
@@ -50,7 +50,7 @@ QByteArray chainForTenLines(int line)
     return "Shelf " + QByteArray::number(line / 10) + QByteArray("\\Row").repeated(49);
 }
 
-QByteArray text(const Shape& shape, int lines)
+QByteArray text(const ImportShape& shape, int lines)
 {
     QByteArray text;
     for (int i = 0; i < lines; ++i) {
@@ -79,7 +79,7 @@ int main(int argc, char** argv)
     mallopt(M_TRIM_THRESHOLD, std::numeric_limits<int>::max());
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    const Shape shapes[] = {
+    const ImportShape shapes[] = {
         {"1,000 root categories", oneOfThousandRoots, 12'500},
         {"a root category for each line", rootOfItsOwn, 12'500},
         {"one category, 50 deep", sameFiftyDeep, 5'000},
@@ -88,7 +88,7 @@ int main(int argc, char** argv)
     };
     std::printf("%-46s %8s %10s %8s %10s\n", "processor time of an import", "lines", "", "lines", "");
     bool isLinear = true;
-    for (const Shape& shape : shapes) {
+    for (const ImportShape& shape : shapes) {
         const QByteArray small = text(shape, shape.lines);
         const QByteArray large = text(shape, 4 * shape.lines);
         std::vector<double> ofSmall;

@@ -55,7 +55,7 @@ void makePictures(const QString& folder, const QString& originals)
             painter.drawEllipse(QPoint(i * 131 % size.width(), i * 211 % size.height()), 10 + i % 60, 10 + i % 40);
         }
         painter.end();
-        const QString path = originals + u"/first."_s + QLatin1String(format);
+        QString path = originals + u"/first."_s + QLatin1String(format);
         image.save(path, format);
         return path;
     };
