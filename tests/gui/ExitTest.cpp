@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString title = u"Ambrel eCommerce Software"_s;
+const QString boxTitle = u"Ambrel eCommerce Software"_s;
 const QString question = u"Do you want save changes?"_s;
 
 class Exit : public WindowTest
@@ -23,7 +23,7 @@ protected:
 TEST_F(Exit, WithYesSavesAndCloses)
 {
     find<QLineEdit>("ShopNameTxt")->setText(u"Moss"_s);
-    prompts.answerYesNoCancel(title, question, PromptAnswer::Yes);
+    prompts.answerYesNoCancel(boxTitle, question, PromptAnswer::Yes);
     EXPECT_TRUE(window->close());
     EXPECT_TRUE(fileBytes(files.path(u"shop.xml"_s)).contains("<Name>Moss</Name>"));
     EXPECT_EQ(window->session().Cart, nullptr);
@@ -33,7 +33,7 @@ TEST_F(Exit, WithNoClosesAndSavesNothing)
 {
     const QByteArray before = fileBytes(files.path(u"shop.xml"_s));
     window->session().shop->name = u"Moss"_s;
-    prompts.answerYesNoCancel(title, question, PromptAnswer::No);
+    prompts.answerYesNoCancel(boxTitle, question, PromptAnswer::No);
     EXPECT_TRUE(window->close());
     EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), before);
     EXPECT_EQ(window->session().Cart, nullptr);
@@ -42,7 +42,7 @@ TEST_F(Exit, WithNoClosesAndSavesNothing)
 TEST_F(Exit, WithCancelKeepsTheWindowButNotTheCart)
 {
     ASSERT_NE(window->session().Cart, nullptr);
-    prompts.answerYesNoCancel(title, question, PromptAnswer::Cancel);
+    prompts.answerYesNoCancel(boxTitle, question, PromptAnswer::Cancel);
     EXPECT_FALSE(window->close());
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(window->session().Cart, nullptr);
@@ -51,7 +51,7 @@ TEST_F(Exit, WithCancelKeepsTheWindowButNotTheCart)
 TEST_F(Exit, AsksAgainRightAfterASave)
 {
     trigger("mnuSaveShop");
-    prompts.answerYesNoCancel(title, question, PromptAnswer::No);
+    prompts.answerYesNoCancel(boxTitle, question, PromptAnswer::No);
     EXPECT_TRUE(window->close());
 }
 

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr DiscountOption options[] = {
+constexpr DiscountOption categoryOptions[] = {
     {"NoDiscountOpt", "NO DISCOUNT", DiscountStatus::No, UsesNothing},
     {"ApplyOpt", "APPLY TO ALL CATEGORY (%)", DiscountStatus::ToAll, UsesPercent | UsesDates},
     {"DependOpt", "DEPEND ON PRODUCT PRICE", DiscountStatus::Depend, UsesBands | UsesDates},
@@ -20,7 +20,7 @@ constexpr DiscountOption options[] = {
 CategoryDiscountPanel::CategoryDiscountPanel(PanelHost& host, QWidget* parent)
     : CataloguePanel(host, u"Category discount properties"_s, parent)
 {
-    m_editor = new DiscountEditor(host, options, DiscountEditor::Percent::ApplyToWhole, m_frame);
+    m_editor = new DiscountEditor(host, categoryOptions, DiscountEditor::Percent::ApplyToWhole, m_frame);
     m_frame->addButtons(host);
 }
 

@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr DiscountOption options[] = {
+constexpr DiscountOption productOptions[] = {
     {"NoDiscountOpt", "NO DISCOUNT", DiscountStatus::No, UsesNothing},
     {"SpecificOpt", "SPECIFIC DISCOUNT (%)", DiscountStatus::Specific, UsesPercent | UsesDates},
     // Two blanks stand in this caption.
@@ -19,7 +19,7 @@ constexpr DiscountOption options[] = {
 ProductDiscountPanel::ProductDiscountPanel(PanelHost& host, QWidget* parent)
     : CataloguePanel(host, u"Product discount properties"_s, parent)
 {
-    m_editor = new DiscountEditor(host, options, DiscountEditor::Percent::Specific, m_frame);
+    m_editor = new DiscountEditor(host, productOptions, DiscountEditor::Percent::Specific, m_frame);
     m_frame->addButtons(host);
 }
 

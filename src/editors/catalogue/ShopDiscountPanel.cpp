@@ -7,7 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr DiscountOption options[] = {
+constexpr DiscountOption shopOptions[] = {
     {"NoDiscountOpt", "NO DISCOUNT", DiscountStatus::No, UsesNothing},
     {"ApplyOpt", "APPLY TO ALL SHOP (%)", DiscountStatus::ToAll, UsesPercent | UsesDates},
     {"DependOpt", "DEPEND ON PRODUCT PRICE", DiscountStatus::Depend, UsesBands | UsesDates},
@@ -18,7 +18,7 @@ constexpr DiscountOption options[] = {
 ShopDiscountPanel::ShopDiscountPanel(PanelHost& host, QWidget* parent)
     : CataloguePanel(host, u"Shop discount properties"_s, parent)
 {
-    m_editor = new DiscountEditor(host, options, DiscountEditor::Percent::ApplyToWhole, m_frame);
+    m_editor = new DiscountEditor(host, shopOptions, DiscountEditor::Percent::ApplyToWhole, m_frame);
     m_frame->addButtons(host);
 }
 
