@@ -1,5 +1,6 @@
 #include "base/Guarded.h"
 
+#include "Bell.h"
 #include "support/TestSupport.h"
 
 #include <memory>
@@ -45,24 +46,6 @@ TEST(Guarded, LackOfMemoryIsAnErrorLikeOthers)
     EXPECT_EQ(handler.numbers, std::vector<int>{7});
 }
 
-namespace {
-
-class Bell : public QObject
-{
-    Q_OBJECT
-
-public:
-    void raise(int number) { throw RuntimeError(static_cast<ErrorNumber>(number)); }
-    void count() { ++rings; }
-
-    int rings = 0;
-
-Q_SIGNALS:
-    void rung(int number);
-};
-
-} // namespace
-
 TEST(ConnectGuarded, AnErrorInTheSlotGoesToTheHandlerAndTheNextSlotRuns)
 {
     RecordingHandler handler;
@@ -95,5 +78,3 @@ TEST(ConnectGuarded, NothingRunsOnceTheReceiverIsGone)
     Q_EMIT bell.rung(13);
     EXPECT_TRUE(handler.numbers.empty());
 }
-
-#include "GuardedTest.moc"

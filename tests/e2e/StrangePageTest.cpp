@@ -1,10 +1,10 @@
 // What a page cannot make the preview do: act for a frame or for a script of another host, stand in the owner's way
 // with boxes or by hanging, and start his other programs.
+#include "PlayedDesktop.h"
 #include "e2e/BrowserTest.h"
 #include "e2e/WebServer.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
@@ -276,32 +276,12 @@ TEST_F(StubbornPageTest, APageThatStandsForLongIsNotEnded)
 
 // Other programs ----------------------------------------------------------------------------------------------------
 
-class DesktopTest : public QObject, public StrangePageTest
+class DesktopTest : public StrangePageTest
 {
-    Q_OBJECT
-
-public:
-    DesktopTest()
-    {
-        for (const QString& scheme : schemes) {
-            QDesktopServices::setUrlHandler(scheme, this, "open");
-        }
-    }
-    ~DesktopTest() override
-    {
-        for (const QString& scheme : schemes) {
-            QDesktopServices::unsetUrlHandler(scheme);
-        }
-    }
-
-public Q_SLOTS:
-    void open(const QUrl& url) { opened << url.toString(); }
-
 protected:
-    QStringList takeOpened() { return std::exchange(opened, {}); }
+    QStringList takeOpened() { return std::exchange(desktop.opened, {}); }
 
-    QStringList opened;
-    const QStringList schemes{u"mailto"_s, u"tel"_s, u"steam"_s, u"ftp"_s, u"ssh"_s, u"ws"_s, u"file"_s};
+    PlayedDesktop desktop;
 };
 
 TEST_F(DesktopTest, MailAndTelephoneGoToTheDesktopAndNothingElseDoes)
@@ -367,5 +347,3 @@ TEST_F(DesktopTest, WhatRunsInThePageGoesOn)
 }
 
 } // namespace
-
-#include "StrangePageTest.moc"

@@ -1,6 +1,7 @@
 // How the look follows the desktop, with a desktop portal of the test's own on a bus of its own.
 #include "look/DesktopScheme.h"
 
+#include "Portal.h"
 #include "look/Theme.h"
 #include "support/TestSupport.h"
 
@@ -17,8 +18,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString appearance = u"org.freedesktop.appearance"_s;
-const QString colorScheme = u"color-scheme"_s;
+const QString appearance = Portal::appearance();
+const QString colorScheme = Portal::colorScheme();
 
 // A message bus that lives as long as this.
 class Bus
@@ -53,49 +54,6 @@ private:
     QTemporaryDir m_folder;
     QProcess m_daemon;
     QString m_address;
-};
-
-// Answers as KDE's and GNOME's do.
-class Portal : public QObject, protected QDBusContext
-{
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
-
-public:
-    explicit Portal(const QDBusConnection& bus) : m_bus(bus)
-    {
-        EXPECT_TRUE(m_bus.registerObject(u"/org/freedesktop/portal/desktop"_s, this,
-                                         QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals));
-        EXPECT_TRUE(m_bus.registerService(u"org.freedesktop.portal.Desktop"_s));
-    }
-
-    uint preference = 0;
-    bool wrapsTwice = true;
-    bool isSilent = false;
-    int questions = 0;
-
-    void change(const QString& group, const QString& key, uint value)
-    {
-        Q_EMIT SettingChanged(group, key, QDBusVariant(value));
-    }
-
-public Q_SLOTS:
-    QDBusVariant Read(const QString& group, const QString& key)
-    {
-        ++questions;
-        EXPECT_EQ(group, appearance);
-        EXPECT_EQ(key, colorScheme);
-        if (isSilent) {
-            setDelayedReply(true);
-        }
-        return wrapsTwice ? QDBusVariant(QVariant::fromValue(QDBusVariant(preference))) : QDBusVariant(preference);
-    }
-
-Q_SIGNALS:
-    void SettingChanged(const QString& group, const QString& key, const QDBusVariant& value);
-
-private:
-    QDBusConnection m_bus;
 };
 
 class DesktopSchemeTest : public testing::Test
@@ -211,5 +169,3 @@ TEST(DesktopLook, ChangesInAllWindowsWhileTheProgramRuns)
 }
 
 } // namespace
-
-#include "DesktopSchemeTest.moc"
