@@ -13,13 +13,13 @@ class PlayedDesktop : public QObject
 public:
     PlayedDesktop()
     {
-        for (const QString& scheme : schemes) {
+        for (const QString& scheme : m_schemes) {
             QDesktopServices::setUrlHandler(scheme, this, "open");
         }
     }
     ~PlayedDesktop() override
     {
-        for (const QString& scheme : schemes) {
+        for (const QString& scheme : m_schemes) {
             QDesktopServices::unsetUrlHandler(scheme);
         }
     }
@@ -30,5 +30,5 @@ public Q_SLOTS:
     void open(const QUrl& url) { opened << url.toString(); }
 
 private:
-    const QStringList schemes = QStringLiteral("mailto tel steam ftp ssh ws file").split(u' ');
+    const QStringList m_schemes = QStringLiteral("mailto tel steam ftp ssh ws file").split(u' ');
 };
