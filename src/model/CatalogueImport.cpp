@@ -73,9 +73,10 @@ std::shared_ptr<CategoryClass> CatalogueImport::makeCategory(const std::shared_p
     category->id = m_shop.getNextProductId();
     category->name = name;
     (parent ? parent->Discount() : m_shop.Discount())->AddChildDiscount(category->Discount(), category->id);
-    (parent ? parent->categories : m_shop.categories).Add(category, nodeKey(category->id));
+    const QString key = nodeKey(category->id);
+    (parent ? parent->categories : m_shop.categories).Add(category, key);
     services.callbacks.AddCategoryToTheTree(parent, category);
-    services.objects.Add(category, nodeKey(category->id));
+    services.objects.Add(category, key);
     return category;
 }
 
@@ -88,7 +89,8 @@ void CatalogueImport::makeProduct(const std::shared_ptr<CategoryClass>& category
     product->category = category;
     product->name = std::move(fields[0]);
     product->Description = std::move(fields[1]);
-    category->products.Add(product, nodeKey(product->id));
+    const QString key = nodeKey(product->id);
+    category->products.Add(product, key);
     services.callbacks.AddProductToTheTree(category, product);
-    services.objects.Add(product, nodeKey(product->id));
+    services.objects.Add(product, key);
 }

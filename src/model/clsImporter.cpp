@@ -26,8 +26,7 @@ qsizetype lineEnd(const QString& text, qsizetype from)
 
 QStringList clsImporter::PSplit(QStringView line)
 {
-    enum class Place { BeforeField, InField, InQuotes };
-    Place place = Place::BeforeField;
+    bool inField = false;
     qsizetype start = 0;    // of the field
     qsizetype trailing = 0; // characters at its end that do not belong to it
     QStringList fields;
@@ -36,33 +35,29 @@ QStringList clsImporter::PSplit(QStringView line)
         fields.append(line.sliced(start, end - start - trailing).toString());
         trailing = 0;
         start = end + 1;
-        place = Place::BeforeField;
+        inField = false;
     };
 
     for (qsizetype at = 0; at < line.size(); ++at) {
         const QChar letter = line[at];
         if (letter == u' ') {
-            trailing += place == Place::InField ? 1 : 0;
+            trailing += inField ? 1 : 0;
         } else if (letter == u'"') {
-            if (place == Place::BeforeField) {
-                place = Place::InQuotes;
+            if (!inField) {
+                inField = true;
                 start = at + 1;
-            } else if (place == Place::InQuotes) {
-                place = Place::InField;
-                trailing = 1;
+                const qsizetype closing = line.indexOf(u'"', start);
+                trailing = closing < 0 ? 0 : 1;
+                at = closing < 0 ? line.size() : closing;
             }
         } else if (letter == u',') {
-            if (place == Place::InField) {
-                append(at);
-            } else if (place == Place::BeforeField) {
+            if (!inField) {
                 start = at; // only blanks stand here, and they make an empty field
-                append(at);
             }
+            append(at);
         } else {
             trailing = 0;
-            if (place == Place::BeforeField) {
-                place = Place::InField;
-            }
+            inField = true;
         }
     }
     append(line.size());
