@@ -62,6 +62,23 @@ TEST_F(PreviewBrowserTest, ADocumentReplacesTheOneBefore)
     EXPECT_EQ(browser->page()->history()->count(), 1);
 }
 
+// The engine takes a document for the one before, loaded again, which it would show where that one was left.
+TEST_F(PreviewBrowserTest, ADocumentIsShownFromItsTopWhereverTheOneBeforeWasLeft)
+{
+    const QString page = u"<div style='height: 9000px'></div><a id=link href='http://previewmode/MAINPAGE'>home</a>"_s;
+    writeTemplate(u"main"_s, page.toUtf8());
+    templates->ReLoad(u"main"_s, u"main"_s);
+    show(page);
+    for (int i = 0; i < 2; ++i) {
+        script(u"document.querySelector('#link').scrollIntoView()"_s);
+        pause(300);
+        ASSERT_GT(script(u"scrollY"_s).toInt(), 1000);
+        clickToNewPage(u"#link"_s);
+        pause(300);
+        EXPECT_EQ(script(u"scrollY"_s).toInt(), 0);
+    }
+}
+
 TEST_F(PreviewBrowserTest, ADocumentOfTenMillionLettersIsShown)
 {
     QString text = u"<!DOCTYPE html><body><p id=first>first</p>"_s;

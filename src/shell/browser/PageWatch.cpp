@@ -1,5 +1,7 @@
 #include "shell/browser/PageWatch.h"
 
+#include "shell/browser/DocumentScheme.h"
+
 #include <QUuid>
 
 using namespace Qt::StringLiterals;
@@ -7,7 +9,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // A click counts when it came from the visitor's hand, not from a script; the page's own handlers come later and cannot
-// hide it. A page is not asked whether it may be left: the preview shows what the program hands it.
+// hide it. A page is not asked whether it may be left: the preview shows what the program hands it. The engine takes
+// the shop's next page for the same one, loaded again, and would show it where that was left: each begins at its top.
 constexpr auto source = R"((function() {
     const tell = text => console.debug('%1' + text);
     const watchClick = event => {
@@ -20,6 +23,9 @@ constexpr auto source = R"((function() {
     addEventListener('click', watchClick, true);
     addEventListener('auxclick', watchClick, true);
     addEventListener('beforeunload', event => event.stopImmediatePropagation(), true);
+    if (location.protocol == '%2:') {
+        history.scrollRestoration = 'manual';
+    }
     if (window == top) {
         tell('');
     }
@@ -36,7 +42,7 @@ QWebEngineScript PageWatch::script() const
     script.setWorldId(QWebEngineScript::ApplicationWorld);
     script.setInjectionPoint(QWebEngineScript::DocumentCreation);
     script.setRunsOnSubFrames(true);
-    script.setSourceCode(QString(source).replace("%1"_L1, m_key));
+    script.setSourceCode(QString(source).arg(m_key, QLatin1StringView(DocumentScheme::name())));
     return script;
 }
 

@@ -1,6 +1,7 @@
-// What only the inside of a page can tell: that a new document has begun, and which link the visitor clicked with his
-// own hand. A script of the program's own runs in every document, in a world that the page's scripts cannot reach, and
-// tells by lines on the console that begin with a word which the page cannot know. The engine's page owns the one.
+// What only the inside of a page can tell or ask for: that a new document has begun, which link the visitor clicked
+// with his own hand, and that a page of the shop is shown from its top. A script of the program's own runs in every
+// document, in a world that the page's scripts cannot reach, and tells by lines on the console that begin with a word
+// which the page cannot know. The engine's page owns the one.
 #pragma once
 
 #include <QString>
