@@ -7,6 +7,7 @@
 #include "look/MenuPainting.h"
 #include "look/Paint.h"
 #include "look/SectionPainting.h"
+#include "look/StandardIcons.h"
 #include "look/Tones.h"
 #include "look/Type.h"
 #include "look/ViewPainting.h"
@@ -241,6 +242,12 @@ void ShopStyle::drawControl(ControlElement element, const QStyleOption* option, 
         break;
     }
     QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+QIcon ShopStyle::standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const
+{
+    QIcon icon = standardIconOf(picture);
+    return icon.isNull() ? QProxyStyle::standardIcon(picture, option, widget) : icon;
 }
 
 QPixmap ShopStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const

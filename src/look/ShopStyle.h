@@ -23,6 +23,7 @@ public:
     void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option, QPainter* painter,
                             const QWidget* widget) const override;
 
+    QIcon standardIcon(StandardPixmap picture, const QStyleOption* option, const QWidget* widget) const override;
     QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap, const QStyleOption* option) const override;
 
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,

@@ -3,10 +3,21 @@
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
+#include <QGridLayout>
+#include <QHeaderView>
 #include <QInputDialog>
+#include <QListView>
 #include <QMessageBox>
+#include <QSpacerItem>
+#include <QTreeView>
+
+using namespace Qt::StringLiterals;
 
 namespace {
+
+// Pixels. A title is not cut beside the buttons of its window, and a name can be read while it is typed.
+constexpr int leastBoxWidth = 320;
+constexpr QSize fileChoiceSize(760, 480);
 
 QMessageBox::Icon boxIcon(PromptIcon icon)
 {
@@ -23,6 +34,14 @@ QMessageBox::Icon boxIcon(PromptIcon icon)
     return QMessageBox::NoIcon;
 }
 
+// A message box makes itself as large as its layout asks, and takes no other size.
+void widen(QMessageBox& box)
+{
+    if (auto* grid = qobject_cast<QGridLayout*>(box.layout())) {
+        grid->addItem(new QSpacerItem(leastBoxWidth, 0), grid->rowCount(), 0, 1, grid->columnCount());
+    }
+}
+
 // Texts come from the shop and from files too, so no box reads them as markup.
 QMessageBox::StandardButton runBox(QWidget* window, QMessageBox::Icon icon, const QString& title, const QString& text,
                                    QMessageBox::StandardButtons buttons,
@@ -31,6 +50,7 @@ QMessageBox::StandardButton runBox(QWidget* window, QMessageBox::Icon icon, cons
     QMessageBox box(icon, title, text, buttons, window);
     box.setDefaultButton(defaultButton);
     box.setTextFormat(Qt::PlainText);
+    widen(box);
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 
@@ -38,6 +58,20 @@ QMessageBox::StandardButton runBox(QWidget* window, QMessageBox::Icon icon, cons
 bool captionHasPatterns(const QString& filter)
 {
     return filter.contains(u") (");
+}
+
+// The toolkit's own choice of a file has no room for sizes and dates, nor for the names of the places at its left.
+// Where the desktop has a choice of its own, that is shown as it is.
+void showWhole(QFileDialog& dialog)
+{
+    dialog.resize(fileChoiceSize);
+    if (const auto* files = dialog.findChild<QTreeView*>(u"treeView"_s)) {
+        files->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        files->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
+    if (auto* places = dialog.findChild<QListView*>(u"sidebar"_s)) {
+        places->setMinimumWidth(places->sizeHintForColumn(0) + 2 * places->frameWidth());
+    }
 }
 
 } // namespace
@@ -74,18 +108,22 @@ PromptAnswer DialogPrompts::askYesNoCancel(const QString& title, const QString& 
 
 std::optional<QString> DialogPrompts::askText(const QString& title, const QString& prompt)
 {
-    bool accepted = false;
-    const QString text = QInputDialog::getText(m_window, title, prompt, QLineEdit::Normal, QString(), &accepted);
-    return accepted ? std::optional(text) : std::nullopt;
+    QInputDialog dialog(m_window);
+    dialog.setWindowTitle(title);
+    dialog.setLabelText(prompt);
+    dialog.resize(leastBoxWidth, 0); // and as high as its parts need
+    return dialog.exec() == QDialog::Accepted ? std::optional(dialog.textValue()) : std::nullopt;
 }
 
 QString DialogPrompts::chooseFile(const QString& folder, const QString& filter)
 {
     // A folder that is gone would open the one that the program was started in.
     const bool isGone = !folder.isEmpty() && !QDir(folder).exists();
-    return QFileDialog::getOpenFileName(m_window, QString(), isGone ? QDir::homePath() : folder, filter, nullptr,
-                                        captionHasPatterns(filter) ? QFileDialog::HideNameFilterDetails
-                                                                   : QFileDialog::Options());
+    QFileDialog dialog(m_window, QString(), isGone ? QDir::homePath() : folder, filter);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::HideNameFilterDetails, captionHasPatterns(filter));
+    showWhole(dialog);
+    return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
 std::optional<int> DialogPrompts::chooseColour(int colour)

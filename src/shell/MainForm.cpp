@@ -60,7 +60,7 @@ void MainForm::load()
     ShopChanged = true;
     m_session->Cart = std::make_unique<clsCart>(m_session->services);
     setWindowTitle(applicationTitle());
-    setWindowIcon(QIcon(u":/icons/tarnwick.svg"_s));
+    QGuiApplication::setWindowIcon(QIcon(u":/icons/tarnwick.svg"_s)); // of boxes ahead of the window, too
     m_parts->ShopToolbar->setVisible(true);
     m_parts->CategoryToolbar->setVisible(false);
     m_parts->ProductToolbar->setVisible(false);

@@ -10,12 +10,15 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
+#include <QTreeView>
 
 #include <functional>
 #include <gtest/gtest.h>
@@ -98,6 +101,20 @@ INSTANTIATE_TEST_SUITE_P(All, DialogPromptsIcons,
                                          IconRow{PromptIcon::Information, QMessageBox::Information},
                                          IconRow{PromptIcon::Warning, QMessageBox::Warning},
                                          IconRow{PromptIcon::Critical, QMessageBox::Critical}));
+
+TEST_F(DialogPromptsTest, ABoxHasRoomForItsTitleHoweverShortItsText)
+{
+    const auto isWide = [](QDialog& box) {
+        EXPECT_GE(box.width(), 320);
+        box.reject();
+    };
+    whenOpen<QMessageBox>(isWide);
+    prompts.showMessage(u"Backing up"_s, u"Completed"_s, PromptIcon::None);
+    whenOpen<QMessageBox>(isWide);
+    prompts.askYesNoCancel(u"Ambrel eCommerce Software"_s, u"Do you want save changes?"_s);
+    whenOpen<QInputDialog>(isWide);
+    prompts.askText(u"Backing up"_s, u"Enter file name"_s);
+}
 
 TEST_F(DialogPromptsTest, AMessageReadsNoMarkup)
 {
@@ -263,6 +280,24 @@ TEST_F(DialogPromptsFile, SaysThePatternsOnce)
         });
         prompts.chooseFile(files.folder().path(), row.filter);
     }
+}
+
+TEST_F(DialogPromptsFile, ShowsPlacesSizesAndDatesWhole)
+{
+    chosen([](QFileDialog& dialog) {
+        const auto* shown = dialog.findChild<QTreeView*>(u"treeView"_s);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return shown->model()->rowCount(shown->rootIndex()) > 0; }));
+        QCoreApplication::processEvents();
+        for (int column = 1; column < shown->header()->count(); ++column) {
+            EXPECT_GE(shown->columnWidth(column),
+                      static_cast<const QAbstractItemView*>(shown)->sizeHintForColumn(column))
+                << column;
+        }
+        EXPECT_GE(shown->columnWidth(0), 200);
+        const auto* places = dialog.findChild<QListView*>(u"sidebar"_s);
+        EXPECT_GE(places->viewport()->width(), places->sizeHintForIndex(places->model()->index(0, 0)).width());
+        dialog.reject();
+    });
 }
 
 TEST_F(DialogPromptsFile, StartsAtHomeWhenItsFolderIsGone)
