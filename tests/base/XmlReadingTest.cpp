@@ -90,11 +90,11 @@ TEST_F(XmlReading, AGatheredElementAnswersLikeASearchInIt)
 TEST_F(XmlReading, AllElementsOfANameAreFoundInOrder)
 {
     const pugi::xml_node root = parse("<R><A>1</A><X><A>2<A>3</A></A></X><B/><A>4</A></R>");
-    QStringList texts;
-    for (const pugi::xml_node& found : allDescendants(root, "A")) {
-        texts.append(nodeText(found));
+    QStringList found;
+    for (const pugi::xml_node& element : allDescendants(root, "A")) {
+        found.append(nodeText(element));
     }
-    EXPECT_EQ(texts, (QStringList{u"1"_s, u"23"_s, u"3"_s, u"4"_s}));
+    EXPECT_EQ(found, (QStringList{u"1"_s, u"23"_s, u"3"_s, u"4"_s}));
 }
 
 // What a search in each row by itself finds.
