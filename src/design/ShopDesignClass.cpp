@@ -156,7 +156,7 @@ void ShopDesignClass::ToXML(pugi::xml_node node, Unwritable unwritable)
     }
     for (const ImageSlotRow& row : imageSlotTable()) {
         if (!isWritingStep(row.slot)) {
-            Image(row.slot)->ToXML(node);
+            Image(row.slot)->ToXML(node, unwritable);
         }
     }
 }

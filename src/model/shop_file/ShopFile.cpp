@@ -31,7 +31,7 @@ QByteArray bytesOf(const QString& path)
 bool loadShop(ShopSession& session, UnsavedShop* unsaved)
 {
     session.log.WriteLoadLog(u"Start shop creating"_s);
-    const bool opensUnsaved = unsaved != nullptr && unsaved->isWanted();
+    const bool opensUnsaved = unsaved != nullptr && unsaved->askToOpen();
     const QString path = opensUnsaved ? session.folder.unsavedShopFile() : session.folder.shopFile();
     QByteArray bytes = bytesOf(path);
     if (unsaved != nullptr) {

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QScopeGuard>
 
 #include <new>
 #include <utility>
@@ -31,7 +32,7 @@ UnsavedShop::UnsavedShop(ShopSession& session, Window window, std::unique_ptr<Fi
 
 // At the start ------------------------------------------------------------------------------------------------------
 
-bool UnsavedShop::isWanted()
+bool UnsavedShop::askToOpen()
 {
     if (m_window == Window::Second || !QFileInfo::exists(m_session.folder.unsavedShopFile())) {
         return false;
@@ -93,10 +94,8 @@ void UnsavedShop::keep()
         return;
     }
     trapped(notWritten, [&] {
-        const QByteArray text = textNow();
+        const QByteArray text = lookedAt(start);
         const TextMark mark(text);
-        const qint64 end = m_session.clock.steadyTime();
-        m_nextLook = end + partsOfTime * (end - start);
         if (mark != m_known) {
             write(text, mark);
         }
@@ -116,6 +115,16 @@ void UnsavedShop::keepAheadOfSave()
             write(text, mark);
         }
     });
+}
+
+// A look that fails has taken its time, too.
+QByteArray UnsavedShop::lookedAt(qint64 start)
+{
+    const auto putOff = qScopeGuard([&] {
+        const qint64 end = m_session.clock.steadyTime();
+        m_nextLook = end + partsOfTime * (end - start);
+    });
+    return textNow();
 }
 
 QByteArray UnsavedShop::textNow() const

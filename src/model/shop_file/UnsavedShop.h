@@ -26,7 +26,7 @@ public:
     // At the start: when there is an unsaved shop, asks whether to open it. True: it is to be read in the place of the
     // shop file. Otherwise what there is was set aside as shop.unsaved.old.xml, without a question when it cannot be
     // read to its end.
-    bool isWanted();
+    bool askToOpen();
     // The shop is about to be read from these bytes of a file.
     void shopIsReadFrom(QByteArrayView bytes);
     // The shop was read whole, and nobody has touched it yet; from now on it is kept.
@@ -58,6 +58,8 @@ private:
 
     void readToItsEnd() const;
     void setAside();
+    // The shop's text. `start` is when the look began; it puts off the next one.
+    QByteArray lookedAt(qint64 start);
     QByteArray textNow() const;
     void makeSureOfRoomForBoth(qsizetype size) const;
     void write(const QByteArray& text, const TextMark& mark);

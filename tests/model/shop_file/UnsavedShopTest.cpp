@@ -176,6 +176,40 @@ TEST_F(TheUnsavedShop, HoldsTheKnownSizeOfAPictureThatIsGone)
     EXPECT_TRUE(bytes().contains("<Picture>gone.png</Picture><Width>30</Width><Height>0</Height>"));
 }
 
+TEST_F(TheUnsavedShop, HoldsEachButtonWhosePictureIsGone)
+{
+    for (const ImageSlotRow& slot : imageSlotTable()) {
+        const QByteArray tag(slot.tag.data(), slot.tag.size());
+        openShop("<ShopDesign><" + tag + "><SelectionType>Text</SelectionType><FileName>gone.png</FileName></" + tag +
+                 "></ShopDesign>");
+        next->shop->name = u"Moss"_s;
+        EXPECT_EQ(errorOf([this] { currentText(); }), 53) << tag.toStdString();
+        unsaved->keep();
+        EXPECT_TRUE(bytes().contains("<FileName>gone.png</FileName>")) << tag.toStdString();
+        QFile::remove(session.folder.unsavedShopFile());
+        restart();
+    }
+}
+
+// What it takes is what counts, not what comes of it.
+TEST_F(TheUnsavedShop, IsLookedAtAsSeldomWhenItCannotBeWritten)
+{
+    openShop("");
+    next->shop->ShippingTypeDescription = nullptr;
+    next->shop->ShippingTypeName = std::make_shared<TextCollection>();
+    next->shop->ShippingTypeName->Add(u"Post"_s, u"ship_name0"_s);
+    ticking.step = 10;
+    unsaved->keep();
+    const qsizetype lines = logLines().size();
+    for (int i = 0; i < 50; ++i) {
+        unsaved->keep();
+    }
+    EXPECT_EQ(logLines().size(), lines);
+    ticking.pass(2000);
+    unsaved->keep();
+    EXPECT_EQ(logLines().size(), lines + 1);
+}
+
 TEST_F(TheUnsavedShop, HoldsAnEmptyTextForACostThatIsNotThere)
 {
     openShop("<ShopShipping><Type><Name>Post</Name></Type><Type><Name>Ship</Name></Type></ShopShipping>"
