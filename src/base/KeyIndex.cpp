@@ -111,17 +111,20 @@ bool KeyIndex::insert(const QString& key, int position)
     return true;
 }
 
-void KeyIndex::removePosition(int position)
+void KeyIndex::removePositions(const std::vector<bool>& isGone)
 {
     std::size_t kept = 0;
     std::vector<QString> texts;
+    int seen = 0; // positions
+    int gone = 0; // of these
     for (Entry entry : m_entries) {
-        if (entry.position == position) {
+        for (; seen < entry.position; ++seen) {
+            gone += isGone[static_cast<std::size_t>(seen)] ? 1 : 0;
+        }
+        if (isGone[static_cast<std::size_t>(entry.position)]) {
             continue;
         }
-        if (entry.position > position) {
-            --entry.position;
-        }
+        entry.position -= gone;
         if (entry.number < 0) {
             texts.push_back(std::move(m_texts[static_cast<std::size_t>(-1 - entry.number)]));
             entry.number = -static_cast<qint64>(texts.size());

@@ -15,8 +15,9 @@ public:
     int find(const QString& key) const noexcept;
     // Adds a key for a 0-based position. False, and nothing changed, when the key is there already.
     bool insert(const QString& key, int position);
-    // Forgets the key of a 0-based position, if it has one, and moves the positions behind it up by one.
-    void removePosition(int position);
+    // Forgets the keys of the positions that are marked, and moves those behind them up. There is a mark for each
+    // position, 0-based.
+    void removePositions(const std::vector<bool>& isGone);
     void reserve(int count);
 
 private:
@@ -35,7 +36,7 @@ private:
     void rebuildSlots(std::size_t count);
     void addToSlots(std::size_t entry);
 
-    std::vector<Entry> m_entries;
+    std::vector<Entry> m_entries; // by position
     std::vector<QString> m_texts; // keys of other forms
     std::vector<int> m_slots;     // open hash table of 1-based places in m_entries, 0 is free; empty while keys are few
 };

@@ -1,6 +1,7 @@
 // The list of nearly everything in the model: ordered, found by 1-based position or by an optional text key. Keys are
 // compared without regard to case, as QString's case-insensitive comparison does. Finding by key is O(1) on average,
-// adding O(1) amortised, removing O(n). A copy shares the keys until one of the two gets or loses one.
+// adding O(1) amortised, removing O(n), however many are removed at once. A copy shares the keys until one of the two
+// gets or loses one.
 #pragma once
 
 #include "base/KeyIndex.h"
@@ -9,6 +10,7 @@
 #include <QExplicitlySharedDataPointer>
 #include <QString>
 
+#include <algorithm>
 #include <type_traits>
 #include <utility>
 #include <vector>
@@ -55,6 +57,24 @@ public:
     // Removes one item; those behind it move up. Errors as for Item.
     void Remove(int index) { removePosition(checkedPosition(index)); }
     void Remove(const QString& key) { removePosition(checkedPosition(key)); }
+    // Removes one item after the other, in one go. At a key that is missing, or is there for the second time, those
+    // ahead of it are gone, and the error is as for Item.
+    void removeAll(const std::vector<QString>& keys)
+    {
+        std::vector<bool> isGone(m_items.size());
+        const auto missing = std::find_if(keys.begin(), keys.end(), [&](const QString& key) {
+            const int index = indexOf(key);
+            const bool isThere = index != 0 && !isGone[static_cast<std::size_t>(index - 1)];
+            if (isThere) {
+                isGone[static_cast<std::size_t>(index - 1)] = true;
+            }
+            return !isThere;
+        });
+        removeMarked(isGone);
+        if (missing != keys.end()) {
+            throw RuntimeError(ErrorNumber::InvalidArgument);
+        }
+    }
     void Clear()
     {
         m_items.clear();
@@ -85,11 +105,27 @@ private:
     }
     void removePosition(std::size_t position)
     {
+        std::vector<bool> isGone(m_items.size());
+        isGone[position] = true;
+        removeMarked(isGone);
+    }
+    void removeMarked(const std::vector<bool>& isGone)
+    {
         if (m_keys) {
             m_keys.detach();
-            m_keys->removePosition(static_cast<int>(position));
+            m_keys->removePositions(isGone);
         }
-        m_items.erase(m_items.begin() + static_cast<std::ptrdiff_t>(position));
+        std::size_t kept = 0;
+        for (std::size_t i = 0; i < m_items.size(); ++i) {
+            if (isGone[i]) {
+                continue;
+            }
+            if (kept != i) {
+                m_items[kept] = std::move(m_items[i]);
+            }
+            ++kept;
+        }
+        m_items.erase(m_items.begin() + static_cast<std::ptrdiff_t>(kept), m_items.end());
     }
 
     std::vector<T> m_items;

@@ -51,12 +51,19 @@ qint16 CategoryClass::GetProductCount() const
 
 void CategoryClass::RemoveChilds()
 {
+    std::vector<QString> keys;
+    addKeysBelow(keys);
+    m_services->objects.removeAll(keys);
+}
+
+void CategoryClass::addKeysBelow(std::vector<QString>& keys) const
+{
     for (const std::shared_ptr<CategoryClass>& category : categories) {
-        category->RemoveChilds();
-        m_services->objects.Remove(nodeKey(category->id));
+        category->addKeysBelow(keys);
+        keys.push_back(nodeKey(category->id));
     }
     for (const std::shared_ptr<ProductClass>& product : products) {
-        m_services->objects.Remove(nodeKey(product->id));
+        keys.push_back(nodeKey(product->id));
     }
 }
 

@@ -61,6 +61,9 @@ public:
     const ModelServices& services() const { return *m_services; }
 
 private:
+    // The keys of what lies below, in the order in which they leave ObjectsCollection.
+    void addKeysBelow(std::vector<QString>& keys) const;
+
     const ModelServices* m_services;
     std::shared_ptr<clsSelectedImage> m_selectedImage;
     std::shared_ptr<clsDiscount> m_discount;

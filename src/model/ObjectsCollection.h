@@ -10,6 +10,7 @@
 #include <memory>
 #include <optional>
 #include <variant>
+#include <vector>
 
 class CategoryClass;
 class ProductClass;
@@ -35,6 +36,8 @@ public:
     void Add(const CatalogueObject& object, const QString& key) { ownItems().Add(object, key); }
     // ErrorNumber::InvalidArgument when the key is missing.
     void Remove(const QString& key) { ownItems().Remove(key); }
+    // The same for many keys at once: those ahead of a missing one are removed.
+    void removeAll(const std::vector<QString>& keys) { ownItems().removeAll(keys); }
     const CatalogueObject& Item(const QString& key) const { return items().Item(key); }
     bool hasKey(const QString& key) const { return items().hasKey(key); }
 

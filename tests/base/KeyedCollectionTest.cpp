@@ -285,6 +285,41 @@ TEST(KeyedCollection, BehavesAsAListAndAMapOfFoldedKeysWould)
     }
 }
 
+TEST(KeyedCollection, RemovingManyLeavesWhatRemovingOneAfterTheOtherWould)
+{
+    std::mt19937 random(11); // NOLINT(cert-msc51-cpp): the same steps every time
+    for (int round = 0; round < 300; ++round) {
+        KeyedCollection<int> together;
+        const int count = static_cast<int>(random() % 40);
+        for (int i = 0; i < count; ++i) {
+            if (random() % 5 == 0) {
+                together.Add(i);
+            } else {
+                together.Add(i, (random() % 3 == 0 ? u"Name"_s : u"ID"_s) + QString::number(i));
+            }
+        }
+        KeyedCollection<int> single = together;
+        std::vector<QString> keys;
+        for (int i = 0; i < count; ++i) {
+            if (random() % 2 == 0) {
+                keys.push_back((random() % 2 == 0 ? u"name"_s : u"id"_s) + QString::number(random() % 40));
+            }
+        }
+        const int error = errorOf([&] { together.removeAll(keys); });
+        EXPECT_EQ(error, errorOf([&] {
+                      for (const QString& key : keys) {
+                          single.Remove(key);
+                      }
+                  }));
+        EXPECT_EQ(std::vector<int>(together.begin(), together.end()), std::vector<int>(single.begin(), single.end()));
+        for (int i = 0; i < 40; ++i) {
+            for (const QString& key : {u"ID"_s + QString::number(i), u"NAME"_s + QString::number(i)}) {
+                ASSERT_EQ(together.indexOf(key), single.indexOf(key)) << key.toStdString();
+            }
+        }
+    }
+}
+
 TEST(KeyedCollection, AnEmptyCollectionIsSmall)
 {
     EXPECT_LE(sizeof(KeyedCollection<QString>), sizeof(std::vector<QString>) + sizeof(void*));
