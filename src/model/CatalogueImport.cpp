@@ -1,8 +1,8 @@
 #include "model/CatalogueImport.h"
 
 #include "base/RuntimeError.h"
+#include "model/CatalogueNodes.h"
 #include "model/CategoryClass.h"
-#include "model/ObjectsCollection.h"
 #include "model/ProductClass.h"
 #include "model/ShopClass.h"
 
@@ -72,11 +72,8 @@ std::shared_ptr<CategoryClass> CatalogueImport::makeCategory(const std::shared_p
     category->parentCategory = parent;
     category->id = m_shop.getNextProductId();
     category->name = name;
-    (parent ? parent->Discount() : m_shop.Discount())->AddChildDiscount(category->Discount(), category->id);
-    const QString key = nodeKey(category->id);
-    (parent ? parent->categories : m_shop.categories).Add(category, key);
+    enterCategory(m_shop, parent, category);
     services.callbacks.AddCategoryToTheTree(parent, category);
-    services.objects.Add(category, key);
     return category;
 }
 
@@ -89,8 +86,6 @@ void CatalogueImport::makeProduct(const std::shared_ptr<CategoryClass>& category
     product->category = category;
     product->name = std::move(fields[0]);
     product->Description = std::move(fields[1]);
-    const QString key = nodeKey(product->id);
-    category->products.Add(product, key);
+    enterProduct(m_shop, category, product);
     services.callbacks.AddProductToTheTree(category, product);
-    services.objects.Add(product, key);
 }

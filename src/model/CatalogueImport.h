@@ -19,8 +19,8 @@ public:
 
     // Finds or makes the categories of the path in fields[2], below the given category or, without one, from the root,
     // and adds a product named fields[0] with the description fields[1] to the last; the fields are consumed.
-    // ErrorNumber::SubscriptOutOfRange with fewer than three of them, ErrorNumber::OutOfStackSpace when the path is too
-    // deep.
+    // ErrorNumber::SubscriptOutOfRange with fewer than three of them, OutOfStackSpace when the path is too deep,
+    // DuplicateKey when the next id is taken.
     void addProduct(QStringList& fields, std::shared_ptr<CategoryClass> top = nullptr);
 
 private:

@@ -21,6 +21,24 @@ std::shared_ptr<CategoryClass> categoryOf(const ProductClass& product)
 
 } // namespace
 
+// ObjectsCollection has every node, and so refuses an id that is taken before anything else knows the new node.
+void enterCategory(ShopClass& shop, const std::shared_ptr<CategoryClass>& parent,
+                   const std::shared_ptr<CategoryClass>& category)
+{
+    const QString key = nodeKey(category->id);
+    shop.services().objects.Add(category, key);
+    (parent ? parent->Discount() : shop.Discount())->AddChildDiscount(category->Discount(), category->id);
+    (parent ? parent->categories : shop.categories).Add(category, key);
+}
+
+void enterProduct(ShopClass& shop, const std::shared_ptr<CategoryClass>& category,
+                  const std::shared_ptr<ProductClass>& product)
+{
+    const QString key = nodeKey(product->id);
+    shop.services().objects.Add(product, key);
+    category->products.Add(product, key);
+}
+
 std::shared_ptr<CategoryClass> newCategory(ShopClass& shop, const std::shared_ptr<CategoryClass>& parent)
 {
     checkCategoryLevel(parent.get());
@@ -32,9 +50,7 @@ std::shared_ptr<CategoryClass> newCategory(ShopClass& shop, const std::shared_pt
     if (parent) {
         category->ParentDiscount = parent->Discount();
     }
-    (parent ? parent->Discount() : shop.Discount())->AddChildDiscount(category->Discount(), category->id);
-    (parent ? parent->categories : shop.categories).Add(category, nodeKey(category->id));
-    shop.services().objects.Add(category, nodeKey(category->id));
+    enterCategory(shop, parent, category);
     return category;
 }
 
@@ -46,8 +62,7 @@ std::shared_ptr<ProductClass> newProduct(ShopClass& shop, const std::shared_ptr<
     product->id = shop.getNextProductId();
     product->shop = &shop;
     product->category = category;
-    category->products.Add(product, nodeKey(product->id));
-    shop.services().objects.Add(product, nodeKey(product->id));
+    enterProduct(shop, category, product);
     return product;
 }
 
@@ -59,8 +74,7 @@ std::shared_ptr<ProductClass> duplicateProduct(ShopClass& shop, ProductClass& pr
     clone->id = shop.getNextProductId();
     clone->shop = product.shop;
     clone->category = category;
-    category->products.Add(clone, nodeKey(clone->id));
-    shop.services().objects.Add(clone, nodeKey(clone->id));
+    enterProduct(shop, category, clone);
     return clone;
 }
 

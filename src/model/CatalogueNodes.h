@@ -8,6 +8,14 @@ class CategoryClass;
 class ProductClass;
 class ShopClass;
 
+// Puts a node that has an id into the collection above it (without a parent: that of the shop) and into
+// ObjectsCollection, a category's discount into the discount above as well. ErrorNumber::DuplicateKey, and nothing
+// changed, when the catalogue has the id already: a shop file's ids may be ahead of its counter.
+void enterCategory(ShopClass& shop, const std::shared_ptr<CategoryClass>& parent,
+                   const std::shared_ptr<CategoryClass>& category);
+void enterProduct(ShopClass& shop, const std::shared_ptr<CategoryClass>& category,
+                  const std::shared_ptr<ProductClass>& product);
+
 // A category "New Category" in the parent, or without one in the root of the shop, with the next id. Its discount is
 // entered in the discount above. ErrorNumber::OutOfStackSpace when it would lie too deep.
 std::shared_ptr<CategoryClass> newCategory(ShopClass& shop, const std::shared_ptr<CategoryClass>& parent);

@@ -53,6 +53,21 @@ TEST_F(CatalogueImports, APathIsFoundOrMadeLevelByLevel)
     EXPECT_EQ(y->categories.Item(1)->products.Item(1)->name, u"a"_s);
 }
 
+// The counter of a shop file may lie behind its ids.
+TEST_F(CatalogueImports, ALineWhoseIdIsTakenLeavesNothingOfItself)
+{
+    for (const QString& path : {u"C2"_s, u"New"_s}) { // the id is to be a product's, or a category's
+        ASSERT_EQ(load(shopFile(category("2", "") + category("5", product("102", "")))), 0);
+        session.registerShop();
+        session.shop->MaxProductId = u"101"_s;
+        const QByteArray before = shopFileBytes(*session.shop);
+        EXPECT_EQ(import({u"a"_s, u"b"_s, path}), 457);
+        session.shop->MaxProductId = u"101"_s;
+        EXPECT_EQ(shopFileBytes(*session.shop), before);
+        EXPECT_EQ(session.shop->Discount()->Childs().Count(), 2);
+    }
+}
+
 TEST_F(CatalogueImports, NamesAreMatchedExactly)
 {
     EXPECT_EQ(import({u"a"_s, u"b"_s, u"c2"_s}), 0);
