@@ -15,6 +15,8 @@ std::span<const DesignOptionRow> designOptionTable()
     return table;
 }
 
+#undef TARNWICK_OPTION_ROW
+
 std::span<const DesignOptionRow> designOptionsOf(DesignGroup group)
 {
     const std::span<const DesignOptionRow> table = designOptionTable();

@@ -96,7 +96,7 @@ QString clsCart::TotalCost() const
     // Every step is rounded to a single.
     float total = 0;
     for (const std::shared_ptr<clsCartProduct>& line : m_lines) {
-        total = static_cast<float>(numberFromText(line->SelectedPrice()) + static_cast<double>(total));
+        total = singleFrom(numberFromText(line->SelectedPrice()) + static_cast<double>(total));
     }
     const float factor = tax / 100.0F + 1.0F;
     total = factor * total;

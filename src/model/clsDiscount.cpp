@@ -146,16 +146,14 @@ QString clsDiscount::bandFor(const QString& price) const
 
 void clsDiscount::SendDiscountToChilds(const QString& dateFrom, const QString& dateTo)
 {
-    const bool hasOwnDates = Status == DiscountStatus::Depend || Status == DiscountStatus::ToAll;
-    push(hasOwnDates || isOpen(dateFrom, dateTo));
+    push(hasOwnDates() || isOpen(dateFrom, dateTo));
 }
 
 // Dates are tested once where they come into force, and the answer is handed down: a level without dates of its own is
 // under those of the level above.
 void clsDiscount::push(bool isValidAbove)
 {
-    const bool hasOwnDates = Status == DiscountStatus::Depend || Status == DiscountStatus::ToAll;
-    const bool isValid = hasOwnDates ? isOpen(DateFrom, DateTo) : isValidAbove;
+    const bool isValid = hasOwnDates() ? isOpen(DateFrom, DateTo) : isValidAbove;
     const QString sent = sentPercentage(isValid);
     for (const std::shared_ptr<clsDiscount>& child : Childs()) {
         sendTo(*child, sent, isValid);

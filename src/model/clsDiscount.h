@@ -77,6 +77,8 @@ private:
     using Children = KeyedCollection<std::shared_ptr<clsDiscount>>;
 
     QString bandFor(const QString& price) const;
+    // Whether its dates are its own, and not those of the level above.
+    bool hasOwnDates() const { return Status == DiscountStatus::Depend || Status == DiscountStatus::ToAll; }
     bool isOpen(const QString& dateFrom, const QString& dateTo) const;
     void push(bool isValidAbove);
     QString sentPercentage(bool isValid) const;

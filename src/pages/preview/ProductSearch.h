@@ -24,6 +24,5 @@ private:
     QStringMatcher m_matcher;
     bool m_findsAll;
     std::vector<char16_t> m_buffer;
-    QString m_malformed;           // in the place of the buffer for a text that is not well-formed
     std::vector<char16_t> m_known; // upper case of the units outside ASCII that were met so far
 };
