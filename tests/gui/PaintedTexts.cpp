@@ -56,42 +56,42 @@ public:
     bool end() override { return m_painter.end(); }
     Type type() const override { return User; }
 
-    void updateState(const QPaintEngineState& state) override
+    void updateState(const QPaintEngineState& painting) override
     {
-        const DirtyFlags changed = state.state();
+        const DirtyFlags changed = painting.state();
         if (changed & DirtyTransform) {
-            m_painter.setTransform(state.transform());
+            m_painter.setTransform(painting.transform());
         }
         if (changed & DirtyPen) {
-            m_painter.setPen(state.pen());
+            m_painter.setPen(painting.pen());
         }
         if (changed & DirtyBrush) {
-            m_painter.setBrush(state.brush());
+            m_painter.setBrush(painting.brush());
         }
         if (changed & DirtyBrushOrigin) {
-            m_painter.setBrushOrigin(state.brushOrigin());
+            m_painter.setBrushOrigin(painting.brushOrigin());
         }
         if (changed & DirtyFont) {
-            m_painter.setFont(state.font());
+            m_painter.setFont(painting.font());
         }
         if (changed & DirtyHints) {
             m_painter.setRenderHints(m_painter.renderHints(), false);
-            m_painter.setRenderHints(state.renderHints());
+            m_painter.setRenderHints(painting.renderHints());
         }
         if (changed & DirtyCompositionMode) {
-            m_painter.setCompositionMode(state.compositionMode());
+            m_painter.setCompositionMode(painting.compositionMode());
         }
         if (changed & DirtyOpacity) {
-            m_painter.setOpacity(state.opacity());
+            m_painter.setOpacity(painting.opacity());
         }
         if (changed & DirtyClipRegion) {
-            m_painter.setClipRegion(state.clipRegion(), state.clipOperation());
+            m_painter.setClipRegion(painting.clipRegion(), painting.clipOperation());
         }
         if (changed & DirtyClipPath) {
-            m_painter.setClipPath(state.clipPath(), state.clipOperation());
+            m_painter.setClipPath(painting.clipPath(), painting.clipOperation());
         }
         if (changed & DirtyClipEnabled) {
-            m_painter.setClipping(state.isClipEnabled());
+            m_painter.setClipping(painting.isClipEnabled());
         }
     }
 

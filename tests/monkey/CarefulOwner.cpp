@@ -168,9 +168,9 @@ bool mayPress(const QWidget& widget, MainForm& window)
     struct Care
     {
         const char* name;
-        bool (*isDue)(MainForm& window);
+        bool (*isDue)(MainForm& form);
     };
-    constexpr auto lacksPrice = [](MainForm& window) { return !hasEveryPrice(window); };
+    constexpr auto lacksPrice = [](MainForm& form) { return !hasEveryPrice(form); };
     static constexpr std::array cares = {
         Care{"DeletePageBtn", isShownByMenu}, Care{"RemoveCategorySBtn", isMissedElsewhere},
         Care{"InheritOpt", lacksPrice},       Care{"ShopNewCategorySBtn", differs},

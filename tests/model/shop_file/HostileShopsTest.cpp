@@ -67,8 +67,8 @@ TEST_P(EachHostileInput, TakesNoMoreTimeAndMemoryThanAnHonestFile)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(HostileShops, EachHostileInput, testing::ValuesIn(hostileInputs()), [](const auto& info) {
-    QByteArray name(info.param.name);
+INSTANTIATE_TEST_SUITE_P(HostileShops, EachHostileInput, testing::ValuesIn(hostileInputs()), [](const auto& row) {
+    QByteArray name(row.param.name);
     return name.replace(' ', '_').replace(',', "").toStdString();
 });
 

@@ -182,7 +182,7 @@ INSTANTIATE_TEST_SUITE_P(
                        head + QByteArray("<Category><Id>7</Id>").repeated(501) +
                            QByteArray("</Category>").repeated(501) + "</Shop></Tarnwick>",
                        u"shop.unsaved.xml is set aside: Out of stack space"_s}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& row) { return row.param.name; });
 
 TEST_F(TheNextStart, LeavesAnUnsavedShopThatCannotBeSetAsideWhereItIs)
 {
