@@ -1,5 +1,6 @@
 #include "shell/DialogPrompts.h"
 
+#include <QApplication>
 #include <QColorDialog>
 #include <QDir>
 #include <QFileDialog>
@@ -76,27 +77,34 @@ void showWhole(QFileDialog& dialog)
 
 } // namespace
 
+// A box over a dialog that is open belongs to that: the desktop would put it behind the dialog otherwise.
+QWidget* DialogPrompts::over() const
+{
+    QWidget* dialog = QApplication::activeModalWidget();
+    return dialog != nullptr ? dialog : m_window;
+}
+
 void DialogPrompts::showMessage(const QString& title, const QString& text, PromptIcon icon)
 {
-    runBox(m_window, boxIcon(icon), title, text, QMessageBox::Ok);
+    runBox(over(), boxIcon(icon), title, text, QMessageBox::Ok);
 }
 
 bool DialogPrompts::askYesNo(const QString& title, const QString& text)
 {
-    return runBox(m_window, QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) ==
+    return runBox(over(), QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) ==
            QMessageBox::Yes;
 }
 
 bool DialogPrompts::askYesNoWithDefaultNo(const QString& title, const QString& text)
 {
-    return runBox(m_window, QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
+    return runBox(over(), QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
            QMessageBox::Yes;
 }
 
 PromptAnswer DialogPrompts::askYesNoCancel(const QString& title, const QString& text)
 {
-    switch (runBox(m_window, QMessageBox::Question, title, text,
-                   QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
+    switch (
+        runBox(over(), QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel)) {
     case QMessageBox::Yes:
         return PromptAnswer::Yes;
     case QMessageBox::No:
@@ -108,7 +116,7 @@ PromptAnswer DialogPrompts::askYesNoCancel(const QString& title, const QString& 
 
 std::optional<QString> DialogPrompts::askText(const QString& title, const QString& prompt)
 {
-    QInputDialog dialog(m_window);
+    QInputDialog dialog(over());
     dialog.setWindowTitle(title);
     dialog.setLabelText(prompt);
     dialog.resize(leastBoxWidth, 0); // and as high as its parts need
@@ -119,7 +127,7 @@ QString DialogPrompts::chooseFile(const QString& folder, const QString& filter)
 {
     // A folder that is gone would open the one that the program was started in.
     const bool isGone = !folder.isEmpty() && !QDir(folder).exists();
-    QFileDialog dialog(m_window, QString(), isGone ? QDir::homePath() : folder, filter);
+    QFileDialog dialog(over(), QString(), isGone ? QDir::homePath() : folder, filter);
     dialog.setFileMode(QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::HideNameFilterDetails, captionHasPatterns(filter));
     showWhole(dialog);
@@ -130,7 +138,7 @@ std::optional<int> DialogPrompts::chooseColour(int colour)
 {
     // A colour number has red in the low byte.
     const QColor start(colour & 0xff, (colour >> 8) & 0xff, (colour >> 16) & 0xff);
-    const QColor chosen = QColorDialog::getColor(start, m_window);
+    const QColor chosen = QColorDialog::getColor(start, over());
     if (!chosen.isValid()) {
         return std::nullopt;
     }

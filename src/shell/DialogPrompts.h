@@ -8,7 +8,7 @@ class QWidget;
 class DialogPrompts : public UserPrompts
 {
 public:
-    // The window that the dialogs belong to from now on. Until then they have no parent.
+    // The window that the dialogs belong to from now on, where no dialog is open. Until then they have no parent.
     void setParentWindow(QWidget* window) { m_window = window; }
 
     void showMessage(const QString& title, const QString& text, PromptIcon icon) override;
@@ -20,5 +20,7 @@ public:
     std::optional<int> chooseColour(int colour) override;
 
 private:
+    QWidget* over() const;
+
     QWidget* m_window = nullptr;
 };

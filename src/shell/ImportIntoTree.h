@@ -8,7 +8,6 @@
 #include <QHash>
 
 class MainForm;
-class ImportFrame;
 struct TreeNode;
 
 class ImportIntoTree

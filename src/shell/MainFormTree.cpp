@@ -96,7 +96,9 @@ void MainForm::selectNode(TreeNode* node)
 void MainForm::setNodeText(const QString& key, const QString& text)
 {
     CatalogueTreeModel& nodes = m_parts->CategoriesAndProductsTree->nodes();
-    if (TreeNode* node = nodes.nodeWithKey(key)) {
+    // It is the selected one that is being named, as a rule; looking for it at every key would touch the whole tree.
+    const bool isSelected = SelectedNode && SelectedNode->key == key;
+    if (TreeNode* node = isSelected ? SelectedNode : nodes.nodeWithKey(key)) {
         nodes.setText(node, text);
     }
 }

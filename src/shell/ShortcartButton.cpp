@@ -14,6 +14,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -139,6 +140,9 @@ void ShortcartButton::hover(int x, int y)
     const int farMargin = pixels(130);
     const bool outside = x < pixels(100) || y < pixels(100) || x > width() - farMargin || y > height() - farMargin;
     const char* picture = outside ? m_pictures->outside : m_pictures->inside;
+    if (std::exchange(m_shown, picture) == picture) {
+        return; // drawing one takes too long for every move of the mouse
+    }
     showPicture(m_pictures->source == PictureSource::PicturesFolder ? QIcon(m_picturesFolder + QLatin1String(picture))
                                                                     : builtInPicture(picture));
 }

@@ -66,6 +66,7 @@ private:
     QString m_title;
     QIcon m_icon; // what is shown now
     const ButtonPictureRow* m_pictures;
+    const char* m_shown = nullptr; // of its two pictures; none before the mouse has moved
     QString m_picturesFolder;
     QLabel* IconImg;
     QLabel* TitleLbl;

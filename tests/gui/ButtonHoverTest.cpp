@@ -143,6 +143,23 @@ TEST_F(ButtonHover, ShowsTheOutsidePictureNearTheEdges)
     }
 }
 
+TEST_F(ButtonHover, DrawsNoPictureAnewThatIsShownAlready)
+{
+    const auto button = makeButton("Taxes");
+    const auto drawn = [&] { return pictureLabel(button.get())->pixmap().cacheKey(); };
+    for (const QPoint& place : {QPoint(60, 24), QPoint(60, 5)}) { // inside and outside
+        moveTo(button.get(), place);
+        const qint64 before = drawn();
+        moveTo(button.get(), place + QPoint(1, 0));
+        EXPECT_EQ(drawn(), before);
+        moveTo(button.get(), QPoint(60, 24));
+    }
+    button->OnMouseMove(0, 0);
+    const qint64 dark = drawn();
+    button->OnMouseMove(0, 0);
+    EXPECT_EQ(drawn(), dark);
+}
+
 TEST_F(ButtonHover, KeepsThePictureOfATitleThatIsNotInTheTableAndShowsTheHand)
 {
     const auto button = makeButton("Remove product");

@@ -116,6 +116,24 @@ TEST_F(DialogPromptsTest, ABoxHasRoomForItsTitleHoweverShortItsText)
     prompts.askText(u"Backing up"_s, u"Enter file name"_s);
 }
 
+TEST_F(DialogPromptsTest, ABoxBelongsToTheDialogThatIsOpen)
+{
+    whenOpen<QInputDialog>([this](QInputDialog& dialog) {
+        bool seen = false;
+        QTimer::singleShot(50, &dialog, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            ASSERT_NE(box, nullptr);
+            EXPECT_EQ(box->parentWidget(), &dialog);
+            seen = true;
+            box->accept();
+        });
+        prompts.showMessage(u"Backing up"_s, u"Completed"_s, PromptIcon::None);
+        EXPECT_TRUE(seen);
+        dialog.reject();
+    });
+    prompts.askText(u"Backing up"_s, u"Enter file name"_s);
+}
+
 TEST_F(DialogPromptsTest, AMessageReadsNoMarkup)
 {
     whenOpen<QMessageBox>([](QMessageBox& box) {

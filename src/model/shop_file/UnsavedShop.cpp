@@ -81,6 +81,8 @@ void UnsavedShop::begin()
             m_known = TextMark(textNow());
         } catch (const RuntimeError&) {
             // The first attempt to write it will tell.
+        } catch (const std::bad_alloc&) {
+            // As it will of this.
         }
     }
 }
