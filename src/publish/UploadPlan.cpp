@@ -18,6 +18,9 @@ namespace {
 
 constexpr int fixedFiles = 19; // what the progress reckons with beside the pictures
 
+// What names that lie in each other may take beyond the file's size; nobody writes such names.
+constexpr qsizetype overlappingNames = 8'000'000;
+
 // The slots' tags in the order in which their pictures go up.
 std::array<const char*, ImageSlotCount> slotTagsInOrder()
 {
@@ -28,19 +31,18 @@ std::array<const char*, ImageSlotCount> slotTagsInOrder()
     return tags;
 }
 
-QString childText(const pugi::xml_node& element, const char* tag)
+QString childText(const pugi::xml_node& element, const char* tag, XmlTexts& texts)
 {
-    const pugi::xml_node child = element.child(tag);
-    return child ? nodeText(child) : QString();
+    return texts.textOr(element.child(tag), {});
 }
 
-QString lastChildText(const pugi::xml_node& element, const char* tag)
+QString lastChildText(const pugi::xml_node& element, const char* tag, XmlTexts& texts)
 {
-    QString text;
+    pugi::xml_node last;
     for (const pugi::xml_node& child : element.children(tag)) {
-        text = nodeText(child);
+        last = child;
     }
-    return text;
+    return texts.textOr(last, {});
 }
 
 // The node behind a whole element in document order, among those below `top`.
@@ -85,12 +87,13 @@ UploadPlan::Found UploadPlan::walkShopFile()
         return Found::NoShop;
     }
     readPicturesFolder();
-    addCatalogue(shop);
+    XmlTexts texts(file.size() + overlappingNames);
+    addCatalogue(shop, texts);
     const pugi::xml_node design = firstDescendant(shop, "ShopDesign");
     if (!design) {
         return Found::NoShopDesign;
     }
-    addDesign(design);
+    addDesign(design, texts);
     return Found::All;
 }
 
@@ -110,7 +113,7 @@ void UploadPlan::readPicturesFolder()
 
 // Each category in document order, at any depth: its picture, then those of all products below it. The products below a
 // category within another one have all been seen by then, so that only an outermost category's are walked.
-void UploadPlan::addCatalogue(const pugi::xml_node& shop)
+void UploadPlan::addCatalogue(const pugi::xml_node& shop, XmlTexts& texts)
 {
     pugi::xml_node node = nextNode(shop, shop);
     while (node) {
@@ -118,10 +121,10 @@ void UploadPlan::addCatalogue(const pugi::xml_node& shop)
             node = nextNode(node, shop);
             continue;
         }
-        AddPictureIfNeeded(StripPath(childText(node, "Picture")));
+        AddPictureIfNeeded(StripPath(childText(node, "Picture", texts)));
         for (const char* kind : {"Product", "Category"}) {
             for (const pugi::xml_node& below : allDescendants(node, kind)) {
-                AddPictureIfNeeded(StripPath(childText(below, "Picture")));
+                AddPictureIfNeeded(StripPath(childText(below, "Picture", texts)));
             }
         }
         node = nodeBehind(node, shop);
@@ -129,17 +132,17 @@ void UploadPlan::addCatalogue(const pugi::xml_node& shop)
 }
 
 // Names of the design are used as they are.
-void UploadPlan::addDesign(const pugi::xml_node& design)
+void UploadPlan::addDesign(const pugi::xml_node& design, XmlTexts& texts)
 {
     std::array<pugi::xml_node, ImageSlotCount> slotNodes;
     findFirstDescendants(design, slotTagsInOrder(), slotNodes);
     for (const pugi::xml_node& slot : slotNodes) {
-        AddPictureIfNeeded(lastChildText(slot, "FileName"));
+        AddPictureIfNeeded(lastChildText(slot, "FileName", texts));
     }
     // The shop file has its custom pages beside ShopDesign and none below it, so their pictures do not go up. The
     // search here is deliberate.
     for (const pugi::xml_node& page : allDescendants(design, "CustomPage")) {
-        AddPictureIfNeeded(childText(page, "ImageName"));
+        AddPictureIfNeeded(childText(page, "ImageName", texts));
     }
 }
 

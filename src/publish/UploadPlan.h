@@ -13,6 +13,8 @@
 #include <pugixml.hpp>
 #include <vector>
 
+class XmlTexts;
+
 // One file to send.
 struct UploadItem
 {
@@ -46,7 +48,8 @@ public:
     KeyedCollection<QString> PicturesToUpload;
 
     // Walks the shop file for pictures. A shop file that is missing or malformed has no Shop.
-    // ErrorNumber::PathFileAccess when there is no folder of pictures.
+    // ErrorNumber::PathFileAccess when there is no folder of pictures, OutOfMemory when names lie in each other and
+    // take far more together than the file.
     Found walkShopFile();
 
     // Adds a picture unless the server has one of that name whose size the local file of exactly this name has. Equal
@@ -61,8 +64,8 @@ public:
 
 private:
     void readPicturesFolder();
-    void addCatalogue(const pugi::xml_node& shop);
-    void addDesign(const pugi::xml_node& design);
+    void addCatalogue(const pugi::xml_node& shop, XmlTexts& texts);
+    void addDesign(const pugi::xml_node& design, XmlTexts& texts);
 
     ApplicationFolder m_folder;
     const ServerFileList& m_serverFiles;

@@ -220,6 +220,35 @@ TEST_F(UploadPlanTest, ADeepTreeOfCategoriesIsWalkedInOneGo)
     EXPECT_EQ(picturesOf(shop + "<ShopDesign/>").size(), depth);
 }
 
+// Each name holds all of those further in: five thousand million letters in all.
+TEST_F(UploadPlanTest, ASmallFileWhoseNamesLieInEachOtherIsOutOfMemory)
+{
+    const auto nested = [](const QByteArray& element, const QByteArray& name) {
+        constexpr int depth = 100'000;
+        const QByteArray start = '<' + element + "><" + name + ">x";
+        const QByteArray end = "</" + name + "></" + element + '>';
+        return start.repeated(depth) + end.repeated(depth);
+    };
+    const QByteArray rows[] = {
+        "<Category>" + nested("Product", "Picture") + "</Category><ShopDesign/>",
+        nested("Category", "Picture") + "<ShopDesign/>",
+        "<ShopDesign><x>" + nested("CustomPage", "ImageName") + "</x></ShopDesign>",
+    };
+    for (const QByteArray& row : rows) {
+        SCOPED_TRACE(row.left(60).toStdString());
+        useShop(row);
+        UploadPlan plan(files.folder(), server);
+        EXPECT_EQ(errorOf([&] { plan.walkShopFile(); }), 7);
+    }
+}
+
+TEST_F(UploadPlanTest, ANameInPiecesMayBeAsLongAsItsFile)
+{
+    const QByteArray name(12'000'000, 'x');
+    EXPECT_EQ(picturesOf("<Category><Picture><b/>" + name + "</Picture></Category><ShopDesign/>"),
+              QStringList{QString::fromLatin1(name)});
+}
+
 TEST_F(UploadPlanTest, WhatEachRequestCarries)
 {
     struct Row
