@@ -163,7 +163,7 @@ bool UploadRun::refusesFields(const UploadFields& fields)
     for (const auto& [name, value] :
          {std::pair(u"The login"_s, fields.login), std::pair(u"The password"_s, fields.password)}) {
         if (holdsBoundary(requestText(value))) {
-            m_prompts.showMessage(u"Uploading data"_s, carriesBoundaryText(name), PromptIcon::Warning);
+            showCarriesBoundary(name);
             return true;
         }
     }
@@ -183,7 +183,7 @@ bool UploadRun::refusesFiles()
         }));
         if (holds) {
             stop();
-            m_prompts.showMessage(u"Uploading data"_s, carriesBoundaryText(nameOf(item)), PromptIcon::Warning);
+            showCarriesBoundary(nameOf(item));
             return true;
         }
     }
@@ -227,8 +227,13 @@ void UploadRun::sendNext()
 void UploadRun::sendItem(const UploadItem& item)
 {
     const UploadPart part = partOf(item, m_folder);
-    post(UploadURL, uploadBody(m_head, part.fileName, part.contentType, readFileBytes(part.localFile)),
-         &UploadRun::itemAnswered);
+    const QByteArray file = readFileBytes(part.localFile);
+    if (holdsBoundary(file)) { // it has changed since all were searched
+        stop();
+        showCarriesBoundary(nameOf(item));
+        return;
+    }
+    post(UploadURL, uploadBody(m_head, part.fileName, part.contentType, file), &UploadRun::itemAnswered);
 }
 
 void UploadRun::itemAnswered(const HttpAnswer& answer)
@@ -261,6 +266,11 @@ void UploadRun::complete()
     stop();
     m_prompts.showMessage(u"Uploading data"_s, u"Complete"_s, PromptIcon::None);
     m_screen.closeScreen();
+}
+
+void UploadRun::showCarriesBoundary(const QString& what)
+{
+    m_prompts.showMessage(u"Uploading data"_s, carriesBoundaryText(what), PromptIcon::Warning);
 }
 
 void UploadRun::stop()

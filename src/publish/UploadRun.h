@@ -49,6 +49,7 @@ private:
     void itemAnswered(const HttpAnswer& answer);
     void advance(int steps);
     void complete();
+    void showCarriesBoundary(const QString& what);
 
     // The ends of a transfer.
     void stop();

@@ -289,6 +289,39 @@ TEST_F(UploadRunTest, AFileThatHoldsTheBoundaryIsNamedAndNothingOfTheShopIsSent)
     }
 }
 
+TEST_F(UploadRunTest, AFileThatGetsTheBoundaryDuringTheUploadIsNamedAndNotSent)
+{
+    const struct
+    {
+        QString file;
+        QString named;
+        std::size_t requests; // that were sent before
+    } rows[] = {
+        {u"pictures/cups.png"_s, u"The picture cups.png"_s, 2},
+        {u"templates/payed_ok.html"_s, u"The template payed_ok.html"_s, 19},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.named.toStdString());
+        client.requests.clear();
+        const QByteArray before = fileBytes(files.path(row.file));
+        run.start();
+        client.answer(httpAnswer(200, "1.2.0|")); // all are searched, and the shop goes up
+        ASSERT_EQ(client.requests.size(), 2U);
+        writeFile(files.path(row.file), "x\n--AaB03x\r\nContent-Disposition: form-data; name=\"file[]\"\r\n");
+        prompts.expectMessage(u"Uploading data"_s,
+                              row.named + u" cannot be sent: a line that begins with \"--AaB03x\" ends what the server "
+                                          "reads."_s,
+                              PromptIcon::Warning);
+        while (client.isWaiting()) {
+            client.answer(httpAnswer(200, "ok"));
+        }
+        EXPECT_EQ(client.requests.size(), row.requests);
+        expectReady();
+        EXPECT_FALSE(QFile::exists(files.path(u"upload.log"_s)));
+        writeFile(files.path(row.file), before);
+    }
+}
+
 TEST_F(UploadRunTest, AFileThatCannotBeReadKeepsNoOtherFromBeingSearched)
 {
     ASSERT_TRUE(QFile::remove(files.path(u"pictures/cups.png"_s)));
