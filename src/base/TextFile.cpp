@@ -4,7 +4,6 @@
 #include "base/Utf8.h"
 
 #include <array>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -30,19 +29,6 @@ std::optional<char> windows1252Byte(char16_t character)
     return std::nullopt;
 }
 
-std::optional<QByteArray> encodeWindows1252(const QString& text)
-{
-    QByteArray bytes(text.size(), Qt::Uninitialized);
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const std::optional<char> byte = windows1252Byte(text[i].unicode());
-        if (!byte) {
-            return std::nullopt;
-        }
-        bytes[i] = *byte;
-    }
-    return bytes;
-}
-
 } // namespace
 
 DecodedText decodeText(const QByteArray& bytes)
@@ -64,10 +50,24 @@ QString decodeWindows1252(const QByteArray& bytes)
     return text;
 }
 
+std::optional<QByteArray> encodeWindows1252(const QString& text)
+{
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const std::optional<char> byte = windows1252Byte(text[i].unicode());
+        if (!byte) {
+            return std::nullopt;
+        }
+        bytes[i] = *byte;
+    }
+    return bytes;
+}
+
 QByteArray encodeText(const QString& text, TextEncoding encoding)
 {
     if (encoding == TextEncoding::Windows1252) {
-        if (const std::optional<QByteArray> bytes = encodeWindows1252(text)) {
+        const std::optional<QByteArray> bytes = encodeWindows1252(text);
+        if (bytes && decodeText(*bytes).text == text) {
             return *bytes;
         }
     }

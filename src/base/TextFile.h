@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+#include <optional>
+
 enum class TextEncoding { Utf8, Windows1252 };
 
 struct DecodedText
@@ -18,7 +20,10 @@ DecodedText decodeText(const QByteArray& bytes);
 // Bytes that are known to be Windows-1252. Its five undefined bytes become the control characters of the same number.
 QString decodeWindows1252(const QByteArray& bytes);
 
-// The text's bytes in that encoding when it can hold the text, else in UTF-8.
+// One byte for each character; nothing when Windows-1252 lacks one of them. The bytes may happen to be valid UTF-8.
+std::optional<QByteArray> encodeWindows1252(const QString& text);
+
+// The text's bytes in that encoding when decodeText makes the same text of them again, else in UTF-8.
 QByteArray encodeText(const QString& text, TextEncoding encoding);
 
 // Errors as for readFileBytes.

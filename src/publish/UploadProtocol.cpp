@@ -89,7 +89,7 @@ QString normalizedBaseUrl(const QString& typed)
 
 QByteArray requestText(const QString& text)
 {
-    return encodeText(text, TextEncoding::Windows1252);
+    return encodeWindows1252(text).value_or(text.toUtf8());
 }
 
 QByteArray requestHead(const QString& login, const QString& password, const QString& version)

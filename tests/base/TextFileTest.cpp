@@ -85,6 +85,23 @@ TEST(TextFile, ATextThatWindows1252CannotHoldIsWrittenInUtf8)
     EXPECT_EQ(encodeText(u"\u00FC\u20AC"_s, TextEncoding::Utf8), "\xC3\xBC\xE2\x82\xAC");
 }
 
+TEST(TextFile, ATextWhoseBytesInWindows1252WouldReadAsAnotherTextIsWrittenInUtf8)
+{
+    const QString texts[] = {
+        u"\u00C3\u00A9"_s, // C3 A9, an "e" with an accent in UTF-8
+        u"caf\u00C3\u00A9 \u00E2\u201A\u00AC"_s,
+        u"\u00EF\u00BB\u00BFtext"_s, // a byte order mark, which would be dropped
+        u"\u00C3\u00A9 \u00E9"_s,    // E9 at the end is no UTF-8, so one byte each
+        u"plain"_s,
+        u""_s,
+    };
+    for (const QString& text : texts) {
+        EXPECT_EQ(decodeText(encodeText(text, TextEncoding::Windows1252)).text, text);
+    }
+    EXPECT_EQ(encodeText(texts[0], TextEncoding::Windows1252), "\xC3\x83\xC2\xA9");
+    EXPECT_EQ(encodeText(texts[3], TextEncoding::Windows1252), "\xC3\xA9 \xE9");
+}
+
 TEST(TextFile, AFileIsReadAndDecoded)
 {
     const TemporaryShopFolder shop;

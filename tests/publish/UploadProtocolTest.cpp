@@ -71,6 +71,11 @@ TEST(UploadProtocol, ALetterIsOneByteWhereThatCanBe)
     EXPECT_EQ(uploadBody(head, u"größe.png"_s, "image/gif", "x"), expectedRequest(u"letters.bin"_s, folder));
 }
 
+TEST(UploadProtocol, ALetterIsOneByteEvenWhereTheBytesWouldReadAsUtf8)
+{
+    EXPECT_EQ(requestText(u"\u00C3\u00A9"_s), "\xC3\xA9");
+}
+
 TEST(UploadProtocol, NoLetterIsLostWhereOneByteCannotHoldIt)
 {
     const QByteArray head = requestHead(u"анна"_s, u""_s, u"1.2.0"_s);
