@@ -53,7 +53,11 @@ QByteArray proxyForLibrary(const QNetworkProxy& proxy)
     default:
         return ""; // none, not even one that stands in the environment
     }
-    return scheme + proxy.hostName().toUtf8() + ':' + QByteArray::number(proxy.port());
+    QByteArray host = proxy.hostName().toUtf8();
+    if (host.contains(':')) { // an address of version 6, which comes without its brackets
+        host = '[' + host + ']';
+    }
+    return scheme + host + ':' + QByteArray::number(proxy.port());
 }
 
 } // namespace

@@ -312,6 +312,27 @@ TEST_F(NetworkHttpClientTest, TheSystemsProxyIsToldTheCredentialsThatTheSystemHa
     EXPECT_EQ(server.requests[0].header("Proxy-Authorization"), "Basic " + QByteArray("anna:secret").toBase64());
 }
 
+TEST_F(NetworkHttpClientTest, AProxysAddressMayHaveColons)
+{
+    QTcpServer proxy;
+    const bool machineHasSuchAddresses = proxy.listen(QHostAddress::LocalHostIPv6);
+    QObject::connect(&proxy, &QTcpServer::newConnection, &proxy, [&proxy] {
+        QTcpSocket* socket = proxy.nextPendingConnection();
+        QObject::connect(socket, &QTcpSocket::readyRead, socket, [socket] {
+            socket->readAll();
+            sendAnswer(*socket, 200, "1.2.0|");
+        });
+    });
+    const ProxySetting setting(u"http://[::1]:%1"_s.arg(machineHasSuchAddresses ? proxy.serverPort() : 1));
+    const HttpAnswer answer = post(u"http://shop.test/admin/list.php"_s);
+    if (machineHasSuchAddresses) {
+        EXPECT_EQ(answer.body, "1.2.0|");
+    } else {
+        // The address is understood all the same.
+        EXPECT_EQ(answer.failure.value_or(TransferFailure()).ErrorNumber, CURLE_COULDNT_CONNECT);
+    }
+}
+
 TEST_F(NetworkHttpClientTest, AProxyMayBeOneOfSocks)
 {
     QTcpServer proxy;
