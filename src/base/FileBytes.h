@@ -9,7 +9,7 @@
 #include <QString>
 
 // ErrorNumber::FileNotFound when there is no such file, PermissionDenied or PathFileAccess when it cannot be opened,
-// DeviceError when reading it fails, OutOfMemory when it is larger than a QByteArray may be.
+// DeviceError when reading it fails, OutOfMemory when it has 2^31 - 1 bytes or more, which is this program's own limit.
 QByteArray readFileBytes(const QString& path, const FileCalls& calls = *systemFileCalls());
 
 // Replaces the file's content, in place: its permissions stay, and a link to it goes on leading to it. A new file is

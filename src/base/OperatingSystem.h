@@ -1,7 +1,6 @@
-// All that the program takes from one operating system alone: files down to the disk, holds on them, and who runs
-// the program. The
-// form for POSIX systems is OperatingSystemPosix.cpp, the one for all others OperatingSystemGeneral.cpp. Tests put
-// their own FileCalls in between to see the order of the calls.
+// All that the program takes from one operating system alone: files down to the disk, holds on them, and who runs the
+// program. The form for POSIX systems is OperatingSystemPosix.cpp, the one for all others OperatingSystemGeneral.cpp.
+// Tests put their own FileCalls in between to see the order of the calls.
 #pragma once
 
 #include <QByteArrayView>

@@ -53,6 +53,14 @@ TEST_P(FileBytes, AFileThatCannotBeReadIsAnErrorThatNamesIt)
     }
 }
 
+TEST_P(FileBytes, AFileOfTwoGigabytesLessOneByteIsTooLarge)
+{
+    const QString large = shop.path(u"large"_s);
+    writeFile(large, "x");
+    ASSERT_TRUE(QFile::resize(large, 2'147'483'647)); // takes no room on the disk
+    EXPECT_EQ(errorOf([&] { readFileBytes(large, *calls); }), 7);
+}
+
 TEST_P(FileBytes, APipeInTheWayDoesNotKeepTheProgramWaiting)
 {
     const QString pipe = shop.path(u"pipe"_s);
