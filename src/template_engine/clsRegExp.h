@@ -1,5 +1,5 @@
-// Replaces what a pattern matches and cuts the result after a number of words: how the pages shorten descriptions. Page
-// code keeps one and uses it for all products of a page, since setting the pattern compiles it.
+// Replaces what a pattern matches and cuts the result after a number of words: how the pages shorten descriptions. The
+// engine compiles a pattern on its first use and keeps it, so page code has one object for all products of a page.
 #pragma once
 
 #include <QRegularExpression>
