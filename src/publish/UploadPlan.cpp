@@ -10,7 +10,6 @@
 #include <QDirIterator>
 
 #include <array>
-#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -46,7 +45,7 @@ QString lastChildText(const pugi::xml_node& element, const char* tag, XmlTexts& 
 }
 
 // The node behind a whole element in document order, among those below `top`.
-pugi::xml_node nodeBehind(pugi::xml_node element, const pugi::xml_node& top)
+pugi::xml_node nodeBehindElement(pugi::xml_node element, const pugi::xml_node& top)
 {
     while (element && element != top && !element.next_sibling()) {
         element = element.parent();
@@ -117,7 +116,7 @@ void UploadPlan::addCatalogue(const pugi::xml_node& shop, XmlTexts& texts)
 {
     pugi::xml_node node = nextNode(shop, shop);
     while (node) {
-        if (std::strcmp(node.name(), "Category") != 0) {
+        if (!isNamed(node, "Category")) {
             node = nextNode(node, shop);
             continue;
         }
@@ -127,7 +126,7 @@ void UploadPlan::addCatalogue(const pugi::xml_node& shop, XmlTexts& texts)
                 AddPictureIfNeeded(StripPath(childText(below, "Picture", texts)));
             }
         }
-        node = nodeBehind(node, shop);
+        node = nodeBehindElement(node, shop);
     }
 }
 
