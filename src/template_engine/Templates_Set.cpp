@@ -96,14 +96,11 @@ void Templates_Set::load_template(const QString& file, const QString& key)
 QString Templates_Set::textOfFile(const QString& file)
 {
     const DecodedText decoded = readTextFile(Path + file + u".html"_s);
-    if (m_encodings.hasKey(file)) {
-        m_encodings.Remove(file);
-    }
-    m_encodings.Add(decoded.encoding, file);
+    m_encodings.insert(file, decoded.encoding);
     return linesEndedByCr(decoded.text);
 }
 
 TextEncoding Templates_Set::encodingOf(const QString& file) const
 {
-    return m_encodings.hasKey(file) ? m_encodings.Item(file) : TextEncoding::Utf8;
+    return m_encodings.value(file, TextEncoding::Utf8);
 }

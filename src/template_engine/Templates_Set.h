@@ -10,6 +10,7 @@
 #include "template_engine/NameTable.h"
 #include "template_engine/Template.h"
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -65,7 +66,7 @@ private:
 
     LoadLog& m_log;
     TemplateNames m_templateNames;
-    KeyedCollection<TextEncoding> m_encodings; // by base name
+    QHash<QString, TextEncoding> m_encodings; // by base name
 };
 
 // The text of a template file as the templates hold it: a line ends at CR LF or at a lone CR, a lone LF ends none, and
