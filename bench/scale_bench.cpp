@@ -58,8 +58,10 @@ public:
     }
     std::optional<QString> askText(const QString& /*title*/, const QString& /*prompt*/) override { return u"scale"_s; }
     QString chooseFile(const QString& /*folder*/, const QString& /*filter*/) override { return file; }
+    bool askYesNo(const QString& /*title*/, const QString& /*text*/) override { return saysYes; }
 
     QString file;
+    bool saysYes = false;
 };
 
 // Beats as long as events run: the longest time between two beats is how long the window was held.
@@ -330,6 +332,15 @@ bool Day::run()
         },
         Judged::No);
     step("the start after it", [this] { openProgram(); });
+    m_prompts.saysYes = true;
+    step("removing a category of 20,000 products", [this] {
+        const KeyedCollection<std::shared_ptr<CategoryClass>>& categories = m_window->session().shop->categories;
+        clickNode(nodeKey(categories.Item(categories.Count())->id)); // that of the import
+        press("RemoveCategorySBtn");
+    });
+    if (m_window->session().shop->GetProductCount() != productCount + 1) { // a new one was made
+        giveUp(u"The category is still there"_s);
+    }
     std::printf("%-44s %8.0f MB at the most\n", "memory", static_cast<double>(memoryOf("VmHWM:")) / (1 << 20));
     return !m_held;
 }
