@@ -150,7 +150,8 @@ bool clsPacker::Restore(const QString& path)
     }
     // Templates belong to their version of the program: an older backup leaves those of this installation alone.
     const bool withTemplates = status != PackedStatus::OlderVersion;
-    if (!mayReplacePresentShop(withTemplates)) {
+    const std::optional<QString> kept = presentShopKept(withTemplates);
+    if (!kept) {
         return false;
     }
     if (withTemplates) {
@@ -175,11 +176,11 @@ bool clsPacker::Restore(const QString& path)
         file.cutBehindWritten(); // two entries may have one target: the later one is the file
         file.close();
     }
-    removeOldKeptShops(m_folder, path);
+    removeOldKeptShops(m_folder, path, *kept);
     return true;
 }
 
-bool clsPacker::mayReplacePresentShop(bool withTemplates)
+std::optional<QString> clsPacker::presentShopKept(bool withTemplates)
 {
     QString kept;
     bool safe = false;
@@ -193,12 +194,12 @@ bool clsPacker::mayReplacePresentShop(bool withTemplates)
     }
     if (safe || m_prompts.askYesNoWithDefaultNo(u"Restoring"_s,
                                                 u"The present shop could not be kept. Restore all the same?"_s)) {
-        return true;
+        return kept;
     }
     if (!kept.isEmpty()) {
         QFile::remove(kept);
     }
-    return false;
+    return std::nullopt;
 }
 
 bool clsPacker::hasRoomToRestore(bool withTemplates)

@@ -142,20 +142,20 @@ QString keepPresentShop(const ApplicationFolder& folder, const QString& version,
     return path;
 }
 
-void removeOldKeptShops(const ApplicationFolder& folder, const QString& restored)
+void removeOldKeptShops(const ApplicationFolder& folder, const QString& restored, const QString& kept)
 {
     const QDir backups(folder.backupsFolder());
-    QStringList kept;
+    QStringList names;
     for (const QString& name : backups.entryList({u"before restore *.kvb"_s}, QDir::Files, QDir::Unsorted)) {
         if (isKeptName(name)) {
-            kept << name;
+            names << name;
         }
     }
-    kept.sort();
+    names.sort();
     constexpr qsizetype mostKept = 3;
-    const QString restoredFile = QFileInfo(restored).canonicalFilePath();
-    for (const QString& name : kept.first(std::max<qsizetype>(kept.size() - mostKept, 0))) {
-        if (QFileInfo(backups, name).canonicalFilePath() != restoredFile) {
+    const QStringList stay = {QFileInfo(restored).canonicalFilePath(), QFileInfo(kept).canonicalFilePath()};
+    for (const QString& name : names.first(std::max<qsizetype>(names.size() - mostKept, 0))) {
+        if (!stay.contains(QFileInfo(backups, name).canonicalFilePath())) {
             QFile::remove(backups.filePath(name));
         }
     }

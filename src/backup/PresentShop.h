@@ -16,9 +16,10 @@
 QString keepPresentShop(const ApplicationFolder& folder, const QString& version, const QDateTime& moment,
                         const FileCalls& calls);
 
-// Deletes the files of keepPresentShop but for the last three, and never the one that was restored just now. One that
-// cannot be deleted stays.
-void removeOldKeptShops(const ApplicationFolder& folder, const QString& restored);
+// Deletes the files of keepPresentShop but for the last three by name, and neither the one that was restored just now
+// nor the one that was kept just now: the names hold the local time, which may go back. One that cannot be deleted
+// stays. `kept` is empty when there is none.
+void removeOldKeptShops(const ApplicationFolder& folder, const QString& restored, const QString& kept);
 
 // The size in bytes of the files that a restore removes.
 qint64 sizeOfPresentShop(const ApplicationFolder& folder, bool withTemplates);

@@ -16,6 +16,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 // The result of ReadFile, and the code of ReadError.
 enum class PackedStatus : int {
@@ -90,8 +91,9 @@ private:
     void writeContainer(const QString& path) const;
     void addFolder(const QString& folder, const QString& prefix);
     void addOrLeaveOut(const QString& fileSpec);
-    // Keeps the present shop and looks for the room. False when one of the two fails and the user stops.
-    bool mayReplacePresentShop(bool withTemplates);
+    // Keeps the present shop and looks for the room. The path of the kept file, empty when there is none; nothing when
+    // one of the two fails and the user stops.
+    std::optional<QString> presentShopKept(bool withTemplates);
     bool hasRoomToRestore(bool withTemplates);
     qint64 sizeOfRestored(bool withTemplates, qint64 (clsFileData::*sizeOf)());
     void raiseWorking(bool done) const;

@@ -169,6 +169,23 @@ TEST_F(RestoreUndo, TheLastThreeKeptFilesStayAndTheRestoredOneAndAllOfOtherNames
     EXPECT_EQ(found, expected);
 }
 
+TEST_F(RestoreUndo, TheFileKeptJustNowStaysWhenOthersBearLaterNames)
+{
+    // The clock was set back, or summer time has ended.
+    QDir().mkpath(files.path(u"backups"_s));
+    QStringList expected = {keptName};
+    for (const QString& name :
+         {u"before restore 2026-07-15 14.03.06.kvb"_s, u"before restore 2026-07-15 15.00.00.kvb"_s,
+          u"before restore 2027-01-01 00.00.00.kvb"_s}) {
+        writeFile(files.path(u"backups/"_s + name), "x");
+        expected << name;
+    }
+    ASSERT_TRUE(restorer.Restore(referencePath(u"no_entries"_s)));
+    EXPECT_EQ(keptFiles(), expected);
+    ASSERT_TRUE(restorer.Restore(files.path(u"backups/"_s + keptName)));
+    EXPECT_EQ(shopFiles().value(u"shop.xml"_s), "<present/>");
+}
+
 TEST_F(RestoreUndo, AFailedRestoreDeletesNoKeptFile)
 {
     QDir().mkpath(files.path(u"backups"_s));
