@@ -93,6 +93,13 @@ void PackedStream::write(const QByteArray& bytes)
     m_written += bytes.size();
 }
 
+void PackedStream::reserveToOverwrite(qint64 size)
+{
+    if (!m_writable.created) {
+        m_writable.file->reserve(m_writable.file->size(), size);
+    }
+}
+
 void PackedStream::seekToStart()
 {
     m_writable.file->seek(0);

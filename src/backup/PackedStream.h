@@ -46,6 +46,9 @@ public:
 
     // ErrorNumber::DiskFull when the disk is full, DeviceError on any other failure; so for all that follow.
     void write(const QByteArray& bytes);
+    // Takes the room for that many bytes where an older file is overwritten, so that a full disk is met while that one
+    // is whole. A new file has nothing to lose and deliberately grows as far as the disk lets it.
+    void reserveToOverwrite(qint64 size);
     void seekToStart();
     // Cuts off what an older, longer file has behind the last byte written.
     void cutBehindWritten();

@@ -150,15 +150,25 @@ QString clsFileData::Extension() const
     return dot >= 0 ? m_fileSpec.sliced(dot) : QString();
 }
 
+QByteArray clsFileData::headerBytes() const
+{
+    PackedRecord header;
+    header.addFlag(m_compressed);
+    header.addText(m_fileSpec);
+    header.addInt32(m_size);
+    header.addInt32(m_compressedSize);
+    return header.bytes();
+}
+
+qint64 clsFileData::packedSize() const
+{
+    return headerBytes().size() + m_data.size();
+}
+
 bool clsFileData::WriteToPackedFile(PackedStream& file) const
 {
     try {
-        PackedRecord header;
-        header.addFlag(m_compressed);
-        header.addText(m_fileSpec);
-        header.addInt32(m_size);
-        header.addInt32(m_compressedSize);
-        file.write(header.bytes());
+        file.write(headerBytes());
         file.write(m_data);
     } catch (const RuntimeError&) {
         return false;

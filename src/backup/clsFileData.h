@@ -41,6 +41,8 @@ public:
     QString ToString();
     // From the last "." of FileSpec on, the dot included; empty without a dot.
     QString Extension() const;
+    // How many bytes WriteToPackedFile writes.
+    qint64 packedSize() const;
     // Writes header and bytes at the file's position. False on any failure.
     bool WriteToPackedFile(PackedStream& file) const;
     // Reads header and bytes at the file's position. False, and nothing changed, when the file ends too early or a size
@@ -60,6 +62,8 @@ public:
     qint64 mostRestored();
 
 private:
+    // ErrorNumber::Overflow when the path is too long.
+    QByteArray headerBytes() const;
     // The plain bytes of deflated ones, nothing when they cannot be inflated. Never more than the buffer rule allows.
     std::optional<QByteArray> inflated();
     // The room that zlib is given for the plain bytes.

@@ -123,12 +123,22 @@ bool clsPacker::WriteFile(const QString& path)
 void clsPacker::writeContainer(const QString& path) const
 {
     PackedStream file(path, PackedStream::Mode::Write, *m_calls);
-    file.write(headerBytes({Count(), m_version, m_compressed}));
+    const QByteArray unfinished = headerBytes({-1, m_version, m_compressed});
+    qint64 size = unfinished.size();
+    for (const std::unique_ptr<clsFileData>& entry : m_entries) {
+        size += entry->packedSize();
+    }
+    file.reserveToOverwrite(size);
+    // The count comes last: where writing is cut short, new entries may meet old ones that they fit together with, and
+    // no reader is to take such a mixture for whole.
+    file.write(unfinished);
     for (const std::unique_ptr<clsFileData>& entry : m_entries) {
         if (!entry->WriteToPackedFile(file)) {
             throw RuntimeError(ErrorNumber::DeviceError);
         }
     }
+    file.seekToStart();
+    file.write(headerBytes({Count(), m_version, m_compressed}));
     file.closeDurably(*m_calls);
 }
 

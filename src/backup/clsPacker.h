@@ -66,8 +66,9 @@ public:
     // Reads a packed file in place of what is held; an empty path means FileSpec. After CannotRead the entries that
     // were read stay.
     PackedStatus ReadFile(const QString& path = QString());
-    // An empty path means FileSpec, which is not changed. False when there is nothing to write, or writing fails; a
-    // part of the file is then left behind.
+    // An empty path means FileSpec, which is not changed. False when there is nothing to write, or writing fails. A
+    // part of the file is then left behind, which cannot be read; but a file that would be overwritten stays whole when
+    // the disk lacks the room.
     bool WriteFile(const QString& path = QString());
     // The name behind the last separator of FileSpec.
     QString FileName() const;

@@ -74,6 +74,20 @@ TEST_F(BackUpFaultsTest, AFullDiskIsToldTwiceAndLeavesAPart)
     EXPECT_EQ(packer.ReadFile(files.path(u"backups/may.kvb"_s)), PackedStatus::CannotRead);
 }
 
+TEST_F(BackUpFaultsTest, AFullDiskLeavesTheBackupThatWasToBeOverwrittenWhole)
+{
+    const QString whole = makeBackUp();
+    const QByteArray wholeBytes = fileBytes(whole);
+    writeFile(files.path(u"pictures/more.png"_s), noise(100000, 8));
+    QString name = u"whole"_s;
+    {
+        const FileSizeLimit limit(150000);
+        EXPECT_FALSE(packer.BackUp(name));
+    }
+    EXPECT_EQ(takeEvents().count(u"WriteError"_s), 2);
+    EXPECT_TRUE(fileBytes(whole) == wholeBytes);
+}
+
 TEST_F(BackUpFaultsTest, WhereverTheDiskBecomesFullTheResultIsFalse)
 {
     packer.setCompressed(true);
@@ -176,6 +190,26 @@ TEST_F(BackUpFaultsTest, AProcessKilledWhileItWritesABackupHarmsNothingElse)
     QString name = u"killed.kvb"_s;
     EXPECT_TRUE(again.BackUp(name));
     EXPECT_EQ(fileBytes(killed), wholeBytes);
+}
+
+TEST_F(BackUpFaultsTest, ABackupThatIsKilledHalfWayIsNoMixtureOfTheOldOneAndTheNew)
+{
+    const QString whole = makeBackUp();
+    const QByteArray oldBytes = fileBytes(whole);
+    writeFile(files.path(u"pictures/noise.png"_s), noise(100000, 8));
+    const int ended = signalThatEnded(60000, [&] {
+        QString name = u"whole"_s;
+        packer.BackUp(name);
+    });
+    EXPECT_EQ(ended, SIGXFSZ);
+    const QByteArray halfBytes = fileBytes(whole);
+    ASSERT_TRUE(halfBytes != oldBytes);
+    EXPECT_EQ(packer.ReadFile(whole), PackedStatus::CannotRead);
+
+    // The entries of the new one would fit where those of the old one stand.
+    const QByteArray newBytes = fileBytes(makeBackUp());
+    EXPECT_EQ(newBytes.size(), oldBytes.size());
+    EXPECT_TRUE(halfBytes.last(40000) == oldBytes.last(40000));
 }
 
 TEST_F(BackUpFaultsTest, AProcessKilledWhileItRestoresLeavesTheBackupToRestoreAgain)

@@ -46,6 +46,25 @@ TEST_F(DurableBackUp, AnOverwrittenBackupIsFlushedAndKeepsItsOldTail)
     EXPECT_EQ(QFile(files.path(u"backups.kvb"_s)).size(), 100000);
 }
 
+TEST_F(DurableBackUp, RoomIsMadeSureOfBeforeABackupIsOverwrittenAndTheCountIsWrittenLast)
+{
+    const QString path = files.path(u"may.kvb"_s);
+    writeFile(path, "old");
+    ASSERT_EQ(durable.AddFile(u"pictures\\cup.png"_s), AddFileResult::Added);
+    calls->failAtCall(u"reserve"_s, ErrorNumber::DiskFull);
+    EXPECT_FALSE(durable.WriteFile(path));
+    EXPECT_EQ(calls->takeCalls().last(), u"reserve 3 to 813"_s);
+    EXPECT_EQ(fileBytes(path), "old");
+
+    calls->failAtCall(u"no call"_s, ErrorNumber::DiskFull);
+    EXPECT_TRUE(durable.WriteFile(path));
+    // The header is 17 bytes, the entry's 28, the picture 768.
+    EXPECT_EQ(calls->takeCalls(),
+              (QStringList{u"overwrite may.kvb"_s, u"reserve 3 to 813"_s, u"write 17"_s, u"write 28"_s, u"write 768"_s,
+                           u"seek 0"_s, u"write 17"_s, u"flush"_s, u"close"_s}));
+    EXPECT_EQ(QFile(path).size(), 813);
+}
+
 TEST_F(DurableBackUp, ABackupThatCannotBeFlushedIsAFailureToWrite)
 {
     for (const QString& call : {u"flush"_s, u"close"_s, u"flush folder"_s}) {
