@@ -6,9 +6,28 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <new>
 #include <optional>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+// The lines are an aid: a full disk that takes none of them must not end the program, nor hide how the backup went.
+void logLeftOut(LoadLog& log, const QStringList& fileSpecs)
+{
+    try {
+        for (const QString& fileSpec : fileSpecs) {
+            log.WriteLoadLog(u"Backup: left out, since it cannot be packed: "_s + fileSpec);
+        }
+    } catch (const RuntimeError&) {
+        // The report counts the files all the same.
+    } catch (const std::bad_alloc&) {
+        // So it does when memory is short.
+    }
+}
+
+} // namespace
 
 std::optional<BackUpReport> backUpFromMenu(const BackUpServices& services)
 {
@@ -27,9 +46,7 @@ std::optional<BackUpReport> backUpFromMenu(const BackUpServices& services)
     }
     QString name = *answer;
     const bool made = packer.BackUp(name);
-    for (const QString& fileSpec : packer.leftOut()) {
-        services.log.WriteLoadLog(u"Backup: left out, since it cannot be packed: "_s + fileSpec);
-    }
+    logLeftOut(services.log, packer.leftOut());
     if (!made) {
         services.prompts.showMessage(u"Error"_s, u"Creating backup is failed"_s, PromptIcon::Critical);
         return std::nullopt;

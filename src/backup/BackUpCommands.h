@@ -30,8 +30,8 @@ struct BackUpReport
 };
 
 // Asks for a name and packs the saved shop into that file under backups/, which is made when it is not there. Edits
-// that are not saved are not in it. Nothing after Cancel, or after a failure that was told. ErrorNumber::PathFileAccess
-// when the folder cannot be made, errors of the log.
+// that are not saved are not in it. Nothing after Cancel, or after a failure that was told. A log that cannot be
+// written is no failure. ErrorNumber::PathFileAccess when the folder cannot be made.
 std::optional<BackUpReport> backUpFromMenu(const BackUpServices& services);
 
 // Asks for a packed file and restores it. True when the files on disk are those of the backup: the window then forgets

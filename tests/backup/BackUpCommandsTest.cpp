@@ -111,6 +111,23 @@ TEST_F(BackUpCommandsTest, FilesThatAreLeftOutAreNamedInTheLogAndCounted)
     EXPECT_EQ(logged.count('\n'), 2);
 }
 
+TEST_F(BackUpCommandsTest, ALogThatCannotBeWrittenChangesNothingOfWhatIsTold)
+{
+    writeFile(files.path(u"pictures/a\\b.png"_s), "x");
+    QDir().mkpath(files.path(u"load.log"_s)); // a folder in its place
+    askedFor(u"may"_s);
+    prompts.expectMessage(u"Backuping"_s, u"Completed"_s, PromptIcon::Information);
+    const std::optional<BackUpReport> report = backUpFromMenu(services);
+    ASSERT_TRUE(report);
+    EXPECT_EQ(report->leftOut, 1);
+
+    ASSERT_TRUE(QDir(files.path(u"templates"_s)).removeRecursively());
+    askedFor(u"may"_s);
+    prompts.expectMessage(u"Error"_s, u"Templates folder not found"_s, PromptIcon::Critical);
+    prompts.expectMessage(u"Error"_s, u"Creating backup is failed"_s, PromptIcon::Critical);
+    EXPECT_FALSE(backUpFromMenu(services));
+}
+
 TEST_F(BackUpCommandsTest, ARestoreThatIsStoppedIsAFailure)
 {
     const QString path = backedUpAndChanged();
