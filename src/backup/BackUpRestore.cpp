@@ -183,17 +183,20 @@ bool clsPacker::Restore(const QString& path)
 std::optional<QString> clsPacker::presentShopKept(bool withTemplates)
 {
     QString kept;
-    bool safe = false;
+    bool isKept = false;
     try {
         kept = keepPresentShop(m_folder, m_version, m_clock.now(), *m_calls);
-        safe = hasRoomToRestore(withTemplates);
+        isKept = true;
     } catch (const RuntimeError&) {
-        safe = false;
+        isKept = false;
     } catch (const std::bad_alloc&) {
-        safe = false;
+        isKept = false;
     }
-    if (safe || m_prompts.askYesNoWithDefaultNo(u"Restoring"_s,
-                                                u"The present shop could not be kept. Restore all the same?"_s)) {
+    const auto goesOn = [this](const QString& danger) {
+        return m_prompts.askYesNoWithDefaultNo(u"Restoring"_s, danger + " Restore all the same?"_L1);
+    };
+    if ((isKept || goesOn(u"The present shop could not be kept."_s)) &&
+        (hasRoomToRestore(withTemplates) || goesOn(u"The disk may lack the room for the restored files."_s))) {
         return kept;
     }
     if (!kept.isEmpty()) {
@@ -211,8 +214,12 @@ bool clsPacker::hasRoomToRestore(bool withTemplates)
     const qint64 room = *freeRoom + sizeOfPresentShop(m_folder, withTemplates);
     // What an entry claims bounds what can come out of it, and costs nothing to ask; only where that is too much are
     // the bytes themselves counted.
-    return sizeOfRestored(withTemplates, &clsFileData::mostRestored) <= room ||
-           sizeOfRestored(withTemplates, &clsFileData::restoredSize) <= room;
+    try {
+        return sizeOfRestored(withTemplates, &clsFileData::mostRestored) <= room ||
+               sizeOfRestored(withTemplates, &clsFileData::restoredSize) <= room;
+    } catch (const std::bad_alloc&) {
+        return false; // nobody knows
+    }
 }
 
 qint64 clsPacker::sizeOfRestored(bool withTemplates, qint64 (clsFileData::*sizeOf)())

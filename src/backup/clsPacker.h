@@ -40,9 +40,9 @@ public:
     // Keeps the present shop under backups/ (see PresentShop.h), then empties pictures/ and templates/, removes
     // shop.xml and writes back what the packed file holds; templates of an older version are left as they are. False,
     // after a box, when the packed file cannot be read or is of a newer version, or after a question, when the present
-    // shop cannot be kept or the disk lacks the room and the user stops; nothing on disk is touched then. False, too,
-    // when shop.xml cannot be removed. ErrorNumber::DeviceError, DiskFull, PermissionDenied or PathFileAccess when a
-    // file or folder cannot be removed or written otherwise.
+    // shop cannot be kept or the disk may lack the room and the user stops; nothing on disk is touched then. False,
+    // too, when shop.xml cannot be removed. ErrorNumber::DeviceError, DiskFull, PermissionDenied or PathFileAccess when
+    // a file or folder cannot be removed or written otherwise.
     bool Restore(const QString& path);
     // Packs shop.xml, pictures/ and templates/ into a file under backups/, after a box. The name is completed by
     // ".kvb". False, after a box or an event, when something is missing or writing fails. ErrorNumber::PathFileAccess
@@ -92,8 +92,8 @@ private:
     void writeContainer(const QString& path) const;
     void addFolder(const QString& folder, const QString& prefix);
     void addOrLeaveOut(const QString& fileSpec);
-    // Keeps the present shop and looks for the room. The path of the kept file, empty when there is none; nothing when
-    // one of the two fails and the user stops.
+    // Keeps the present shop and looks for the room, with a question for each of the two that fails. The path of the
+    // kept file, empty when there is none; nothing when the user stops, and no kept file then.
     std::optional<QString> presentShopKept(bool withTemplates);
     bool hasRoomToRestore(bool withTemplates);
     qint64 sizeOfRestored(bool withTemplates, qint64 (clsFileData::*sizeOf)());

@@ -30,6 +30,12 @@ protected:
         prompts.answerDefaultNo(u"Restoring"_s, u"The present shop could not be kept. Restore all the same?"_s, answer);
     }
 
+    void askedForLackOfRoom(bool answer)
+    {
+        prompts.answerDefaultNo(u"Restoring"_s,
+                                u"The disk may lack the room for the restored files. Restore all the same?"_s, answer);
+    }
+
     const QString keptName = u"before restore 2026-07-15 14.03.05.kvb"_s;
     const std::shared_ptr<RecordingFileCalls> calls = std::make_shared<RecordingFileCalls>();
     clsPacker restorer{files.folder(), prompts, clock, u"1.2.0"_s, calls};
@@ -214,7 +220,7 @@ TEST_F(RestoreUndo, TheRoomIsThatOfTheBytesThatAreThereNotOfTheClaims)
     calls->free = 100 - goes;
     EXPECT_TRUE(restorer.Restore(path));
     calls->free = -1; // now 100 bytes go
-    askedToGoOn(false);
+    askedForLackOfRoom(false);
     const QMap<QString, QByteArray> before = allFiles();
     EXPECT_FALSE(restorer.Restore(path));
     EXPECT_EQ(allFiles(), before);
@@ -225,9 +231,26 @@ TEST_F(RestoreUndo, TheRoomIsThatOfTheBytesThatAreThereNotOfTheClaims)
     calls->free = 0;
     const QString claims = packedFile(packed({entry("shop.xml", QByteArray(90, 's'), 2000000000)}));
     EXPECT_TRUE(restorer.Restore(claims));
-    askedToGoOn(true);
+    askedForLackOfRoom(true);
     calls->free = -1;
     EXPECT_TRUE(restorer.Restore(claims));
+}
+
+TEST_F(RestoreUndo, AShopThatIsNotKeptAndADiskWithoutRoomAreTwoQuestions)
+{
+    const QMap<QString, QByteArray> before = allFiles();
+    calls->free = -1000000;
+    calls->failAtCall(u"create before"_s, ErrorNumber::DiskFull);
+    askedToGoOn(false);
+    EXPECT_FALSE(restorer.Restore(referencePath(u"current"_s)));
+    askedToGoOn(true);
+    askedForLackOfRoom(false);
+    EXPECT_FALSE(restorer.Restore(referencePath(u"current"_s)));
+    EXPECT_EQ(allFiles(), before);
+    askedToGoOn(true);
+    askedForLackOfRoom(true);
+    EXPECT_TRUE(restorer.Restore(referencePath(u"current"_s)));
+    EXPECT_EQ(shopFiles().value(u"shop.xml"_s), referenceShop());
 }
 
 TEST_F(RestoreUndo, OfTwoEntriesOfOneTargetTheLaterIsTheFileWithoutATailOfTheFormer)
