@@ -128,7 +128,7 @@ void clsPacker::addOrLeaveOut(const QString& fileSpec)
 {
     if (AddFile(fileSpec) != AddFileResult::Added) {
         // An empty file is no loss.
-        const QFileInfo file(m_folder.path() + u'/' + QString(fileSpec).replace(u'\\', u'/'));
+        const QFileInfo file(pathOnDisk(m_folder, fileSpec));
         if (!file.isFile() || file.size() > 0) {
             m_leftOut << fileSpec;
         }

@@ -64,6 +64,11 @@ QString sizeText(qint32 bytes)
 
 } // namespace
 
+QString pathOnDisk(const ApplicationFolder& folder, const QString& fileSpec)
+{
+    return folder.path() + u'/' + QString(fileSpec).replace(u'\\', u'/');
+}
+
 clsFileData::clsFileData(const ApplicationFolder& folder) : m_folder(folder) {}
 
 bool clsFileData::CompressData()
@@ -99,8 +104,7 @@ QString clsFileData::ParentFolder() const
 bool clsFileData::Load(const QString& relativePath, bool compress)
 {
     m_fileSpec = relativePath;
-    QString path = relativePath;
-    path = m_folder.path() + u'/' + path.replace(u'\\', u'/');
+    const QString path = pathOnDisk(m_folder, relativePath);
     try {
         if (QFileInfo(path).size() > largestSize) {
             return false;

@@ -10,6 +10,9 @@
 
 #include <optional>
 
+// Where the file of that path in a packed file stands on disk.
+QString pathOnDisk(const ApplicationFolder& folder, const QString& fileSpec);
+
 class clsFileData
 {
 public:
