@@ -182,25 +182,23 @@ bool clsPacker::Restore(const QString& path)
 
 std::optional<QString> clsPacker::presentShopKept(bool withTemplates)
 {
-    QString kept;
-    bool isKept = false;
+    KeptShop kept;
     try {
         kept = keepPresentShop(m_folder, m_version, m_clock.now(), *m_calls);
-        isKept = true;
     } catch (const RuntimeError&) {
-        isKept = false;
+        kept.isWhole = false;
     } catch (const std::bad_alloc&) {
-        isKept = false;
+        kept.isWhole = false;
     }
     const auto goesOn = [this](const QString& danger) {
         return m_prompts.askYesNoWithDefaultNo(u"Restoring"_s, danger + " Restore all the same?"_L1);
     };
-    if ((isKept || goesOn(u"The present shop could not be kept."_s)) &&
+    if ((kept.isWhole || goesOn(u"The present shop could not be kept."_s)) &&
         (hasRoomToRestore(withTemplates) || goesOn(u"The disk may lack the room for the restored files."_s))) {
-        return kept;
+        return kept.path;
     }
-    if (!kept.isEmpty()) {
-        QFile::remove(kept);
+    if (!kept.path.isEmpty()) {
+        QFile::remove(kept.path);
     }
     return std::nullopt;
 }

@@ -102,6 +102,12 @@ private:
     int m_count = 0;
 };
 
+bool hasContent(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.isFile() && file.size() > 0;
+}
+
 // A link takes no room worth counting, and what it leads to stays.
 qint64 sizeOf(const QFileInfo& file)
 {
@@ -119,27 +125,33 @@ qint64 sizeOfFiles(const QString& folder)
 
 } // namespace
 
-QString keepPresentShop(const ApplicationFolder& folder, const QString& version, const QDateTime& moment,
-                        const FileCalls& calls)
+KeptShop keepPresentShop(const ApplicationFolder& folder, const QString& version, const QDateTime& moment,
+                         const FileCalls& calls)
 {
-    QString path = freePath(folder.backupsFolder(), moment);
+    KeptShop kept;
+    const QString path = freePath(folder.backupsFolder(), moment);
     GrowingPackedFile packed(path, version, calls);
     KeyedCollection<int> packedSpecs; // a packed file with two names that differ by case alone could not be read
     for (const QString& fileSpec : shopFileSpecs(folder)) {
-        clsFileData entry(folder);
-        if (!packedSpecs.hasKey(fileSpec) && entry.Load(fileSpec, false)) {
-            packedSpecs.Add(0, fileSpec);
-            if (!packed.isBegun()) {
-                makeFolder(folder.backupsFolder());
-            }
-            packed.add(entry);
+        if (packedSpecs.hasKey(fileSpec)) {
+            continue;
         }
+        clsFileData entry(folder);
+        if (!entry.Load(fileSpec, false, calls)) {
+            kept.isWhole = kept.isWhole && !hasContent(pathOnDisk(folder, fileSpec));
+            continue;
+        }
+        packedSpecs.Add(0, fileSpec);
+        if (!packed.isBegun()) {
+            makeFolder(folder.backupsFolder());
+        }
+        packed.add(entry);
     }
-    if (!packed.isBegun()) {
-        return {};
+    if (packed.isBegun()) {
+        packed.finish();
+        kept.path = path;
     }
-    packed.finish();
-    return path;
+    return kept;
 }
 
 void removeOldKeptShops(const ApplicationFolder& folder, const QString& restored, const QString& kept)

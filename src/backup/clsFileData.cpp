@@ -101,7 +101,7 @@ QString clsFileData::ParentFolder() const
     return colon >= 0 ? m_fileSpec.first(colon + 1) + u'\\' : QString();
 }
 
-bool clsFileData::Load(const QString& relativePath, bool compress)
+bool clsFileData::Load(const QString& relativePath, bool compress, const FileCalls& calls)
 {
     m_fileSpec = relativePath;
     const QString path = pathOnDisk(m_folder, relativePath);
@@ -109,7 +109,7 @@ bool clsFileData::Load(const QString& relativePath, bool compress)
         if (QFileInfo(path).size() > largestSize) {
             return false;
         }
-        const QByteArray bytes = readFileBytes(path);
+        const QByteArray bytes = readFileBytes(path, calls);
         if (bytes.isEmpty() || bytes.size() > largestSize) {
             return false;
         }

@@ -29,7 +29,7 @@ public:
     // Reads a file by its path relative to the application folder, with backslashes, which becomes FileSpec. False when
     // it cannot be read, or is empty or larger than 2^31 - 1 bytes. With `compress` it is deflated; when that fails it
     // is held plain, which is no failure.
-    bool Load(const QString& relativePath, bool compress);
+    bool Load(const QString& relativePath, bool compress, const FileCalls& calls = *systemFileCalls());
     // In bytes, before deflating.
     qint32 Size() const { return m_size; }
     // In bytes, 0 when the bytes are not deflated.

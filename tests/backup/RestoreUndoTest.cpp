@@ -141,6 +141,37 @@ TEST_F(RestoreUndo, WhatCannotBeWrittenAsksAndNoTouchesNothing)
     EXPECT_EQ(shopFiles().value(u"shop.xml"_s), "<present/>");
 }
 
+TEST_F(RestoreUndo, AFileThatCannotBeReadAsksAndNoTouchesNothing)
+{
+    const QMap<QString, QByteArray> before = allFiles();
+    for (const QString& name : {u"shop.xml"_s, u"own.png"_s, u"own.html"_s}) {
+        SCOPED_TRACE(name.toStdString());
+        calls->failAtCall(u"read "_s + name, ErrorNumber::DeviceError);
+        askedToGoOn(false);
+        EXPECT_FALSE(restorer.Restore(referencePath(u"current"_s)));
+        EXPECT_EQ(allFiles(), before);
+    }
+    calls->failAtCall(u"no call"_s, ErrorNumber::DeviceError);
+    // Larger than an entry may be; it takes no room on the disk.
+    QFile large(files.path(u"pictures/large.png"_s));
+    ASSERT_TRUE(large.open(QIODevice::WriteOnly) && large.resize(Q_INT64_C(2147483648)));
+    askedToGoOn(false);
+    EXPECT_FALSE(restorer.Restore(referencePath(u"current"_s)));
+    EXPECT_TRUE(large.exists());
+    EXPECT_TRUE(keptFiles().isEmpty());
+}
+
+TEST_F(RestoreUndo, YesKeepsTheFilesThatCanBeRead)
+{
+    calls->failAtCall(u"read own.png"_s, ErrorNumber::DeviceError);
+    askedToGoOn(true);
+    EXPECT_TRUE(restorer.Restore(referencePath(u"no_entries"_s)));
+    EXPECT_TRUE(shopFiles().isEmpty());
+    EXPECT_TRUE(restorer.Restore(files.path(u"backups/"_s + keptName)));
+    const QMap<QString, QByteArray> expected = {{u"shop.xml"_s, "<present/>"}, {u"templates/own.html"_s, "own page"}};
+    EXPECT_EQ(shopFiles(), expected);
+}
+
 TEST_F(RestoreUndo, YesRestoresWithoutAWayBack)
 {
     calls->failAtCall(u"flush"_s, ErrorNumber::DeviceError);
