@@ -29,12 +29,14 @@ AddFileResult clsPacker::AddFile(const QString& relativePath)
     AddFileResult result = AddFileResult::AlreadyPresent;
     if (!m_entries.hasKey(relativePath)) {
         raiseWorking(false);
-        clsFileData& entry = Add(relativePath);
-        result = AddFileResult::Added;
-        if (!entry.Load(relativePath, m_compressed)) {
-            Remove(entry.Key());
-            result = AddFileResult::CannotLoad;
+        // Only what has loaded is added: an entry that is taken out again costs as much as all entries that stay.
+        auto entry = std::make_unique<clsFileData>(m_folder);
+        result = AddFileResult::CannotLoad;
+        if (entry->Load(relativePath, m_compressed)) {
+            m_entries.Add(std::move(entry), relativePath);
+            result = AddFileResult::Added;
         }
+        m_changed = true; // also without a new entry
     }
     // Raised for a key that is present too, which had no beginning.
     raiseWorking(true);
