@@ -1,9 +1,9 @@
 #include "backup/BackUpCommands.h"
 
+#include "backup/BackUpRestore.h"
 #include "backup/clsPacker.h"
 #include "base/RuntimeError.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <new>
@@ -41,9 +41,7 @@ std::optional<BackUpReport> backUpFromMenu(const BackUpServices& services)
     }
     // Made before anything is looked at, so that it is there even when the backup fails.
     const QString folder = services.folder.backupsFolder();
-    if (!QDir().mkpath(folder)) {
-        failAt(ErrorNumber::PathFileAccess, folder);
-    }
+    makeFolder(folder);
     QString name = *answer;
     const bool made = packer.BackUp(name);
     logLeftOut(services.log, packer.leftOut());

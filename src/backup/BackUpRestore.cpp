@@ -160,7 +160,7 @@ bool clsPacker::Restore(const QString& path)
     PrepareFolder(m_folder.picturesFolder());
     const QFileInfo shop(m_folder.shopFile());
     if ((shop.exists() || shop.isSymLink()) && !QFile::remove(m_folder.shopFile())) {
-        // There is no way back here: the pictures, and perhaps the templates, are gone by now.
+        // The pictures, and perhaps the templates, are gone by now; the kept file brings them back.
         m_prompts.showMessage(u"Restoring canceled"_s, u"Can't remove shop.xml"_s, PromptIcon::Critical);
         return false;
     }

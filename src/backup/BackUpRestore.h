@@ -1,6 +1,6 @@
 // Where the files of a packed file belong on disk. BackUpRestore.cpp holds the two routines of clsPacker that know a
 // shop: what goes into a backup, and in which order a restore takes away what is there and writes back what was packed.
-// All that is removed goes first, so that a restore leaves no stray file; there is no way back from there.
+// All that is removed goes first, so that a restore leaves no stray file; ahead of that the present shop is kept.
 #pragma once
 
 #include "base/ApplicationFolder.h"

@@ -47,10 +47,10 @@ void PackedRecord::addUInt16(quint16 number)
 PackedStream::PackedStream(const QString& path, Mode mode, const FileCalls& calls) : m_path(path)
 {
     if (mode == Mode::Read) {
-        m_writable.file = calls.open(path, FileCalls::Access::Read);
-        m_left = m_writable.file->size();
+        m_file.file = calls.open(path, FileCalls::Access::Read);
+        m_left = m_file.file->size();
     } else {
-        m_writable = openOrCreate(path, calls);
+        m_file = openOrCreate(path, calls);
     }
 }
 
@@ -77,7 +77,7 @@ QByteArray PackedStream::readBytes(qint64 count)
     QByteArray bytes(count, Qt::Uninitialized);
     qint64 filled = 0;
     while (filled < count) {
-        const qint64 done = m_writable.file->read(bytes.data() + filled, count - filled);
+        const qint64 done = m_file.file->read(bytes.data() + filled, count - filled);
         if (done == 0) {
             failAt(ErrorNumber::DeviceError, m_path);
         }
@@ -89,37 +89,37 @@ QByteArray PackedStream::readBytes(qint64 count)
 
 void PackedStream::write(const QByteArray& bytes)
 {
-    m_writable.file->write(bytes);
+    m_file.file->write(bytes);
     m_written += bytes.size();
 }
 
 void PackedStream::reserveToOverwrite(qint64 size)
 {
-    if (!m_writable.created) {
-        m_writable.file->reserve(m_writable.file->size(), size);
+    if (!m_file.created) {
+        m_file.file->reserve(m_file.file->size(), size);
     }
 }
 
 void PackedStream::seekToStart()
 {
-    m_writable.file->seek(0);
+    m_file.file->seek(0);
 }
 
 void PackedStream::cutBehindWritten()
 {
-    if (m_writable.file->size() > m_written) {
-        m_writable.file->cut(m_written);
+    if (m_file.file->size() > m_written) {
+        m_file.file->cut(m_written);
     }
 }
 
 void PackedStream::close()
 {
-    m_writable.file->close();
+    m_file.file->close();
 }
 
 void PackedStream::closeDurably(const FileCalls& calls)
 {
-    finishDurably(m_writable, m_path, calls);
+    finishDurably(m_file, m_path, calls);
 }
 
 QString packedText(const QByteArray& bytes)

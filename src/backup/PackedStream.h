@@ -59,7 +59,7 @@ public:
 
 private:
     QString m_path;
-    WritableFile m_writable;
+    WritableFile m_file;  // only read in Mode::Read
     qint64 m_left = 0;    // bytes that are still to be read
     qint64 m_written = 0; // bytes that were written
 };
