@@ -76,8 +76,8 @@ CustomGrid::CustomGrid(PanelHost& host, QWidget* parent)
     connectGuarded(m_host.errorHandler(), BaseGrd, &QTableWidget::cellClicked, this, &CustomGrid::cellActivated);
     connectGuarded(m_host.errorHandler(), AddItemButtonLbl, &LinkLabel::clicked, this, &CustomGrid::addItem);
     connectGuarded(m_host.errorHandler(), ForGridTxt, &QLineEdit::textEdited, this, [this](const QString& text) {
-        if (BaseGrd->currentItem()) {
-            setCellText(BaseGrd->currentRow(), BaseGrd->currentColumn(), text);
+        if (m_edited.isValid()) {
+            setCellText(m_edited.row(), m_edited.column(), text);
             markEditor();
         }
     });

@@ -8,6 +8,7 @@
 #include "model/ProductClass.h"
 
 #include <QLineEdit>
+#include <QPersistentModelIndex>
 #include <QTableWidget>
 
 #include <memory>
@@ -88,9 +89,12 @@ private:
     void placeEditor();
     void markEditor();
     void moveEditor(int step);
+    void moveEditorToRow(int row);
     bool gridKey(const QKeyEvent& key);
+    bool editorKey(const QKeyEvent& key);
 
     PanelHost& m_host;
     QString m_tag;
+    QPersistentModelIndex m_edited; // the cell under the editor, whichever the current one is
     std::vector<CellContent> m_contents = {CellContent::Text};
 };

@@ -11,6 +11,7 @@ void CustomGrid::openEditor(int row, int column)
 {
     BaseGrd->setCurrentCell(row, column);
     BaseGrd->scrollToItem(BaseGrd->item(row, column));
+    m_edited = BaseGrd->model()->index(row, column);
     ForGridTxt->setText(cellText(row, column));
     ForGridTxt->setAccessibleDescription(BaseGrd->horizontalHeaderItem(column)->text());
     markEditor();
@@ -21,15 +22,15 @@ void CustomGrid::openEditor(int row, int column)
 
 void CustomGrid::placeEditor()
 {
-    if (!ForGridTxt->isHidden() && BaseGrd->currentItem()) {
-        ForGridTxt->setGeometry(BaseGrd->visualItemRect(BaseGrd->currentItem()));
+    if (!ForGridTxt->isHidden() && m_edited.isValid()) {
+        ForGridTxt->setGeometry(BaseGrd->visualRect(m_edited));
     }
 }
 
 // A text that has only begun is not marked while it is empty.
 void CustomGrid::markEditor()
 {
-    const QTableWidgetItem* cell = BaseGrd->currentItem();
+    const QTableWidgetItem* cell = BaseGrd->item(m_edited.row(), m_edited.column());
     const bool isMarked = cell->data(MarkedRole).toBool() && !ForGridTxt->text().isEmpty();
     ForGridTxt->setProperty(refusedProperty, isMarked);
     ForGridTxt->setToolTip(isMarked ? cell->toolTip() : QString());
@@ -39,8 +40,8 @@ void CustomGrid::markEditor()
 // To the next or the former cell of text; at either end the editor closes.
 void CustomGrid::moveEditor(int step)
 {
-    int row = BaseGrd->currentRow();
-    int column = BaseGrd->currentColumn();
+    int row = m_edited.row();
+    int column = m_edited.column();
     do {
         column += step;
         if (column < 0 || column >= linkColumn()) {
@@ -54,6 +55,14 @@ void CustomGrid::moveEditor(int step)
         return;
     }
     openEditor(row, column);
+}
+
+// Where there is no such row, the editor stays.
+void CustomGrid::moveEditorToRow(int row)
+{
+    if (row >= 0 && row < BaseGrd->rowCount()) {
+        openEditor(row, m_edited.column());
+    }
 }
 
 bool CustomGrid::gridKey(const QKeyEvent& key)
@@ -75,6 +84,33 @@ bool CustomGrid::gridKey(const QKeyEvent& key)
     }
 }
 
+bool CustomGrid::editorKey(const QKeyEvent& key)
+{
+    switch (key.key()) {
+    case Qt::Key_Tab:
+        moveEditor(1);
+        return true;
+    case Qt::Key_Backtab:
+        moveEditor(-1);
+        return true;
+    case Qt::Key_Up:
+        moveEditorToRow(m_edited.row() - 1);
+        return true;
+    case Qt::Key_Down:
+        moveEditorToRow(m_edited.row() + 1);
+        return true;
+    case Qt::Key_PageUp: // would scroll the cell away
+    case Qt::Key_PageDown:
+        return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        BaseGrd->setFocus();
+        return true;
+    default:
+        return false;
+    }
+}
+
 bool CustomGrid::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == BaseGrd->viewport() && event->type() == QEvent::MouseButtonPress &&
@@ -82,23 +118,14 @@ bool CustomGrid::eventFilter(QObject* watched, QEvent* event)
         swallowSecondPress(); // the link of the next row comes under the mouse
     }
     if (watched == BaseGrd && event->type() == QEvent::KeyPress) {
+        if (ForGridTxt->isVisible()) { // the editor left that key over: it passes the table by
+            event->ignore();
+            return true;
+        }
         return gridKey(*static_cast<QKeyEvent*>(event));
     }
     if (watched == ForGridTxt && event->type() == QEvent::KeyPress) {
-        switch (static_cast<QKeyEvent*>(event)->key()) {
-        case Qt::Key_Tab:
-            moveEditor(1);
-            return true;
-        case Qt::Key_Backtab:
-            moveEditor(-1);
-            return true;
-        case Qt::Key_Return:
-        case Qt::Key_Enter:
-            BaseGrd->setFocus();
-            return true;
-        default:
-            break;
-        }
+        return editorKey(*static_cast<QKeyEvent*>(event));
     }
     // Opening its context menu does not count as leaving it.
     if (watched == ForGridTxt && event->type() == QEvent::FocusOut &&

@@ -170,6 +170,63 @@ TEST_F(Grid, CanBeUsedWithTheKeyboardAlone)
     EXPECT_EQ(cell(grid.get(), 0, 0), u"b3"_s);
 }
 
+TEST_F(Grid, OpensTheCellAboveOrBelowByTheArrowsInAnOpenCell)
+{
+    grid->Init({u"One"_s, u"Two"_s}, {texts({u"a"_s, u"b"_s, u"c"_s}), texts({u"d"_s, u"e"_s, u"f"_s})});
+    clickCell(grid.get(), 0, 1);
+    const std::pair<Qt::Key, int> presses[] = {{Qt::Key_Up, 0}, // there is none above
+                                               {Qt::Key_Down, 1},
+                                               {Qt::Key_Down, 2},
+                                               {Qt::Key_Down, 2}, // nor below
+                                               {Qt::Key_Up, 1}};
+    for (const auto& [key, row] : presses) {
+        QTest::keyClick(grid->ForGridTxt, key);
+        ASSERT_TRUE(grid->ForGridTxt->hasFocus());
+        EXPECT_EQ(grid->BaseGrd->currentRow(), row);
+        EXPECT_EQ(grid->ForGridTxt->text(), cell(grid.get(), row, 1));
+        EXPECT_EQ(grid->ForGridTxt->geometry(), grid->BaseGrd->visualItemRect(grid->BaseGrd->item(row, 1)));
+        QTest::keyClicks(grid->ForGridTxt, QString::number(row));
+    }
+    EXPECT_EQ(grid->GetData()[0]->Item(2), u"b"_s);
+    const QStringList column = {cell(grid.get(), 0, 1), cell(grid.get(), 1, 1), cell(grid.get(), 2, 1)};
+    EXPECT_EQ(column, (QStringList{u"d0"_s, u"e11"_s, u"f22"_s}));
+}
+
+TEST_F(Grid, WritesIntoTheCellUnderItsEditorWhateverKeyIsPressed)
+{
+    struct Press
+    {
+        Qt::Key key;
+        Qt::KeyboardModifiers with;
+    };
+    for (const Press& press : {Press{Qt::Key_PageDown, Qt::NoModifier}, Press{Qt::Key_PageUp, Qt::NoModifier},
+                               Press{Qt::Key_End, Qt::ControlModifier}, Press{Qt::Key_Home, Qt::ControlModifier},
+                               Press{Qt::Key_F2, Qt::NoModifier}, Press{Qt::Key_Escape, Qt::NoModifier}}) {
+        grid->Init({u"One"_s, u"Two"_s}, {texts({u"a"_s, u"b"_s, u"c"_s}), texts({u"d"_s, u"e"_s, u"f"_s})});
+        clickCell(grid.get(), 1, 0);
+        QTest::keyClick(grid->ForGridTxt, press.key, press.with);
+        EXPECT_EQ(grid->BaseGrd->currentRow(), 1) << press.key;
+        EXPECT_EQ(grid->BaseGrd->currentColumn(), 0) << press.key;
+        EXPECT_EQ(grid->ForGridTxt->geometry(), grid->BaseGrd->visualItemRect(grid->BaseGrd->item(1, 0)));
+        QTest::keyClicks(grid->ForGridTxt, u"x"_s);
+        EXPECT_EQ(rowOf(grid.get(), 0), (QStringList{u"a"_s, u"d"_s})) << press.key;
+        EXPECT_EQ(rowOf(grid.get(), 1), (QStringList{u"bx"_s, u"e"_s})) << press.key;
+        EXPECT_EQ(rowOf(grid.get(), 2), (QStringList{u"c"_s, u"f"_s})) << press.key;
+    }
+}
+
+TEST_F(Grid, WritesIntoTheCellUnderItsEditorThoughAnotherBecomesTheCurrentOne)
+{
+    grid->Init({u"One"_s}, {texts({u"a"_s, u"b"_s})});
+    clickCell(grid.get(), 0, 0);
+    const QRect place = grid->ForGridTxt->geometry();
+    grid->BaseGrd->setCurrentCell(1, 0);
+    QTest::keyClicks(grid->ForGridTxt, u"x"_s);
+    EXPECT_EQ(grid->ForGridTxt->geometry(), place);
+    EXPECT_EQ(rowOf(grid.get(), 0), QStringList{u"ax"_s});
+    EXPECT_EQ(rowOf(grid.get(), 1), QStringList{u"b"_s});
+}
+
 TEST_F(Grid, HidesTableAndLinkTogether)
 {
     grid->Hide();
