@@ -1,5 +1,6 @@
 #include "editors/TextArea.h"
 
+#include "editors/RawText.h"
 #include "look/Measures.h"
 
 using namespace Qt::StringLiterals;
@@ -36,9 +37,5 @@ QString TextArea::text() const
     if (!document()->isModified()) {
         return m_filled;
     }
-    // Not toPlainText(), which turns non-breaking spaces into plain ones.
-    QString text = document()->toRawText();
-    const QString lineEnd = m_filled.contains("\r\n"_L1) ? u"\r\n"_s : u"\n"_s;
-    text.replace(QChar::LineSeparator, QChar::ParagraphSeparator);
-    return text.replace(QString(QChar::ParagraphSeparator), lineEnd);
+    return rawText(*document(), m_filled.contains("\r\n"_L1) ? u"\r\n"_s : u"\n"_s);
 }

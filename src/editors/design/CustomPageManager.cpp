@@ -8,6 +8,7 @@
 #include "design/clsSelectedCustomPages.h"
 #include "editors/PanelHost.h"
 #include "editors/PanelParts.h"
+#include "editors/RawText.h"
 #include "editors/design/PageOptions.h"
 #include "look/Measures.h"
 #include "look/Section.h"
@@ -167,9 +168,7 @@ void CustomPageManager::storeOpenPage(ShopClass& shop)
         return;
     }
     m_changed = false;
-    // The raw text, since the plain one turns non-breaking blanks into blanks.
-    m_openPage->ContentText =
-        PageContentTextCtl->document()->toRawText().replace(QChar::ParagraphSeparator, QChar(u'\n'));
+    m_openPage->ContentText = rawText(*PageContentTextCtl->document(), u"\n"_s);
     const QString name = PageNameTextCtl->text();
     if (name == m_openPage->pageName) {
         return;

@@ -1,5 +1,6 @@
 #include "editors/design/TemplateText.h"
 
+#include "editors/RawText.h"
 #include "editors/design/TemplateHighlighter.h"
 
 #include <QFontDatabase>
@@ -54,8 +55,7 @@ void TemplateText::showTemplate(const QString& templateText)
 
 QString TemplateText::editedText() const
 {
-    // The raw text, since the plain one turns non-breaking blanks into blanks.
-    return document()->toRawText().replace(QChar::ParagraphSeparator, u"\r\n"_s);
+    return rawText(*document(), u"\r\n"_s);
 }
 
 int TemplateText::lineNumberWidth() const

@@ -377,6 +377,16 @@ TEST(TextAreas, KeepTheKindOfLineEndAndHardBlanksOfAChangedText)
     EXPECT_EQ(area.text(), u"one\ntwo\n3"_s);
 }
 
+TEST(TextAreas, EndALineByShiftAndEnterToo)
+{
+    TextArea area;
+    area.fill(u"one\r\ntwo"_s);
+    area.moveCursor(QTextCursor::End);
+    QTest::keyClick(&area, Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(&area, u"3"_s);
+    EXPECT_EQ(area.text(), u"one\r\ntwo\r\n3"_s);
+}
+
 TEST_F(Grid, RemovesOneRowByADoubleClick)
 {
     grid->Init({u"One"_s, u"Two"_s}, {texts({u"a"_s, u"b"_s, u"c"_s}), texts({u"d"_s, u"e"_s, u"f"_s})});

@@ -153,6 +153,17 @@ TEST_F(CustomPages, AreNotRewrittenWhenNothingWasTyped)
     EXPECT_EQ(shop().CustomPages.Item(1)->ContentText, u"a\nb\u00a0cd"_s);
 }
 
+TEST_F(CustomPages, EndALineByShiftAndEnterToo)
+{
+    shop().CustomPages.Item(1)->ContentText = u"one"_s;
+    select(0);
+    textField()->moveCursor(QTextCursor::End);
+    QTest::keyClick(textField(), Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClicks(textField(), u"two"_s);
+    pressIn("imgButtonSubmit");
+    EXPECT_EQ(shop().CustomPages.Item(1)->ContentText, u"one\ntwo"_s);
+}
+
 TEST_F(CustomPages, AreAddedUnderTheFirstFreeNameAndOpened)
 {
     for (const char* name : {"New Page", "New Page 1", "New Page 2"}) {

@@ -1,6 +1,8 @@
 // The file of a template: how it is read and written, and how its factory copy takes its place.
 #include "TemplatesTest.h"
 
+#include <QTest>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -61,6 +63,16 @@ TEST_F(TemplateFiles, KeepTheirNonBreakingBlanks)
     pressIn("SaveTemplteBtn");
     EXPECT_EQ(templateFile("category"), "a\xC2\xA0"
                                         "b\r\n\r\n");
+}
+
+TEST_F(TemplateFiles, EndALineByShiftAndEnterToo)
+{
+    editCategoryTemplate("one");
+    field()->moveCursor(QTextCursor::End);
+    QTest::keyClick(field(), Qt::Key_Return, Qt::ShiftModifier);
+    pressKeys(field(), u"two"_s);
+    pressIn("SaveTemplteBtn");
+    EXPECT_EQ(templateFile("category"), "one\r\n\r\ntwo\r\n");
 }
 
 TEST_F(TemplateFiles, AreWrittenWithCrLfWhateverTheirLineEnds)
