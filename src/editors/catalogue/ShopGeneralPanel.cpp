@@ -2,6 +2,7 @@
 
 #include "editors/LinkLabel.h"
 #include "editors/TextArea.h"
+#include "editors/WholeRowTicks.h"
 #include "look/Measures.h"
 #include "look/WordLabel.h"
 #include "model/ShopSession.h"
@@ -39,6 +40,7 @@ void ShopGeneralPanel::addCountries()
     m_filter->setClearButtonEnabled(true);
     lstCountries = named(new QListWidget(m_frame), "lstCountries", u"Countries that the shop delivers to"_s);
     lstCountries->setMinimumHeight(120);
+    lstCountries->setItemDelegate(new WholeRowTicks(lstCountries));
     auto* lblCheckAll = new LinkLabel("lblCheckAll", u"Check all"_s, m_frame);
     auto* lblClearAll = new LinkLabel("lblClearAll", u"Clear all"_s, m_frame);
 

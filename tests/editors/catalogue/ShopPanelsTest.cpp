@@ -50,6 +50,24 @@ TEST_F(ShopPanels, WriteEveryCheckedCountryUnderItsName)
     EXPECT_EQ(in<QListWidget>("lstCountries")->item(0)->checkState(), Qt::Unchecked);
 }
 
+TEST_F(ShopPanels, TickACountryByAClickAnywhereInItsRow)
+{
+    auto* list = in<QListWidget>("lstCountries");
+    const QRect row = list->visualItemRect(list->item(1));
+    const auto clickAt = [list, &row](int x, Qt::MouseButton button = Qt::LeftButton) {
+        QTest::mouseClick(list->viewport(), button, {}, QPoint(x, row.center().y()));
+        return list->item(1)->checkState();
+    };
+    EXPECT_EQ(clickAt(row.left() + 50), Qt::Checked); // on its name
+    EXPECT_EQ(in<QLabel>("CountriesCountLbl")->text(), u"1 of 3 checked"_s);
+    EXPECT_EQ(clickAt(row.right() - 5), Qt::Unchecked);
+    EXPECT_EQ(clickAt(row.left() + 10), Qt::Checked); // on its box
+    EXPECT_EQ(clickAt(row.left() + 50, Qt::RightButton), Qt::Checked);
+    EXPECT_EQ(list->item(0)->checkState(), Qt::Unchecked);
+    QTest::keyClick(list, Qt::Key_Space);
+    EXPECT_EQ(list->item(1)->checkState(), Qt::Unchecked);
+}
+
 TEST_F(ShopPanels, HideTheCountriesThatTheFilterDoesNotName)
 {
     auto* list = in<QListWidget>("lstCountries");

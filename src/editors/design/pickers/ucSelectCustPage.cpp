@@ -3,40 +3,15 @@
 #include "design/CustomPageClass.h"
 #include "design/PageTable.h"
 #include "design/clsSelectedCustomPages.h"
+#include "editors/WholeRowTicks.h"
 #include "look/Measures.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
-#include <QMouseEvent>
 #include <QScopedValueRollback>
-#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// A click anywhere in a row ticks it, not only one on its little box.
-class WholeRowTicks : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    bool editorEvent(QEvent* event, QAbstractItemModel* model, const QStyleOptionViewItem& option,
-                     const QModelIndex& index) override
-    {
-        if (event->type() != QEvent::MouseButtonRelease) {
-            return QStyledItemDelegate::editorEvent(event, model, option, index);
-        }
-        if (static_cast<QMouseEvent*>(event)->button() != Qt::LeftButton) {
-            return false;
-        }
-        const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
-        return model->setData(index, ticked ? Qt::Unchecked : Qt::Checked, Qt::CheckStateRole);
-    }
-};
-
-} // namespace
 
 ucSelectCustPage::ucSelectCustPage(QWidget* parent) : QWidget(parent)
 {
