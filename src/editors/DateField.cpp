@@ -202,7 +202,8 @@ void MonthCalendar::changeEvent(QEvent* event)
     QCalendarWidget::changeEvent(event);
 }
 
-// Seven rows of seven days between the bar and the button for no date.
+// Seven rows of seven days between the bar and the button for no date. The names of the days and of the months may need
+// more room in some languages.
 QSize MonthCalendar::sizeOfMonth() const
 {
     const auto* bar = findChild<const QWidget*>(u"qt_calendar_navigationbar"_s);
@@ -210,7 +211,8 @@ QSize MonthCalendar::sizeOfMonth() const
     const int row = rowHeight(fontMetrics());
     const int foot = Measure::Tight + button->sizeHint().height() + Measure::Gap;
     const int frame = 2 * Measure::FieldFrame;
-    return {7 * (row + Measure::Section) + frame, bar->sizeHint().height() + 7 * row + foot + frame};
+    const int width = qMax(7 * (row + Measure::Section) + frame, minimumSizeHint().width());
+    return {width, bar->sizeHint().height() + 7 * row + foot + frame};
 }
 
 void MonthCalendar::write(const QString& text)

@@ -205,6 +205,30 @@ TEST_F(CategoryPanels, OpenAMonthUnderTheDateWithItsDaySelected)
     EXPECT_EQ(discount().DateTo, textIn("DateToTxt"));
 }
 
+TEST_F(CategoryPanels, OpenAMonthWithRoomForTheNamesOfItsDaysAndMonthsInAnyLanguage)
+{
+    for (const char* language : {"pt_PT", "de_DE", "en_US"}) {
+        MonthCalendar month(clock, window.get());
+        month.setLocale(QLocale(QLatin1String(language)));
+        QLineEdit field;
+        month.openUnder(field);
+        QCoreApplication::processEvents();
+        const auto* days = month.findChild<QAbstractItemView*>();
+        const int besideText = 2 * (days->style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, days) + 1);
+        for (int column = 0; column < days->model()->columnCount(); ++column) {
+            const QModelIndex head = days->model()->index(0, column);
+            EXPECT_GE(days->visualRect(head).width(),
+                      days->fontMetrics().horizontalAdvance(head.data().toString()) + besideText)
+                << language << ": " << head.data().toString().toStdString();
+        }
+        const auto* bar = month.findChild<QWidget*>(u"qt_calendar_navigationbar"_s);
+        for (int number = 1; number <= 12; ++number) {
+            month.setCurrentPage(2026, number);
+            EXPECT_GE(bar->width(), bar->sizeHint().width()) << language << ": " << number;
+        }
+    }
+}
+
 TEST_F(CategoryPanels, TakeADateByTheKeyboardToo)
 {
     discount().Status = DiscountStatus::ToAll;
