@@ -29,7 +29,7 @@ Edge edgeOf(const QStyleOption& option, const QWidget* widget)
         return {toneIn(scheme, Tone::Error), Measure::Ring};
     }
     if (option.state.testFlag(QStyle::State_HasFocus)) {
-        return {tone(Tone::Accent), Measure::Ring};
+        return {toneIn(scheme, Tone::Accent), Measure::Ring};
     }
     const bool isUnderMouse = option.state.testFlag(QStyle::State_MouseOver);
     return {toneIn(scheme, isUnderMouse ? Tone::Muted : Tone::Edge), Measure::Hairline};

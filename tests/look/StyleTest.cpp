@@ -129,6 +129,31 @@ TEST_P(Style, TakesTheGroundAndTheEdgeFromWhatIsOff)
     }
 }
 
+// So that the ring shows on it, too: a date field is white in the dark look.
+TEST(StyleOfFields, DrawsTheRingOfTheFocusInTheAccentThatGoesWithTheFieldsOwnGround)
+{
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        showScheme(scheme);
+        QWidget window;
+        window.resize(140, 100);
+        auto* field = new QLineEdit(&window);
+        field->setGeometry(20, 20, 80, 40);
+        window.show();
+        window.activateWindow();
+        QCoreApplication::processEvents();
+        ASSERT_TRUE(field->hasFocus());
+        const auto ring = [&window] { return shown(window, 1).pixelColor(21, 40); };
+        EXPECT_EQ(ring(), toneIn(scheme, Tone::Accent));
+        for (const Tone ground : {Tone::DateInUse, Tone::DateOff}) {
+            QPalette colours = field->palette();
+            colours.setColor(QPalette::Base, tone(ground));
+            field->setPalette(colours);
+            EXPECT_EQ(ring(), toneIn(Scheme::Light, Tone::Accent));
+        }
+    }
+    showScheme(Scheme::Light);
+}
+
 // How many rows of pixels hold ink of that colour, or close to it.
 int inkRows(const QImage& image, const QRect& room, const QColor& ground)
 {
