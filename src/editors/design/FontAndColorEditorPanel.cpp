@@ -109,13 +109,13 @@ void FontAndColorEditorPanel::makeFontRow()
     FontNameLst = namedList("FontNameLst", fontNames(), u"Arial"_s, Frame1);
     FontSizeLst = namedList("FontSizeLst", fontSizes(), u"10pt"_s, Frame1);
     form->addRow(captionOf(u"&Font:"_s, FontNameLst), FontNameLst);
-    form->addRow(captionOf(u"&Size:"_s, FontSizeLst), FontSizeLst);
+    form->addRow(captionOf(u"Si&ze:"_s, FontSizeLst), FontSizeLst);
 
     auto* row = new QHBoxLayout;
     row->setSpacing(14);
     for (auto [check, name, caption] :
          {std::tuple(&Check1, "Check1", u"&Bold"_s), std::tuple(&Check2, "Check2", u"&Italic"_s),
-          std::tuple(&Check3, "Check3", u"&Underlined"_s), std::tuple(&Check4, "Check4", u"Struck &through"_s)}) {
+          std::tuple(&Check3, "Check3", u"&Underlined"_s), std::tuple(&Check4, "Check4", u"Struck th&rough"_s)}) {
         *check = new QCheckBox(caption, Frame1);
         (*check)->setObjectName(QLatin1String(name));
         row->addWidget(*check);
@@ -143,7 +143,7 @@ void FontAndColorEditorPanel::makeColourRow(PanelHost& host)
         });
         return button;
     };
-    ForeGroundColorBtn = colourButton("ForeGroundColorBtn", u"&Text colour:"_s, u"Text colour"_s, m_foreGround,
+    ForeGroundColorBtn = colourButton("ForeGroundColorBtn", u"Te&xt colour:"_s, u"Text colour"_s, m_foreGround,
                                       &FontAndColorEditorPanel::setObjectForeGroundColor);
     BackGroundColorBtn = colourButton("BackGroundColorBtn", u"Back&ground:"_s, u"Background colour"_s, m_backGround,
                                       &FontAndColorEditorPanel::setObjectBackGroundColor);
