@@ -108,16 +108,15 @@ void ProductShippingCostsPanel::write(ProductClass& product)
     }
     product.Weight = WeightTxt->text();
     TextCollection costs;
-    for (const TypeCost& pair : m_costs) {
-        const QString type = pair.ShippingTypeNameLbl->text();
-        const QString cost = pair.ShippingTypeCostTxt->text();
-        if (m_costForm->parentWidget()->isHidden()) {
-            break; // the shop has no types
-        }
-        if (costs.hasKey(type)) {
-            costs.Add(cost); // a second type of the same name
-        } else {
-            costs.Add(cost, type);
+    if (!m_costForm->parentWidget()->isHidden()) { // else the shop has no types
+        for (const TypeCost& pair : m_costs) {
+            const QString type = pair.ShippingTypeNameLbl->text();
+            const QString cost = pair.ShippingTypeCostTxt->text();
+            if (costs.hasKey(type)) {
+                costs.Add(cost); // a second type of the same name
+            } else {
+                costs.Add(cost, type);
+            }
         }
     }
     *product.ShippingCosts() = std::move(costs); // in place: a clone has the same object

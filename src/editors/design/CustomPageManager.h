@@ -7,7 +7,6 @@
 class CustomPageClass;
 class QLineEdit;
 class QListWidget;
-class QListWidgetItem;
 class QPlainTextEdit;
 class QPushButton;
 

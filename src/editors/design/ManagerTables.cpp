@@ -1,7 +1,5 @@
 #include "editors/design/ManagerTables.h"
 
-#include <QCoreApplication>
-
 using enum DesignOption;
 
 // clang-format off

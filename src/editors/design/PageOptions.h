@@ -19,9 +19,7 @@ class QLabel;
 class QLineEdit;
 class QPushButton;
 class QVBoxLayout;
-class ShopClass;
 class ShopDesignClass;
-class clsSelectedCustomPages;
 class clsSelectedImage;
 class frmSelectedCustomPages;
 

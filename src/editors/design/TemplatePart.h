@@ -7,7 +7,6 @@
 class PanelHost;
 class QCheckBox;
 class QPushButton;
-class Template;
 class TemplateEditor;
 struct ManagerTable;
 

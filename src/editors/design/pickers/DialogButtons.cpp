@@ -2,8 +2,6 @@
 
 #include "look/Measures.h"
 
-#include <QCoreApplication>
-
 using namespace Qt::StringLiterals;
 
 DialogButtons makeDialogButtons(QWidget* parent)

@@ -109,8 +109,5 @@ void PictureBox::dragEnterEvent(QDragEnterEvent* event)
 
 void PictureBox::dropEvent(QDropEvent* event)
 {
-    if (const QStringList files = acceptPictures(*event); !files.isEmpty()) {
-        QMetaObject::invokeMethod(
-            this, [this, files] { Q_EMIT filesDropped(files); }, Qt::QueuedConnection);
-    }
+    takePictures(*event, this, [this](const QStringList& files) { Q_EMIT filesDropped(files); });
 }

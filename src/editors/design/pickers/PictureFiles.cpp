@@ -13,6 +13,8 @@
 #include <QStandardPaths>
 #include <QUrl>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -74,4 +76,12 @@ QStringList acceptPictures(QDropEvent& event)
         event.accept();
     }
     return files;
+}
+
+void takePictures(QDropEvent& event, QObject* receiver, std::function<void(const QStringList&)> take)
+{
+    if (const QStringList files = acceptPictures(event); !files.isEmpty()) {
+        QMetaObject::invokeMethod(
+            receiver, [files, take = std::move(take)] { take(files); }, Qt::QueuedConnection);
+    }
 }

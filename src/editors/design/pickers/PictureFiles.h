@@ -5,8 +5,11 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class PanelHost;
 class QDropEvent;
+class QObject;
 
 // The filter of every choice of a picture file. The dots before jpg and gif are left out deliberately.
 QString pictureFileFilter();
@@ -24,3 +27,7 @@ QString addToPictures(PanelHost& host, const QString& path);
 // For what takes files that are dropped: accepts the event of a drag or a drop as a copy when files that the filter
 // lets through are among what it brings, and gives their paths; ignores it when none is.
 QStringList acceptPictures(QDropEvent& event);
+
+// The same for a drop. What is to be done with the files is done when the drop is over, unless the receiver is gone by
+// then: it may ask something, for which the program that they come from must not wait.
+void takePictures(QDropEvent& event, QObject* receiver, std::function<void(const QStringList&)> take);

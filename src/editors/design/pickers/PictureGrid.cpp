@@ -155,8 +155,5 @@ void PictureGrid::dragMoveEvent(QDragMoveEvent* event)
 
 void PictureGrid::dropEvent(QDropEvent* event)
 {
-    if (const QStringList files = acceptPictures(*event); !files.isEmpty()) {
-        QMetaObject::invokeMethod(
-            this, [this, files] { Q_EMIT filesDropped(files); }, Qt::QueuedConnection);
-    }
+    takePictures(*event, this, [this](const QStringList& files) { Q_EMIT filesDropped(files); });
 }
