@@ -8,9 +8,11 @@
 #include "look/Type.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QBoxLayout>
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -202,7 +204,20 @@ void MonthCalendar::changeEvent(QEvent* event)
     QCalendarWidget::changeEvent(event);
 }
 
-// Seven rows of seven days between the bar and the button for no date. The names of the days and of the months may need
+// With the longest of its months.
+int MonthCalendar::widthOfBar() const
+{
+    const auto* bar = findChild<const QWidget*>(u"qt_calendar_navigationbar"_s);
+    const auto* month = findChild<const QToolButton*>(u"qt_calendar_monthbutton"_s);
+    const QFontMetrics letters = month->fontMetrics();
+    int longest = 0;
+    for (const QAction* entry : month->menu()->actions()) {
+        longest = qMax(longest, letters.horizontalAdvance(entry->text()));
+    }
+    return bar->sizeHint().width() - letters.horizontalAdvance(month->text()) + longest;
+}
+
+// Seven rows of seven days between the bar and the button for no date. The names of the days and of the months need
 // more room in some languages.
 QSize MonthCalendar::sizeOfMonth() const
 {
@@ -211,8 +226,8 @@ QSize MonthCalendar::sizeOfMonth() const
     const int row = rowHeight(fontMetrics());
     const int foot = Measure::Tight + button->sizeHint().height() + Measure::Gap;
     const int frame = 2 * Measure::FieldFrame;
-    const int width = qMax(7 * (row + Measure::Section) + frame, minimumSizeHint().width());
-    return {width, bar->sizeHint().height() + 7 * row + foot + frame};
+    const int width = qMax(7 * (row + Measure::Section), widthOfBar()) + frame;
+    return {qMax(width, minimumSizeHint().width()), bar->sizeHint().height() + 7 * row + foot + frame};
 }
 
 void MonthCalendar::write(const QString& text)

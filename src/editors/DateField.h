@@ -65,6 +65,7 @@ protected:
 
 private:
     void dress();
+    int widthOfBar() const;
     QSize sizeOfMonth() const;
 
     void write(const QString& text);

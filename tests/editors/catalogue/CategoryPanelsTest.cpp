@@ -207,7 +207,7 @@ TEST_F(CategoryPanels, OpenAMonthUnderTheDateWithItsDaySelected)
 
 TEST_F(CategoryPanels, OpenAMonthWithRoomForTheNamesOfItsDaysAndMonthsInAnyLanguage)
 {
-    for (const char* language : {"pt_PT", "de_DE", "en_US"}) {
+    for (const char* language : {"pt_PT", "de_DE", "en_US", "kde_TZ"}) { // the last has the longest months
         MonthCalendar month(clock, window.get());
         month.setLocale(QLocale(QLatin1String(language)));
         QLineEdit field;
