@@ -1,5 +1,6 @@
 // Every text of every panel, dialog and menu can be read, in the light look and in the dark one: at 4.5 by WCAG 2.1,
 // and at 3 while it is off.
+#include "EveryScreen.h"
 #include "PaintedTexts.h"
 #include "editors/DateField.h"
 #include "editors/Panel.h"
@@ -9,11 +10,9 @@
 #include "shell/DialogPrompts.h"
 #include "shell/ShortcartButton.h"
 #include "support/Hands.h"
-#include "support/WindowTest.h"
 
 #include <QApplication>
 #include <QCheckBox>
-#include <QDialog>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -29,13 +28,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Contrast : public WindowTest, public testing::WithParamInterface<Scheme>
+class Contrast : public EveryScreen, public testing::WithParamInterface<Scheme>
 {
 protected:
     void SetUp() override
     {
-        useSampleShop();
-        start();
+        EveryScreen::SetUp();
         showScheme(GetParam());
         window->resize(1300, 1000);
         QCoreApplication::processEvents();
@@ -110,17 +108,7 @@ INSTANTIATE_TEST_SUITE_P(Looks, Contrast, testing::Values(Scheme::Light, Scheme:
 
 TEST_P(Contrast, IsEnoughInEveryPanelOfTheCatalogue)
 {
-    const std::pair<QString, const char*> nodes[] = {
-        {u"ID_SHOP"_s, "ShopToolbar"}, {u"ID2"_s, "CategoryToolbar"}, {u"ID20"_s, "ProductToolbar"}};
-    for (const auto& [node, toolbar] : nodes) {
-        clickNode(node);
-        for (const ShortcartButton* button : find(toolbar)->findChildren<ShortcartButton*>()) {
-            if (button->Code == PanelCode::Show) {
-                click(button->objectName().toLatin1().constData());
-                expectPanelReadable(button->objectName());
-            }
-        }
-    }
+    inEachPanelOfTheCatalogue([this] { expectPanelReadable(window->VisibleFrame->objectName()); });
     EXPECT_GT(seen, 500);
 }
 

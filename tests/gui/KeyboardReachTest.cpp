@@ -1,42 +1,27 @@
 // Everything that a hand can press or fill is reached by Tab, and shows that it has the focus.
-#include "editors/Panel.h"
+#include "EveryScreen.h"
 #include "shell/CatalogueTree.h"
 #include "shell/ShortcartButton.h"
-#include "support/WindowTest.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QComboBox>
-#include <QDialog>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QSet>
 #include <QTabBar>
-#include <QTabWidget>
 #include <QTableView>
 #include <QTest>
-#include <QTimer>
-
-#include <functional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class KeyboardReach : public WindowTest
+class KeyboardReach : public EveryScreen
 {
 protected:
-    void SetUp() override
-    {
-        useSampleShop();
-        start();
-        window->resize(1100, 750);
-        QCoreApplication::processEvents();
-    }
-
     // What acts when it is pressed, or takes a text or a choice.
     static bool isControl(const QWidget* widget)
     {
@@ -100,82 +85,30 @@ protected:
         }
     }
 
-    // Opens a dialog, looks at it, and closes it.
-    void expectAllReachedInDialog(const char* name, const std::function<void()>& open)
-    {
-        SCOPED_TRACE(name);
-        int dialogs = 0;
-        QTimer::singleShot(0, window.get(), [&] {
-            for (QWidget* shown : QApplication::topLevelWidgets()) {
-                auto* dialog = qobject_cast<QDialog*>(shown);
-                if (dialog && dialog->isVisible()) {
-                    ++dialogs;
-                    EXPECT_EQ(dialog->objectName(), QLatin1String(name));
-                    dialog->activateWindow();
-                    QCoreApplication::processEvents();
-                    expectAllReached(*dialog);
-                    dialog->reject();
-                }
-            }
-        });
-        open();
-        QCoreApplication::processEvents();
-        EXPECT_EQ(dialogs, 1);
-    }
-
     int controls = 0;
 };
 
 TEST_F(KeyboardReach, IsEverythingInTheCatalogue)
 {
-    const std::pair<QString, const char*> nodes[] = {
-        {u"ID_SHOP"_s, "ShopToolbar"}, {u"ID2"_s, "CategoryToolbar"}, {u"ID20"_s, "ProductToolbar"}};
-    for (const auto& [node, toolbar] : nodes) {
-        clickNode(node);
-        for (const ShortcartButton* button : find(toolbar)->findChildren<ShortcartButton*>()) {
-            if (button->Code == PanelCode::Show) {
-                SCOPED_TRACE(button->objectName().toStdString());
-                click(button->objectName().toLatin1().constData());
-                window->parts().CategoriesAndProductsTree->setFocus(Qt::TabFocusReason);
-                expectAllReached(*window);
-            }
-        }
-    }
+    inEachPanelOfTheCatalogue([this] {
+        window->parts().CategoriesAndProductsTree->setFocus(Qt::TabFocusReason);
+        expectAllReached(*window);
+    });
     EXPECT_GT(controls, 100);
 }
 
 TEST_F(KeyboardReach, IsEverythingInTheDesign)
 {
-    click("ShopDesignSBtn");
-    for (const ShortcartButton* button : find("ShopDesignMenuFrame")->findChildren<ShortcartButton*>()) {
-        SCOPED_TRACE(button->objectName().toStdString());
-        click(button->objectName().toLatin1().constData());
-        auto* tabs = window->VisibleFrame->findChild<QTabWidget*>();
-        for (int tab = 0; tab < tabs->count(); ++tab) {
-            tabs->setCurrentIndex(tab);
-            QCoreApplication::processEvents();
-            find("MainPageDesignSBtn")->setFocus(Qt::TabFocusReason);
-            expectAllReached(*window);
-        }
-    }
+    inEachTabOfTheDesign([this] {
+        find("MainPageDesignSBtn")->setFocus(Qt::TabFocusReason);
+        expectAllReached(*window);
+    });
     EXPECT_GT(controls, 400);
 }
 
 TEST_F(KeyboardReach, IsEverythingInTheDialogs)
 {
-    const auto pressInPanel = [this](const char* name) {
-        auto* button = window->VisibleFrame->findChild<QAbstractButton*>(QLatin1String(name));
-        ASSERT_NE(button, nullptr) << name;
-        button->click();
-    };
-    expectAllReachedInDialog("frmUpload", [this] { trigger("mnuUpload"); });
-    clickNode(u"ID2"_s);
-    expectAllReachedInDialog("frmSelectImage", [&] { pressInPanel("BrowseBtnLbl"); });
-    click("ShopDesignSBtn");
-    click("HeaderDesignSBtn");
-    expectAllReachedInDialog("CSSManagementForm", [&] { pressInPanel("btnCSS_general_header"); });
-    expectAllReachedInDialog("frmSelectImageOrText", [&] { pressInPanel("lblLogo"); });
-    expectAllReachedInDialog("frmSelectedCustomPages", [&] { pressInPanel("lblSelectedCustomPageBttn"); });
+    inEachDialog([this](const QDialog& dialog) { expectAllReached(dialog); });
     EXPECT_GT(controls, 20);
 }
 
