@@ -1,5 +1,6 @@
 #include "shell/MainForm.h"
 
+#include "base/RuntimeError.h"
 #include "editors/Panel.h"
 #include "look/TreeLook.h"
 #include "model/ShopClass.h"
@@ -17,6 +18,7 @@
 
 #include <QCloseEvent>
 #include <QCoreApplication>
+#include <QFileInfo>
 #include <QMouseEvent>
 #include <QTimer>
 
@@ -133,7 +135,8 @@ Panel* MainForm::panel(PanelName name) const
 
 void MainForm::CreateShop()
 {
-    if (!loadShop(*m_session, m_unsaved.get())) {
+    m_isShopMissing = !loadShop(*m_session, m_unsaved.get());
+    if (m_isShopMissing) {
         return;
     }
     AddShopToTheTree();
@@ -144,6 +147,12 @@ void MainForm::CreateShop()
 
 void MainForm::SaveShop()
 {
+    // The empty shop in its place must not go over a file that a small change would mend.
+    if (m_isShopMissing && QFileInfo::exists(m_session->folder.shopFile())) {
+        throw RuntimeError(ErrorNumber::ObjectNotSet)
+            .because(u"No shop could be read from shop.xml, so that the file is left as it is. Mend it, or restore a "
+                     u"backup."_s);
+    }
     m_parts->SaveProgressFrame->begin();
     m_unsaved->shopWasSaved(writeShopFile(*m_session));
     m_parts->SaveProgressFrame->finish();

@@ -142,7 +142,8 @@ private:
     std::function<void()> m_startAgain;
     std::unique_ptr<ShopSession> m_session;
     std::unique_ptr<UnsavedShop> m_unsaved;
-    bool m_isToBeKept = false; // the shop was read, and the window was not painted yet
+    bool m_isShopMissing = false; // none could be read
+    bool m_isToBeKept = false;    // the shop was read, and the window was not painted yet
     std::unique_ptr<Templates_Set> m_templates;
     std::unique_ptr<MainFormLayout> m_parts;
     PreviewParts m_preview;

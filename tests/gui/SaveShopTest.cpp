@@ -2,6 +2,7 @@
 #include "editors/Panel.h"
 #include "shell/ProgressFrames.h"
 #include "shell/ShortcartButton.h"
+#include "support/Hands.h"
 #include "support/WindowTest.h"
 
 #include <QDir>
@@ -103,6 +104,24 @@ TEST_F(SaveShop, OfAShopWhoseLoadFoundNoneIsErrorNinetyOne)
     trigger("mnuSaveShop");
     EXPECT_EQ(errors.numbers, std::vector<int>{91});
     EXPECT_EQ(savedShop(), "<Tarnwick/>");
+}
+
+TEST_F(SaveShop, OfAShopWhoseFileIsBrokenLeavesTheFileWhateverWasPressedAheadOfIt)
+{
+    for (const QByteArray& broken :
+         {QByteArray("<Tarnwick/>"), QByteArray("<Tarnwick><Shop><Name>Moss</Na"), QByteArray()}) {
+        window.reset();
+        errors.numbers.clear();
+        writeFile(files.path(u"shop.xml"_s), broken);
+        prompts.expectMessage(u"Ambrel eCommerce Software"_s,
+                              u"Error in the configuration XML file. No 'Shop' node."_s);
+        start();
+        trigger("mnuProductsCatalog");
+        Hands::type(find<QLineEdit>("ShopNameTxt"), u"Fern"_s);
+        trigger("mnuSaveShop");
+        EXPECT_EQ(errors.numbers, std::vector<int>{91});
+        EXPECT_EQ(savedShop(), broken);
+    }
 }
 
 TEST_F(SaveShop, OfTheSampleShopLosesNothing)
