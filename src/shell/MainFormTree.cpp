@@ -167,6 +167,9 @@ bool MainForm::removeActiveCategory(Panel*& ActiveFrame)
     if (std::holds_alternative<ShopRef>(ActiveObject)) {
         ShowToolbar(m_parts->ShopToolbar);
         ActiveFrame = panel(PanelName::ShopGeneralPnl);
+    } else if (std::holds_alternative<ProductRef>(ActiveObject)) { // it was made while a product's line was chosen
+        ShowToolbar(m_parts->ProductToolbar);
+        ActiveFrame = panel(PanelName::ProductGeneralPnl);
     } else {
         ShowToolbar(m_parts->CategoryToolbar);
     }

@@ -249,6 +249,19 @@ TEST_F(Catalogue, LandsOnTheCategoryAboveWhenACategoryBelowItIsRemoved)
     EXPECT_TRUE(window->session().objects.hasKey(u"ID4"_s));
 }
 
+TEST_F(Catalogue, LandsOnTheProductWhenACategoryWhoseLineHangsBelowItIsRemoved)
+{
+    clickNode(u"ID4"_s);
+    trigger("mnuProductsCatalog"); // the shop's panel, and still the product's line
+    click("ShopNewCategorySBtn");
+    prompts.answerYesNo(warning, u"Are you sure you want to remove this category"_s, true);
+    click("RemoveCategorySBtn");
+    EXPECT_EQ(selected()->key, u"ID4"_s);
+    EXPECT_EQ(panelName(), u"ProductGeneralPnl"_s);
+    EXPECT_TRUE(isShown("ProductToolbar"));
+    EXPECT_TRUE(errors.numbers.empty());
+}
+
 TEST_F(Catalogue, SavesNothingWhenARemovalIsRefusedAndKeepsThePanelBound)
 {
     struct Refusal
