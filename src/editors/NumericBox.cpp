@@ -8,6 +8,20 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+// The shop file and the cart would take such a mark for the decimal one.
+bool hasMarkBetweenThousands(const QString& number)
+{
+    QLocale plain;
+    plain.setNumberOptions(plain.numberOptions() | QLocale::RejectGroupSeparator);
+    bool isPlain = false;
+    plain.toDouble(number.trimmed(), &isPlain);
+    return !isPlain;
+}
+
+} // namespace
+
 NumericBox::NumericBox(Takes takes, QWidget* parent) : QLineEdit(parent), m_takes(takes)
 {
     setAlignment(Qt::AlignRight);
@@ -35,7 +49,7 @@ bool NumericBox::accepts(Takes takes, const QString& text)
         switch (takes) {
         case Takes::Number:
             numberFromText(text);
-            break;
+            return !hasMarkBetweenThousands(text);
         case Takes::NormalisedNumber:
             numberFromText(NormalizeDecimal(text));
             break;

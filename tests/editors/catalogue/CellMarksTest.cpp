@@ -83,6 +83,9 @@ TEST_F(CellMarks, StandAtWhatIsNoNumber)
         EXPECT_FALSE(isTaken(u"12 euro"_s));
         EXPECT_FALSE(isTaken(u"-"_s));
         EXPECT_TRUE(isTaken(u"-3"_s));
+        // What is written back would be another number.
+        EXPECT_EQ(isTaken(isComma ? u"1.234"_s : u"1,234"_s), row.takesEither);
+        EXPECT_FALSE(isTaken(isComma ? u"1.234,50"_s : u"1,234.50"_s));
     }
 }
 
