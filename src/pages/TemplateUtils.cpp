@@ -5,6 +5,7 @@
 
 #include <QStringBuilder>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -18,9 +19,21 @@ QString typeWord(ImageSelection type)
 
 using ImageValues = std::array<VariableValue, ImageKeys::Count>;
 
+// A file's path as an address in a page, which the first of these letters would end or make another one.
+QString asAddress(QString path)
+{
+    const auto isPlain = [](QChar letter) {
+        return letter != u'%' && letter != u'#' && letter != u'?' && letter != u'"';
+    };
+    if (!std::all_of(path.cbegin(), path.cend(), isPlain)) {
+        path.replace(u'%', "%25"_L1).replace(u'#', "%23"_L1).replace(u'?', "%3F"_L1).replace(u'"', "%22"_L1);
+    }
+    return path;
+}
+
 QString PicturePath(const QString& picturesFolder, const QString& name)
 {
-    return name.contains(u':') ? name : QString(picturesFolder % name);
+    return name.contains(u':') ? name : asAddress(picturesFolder % name);
 }
 
 ImageValues valuesOf(const PageContext& context, clsSelectedImage& image)
@@ -81,7 +94,7 @@ QString SelectedPicturePath(const ApplicationFolder& folder, CategoryClass& cate
     if (name.contains(u':')) {
         throw RuntimeError(ErrorNumber::NoSuchMember);
     }
-    return folder.picturesFolder() + name;
+    return asAddress(folder.picturesFolder() + name);
 }
 
 ImageKeys::ImageKeys(QStringView key)

@@ -68,6 +68,8 @@ TEST_F(TemplateUtils, APictureNameIsAPathUnderThePicturesUnlessItHasAColon)
     } rows[] = {
         {u"tea.png"_s, pictures + u"tea.png"_s},
         {QString(), pictures},
+        {u"a b, +ü.png"_s, pictures + u"a b, +ü.png"_s},
+        {u"a%20#2?\".png"_s, pictures + u"a%2520%232%3F%22.png"_s},
         {u"http://elsewhere/tea.png"_s, u"http://elsewhere/tea.png"_s},
         {u"C:\\pics\\tea.png"_s, u"C:\\pics\\tea.png"_s},
         {u":"_s, u":"_s},
@@ -84,6 +86,8 @@ TEST_F(TemplateUtils, APictureOfACategoryHasAPathOrNoneOrFails)
     EXPECT_EQ(SelectedPicturePath(session.folder, category), QString());
     category.selectedImage()->imageFileName = u"tea.png"_s;
     EXPECT_EQ(SelectedPicturePath(session.folder, category), session.folder.picturesFolder() + u"tea.png"_s);
+    category.selectedImage()->imageFileName = u"tea #2.png"_s;
+    EXPECT_EQ(SelectedPicturePath(session.folder, category), session.folder.picturesFolder() + u"tea %232.png"_s);
     category.selectedImage()->imageFileName = u"C:tea.png"_s;
     EXPECT_EQ(errorOf([&] { SelectedPicturePath(session.folder, category); }), 438);
 }

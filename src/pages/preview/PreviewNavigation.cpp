@@ -82,11 +82,12 @@ QString cartPrice(const QString& text)
     return numberToText(Val(DecodeUrlText(text)));
 }
 
-// A field of the checkout form. Its comma is one of the user's locale, so it must not become a point.
+// A field of the checkout form, in which a blank is a plus. Its comma is one of the user's locale, so it must not
+// become a point.
 float singleOfField(const QString& url, const QString& key)
 {
     QString text = GetUrlParam(url, key, u"0"_s);
-    text.replace("%2C"_L1, ","_L1);
+    text.replace(u'+', u' ').replace("%2B"_L1, "+"_L1).replace("%2C"_L1, ","_L1);
     return singleFrom(numberOrZero(text));
 }
 

@@ -104,6 +104,7 @@ TEST_F(PreviewCartTest, RecalculationSetsTaxAndCharge)
         {"tax=7_5&charge=4_9", 7.5F, 4.9F},
         {"charge=1&tax=2", 2, 1},
         {"tax=-7&charge=-1", -7, -1},
+        {"tax=%2B7+&charge=4_9+", 7, 4.9F}, // "+7 " and "4_9 "
     };
     for (const auto& row : rows) {
         session.Cart->tax = 99;
