@@ -1,5 +1,6 @@
 // A visitor's walk through the sample shop, with real clicks and keys, in the preview that plays the server.
 #include "base/Numbers.h"
+#include "design/clsSelectedImage.h"
 #include "e2e/BrowserTest.h"
 
 #include <QTest>
@@ -208,6 +209,47 @@ TEST_F(SampleShopTest, AChosenVariantIsAddedToTheCart)
     EXPECT_EQ(session->Cart->Item(1)->SelectedPrice(), variant->NewValue());
     EXPECT_EQ(session->Cart->Item(1)->PriceName(), variant->Description);
     EXPECT_TRUE(textOf(u".cart-line"_s).contains(variant->Description));
+}
+
+TEST_F(SampleShopTest, OnlyAVariantWithAPriceCanBeBought)
+{
+    const auto product = productWithVariants();
+    product->Price()->Discount()->Status = DiscountStatus::No; // one by bands of prices needs a price
+    const QString priced = product->Price()->GetMultiPrice(2)->NewValue();
+    for (int i = 1; i <= product->Price()->MultiPriceCount(); ++i) {
+        if (i != 2) {
+            product->Price()->GetMultiPrice(i)->Value.clear();
+        }
+    }
+    const QStringList pages = {u"ACTION=category.php&id="_s + product->category.lock()->id,
+                               u"ACTION=product.php&id="_s + product->id,
+                               u"?ACTION=search.php&where=0&what="_s + product->name};
+    for (const QString& page : pages) {
+        goTo(page);
+        const QString button = buyButtonOf(*product);
+        ASSERT_EQ(script(u"document.querySelectorAll('#buy').length"_s).toInt(), 1) << page.toStdString();
+        script(u"window.stayed = true"_s);
+        click(button); // the first one has no price, so nothing is chosen
+        pause(400);
+        EXPECT_TRUE(script(u"window.stayed === true"_s).toBool()) << page.toStdString();
+        EXPECT_EQ(session->Cart->Count(), 0) << page.toStdString();
+        script(u"document.querySelector('#buy').form.querySelector('[type=radio]').click()"_s);
+        clickToNewPage(button);
+        ASSERT_EQ(session->Cart->Count(), 1) << page.toStdString();
+        EXPECT_EQ(session->Cart->Item(1)->SelectedPrice(), priced);
+        session->Cart->Clear();
+    }
+    product->Price()->GetMultiPrice(2)->Value.clear();
+    for (const QString& page : pages) {
+        goTo(page);
+        buyButtonOf(*product);
+        EXPECT_EQ(script(u"document.querySelector('#buy').offsetWidth"_s).toInt(), 0) << page.toStdString();
+        EXPECT_EQ(script(u"[...document.querySelector('#buy').form.elements].filter(e => e.offsetWidth > 0"
+                         " && e.matches('input, button')).length"_s)
+                      .toInt(),
+                  0)
+            << page.toStdString();
+    }
 }
 
 TEST_F(SampleShopTest, AProductIsAddedFromTheCategoryAndFromTheSearch)

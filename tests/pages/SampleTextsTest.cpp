@@ -1,0 +1,92 @@
+// What the templates of an installation say when the shop lacks something: a price, a description, the text of a
+// header.
+#include "design/DesignOptions.h"
+#include "pages/PagesTest.h"
+#include "pages/RenderPage.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+using enum DesignOption;
+
+namespace {
+
+class SampleTextsTest : public PagesTest
+{
+protected:
+    SampleTextsTest()
+    {
+        for (const DesignOptionRow& row : designOptionTable()) {
+            design().setOption(row.option, u"Yes"_s);
+        }
+        shop().name = u"Corner Shop"_s;
+        shop().shop_currency = u"EUR"_s;
+        templates.Path = QStringLiteral(TARNWICK_SOURCE_DIR "/app/templates/");
+        templates.parseTemplates();
+    }
+
+    QString pageOf(const QString& name, const PageObject& object) { return RenderPage(context, name, object); }
+    QString searchFor(const QString& word, const std::vector<std::shared_ptr<ProductClass>>& products)
+    {
+        auto results = std::make_shared<SearchResults>();
+        results->word = word;
+        results->products = products;
+        return pageOf(u"search"_s, results);
+    }
+    // The words of a piece of HTML, as they are read one after the other.
+    static QString wordsOf(QString html)
+    {
+        static const QRegularExpression tags(u"<[^>]*>"_s);
+        return html.replace(tags, QString()).replace("&nbsp;"_L1, " "_L1).simplified();
+    }
+    // The text of the one h1.
+    static QString headingOf(const QString& page)
+    {
+        static const QRegularExpression heading(u"<h1\\b.*?</h1>"_s, QRegularExpression::DotMatchesEverythingOption);
+        EXPECT_EQ(page.count(u"<h1"_s), 1);
+        return wordsOf(heading.match(page).captured());
+    }
+
+    std::shared_ptr<CategoryClass> cups = addCategory(u"2"_s, u"Cups"_s);
+    std::shared_ptr<ProductClass> cup = addProduct(u"3"_s, u"Moor"_s, u"20"_s, cups);
+};
+
+TEST_F(SampleTextsTest, AVariantWithoutAPriceIsNamedAndNotOffered)
+{
+    addVariant(*cup, u"Small"_s, QString());
+    addVariant(*cup, u"Large"_s, u"30"_s);
+    struct State
+    {
+        bool forSale;
+        const char* button;
+        const char* discount;
+        int choices;
+        const char* large;
+    };
+    const State states[] = {
+        {true, "Yes", "", 1, "Large 30 EUR"},
+        {true, "No", "", 0, "Large 30 EUR"},
+        {false, "Yes", "", 0, "Large 30 EUR"},
+        {true, "Yes", "10", 1, "Large Before: 30 EUR Now: 27 EUR"},
+        {false, "Yes", "10", 0, "Large Before: 30 EUR Now: 27 EUR"},
+    };
+    for (const State& state : states) {
+        cup->ForSale = state.forSale;
+        for (const DesignOption option :
+             {Category_AddToCart, ProductPage_IncludeAddToCart, SearchPage_IncludeAddToCart}) {
+            design().setOption(option, QString::fromLatin1(state.button));
+        }
+        setDiscount(*cup, QString::fromLatin1(state.discount));
+        for (const QString& page : {pageOf(u"category"_s, cups), pageOf(u"product"_s, cup), searchFor(u"m"_s, {cup})}) {
+            const QString words = wordsOf(page);
+            EXPECT_TRUE(words.contains(u"Small Price on request "_s + QString::fromLatin1(state.large)))
+                << words.toStdString();
+            EXPECT_EQ(words.count(u"Price on request"_s), 1);
+            EXPECT_EQ(page.count(u"type=\"radio\""_s), state.choices);
+            // None is chosen, and a request without a price would ask for nothing.
+            EXPECT_EQ(page.count(u"\" required>"_s + u"<span class=\"variant-name\">Large"_s), state.choices);
+        }
+    }
+}
+
+} // namespace
