@@ -89,4 +89,40 @@ TEST_F(SampleTextsTest, AVariantWithoutAPriceIsNamedAndNotOffered)
     }
 }
 
+TEST_F(SampleTextsTest, TheFrontPageSaysWhatADiscountIsAndWhenItCounts)
+{
+    struct State
+    {
+        int status;
+        const char* percent; // for everything, and of the last band
+        const char* from;
+        const char* to;
+        const char* badge;
+    };
+    const State states[] = {
+        {DiscountStatus::ToAll, "20", "", "", "20% off"},
+        {DiscountStatus::ToAll, "20", "first", "", "20% off from first"},
+        {DiscountStatus::ToAll, "20", "first", "last", "20% off from first until last"},
+        {DiscountStatus::ToAll, "20", "", "last", "20% off until last"},
+        {DiscountStatus::ToAll, "", "first", "last", ""},
+        {DiscountStatus::Depend, "5", "", "", "Up to 5% off"},
+        {DiscountStatus::Depend, "5", "first", "last", "Up to 5% off from first until last"},
+        {DiscountStatus::Depend, "", "", "", ""},
+        {DiscountStatus::No, "20", "first", "last", ""},
+    };
+    static const QRegularExpression badge(u"<p class=\"badge\">.*?</p>"_s);
+    clsDiscount& discount = *cups->Discount();
+    for (const State& state : states) {
+        discount.Status = state.status;
+        discount.setApplyToWhole(QString::fromLatin1(state.percent));
+        discount.DependedDiscounts()->Clear();
+        discount.DependedDiscounts()->Add(u"0"_s, u"10"_s, QString::fromLatin1(state.percent));
+        discount.DateFrom = QString::fromLatin1(state.from);
+        discount.DateTo = QString::fromLatin1(state.to);
+        const QString page = pageOf(u"main"_s, session.shop);
+        EXPECT_EQ(wordsOf(badge.match(page).captured()), QString::fromLatin1(state.badge));
+        EXPECT_FALSE(wordsOf(page).contains(u" % off"_s));
+    }
+}
+
 } // namespace

@@ -61,9 +61,10 @@ constexpr Feature features[] = {
     {"own page on the main page", Main, R"(<nav class="Menu_in_main_page".*?custompage\.php&amp;name=\w+">)"},
     {"top category with its picture", Main, R"(category-card.*?<img src="[^"]*cat-\w+\.png")"},
     {"sub-categories of a top category", Main, R"(Second_level_categories_in_main_page"><?\s*<li>)"},
-    {"percentage for a whole category", Main, R"(class="badge">\d+% off</p>)"},
-    {"last day of a discount", Main, R"(class="badge">[^<]*% off until \d)"},
-    {"percentage by price", Main, R"(class="badge">\d+% to \d+% off)"},
+    {"percentage for a whole category", Main, R"(class="badge">\d+% off)"},
+    {"first day of a discount", Main, R"(class="badge">[^<]*% off from \d)"},
+    {"last day of a discount", Main, R"(class="badge">[^<]*% off[^<]* until \d)"},
+    {"percentage by price", Main, R"(class="badge">Up to \d+% off)"},
 
     // Category page
     {"header of a category page", Category, R"(Category_PageHeader">[^<]+<)"},
