@@ -125,4 +125,18 @@ TEST_F(SampleTextsTest, TheFrontPageSaysWhatADiscountIsAndWhenItCounts)
     }
 }
 
+TEST_F(SampleTextsTest, OnlyADescriptionThatIsThereCanBeReadOn)
+{
+    for (const DesignOption limit : {Category_Limit_Desc, SearchPage_Limit_Desc, CartPage_Limit_Desc}) {
+        design().setOption(limit, u"2"_s);
+    }
+    addToCart(cup, u"20"_s, u"1"_s);
+    for (const QString& description : {u"Grey and round"_s, QString()}) {
+        cup->Description = description;
+        for (const QString& page : {pageOf(u"category"_s, cups), searchFor(u"m"_s, {cup}), pageOf(u"cart"_s, {})}) {
+            EXPECT_EQ(page.contains(u"Read more"_s), !description.isEmpty()) << page.toStdString();
+        }
+    }
+}
+
 } // namespace
