@@ -139,4 +139,61 @@ TEST_F(SampleTextsTest, OnlyADescriptionThatIsThereCanBeReadOn)
     }
 }
 
+TEST_F(SampleTextsTest, EveryPageHasAHeadingWithWordsInIt)
+{
+    const DesignOption included[] = {Main_IncludePageHeader, CartPage_IncludePageHeader, SearchPage_IncludePageHeader,
+                                     BuyingForm_IncludePageHeader, ProductPage_IncludeName};
+    const DesignOption texts[] = {Main_PageHeader, CartPage_PageHeader, SearchPage_PageHeader,
+                                  BuyingForm_PageHeaderText};
+    struct State
+    {
+        const char* included;
+        const char* text;
+        QStringList headings;
+    };
+    const QStringList own = {u"Corner Shop"_s, u"Shopping cart"_s, u"Search"_s, u"Checkout"_s, u"Moor"_s};
+    const State states[] = {
+        {"Yes", "Hello", {u"Hello"_s, u"Hello"_s, u"Hello"_s, u"Hello"_s, u"Moor"_s}},
+        {"Yes", "", own},
+        {"No", "Hello", own},
+    };
+    for (const State& state : states) {
+        for (const DesignOption option : included) {
+            design().setOption(option, QString::fromLatin1(state.included));
+        }
+        for (const DesignOption option : texts) {
+            design().setOption(option, QString::fromLatin1(state.text));
+        }
+        EXPECT_EQ((QStringList{headingOf(pageOf(u"main"_s, session.shop)), headingOf(pageOf(u"cart"_s, {})),
+                               headingOf(searchFor(u"m"_s, {})), headingOf(pageOf(u"checkout"_s, {})),
+                               headingOf(pageOf(u"product"_s, cup))}),
+                  state.headings);
+    }
+}
+
+TEST_F(SampleTextsTest, ALineWithoutItsTextLeavesNoEmptyParagraph)
+{
+    static const QRegularExpression paragraph(u"<p\\b[^>]*>([^<]*)</p>"_s);
+    for (const QString& text : {u"Fine things"_s, QString()}) {
+        for (const DesignOption option : {Category_PageHeader, ProductPage_PageHeader, Footer_CopyrightText}) {
+            design().setOption(option, text);
+        }
+        for (const QString& page : {pageOf(u"category"_s, cups), pageOf(u"product"_s, cup), pageOf(u"footer"_s, {})}) {
+            QStringList texts;
+            for (const QRegularExpressionMatch& match : paragraph.globalMatch(page)) {
+                texts << match.captured(1);
+            }
+            EXPECT_EQ(texts.contains(u"Fine things"_s), !text.isEmpty()) << page.toStdString();
+            EXPECT_FALSE(texts.contains(QString())) << page.toStdString();
+        }
+    }
+}
+
+TEST_F(SampleTextsTest, AnEmptySearchInAnEmptyShopNamesNoWord)
+{
+    EXPECT_TRUE(searchFor(u"jug"_s, {}).contains(u"Nothing found for &ldquo;jug&rdquo;"_s));
+    EXPECT_FALSE(searchFor(QString(), {}).contains(u"&ldquo;"_s));
+    EXPECT_TRUE(searchFor(QString(), {}).contains(u"Nothing in the shop yet"_s));
+}
+
 } // namespace
