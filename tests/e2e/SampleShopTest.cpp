@@ -379,4 +379,32 @@ TEST_F(SampleShopTest, NoPageIsWiderThanANarrowScreen)
     }
 }
 
+TEST_F(SampleShopTest, NoLongWordMakesAPageWiderThanANarrowScreen)
+{
+    const QString word = QString(45, u'w');
+    const auto product = productWithVariants();
+    const auto category = product->category.lock();
+    product->name = product->Description = product->Unit = category->name = category->Description = word;
+    for (int i = 1; i <= product->Price()->MultiPriceCount(); ++i) {
+        product->Price()->GetMultiPrice(i)->Description = word;
+    }
+    clsSelectedImage& logo = *session->shop->ShopDesign->Image(ImageSlot::HeaderLogo);
+    logo.SelectionType = ImageSelection::Text;
+    logo.TextValue = word;
+    addToCart(*product);
+    browser->resize(375, 800);
+    const QStringList pages = {u"MAINPAGE"_s,
+                               u"ACTION=shopcart.php"_s,
+                               u"?ACTION=checkout.php"_s,
+                               u"?ACTION=search.php&where=0&what="_s + word,
+                               u"?ACTION=search.php&where=0&what="_s + QString(45, u'm'),
+                               u"ACTION=category.php&id="_s + category->id,
+                               u"ACTION=product.php&id="_s + product->id};
+    for (const QString& page : pages) {
+        goTo(page);
+        waitUntil(u"window.innerWidth == 375"_s);
+        EXPECT_LE(script(u"document.documentElement.scrollWidth"_s).toInt(), 375) << page.toStdString();
+    }
+}
+
 } // namespace
