@@ -379,6 +379,55 @@ TEST_F(SampleShopTest, NoPageIsWiderThanANarrowScreen)
     }
 }
 
+// Around everything that takes the focus: neither cut off by a box around it nor in a colour like the ground's.
+TEST_F(SampleShopTest, TheRingOfTheFocusStandsOutOnEveryGround)
+{
+    const QString pale =
+        u"(function() {"
+        "const numbers = colour => colour.match(/[0-9.]+/g).map(Number);"
+        "const light = colour => { const c = numbers(colour).slice(0, 3).map(v => v / 255)"
+        "    .map(v => v <= 0.04045 ? v / 12.92 : ((v + 0.055) / 1.055) ** 2.4);"
+        "  return 0.2126 * c[0] + 0.7152 * c[1] + 0.0722 * c[2] + 0.05; };"
+        "const contrast = (a, b) => Math.max(light(a), light(b)) / Math.min(light(a), light(b));"
+        "const found = []; let looked = 0;"
+        "for (const element of document.querySelectorAll('a, button, select, textarea, input:not([type=hidden])')) {"
+        "  element.focus();"
+        "  if (!element.matches(':focus-visible') || element.offsetWidth == 0) continue;"
+        "  const ringed = element.matches('.menu-switch') ? element.nextElementSibling : element;"
+        "  const style = getComputedStyle(ringed);"
+        "  const wide = parseFloat(style.outlineWidth) + parseFloat(style.outlineOffset);"
+        "  const box = ringed.getBoundingClientRect();"
+        "  let ground = null;"
+        "  for (let around = ringed.parentElement; around; around = around.parentElement) {"
+        "    const its = getComputedStyle(around); const room = around.getBoundingClientRect();"
+        "    const colour = numbers(its.backgroundColor);"
+        "    if (!ground && (colour.length == 3 || colour[3] == 1)) ground = its.backgroundColor;"
+        "    if (its.overflow != 'visible' && (box.left - wide < room.left || box.right + wide > room.right"
+        "        || box.top - wide < room.top || box.bottom + wide > room.bottom))"
+        "      found.push(ringed.outerHTML.slice(0, 80) + ' is cut off by ' + around.className);"
+        "  }"
+        "  const colours = [style.outlineColor].concat(style.boxShadow.match(/^rgba?[(][^)]*[)]/) || []);"
+        "  const best = Math.max(...colours.map(colour => contrast(colour, ground)));"
+        "  ++looked;"
+        "  if (best < 3) found.push(ringed.outerHTML.slice(0, 80) + ' on ' + ground + ' has ' + best.toFixed(1));"
+        "}"
+        "if (looked < 15) found.push('only ' + looked + ' have the focus');"
+        "return found.join('\\n'); })()"_s;
+    const auto product = productWithVariants();
+    addToCart(*product);
+    for (const int width : {1000, 390}) {
+        browser->resize(width, 800);
+        for (const QString& page :
+             {u"MAINPAGE"_s, u"ACTION=shopcart.php"_s, u"?ACTION=checkout.php"_s,
+              u"?ACTION=search.php&where=0&what=marzipan"_s,
+              u"ACTION=category.php&id="_s + product->category.lock()->id, u"ACTION=product.php&id="_s + product->id}) {
+            goTo(page);
+            waitUntil(u"window.innerWidth == %1"_s.arg(width));
+            EXPECT_EQ(script(pale).toString().toStdString(), "") << page.toStdString();
+        }
+    }
+}
+
 TEST_F(SampleShopTest, NoLongWordMakesAPageWiderThanANarrowScreen)
 {
     const QString word = QString(45, u'w');
