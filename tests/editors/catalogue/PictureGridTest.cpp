@@ -399,6 +399,47 @@ TEST_F(PictureGridTest, GivesAPictureFieldTheLastOfTheFilesThatAreDroppedOntoIt)
     EXPECT_EQ(product("4")->Picture, u"two.png"_s);
 }
 
+// A folder stands where the second file would go, and the third can be seen but not read.
+TEST_F(PictureGridTest, SaysWhichOfTheDroppedFilesCannotBeAddedAndAddsTheOthers)
+{
+    for (const char* name : {"one.png", "two.png", "four.png"}) {
+        savePicture(QLatin1String(name), {30, 20});
+    }
+    ASSERT_TRUE(QFile::link(u"/proc/self/mem"_s, files.path(u"three.png"_s)));
+    QDir().mkpath(files.path(u"pictures/two.png"_s));
+    const auto expectRefusals = [this] {
+        prompts.answerYesNo(u"Tarnwick"_s, u"Overwrite this file?"_s, true);
+        prompts.expectMessage(
+            u"Ambrel eCommerce Software"_s,
+            u"%1 could not be added to the pictures of the shop. Path or file cannot be accessed: %2"_s.arg(
+                files.path(u"two.png"_s), files.path(u"pictures/two.png"_s)),
+            PromptIcon::Warning);
+        prompts.expectMessage(
+            u"Ambrel eCommerce Software"_s,
+            u"%1 could not be added to the pictures of the shop. Device error while reading or writing: %1"_s.arg(
+                files.path(u"three.png"_s)),
+            PromptIcon::Warning);
+    };
+    const QStringList dropped{u"one.png"_s, u"two.png"_s, u"three.png"_s, u"four.png"_s, u"two.png"_s, u"three.png"_s};
+    window->resize(1300, 1000); // the field is in view
+    QCoreApplication::processEvents();
+    expectRefusals();
+    expectRefusals();
+    EXPECT_EQ(drop(in<PictureBox>("ImagePB"), dropped), u"taken"_s);
+    EXPECT_EQ(image().imageFileName, u"four.png"_s);
+    EXPECT_FALSE(QFile::exists(files.path(u"pictures/three.png"_s)));
+
+    QFile::remove(files.path(u"pictures/one.png"_s));
+    QFile::remove(files.path(u"pictures/four.png"_s));
+    openDialog();
+    expectRefusals();
+    expectRefusals();
+    EXPECT_EQ(drop(grid()->viewport(), dropped), u"taken"_s);
+    EXPECT_EQ(namesInView(), (QStringList{u"one.png"_s, u"four.png"_s}));
+    EXPECT_EQ(chosen(), u"four.png"_s);
+    EXPECT_TRUE(errors.numbers.empty());
+}
+
 TEST_F(PictureGridTest, GivesThePlainSlotADroppedFile)
 {
     savePicture(u"one.png"_s);

@@ -1,5 +1,6 @@
 #include "editors/design/pickers/PictureFiles.h"
 
+#include "base/ApplicationTitle.h"
 #include "base/FileBytes.h"
 #include "base/RuntimeError.h"
 #include "editors/PanelHost.h"
@@ -54,8 +55,17 @@ QString addToPictures(PanelHost& host, const QString& path)
     if (target.exists() && !host.session().prompts.askYesNo(u"Tarnwick"_s, u"Overwrite this file?"_s)) {
         return {};
     }
-    if (source.canonicalFilePath() != target.canonicalFilePath() || !target.exists()) {
-        writeFileBytes(target.filePath(), readFileBytes(path));
+    try {
+        if (source.canonicalFilePath() != target.canonicalFilePath() || !target.exists()) {
+            writeFileBytes(target.filePath(), readFileBytes(path));
+        }
+    } catch (const RuntimeError& error) {
+        // No reason to end the program, and to lose what was typed in the open panel.
+        host.session().prompts.showMessage(applicationTitle(),
+                                           u"%1 could not be added to the pictures of the shop. %2"_s.arg(
+                                               QDir::toNativeSeparators(path), error.description()),
+                                           PromptIcon::Warning);
+        return {};
     }
     return name;
 }

@@ -21,7 +21,7 @@ QString pictureStartFolder();
 QString PicturePath(PanelHost& host, const QString& name);
 
 // Copies a file into the pictures folder and gives its name there; asks ahead of overwriting another. Empty when the
-// answer is No. Errors as for readFileBytes and writeFileBytes.
+// answer is No, and when the file cannot be copied, which a box tells.
 QString addToPictures(PanelHost& host, const QString& path);
 
 // For what takes files that are dropped: accepts the event of a drag or a drop as a copy when files that the filter

@@ -35,8 +35,8 @@ public:
 
     // What AddBttn does: asks for a file and adds it.
     void addPicture();
-    // Copies the files into the pictures folder, asking ahead of overwriting one, and selects each. Errors as for
-    // readFileBytes and writeFileBytes.
+    // Copies the files into the pictures folder, asking ahead of overwriting one, and selects each. One that cannot be
+    // copied is told in a box and left out.
     void addFiles(const QStringList& files);
 
 Q_SIGNALS:
