@@ -34,6 +34,7 @@ ucSelectImageOrText::ucSelectImageOrText(PanelHost& host, QWidget* parent)
     btnCSS_Text->setObjectName(u"btnCSS_Text"_s);
     btnCSS_Text->setAutoDefault(false);
     const DialogButtons buttons = makeDialogButtons(this);
+    OkBtn = buttons.OkBtn;
 
     auto* line = new LinedFrame(Qt::TopEdge, this);
     line->setFixedHeight(Measure::Hairline);
@@ -54,6 +55,8 @@ ucSelectImageOrText::ucSelectImageOrText(PanelHost& host, QWidget* parent)
     useText(false);
 
     connectGuarded(m_host.errorHandler(), chkText, &QCheckBox::toggled, this, &ucSelectImageOrText::useText);
+    connectGuarded(m_host.errorHandler(), m_pictures, &PicturesList::selectionShown, this,
+                   &ucSelectImageOrText::enableOk);
     connectGuarded(m_host.errorHandler(), m_pictures, &PicturesList::pictureSelected, this, [this] {
         if (!m_filling) {
             chkText->setChecked(false);
@@ -61,8 +64,7 @@ ucSelectImageOrText::ucSelectImageOrText(PanelHost& host, QWidget* parent)
     });
     connectGuarded(m_host.errorHandler(), btnCSS_Text, &QPushButton::clicked, this,
                    [this] { OpenStyle(m_host, this, u"Header text style"_s, m_selection->Tag); });
-    connectGuarded(m_host.errorHandler(), buttons.OkBtn, &QPushButton::clicked, this,
-                   &ucSelectImageOrText::SaveActiveObject);
+    connectGuarded(m_host.errorHandler(), OkBtn, &QPushButton::clicked, this, &ucSelectImageOrText::SaveActiveObject);
     connectGuarded(m_host.errorHandler(), buttons.CancelBtn, &QPushButton::clicked, this, [this] {
         if (m_form) {
             m_form->reject();
@@ -79,6 +81,13 @@ void ucSelectImageOrText::useText(bool text)
 {
     m_pictures->setChoosable(!text);
     txtText->setEnabled(text);
+    enableOk();
+}
+
+// A picture that is no good is not taken. The preview says why.
+void ucSelectImageOrText::enableOk()
+{
+    OkBtn->setEnabled(chkText->isChecked() || m_pictures->isSelectionUsable());
 }
 
 void ucSelectImageOrText::SetActiveObject(const std::shared_ptr<clsSelectedImage>& selection)

@@ -31,12 +31,14 @@ public:
 
 private:
     void useText(bool text);
+    void enableOk();
 
     PanelHost& m_host;
     PicturesList* m_pictures;
     QCheckBox* chkText;
     QLineEdit* txtText;
     QPushButton* btnCSS_Text;
+    QPushButton* OkBtn;
     QDialog* m_form = nullptr;
     std::shared_ptr<clsSelectedImage> m_selection;
     bool m_filling = false; // an entry selected by the program leaves chkText

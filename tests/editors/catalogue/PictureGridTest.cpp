@@ -440,6 +440,30 @@ TEST_F(PictureGridTest, SaysWhichOfTheDroppedFilesCannotBeAddedAndAddsTheOthers)
     EXPECT_TRUE(errors.numbers.empty());
 }
 
+TEST_F(PictureGridTest, GivesAPictureFieldNoDroppedFileThatIsNoPicture)
+{
+    savePicture(u"one.png"_s, {30, 20});
+    writeFile(files.path(u"broken.png"_s), "no picture at all");
+    window->resize(1300, 1000); // the field is in view
+    QCoreApplication::processEvents();
+    const auto expectRefusal = [this] {
+        prompts.expectMessage(u"Ambrel eCommerce Software"_s, u"Invalid picture: broken.png"_s, PromptIcon::Warning);
+    };
+    expectRefusal();
+    EXPECT_EQ(drop(in<PictureBox>("ImagePB"), {u"broken.png"_s}), u"taken"_s);
+    EXPECT_EQ(image().imageFileName, QString());
+    QFile::remove(files.path(u"pictures/broken.png"_s));
+
+    expectRefusal();
+    EXPECT_EQ(drop(in<PictureBox>("ImagePB"), {u"one.png"_s, u"broken.png"_s}), u"taken"_s);
+    EXPECT_EQ(image().imageFileName, u"one.png"_s);
+    EXPECT_EQ(textIn("txtWidth"), u"30"_s);
+    submit();
+    trigger("mnuSaveShop");
+    EXPECT_TRUE(fileBytes(files.path(u"shop.xml"_s)).contains("one.png"));
+    EXPECT_TRUE(errors.numbers.empty());
+}
+
 TEST_F(PictureGridTest, GivesThePlainSlotADroppedFile)
 {
     savePicture(u"one.png"_s);

@@ -208,16 +208,57 @@ TEST_F(Pictures, ThatAreGoneLeaveTheBoxEmptyAndTheKeptSize)
     EXPECT_EQ(textIn("txtHeight"), u"0"_s);
 }
 
-TEST_F(Pictures, ThatAreBrokenAreLeftOut)
+// Their size cannot be read, so that a shop with one of them could not be saved.
+TEST_F(Pictures, ThatAreBrokenCannotBeChosen)
 {
+    savePicture(u"pictures/cut.png"_s, 60, 50);
+    writeFile(files.path(u"pictures/cut.png"_s), fileBytes(files.path(u"pictures/cut.png"_s)).first(12));
+    writeFile(files.path(u"pictures/empty.png"_s), {});
+    image().imageFileName = u"Cup.png"_s;
+    reset();
+    for (const QString& name : {u"broken.png"_s, u"cut.png"_s, u"empty.png"_s}) {
+        browse([&](const QDialog& dialog) {
+            const auto* ok = dialog.findChild<QPushButton*>(u"OkBtn"_s);
+            EXPECT_TRUE(ok->isEnabled());
+            select(dialog, name);
+            EXPECT_EQ(dialog.findChild<PictureBox*>(u"imgPreview"_s)->message(), u"Invalid picture"_s);
+            EXPECT_FALSE(ok->isEnabled());
+            QTest::mouseDClick(list(dialog)->viewport(), Qt::LeftButton, {},
+                               list(dialog)->visualItemRect(list(dialog)->currentItem()).center());
+            QTest::keyClick(list(dialog), Qt::Key_Return);
+            EXPECT_TRUE(dialog.isVisible());
+            select(dialog, u"pot.png"_s);
+            EXPECT_TRUE(ok->isEnabled());
+            select(dialog, name);
+            pressIn(dialog, "CancelBtn");
+        });
+        EXPECT_EQ(image().imageFileName, u"Cup.png"_s);
+        EXPECT_TRUE(box()->hasPicture());
+    }
+    submit();
+    trigger("mnuSaveShop");
+    EXPECT_TRUE(fileBytes(files.path(u"shop.xml"_s)).contains("Cup.png"));
+    EXPECT_TRUE(errors.numbers.empty());
+}
+
+// It was chosen before. Another program took its content away afterwards.
+TEST_F(Pictures, ThatBrokeLaterStayChosen)
+{
+    image().imageFileName = u"broken.png"_s;
+    image().setWidthBmp(70);
+    image().setHeightBmp(50);
+    reset();
+    EXPECT_EQ(box()->message(), u"Invalid Picture"_s);
     browse([&](const QDialog& dialog) {
-        select(dialog, u"broken.png"_s);
-        EXPECT_EQ(dialog.findChild<PictureBox*>(u"imgPreview"_s)->message(), u"Invalid picture"_s);
-        pressIn(dialog, "OkBtn");
+        EXPECT_EQ(list(dialog)->currentItem()->text(), u"broken.png"_s);
+        EXPECT_FALSE(dialog.findChild<QPushButton*>(u"OkBtn"_s)->isEnabled());
+        pressIn(dialog, "CancelBtn");
     });
     EXPECT_EQ(image().imageFileName, u"broken.png"_s);
-    EXPECT_FALSE(box()->hasPicture());
-    EXPECT_EQ(textIn("txtWidth"), u"0"_s);
+    EXPECT_EQ(image().cachedSize().width, 70);
+    submit();
+    trigger("mnuSaveShop");
+    EXPECT_TRUE(fileBytes(files.path(u"shop.xml"_s)).contains("broken.png"));
     EXPECT_TRUE(errors.numbers.empty());
 }
 
@@ -235,10 +276,11 @@ TEST_F(Pictures, ThatAreHugeHaveTheirSizeButAreNotDecoded)
     saveHugePicture(u"pictures/giant.png"_s, QByteArray::fromHex("00009c40")); // 40,000: no slot can hold that
     browse([&](const QDialog& dialog) {
         select(dialog, u"giant.png"_s);
-        pressIn(dialog, "OkBtn");
+        EXPECT_EQ(dialog.findChild<PictureBox*>(u"imgPreview"_s)->message(), u"Invalid picture"_s);
+        EXPECT_FALSE(dialog.findChild<QPushButton*>(u"OkBtn"_s)->isEnabled());
+        pressIn(dialog, "CancelBtn");
     });
-    EXPECT_EQ(textIn("txtWidth"), u"0"_s);
-    EXPECT_EQ(box()->message(), u"Invalid Picture"_s);
+    EXPECT_EQ(image().imageFileName, u"huge.png"_s);
     EXPECT_TRUE(errors.numbers.empty());
 }
 

@@ -131,6 +131,29 @@ TEST_F(ImageSlots, ShowInTheNextPage)
     EXPECT_TRUE(preview->documents.last().contains(u"width=\"120\" height=\"40\""_s));
 }
 
+// The size of the picture cannot be read, so that a shop with it could not be saved. A text needs none.
+TEST_F(ImageSlots, TakeNoPictureThatIsBroken)
+{
+    writeFile(files.path(u"pictures/broken.png"_s), "no picture at all");
+    QDialog* form = openSlot(slotCases[0]);
+    auto* ok = form->findChild<QPushButton*>(u"OkBtn"_s);
+    EXPECT_TRUE(ok->isEnabled());
+    clickImage(form, u"broken.png"_s);
+    EXPECT_EQ(form->findChild<PictureBox*>(u"imgPreview"_s)->message(), u"Invalid picture"_s);
+    EXPECT_FALSE(ok->isEnabled());
+    tick(chkText(form));
+    EXPECT_TRUE(ok->isEnabled());
+    tick(chkText(form));
+    EXPECT_FALSE(ok->isEnabled());
+    clickImage(form, u"aa.png"_s);
+    EXPECT_TRUE(ok->isEnabled());
+    clickImage(form, u"broken.png"_s);
+    press(form, "CancelBtn");
+    saveShop();
+    EXPECT_EQ(savedSlot(slotCases[0]).value(1), u"logo.png"_s);
+    EXPECT_TRUE(errors.numbers.empty());
+}
+
 TEST_F(ImageSlots, TakeATextAndKeepTheirFile)
 {
     QDialog* form = openSlot(slotCases[0]);

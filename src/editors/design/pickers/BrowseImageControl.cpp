@@ -1,5 +1,6 @@
 #include "editors/design/pickers/BrowseImageControl.h"
 
+#include "base/ApplicationTitle.h"
 #include "base/WholeNumbers.h"
 #include "editors/LinkLabel.h"
 #include "editors/NumericBox.h"
@@ -8,6 +9,7 @@
 #include "editors/design/pickers/PictureBox.h"
 #include "editors/design/pickers/PictureFiles.h"
 #include "editors/design/pickers/frmSelectImage.h"
+#include "model/ShopSession.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -144,8 +146,15 @@ void BrowseImageControl::takeFiles(const QStringList& files)
     }
     QString last;
     for (const QString& file : files) {
-        if (const QString name = addToPictures(m_host, file); !name.isEmpty()) {
+        const QString name = addToPictures(m_host, file);
+        if (name.isEmpty()) {
+            continue;
+        }
+        if (hasReadableSize(m_host, name)) {
             last = name;
+        } else {
+            m_host.session().prompts.showMessage(applicationTitle(), u"Invalid picture: %1"_s.arg(name),
+                                                 PromptIcon::Warning);
         }
     }
     if (last.isEmpty()) {

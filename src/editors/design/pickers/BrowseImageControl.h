@@ -1,6 +1,6 @@
 // The picture of a category or a product with its size on the page. It works on the selection that it is given, at
 // once: choosing, removing and resizing do not wait for a submit. Files that are dropped onto the picture are added to
-// those of the shop, and the last one is chosen. Two panels own one each.
+// those of the shop, and the last one that is a picture is chosen; a box names the others. Two panels own one each.
 #pragma once
 
 #include "design/clsSelectedImage.h"

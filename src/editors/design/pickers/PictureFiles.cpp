@@ -3,6 +3,7 @@
 #include "base/ApplicationTitle.h"
 #include "base/FileBytes.h"
 #include "base/RuntimeError.h"
+#include "design/ImageSize.h"
 #include "editors/PanelHost.h"
 #include "editors/design/pickers/PicturePathSetting.h"
 #include "model/ShopSession.h"
@@ -68,6 +69,16 @@ QString addToPictures(PanelHost& host, const QString& path)
         return {};
     }
     return name;
+}
+
+bool hasReadableSize(PanelHost& host, const QString& name)
+{
+    try {
+        readImageSize(host.session().folder, name);
+        return true;
+    } catch (const RuntimeError&) {
+        return false;
+    }
 }
 
 QStringList acceptPictures(QDropEvent& event)

@@ -24,6 +24,10 @@ QString PicturePath(PanelHost& host, const QString& name);
 // answer is No, and when the file cannot be copied, which a box tells.
 QString addToPictures(PanelHost& host, const QString& path);
 
+// Whether the size of the picture of that name under pictures/ can be read. A shop that has the name of one without a
+// size cannot be saved, so that no such picture is to be chosen.
+bool hasReadableSize(PanelHost& host, const QString& name);
+
 // For what takes files that are dropped: accepts the event of a drag or a drop as a copy when files that the filter
 // lets through are among what it brings, and gives their paths; ignores it when none is.
 QStringList acceptPictures(QDropEvent& event);

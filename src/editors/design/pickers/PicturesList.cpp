@@ -167,7 +167,9 @@ void PicturesList::showSelected()
     } else {
         imgPreview->showFile(m_host.session().folder.picturesFolder() + name);
     }
+    m_isSelectionUsable = name.isEmpty() || hasReadableSize(m_host, name);
     showWords();
+    Q_EMIT selectionShown();
 }
 
 void PicturesList::resizeEvent(QResizeEvent* event)

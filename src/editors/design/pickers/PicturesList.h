@@ -30,6 +30,8 @@ public:
     void selectPicture(const QString& name);
     // Empty when nothing is selected.
     QString selectedPicture() const;
+    // Whether a slot can take the selected picture: its size can be read. So it can when nothing is selected.
+    bool isSelectionUsable() const { return m_isSelectionUsable; }
     // Turns the list and its filter on or off.
     void setChoosable(bool isChoosable);
 
@@ -42,6 +44,9 @@ public:
 Q_SIGNALS:
     // An entry was selected, by the user or by the code; or a picture was added that was selected already.
     void pictureSelected(const QString& name);
+    // What is shown beside the list is another picture now, or none, or another file of the same name. It comes ahead
+    // of pictureSelected.
+    void selectionShown();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -55,4 +60,5 @@ private:
     QLineEdit* txtFilter;
     WordLabel* lblName;
     WordLabel* lblSize;
+    bool m_isSelectionUsable = true;
 };
