@@ -1,7 +1,10 @@
 #include "template_engine/Templates_Set.h"
 
 #include "base/Circumstances.h"
+#include "base/FileBytes.h"
 #include "template_engine/TemplateParser.h"
+
+#include <QCryptographicHash>
 
 #include <utility>
 
@@ -20,6 +23,11 @@ void parse(Template& page, const QString& file)
         error.addCircumstance(u"Line %1 of the template \"%2.html\" is not understood."_s.arg(line).arg(file));
         throw;
     }
+}
+
+QByteArray digestOf(const QByteArray& bytes)
+{
+    return QCryptographicHash::hash(bytes, QCryptographicHash::Sha256);
 }
 
 } // namespace
@@ -95,12 +103,27 @@ void Templates_Set::load_template(const QString& file, const QString& key)
 
 QString Templates_Set::textOfFile(const QString& file)
 {
-    const DecodedText decoded = readTextFile(Path + file + u".html"_s);
-    m_encodings.insert(file, decoded.encoding);
+    const QByteArray bytes = readFileBytes(pathOf(file));
+    const DecodedText decoded = decodeText(bytes);
+    m_files.insert(file, {decoded.encoding, digestOf(bytes)});
     return linesEndedByCr(decoded.text);
 }
 
 TextEncoding Templates_Set::encodingOf(const QString& file) const
 {
-    return m_encodings.value(file, TextEncoding::Utf8);
+    return m_files.value(file).encoding;
+}
+
+bool Templates_Set::isChangedOutside(const QString& file) const
+{
+    try {
+        return digestOf(readFileBytes(pathOf(file))) != m_files.value(file).digest;
+    } catch (const RuntimeError&) {
+        return false;
+    }
+}
+
+QString Templates_Set::pathOf(const QString& file) const
+{
+    return Path + file + u".html"_s;
 }

@@ -10,6 +10,7 @@
 #include "template_engine/NameTable.h"
 #include "template_engine/Template.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -60,13 +61,25 @@ public:
     // alike; UTF-8 when it was never read.
     TextEncoding encodingOf(const QString& file) const;
 
+    // Whether the file of that base name has other bytes now than when it was last read, so that another program
+    // changed it. A file that cannot be read now, or is gone, is not changed.
+    bool isChangedOutside(const QString& file) const;
+
 private:
+    // What was found in a file when it was last read.
+    struct FileState
+    {
+        TextEncoding encoding = TextEncoding::Utf8;
+        QByteArray digest; // empty when it was never read
+    };
+
     void loadAll();
     void load_template(const QString& file, const QString& key);
+    QString pathOf(const QString& file) const;
 
     LoadLog& m_log;
     TemplateNames m_templateNames;
-    QHash<QString, TextEncoding> m_encodings; // by base name
+    QHash<QString, FileState> m_files; // by base name
 };
 
 // The text of a template file as the templates hold it: a line ends at CR LF or at a lone CR, a lone LF ends none, and

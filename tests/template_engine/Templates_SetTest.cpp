@@ -281,6 +281,31 @@ TEST_F(TemplatesSet, TheEncodingOfEachFileIsKnown)
     EXPECT_EQ(set.encodingOf(u"main"_s), TextEncoding::Windows1252);
 }
 
+TEST_F(TemplatesSet, KnowsWhetherAFileChangedSinceItWasRead)
+{
+    set.parseTemplates();
+    EXPECT_FALSE(set.isChangedOutside(u"main"_s));
+    write(u"main"_s, "other");
+    EXPECT_TRUE(set.isChangedOutside(u"main"_s));
+    EXPECT_FALSE(set.isChangedOutside(u"menu"_s));
+    set.ReLoad(u"main"_s, u"main"_s);
+    EXPECT_FALSE(set.isChangedOutside(u"main"_s));
+    write(u"main"_s, "<!--:");
+    EXPECT_EQ(errorOf([&] { set.ReLoad(u"main"_s, u"main"_s); }), 5);
+    EXPECT_FALSE(set.isChangedOutside(u"main"_s)); // it was read, though it is no template
+    remove(u"main"_s);
+    EXPECT_FALSE(set.isChangedOutside(u"main"_s));
+}
+
+TEST_F(TemplatesSet, IsToldOfAFileThatCameLater)
+{
+    remove(u"main"_s);
+    set.parseTemplates();
+    EXPECT_FALSE(set.isChangedOutside(u"main"_s));
+    write(u"main"_s, "new");
+    EXPECT_TRUE(set.isChangedOutside(u"main"_s));
+}
+
 TEST_F(TemplatesSet, ToldOfAMistakeNamesTheTemplateAndTheLine)
 {
     write(u"menu"_s, "<!--1.2.0-->\r\nfirst\nsecond <!--:if:x=1:--> never closed\r\n");

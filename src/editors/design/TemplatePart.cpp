@@ -101,6 +101,7 @@ void TemplatePart::enableTemplate(bool enable)
 
 void TemplatePart::showTemplate()
 {
+    m_refused.reset();
     Templates_Set& templates = m_host.CurrentTemplatesSet();
     const QString page = nameOf(m_table.page);
     if (!isAbsent()) {
@@ -129,9 +130,28 @@ void TemplatePart::save()
 
 void TemplatePart::saveWithPanel()
 {
-    if (!isAbsent() || m_editor->isEdited()) {
-        save();
+    const bool isEdited = m_editor->isEdited();
+    if (isAbsent() && !isEdited) {
+        return;
     }
+    if (m_host.CurrentTemplatesSet().isChangedOutside(nameOf(m_table.page)) && !(isEdited && isOverwritingWanted())) {
+        return;
+    }
+    save();
+}
+
+bool TemplatePart::isOverwritingWanted()
+{
+    const QString text = m_editor->editedText();
+    if (m_refused == text) {
+        return false; // a panel is saved more than once while it is left
+    }
+    if (m_host.session().prompts.askYesNoWithDefaultNo(
+            applicationTitle(), u"The template was changed by another program. Overwrite it?"_s)) {
+        return true;
+    }
+    m_refused = text;
+    return false;
 }
 
 void TemplatePart::restore()

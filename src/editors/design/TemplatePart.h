@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <optional>
+
 class PanelHost;
 class QCheckBox;
 class QPushButton;
@@ -26,7 +28,9 @@ public:
     // Writes the text and one line break behind it to the page's file and reads the page again. The text is not filled
     // anew, so that saving twice writes the same bytes. Errors as for writeFileBytes and Templates_Set::ReLoad.
     void save();
-    // The same as a part of the panel, which writes nothing where the page is absent and its text as the file has it.
+    // The same as a part of the panel. It writes nothing where the page is absent and its text as the file has it. A
+    // file that another program changed is overwritten by an edited text only, and only when the user wants it; a text
+    // is asked about once.
     void saveWithPanel();
     // Copies the factory copy over the page's file, reads the page again and shows it; where the page was absent, the
     // other absent ones are read again, too. Errors as for readFileBytes, writeFileBytes and Templates_Set::ReLoad.
@@ -38,6 +42,7 @@ private:
     void enableTemplate(bool enable);
     void showTemplate();
     bool isAbsent() const;
+    bool isOverwritingWanted();
     QString fileOf(const char* ending) const;
 
     PanelHost& m_host;
@@ -46,5 +51,6 @@ private:
     TemplateEditor* m_editor;
     QPushButton* SaveTemplteBtn;
     QPushButton* RestoreTemplateBtn;
-    bool m_guard = false; // the check box is set by the program: no question
+    std::optional<QString> m_refused; // the text that was not to overwrite the file
+    bool m_guard = false;             // the check box is set by the program: no question
 };

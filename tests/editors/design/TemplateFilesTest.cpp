@@ -104,4 +104,99 @@ TEST_F(TemplateFiles, ThatTheSetHasAreNotReadAgain)
     EXPECT_EQ(state(), noMistakes);
 }
 
+// Changed by another program ------------------------------------------------------------------------------------------
+
+// A manager that writes the template with the panel: what another program made of its file.
+class ChangedTemplateFiles : public TemplatesTest
+{
+protected:
+    void leave() { openManager("CategoryPageDesignSBtn"); }
+    void answerOverwriting(bool answer)
+    {
+        prompts.answerDefaultNo(u"Ambrel eCommerce Software"_s,
+                                u"The template was changed by another program. Overwrite it?"_s, answer);
+    }
+
+    const ManagerCase footer = managers[2];
+    const QByteArray theirs = "by another program";
+};
+
+TEST_F(ChangedTemplateFiles, StayAsTheyAreWhenTheirPanelIsWalkedThrough)
+{
+    const QString before = templateText("footer");
+    writeFile(pathOf("footer"), theirs);
+    openInDesign(footer.button);
+    pressIn("imgButtonSubmit");
+    leave();
+    EXPECT_EQ(templateFile("footer"), theirs);
+    EXPECT_EQ(templateText("footer"), before); // the file is read at the next start
+    // Changed back, it is written as ever.
+    writeFile(pathOf("footer"), fileBytes(factoryPathOf("footer")));
+    set().ReLoad(u"footer"_s, u"footer"_s);
+    openManager(footer.button);
+    leave();
+    EXPECT_EQ(templateFile("footer"), fileBytes(factoryPathOf("footer")) + "\r\n");
+}
+
+TEST_F(ChangedTemplateFiles, AreOverwrittenByWhatWasTypedOnYesOnly)
+{
+    for (const bool answer : {false, true}) {
+        openInDesign(footer.button);
+        if (!isEditable()) {
+            switchOn(footer);
+        }
+        appendToTemplate(u"typed"_s);
+        writeFile(pathOf("footer"), theirs);
+        answerOverwriting(answer);
+        leave();
+        EXPECT_EQ(templateFile("footer") == theirs, !answer);
+        EXPECT_EQ(templateFile("footer").endsWith("typed\r\n"), answer);
+        EXPECT_EQ(templateText("footer").endsWith(u"typed\r"_s), answer);
+        EXPECT_TRUE(errors.numbers.empty());
+    }
+    openManager(footer.button); // the file is the program's own again: no question
+    leave();
+    EXPECT_TRUE(templateFile("footer").endsWith("typed\r\n\r\n"));
+}
+
+TEST_F(ChangedTemplateFiles, AreAskedAboutOnceForEachText)
+{
+    edit(footer);
+    appendToTemplate(u"one"_s);
+    writeFile(pathOf("footer"), theirs);
+    answerOverwriting(false);
+    pressIn("imgButtonSubmit");
+    pressIn("imgButtonSubmit");
+    appendToTemplate(u"two"_s);
+    answerOverwriting(false);
+    leave();
+    EXPECT_EQ(templateFile("footer"), theirs);
+    openInDesign(footer.button); // shown anew, asked anew
+    appendToTemplate(u"onetwo"_s);
+    answerOverwriting(true);
+    leave();
+    EXPECT_TRUE(templateFile("footer").endsWith("onetwo\r\n"));
+}
+
+TEST_F(ChangedTemplateFiles, AreWrittenAndRestoredByTheButtonsWithoutAQuestion)
+{
+    edit(footer);
+    appendToTemplate(u"typed"_s);
+    writeFile(pathOf("footer"), theirs);
+    pressIn("SaveTemplteBtn");
+    EXPECT_TRUE(templateFile("footer").endsWith("typed\r\n"));
+    writeFile(pathOf("footer"), theirs);
+    pressIn("RestoreTemplateBtn");
+    EXPECT_EQ(templateFile("footer"), fileBytes(factoryPathOf("footer")));
+}
+
+TEST_F(ChangedTemplateFiles, AreMadeAnewByThePanelWhenTheyAreGone)
+{
+    openInDesign(footer.button);
+    const QByteArray before = templateFile("footer");
+    QFile::remove(pathOf("footer"));
+    leave();
+    EXPECT_EQ(templateFile("footer"), before + "\r\n");
+}
+
 } // namespace
