@@ -85,6 +85,30 @@ TEST_F(OwnersFolder, StandsInTheDocumentsFolderThatTheDesktopNames)
     EXPECT_TRUE(QFileInfo(home.filePath(u"Papers/Tarnwick/shop.xml"_s)).isFile());
 }
 
+TEST_F(OwnersFolder, StaysWhereItIsWhenTheDesktopNamesADocumentsFolderLater)
+{
+    start();
+    writeFile(folder() + u"/shop.xml"_s, "mine");
+    QDir(home.path()).mkpath(u".config"_s);
+    writeFile(home.filePath(u".config/user-dirs.dirs"_s), "XDG_DOCUMENTS_DIR=\"$HOME/Two  Papers\"\n");
+    EXPECT_TRUE(start().endsWith("Documents/Tarnwick"));
+    QDir(folder()).removeRecursively();
+    EXPECT_TRUE(start().endsWith("Two  Papers/Tarnwick"));
+}
+
+TEST_F(OwnersFolder, StartsWhatIsThereWhenNothingNewerCanBePutIntoIt)
+{
+    start();
+    putProgram("second");
+    put(u"share/tarnwick/guide/index.html"_s, "newer guide");
+    // Stands for a folder that cannot be written to.
+    QDir(folder() + u"/templates"_s).removeRecursively();
+    writeFile(folder() + u"/templates"_s, "in the way");
+    EXPECT_TRUE(start().startsWith("second from "));
+    EXPECT_EQ(bytes(u"guide/index.html"_s), "newer guide");
+    EXPECT_EQ(bytes(u"templates"_s), "in the way");
+}
+
 TEST_F(OwnersFolder, GetsANewerProgramNewerFactoryTemplatesAndTheNewerGuide)
 {
     start();
