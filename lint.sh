@@ -35,6 +35,7 @@ sources_beside() {
 
 # Our files that differ from a commit.
 changed_since() {
+  git rev-parse -q --verify "$1^{commit}" >/dev/null || { echo "There is no commit $1." >&2; return 2; }
   git diff --name-only --diff-filter=d "$1" -- '*.h' '*.cpp'
   git ls-files --others --exclude-standard -- '*.h' '*.cpp'
 }
@@ -50,7 +51,7 @@ echo "shellcheck, desktop-file-validate, appstreamcli: clean"
 # What the build that takes eight sources together compiles in these folders, without what tools have written.
 compiled_in() {
   grep -o '"file": "[^"]*"' build/lint-whole/compile_commands.json | cut -d '"' -f 4 |
-    grep -E "^$PWD/(build/lint-whole/)?($1)/" | grep -vE '/(mocs_compilation|qrc_[^/]*)\.cpp$' | sort -u
+    while read -r file; do echo "${file#"$PWD"/}"; done | grep -E "^(build/lint-whole/)?($1)/" | grep -vE '/(mocs_compilation|qrc_[^/]*)\.cpp$' | sort -u
 }
 
 preset=lint
@@ -59,22 +60,29 @@ case ${1:-} in
   --format) exit 0 ;;
   "" | --all) preset=lint-whole ;;
   --changed)
-    mapfile -t changed < <(changed_since "${2:-HEAD}")
+    list=$(changed_since "${2:-HEAD}")
+    mapfile -t changed <<<"$list"
     mapfile -t files < <(sources_of "${changed[@]}")
     ;;
   --touched)
-    mapfile -t changed < <(changed_since "${2:-HEAD}")
+    list=$(changed_since "${2:-HEAD}")
+    mapfile -t changed <<<"$list"
     mapfile -t files < <(sources_beside "${changed[@]}")
     ;;
   *) files=("$@") ;;
 esac
 
-need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${LINT_PACKAGES[@]}"
+need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${LINT_PACKAGES[@]}" "${BENCH_PACKAGES[@]}"
 cmake --preset "$preset" --log-level=WARNING >/dev/null
 case ${1:-} in
   "") mapfile -t files < <(compiled_in "src|tour") ;;
   --all) mapfile -t files < <(compiled_in "src|tour|tests|bench|fuzz") ;;
 esac
+if [ ${#files[@]} -eq 0 ]; then
+  echo "clang-tidy: no sources to look at"
+  [ "$preset" = lint ]
+  exit
+fi
 # A file of eight sources includes them, and what one of them declares may shadow what another one has.
 options=(--quiet)
 [ "$preset" = lint ] || options+=(--checks=-bugprone-suspicious-include --extra-arg=-Wno-shadow)

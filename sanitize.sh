@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/packages.sh
 
-need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${LINT_PACKAGES[@]}"
+need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}" "${LINT_PACKAGES[@]}" "${VIRTUAL_DISPLAY_PACKAGES[@]}"
 cmake --preset asan --log-level=WARNING
 cmake --build --preset asan
 LSAN_OPTIONS="suppressions=$PWD/scripts/leaks.supp:print_suppressions=0" \

@@ -10,7 +10,7 @@ mkdir -p "$data/applications" "$data/icons/hicolor/scalable/apps"
 cp "$folder/tarnwick.svg" "$data/icons/hicolor/scalable/apps/tarnwick.svg"
 while IFS= read -r line; do
   case $line in
-    Exec=*) printf 'Exec="%s"\n' "$escaped" ;;
+    Exec=*) printf 'Exec=env "%s"\n' "$escaped" ;; # some desktops do not take a %% in the first word
     *) printf '%s\n' "$line" ;;
   esac
 done <"$folder/tarnwick.desktop" >"$data/applications/tarnwick.desktop"

@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/packages.sh
 
-need "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
+need "${BUILD_PACKAGES[@]}" clang "${TEST_PACKAGES[@]}"
 cmake --preset test --log-level=WARNING
 cmake --build --preset test --target kills
 build/test/tests/kills/kills --count "${1:-500}" --seed "${2:-1}"
