@@ -1,6 +1,7 @@
 // Every page of the sample shop in the real browser, wide and narrow, judged by axe-core. The checker's one script
 // comes from the environment variable TARNWICK_AXE, the path of a file; axe.sh at the top gets it and starts this
 // program.
+#include "design/DesignOptions.h"
 #include "design/clsSelectedImage.h"
 #include "e2e/BrowserTest.h"
 
@@ -127,6 +128,30 @@ TEST_P(AxePages, WithTheOtherKindOfEveryButtonHaveNoViolation)
         image.SelectionType = isImage ? ImageSelection::Text : ImageSelection::Image;
     }
     judgeEveryPage();
+}
+
+TEST_P(AxePages, OfAProductThatLacksTextsAndPricesHaveNoViolation)
+{
+    ShopDesignClass& design = *session->shop->ShopDesign;
+    for (const DesignOption text : {DesignOption::Main_PageHeader, DesignOption::CartPage_PageHeader,
+                                    DesignOption::SearchPage_PageHeader, DesignOption::BuyingForm_PageHeaderText,
+                                    DesignOption::Category_PageHeader, DesignOption::Footer_CopyrightText}) {
+        design.setOption(text, QString());
+    }
+    design.setOption(DesignOption::ProductPage_IncludeName, u"No"_s);
+    ProductClass& mug = *session->objects.Product(u"23"_s);
+    mug.Description.clear();
+    mug.Price()->Discount()->Status = DiscountStatus::No; // one by bands of prices needs a price
+    mug.Price()->GetMultiPrice(1)->Value.clear();
+    for (const bool isForSale : {true, false}) {
+        mug.ForSale = isForSale;
+        judge(u"ACTION=product.php&id=23"_s);
+        judge(u"ACTION=category.php&id="_s + mug.category.lock()->id);
+        judge(u"?ACTION=search.php&where=0&what="_s + mug.name);
+    }
+    for (const QString& page : {u"MAINPAGE"_s, u"ACTION=shopcart.php"_s, u"?ACTION=checkout.php"_s}) {
+        judge(page);
+    }
 }
 
 // The checker sees what is wrong.
