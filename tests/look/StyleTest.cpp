@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSpinBox>
+#include <QStyleOption>
 #include <QTableWidget>
 #include <QTreeWidget>
 
@@ -296,6 +297,126 @@ TEST(StyleOfMenus, KeepsAWholeEdgeAroundTheEntriesAtAnyScale)
         }
         EXPECT_EQ(others, 0) << scale;
     }
+    menu.hide();
+}
+
+// What the style paints for an option, on the ground of the window.
+QImage paintedAs(QStyle::PrimitiveElement element, const QStyleOption& option)
+{
+    QImage image(option.rect.size(), QImage::Format_RGB32);
+    image.fill(tone(Tone::Ground));
+    QPainter painter(&image);
+    QApplication::style()->drawPrimitive(element, &option, &painter);
+    return image;
+}
+
+TEST(StyleOfArrows, PointWhereTheyLead)
+{
+    QStyleOption option;
+    option.rect = QRect(0, 0, 21, 21);
+    // How much further down the tip in the middle is than the arm beside it, in pixels.
+    const auto tipBelowArm = [](const QImage& image) {
+        const auto firstInk = [&](int x) {
+            int y = 0;
+            while (y < image.height() && inkRows(image, QRect(x, y, 1, 1), tone(Tone::Ground)) == 0) {
+                ++y;
+            }
+            return y;
+        };
+        return firstInk(10) - firstInk(7);
+    };
+    const QTransform turn = QTransform().rotate(90);
+    EXPECT_LT(tipBelowArm(paintedAs(QStyle::PE_IndicatorArrowUp, option)), -1);
+    EXPECT_GT(tipBelowArm(paintedAs(QStyle::PE_IndicatorArrowDown, option)), 1);
+    EXPECT_LT(tipBelowArm(paintedAs(QStyle::PE_IndicatorArrowLeft, option).transformed(turn)), -1);
+    EXPECT_GT(tipBelowArm(paintedAs(QStyle::PE_IndicatorArrowRight, option).transformed(turn)), 1);
+}
+
+TEST(StyleOfButtons, HasGroundsForAToolButtonThatIsHeldDownOrUnderTheMouse)
+{
+    QStyleOption option;
+    option.rect = QRect(0, 0, 30, 30);
+    const auto ground = [&](QStyle::State state) {
+        option.state = state;
+        return paintedAs(QStyle::PE_PanelButtonTool, option).pixelColor(15, 15);
+    };
+    EXPECT_EQ(ground(QStyle::State_Enabled), tone(Tone::Ground));
+    EXPECT_EQ(ground(QStyle::State_Enabled | QStyle::State_Sunken), tone(Tone::Pressed));
+    EXPECT_EQ(ground(QStyle::State_Enabled | QStyle::State_On), tone(Tone::Pressed));
+    EXPECT_EQ(ground(QStyle::State_Enabled | QStyle::State_MouseOver), tone(Tone::Hover));
+    EXPECT_EQ(ground(QStyle::State_MouseOver), tone(Tone::Ground));
+}
+
+TEST(StyleOfCheckBoxes, MarksOneThatIsPartlyOnWithABar)
+{
+    QStyleOption option;
+    option.rect = QRect(0, 0, 16, 16);
+    const auto middle = [&](QStyle::State state) {
+        option.state = QStyle::State_Enabled | state;
+        const QImage image = paintedAs(QStyle::PE_IndicatorCheckBox, option);
+        return std::pair(image.pixelColor(8, 8), image.pixelColor(3, 12));
+    };
+    EXPECT_EQ(middle(QStyle::State_NoChange), std::pair(tone(Tone::OnAccent), tone(Tone::Accent)));
+    EXPECT_EQ(middle(QStyle::State_Off), std::pair(tone(Tone::Field), tone(Tone::Field)));
+}
+
+TEST(StyleOfBars, PartsTheGrooveIntoTheThumbAndWhatLiesBeforeAndBehindIt)
+{
+    QScrollBar bar(Qt::Vertical);
+    bar.setRange(0, 100);
+    bar.setPageStep(50);
+    bar.setValue(50);
+    bar.resize(10, 300);
+    QStyleOptionSlider option;
+    option.initFrom(&bar);
+    option.minimum = bar.minimum();
+    option.maximum = bar.maximum();
+    option.pageStep = bar.pageStep();
+    option.sliderPosition = bar.value();
+    option.sliderValue = bar.value();
+    option.orientation = Qt::Vertical;
+    const auto part = [&](QStyle::SubControl name) {
+        return QApplication::style()->subControlRect(QStyle::CC_ScrollBar, &option, name, &bar);
+    };
+    const QRect groove = part(QStyle::SC_ScrollBarGroove);
+    const QRect before = part(QStyle::SC_ScrollBarSubPage);
+    const QRect thumb = part(QStyle::SC_ScrollBarSlider);
+    const QRect behind = part(QStyle::SC_ScrollBarAddPage);
+    EXPECT_EQ(groove, bar.rect());
+    EXPECT_EQ(before.top(), groove.top());
+    EXPECT_EQ(thumb.top(), before.bottom() + 1);
+    EXPECT_EQ(behind.top(), thumb.bottom() + 1);
+    EXPECT_EQ(behind.bottom(), groove.bottom());
+    EXPECT_EQ(before.height(), behind.height()); // it stands in the middle
+    EXPECT_TRUE(part(QStyle::SC_ScrollBarAddLine).isEmpty());
+}
+
+TEST(StyleOfMenus, ShowsTicksPicturesAndTheAnglesOfSubMenus)
+{
+    QPixmap picture(16, 16);
+    picture.fill(tone(Tone::Error));
+    QMenu menu;
+    QAction* plain = menu.addAction(u"Plain"_s);
+    QAction* ticked = menu.addAction(u"Ticked"_s);
+    ticked->setCheckable(true);
+    ticked->setChecked(true);
+    QAction* pictured = menu.addAction(QIcon(picture), u"Pictured"_s);
+    QAction* leading = menu.addMenu(u"Leading"_s)->menuAction();
+    menu.popup(QPoint());
+    QCoreApplication::processEvents();
+    const QImage image = shown(menu, 1);
+    const auto ink = [&](QAction* action, bool isAhead) {
+        const QRect place = menu.actionGeometry(action).adjusted(2, 2, -2, -2);
+        return inkRows(image,
+                       isAhead ? QRect(place.left(), place.top(), 24, place.height())
+                               : QRect(place.right() - 20, place.top(), 20, place.height()),
+                       tone(Tone::Field));
+    };
+    EXPECT_EQ(ink(plain, true), 0);
+    EXPECT_GT(ink(ticked, true), 4);
+    EXPECT_GT(ink(pictured, true), 12);
+    EXPECT_EQ(ink(plain, false), 0);
+    EXPECT_GT(ink(leading, false), 4);
     menu.hide();
 }
 
