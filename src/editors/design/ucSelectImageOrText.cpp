@@ -65,6 +65,8 @@ ucSelectImageOrText::ucSelectImageOrText(PanelHost& host, QWidget* parent)
     connectGuarded(m_host.errorHandler(), btnCSS_Text, &QPushButton::clicked, this,
                    [this] { OpenStyle(m_host, this, u"Header text style"_s, m_selection->Tag); });
     connectGuarded(m_host.errorHandler(), OkBtn, &QPushButton::clicked, this, &ucSelectImageOrText::SaveActiveObject);
+    connectGuarded(m_host.errorHandler(), m_pictures->lstImages, &QListWidget::itemDoubleClicked, this,
+                   [this] { OkBtn->click(); });
     connectGuarded(m_host.errorHandler(), buttons.CancelBtn, &QPushButton::clicked, this, [this] {
         if (m_form) {
             m_form->reject();

@@ -400,6 +400,18 @@ TEST_F(PictureGridTest, GivesAPictureFieldTheLastOfTheFilesThatAreDroppedOntoIt)
 }
 
 // A folder stands where the second file would go, and the third can be seen but not read.
+TEST_F(PictureGridTest, GivesAPictureANameThatTheShopCanShow)
+{
+    savePicture(u"Shot 12:30:45.png"_s, {30, 20});
+    savePicture(u"a\\b.png"_s, {40, 20});
+    EXPECT_EQ(drop(in<PictureBox>("ImagePB"), {u"Shot 12:30:45.png"_s}), u"taken"_s);
+    EXPECT_EQ(image().imageFileName, u"Shot 12-30-45.png"_s);
+    EXPECT_TRUE(QFile::exists(files.path(u"pictures/Shot 12-30-45.png"_s)));
+    EXPECT_EQ(drop(in<PictureBox>("ImagePB"), {u"a\\b.png"_s}), u"taken"_s);
+    EXPECT_EQ(image().imageFileName, u"a-b.png"_s);
+    EXPECT_TRUE(errors.numbers.empty());
+}
+
 TEST_F(PictureGridTest, SaysWhichOfTheDroppedFilesCannotBeAddedAndAddsTheOthers)
 {
     for (const char* name : {"one.png", "two.png", "four.png"}) {

@@ -132,6 +132,17 @@ TEST_F(ImageSlots, ShowInTheNextPage)
 }
 
 // The size of the picture cannot be read, so that a shop with it could not be saved. A text needs none.
+TEST_F(ImageSlots, TakeAPictureByADoubleClick)
+{
+    QDialog* form = openSlot(slotCases[0]);
+    clickImage(form, u"aa.png"_s);
+    auto* list = form->findChild<QListWidget*>(u"lstImages"_s);
+    QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->currentItem()).center());
+    EXPECT_FALSE(form->isVisible());
+    saveShop();
+    EXPECT_EQ(savedSlot(slotCases[0]).value(1), u"aa.png"_s);
+}
+
 TEST_F(ImageSlots, TakeNoPictureThatIsBroken)
 {
     writeFile(files.path(u"pictures/broken.png"_s), "no picture at all");

@@ -23,6 +23,12 @@ namespace {
 
 const QString patterns = u"*.bmp *.png *jpg *gif"_s;
 
+// A picture's name with a colon is taken for an address, and what stands ahead of a backslash for folders.
+QString nameInPictures(QString fileName)
+{
+    return fileName.replace(u':', u'-').replace(u'\\', u'-');
+}
+
 } // namespace
 
 QString pictureFileFilter()
@@ -51,7 +57,7 @@ QString PicturePath(PanelHost& host, const QString& name)
 QString addToPictures(PanelHost& host, const QString& path)
 {
     const QFileInfo source(path);
-    QString name = source.fileName();
+    QString name = nameInPictures(source.fileName());
     const QFileInfo target(host.session().folder.picturesFolder() + name);
     if (target.exists() && !host.session().prompts.askYesNo(u"Tarnwick"_s, u"Overwrite this file?"_s)) {
         return {};
