@@ -24,10 +24,10 @@ ucSelectImage::ucSelectImage(PanelHost& host, QWidget* parent)
 
     connectGuarded(m_host.errorHandler(), buttons.OkBtn, &QPushButton::clicked, this, &ucSelectImage::SaveActiveObject);
     connectGuarded(m_host.errorHandler(), m_pictures->lstImages, &QListWidget::itemDoubleClicked, this,
-                   [OkBtn = buttons.OkBtn] { OkBtn->click(); });
+                   [ok = buttons.OkBtn] { ok->click(); });
     // A picture that is no good is not taken. The preview says why.
     connectGuarded(m_host.errorHandler(), m_pictures, &PicturesList::selectionShown, this,
-                   [this, OkBtn = buttons.OkBtn] { OkBtn->setEnabled(m_pictures->isSelectionUsable()); });
+                   [this, ok = buttons.OkBtn] { ok->setEnabled(m_pictures->isSelectionUsable()); });
     connectGuarded(m_host.errorHandler(), buttons.CancelBtn, &QPushButton::clicked, this, [this] {
         if (m_form) {
             m_form->reject();
