@@ -19,6 +19,8 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QGuiApplication>
+#include <QIcon>
 #include <QMouseEvent>
 #include <QTimer>
 

@@ -1,4 +1,4 @@
-// The exit: the question, its three answers, and the cart.
+// The exit: the saveQuestion, its three answers, and the cart.
 #include "support/WindowTest.h"
 
 #include <QLineEdit>
@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString boxTitle = u"Ambrel eCommerce Software"_s;
-const QString question = u"Do you want save changes?"_s;
+const QString saveQuestion = u"Do you want save changes?"_s;
 
 class Exit : public WindowTest
 {
@@ -23,7 +23,7 @@ protected:
 TEST_F(Exit, WithYesSavesAndCloses)
 {
     find<QLineEdit>("ShopNameTxt")->setText(u"Moss"_s);
-    prompts.answerYesNoCancel(boxTitle, question, PromptAnswer::Yes);
+    prompts.answerYesNoCancel(boxTitle, saveQuestion, PromptAnswer::Yes);
     EXPECT_TRUE(window->close());
     EXPECT_TRUE(fileBytes(files.path(u"shop.xml"_s)).contains("<Name>Moss</Name>"));
     EXPECT_EQ(window->session().Cart, nullptr);
@@ -33,7 +33,7 @@ TEST_F(Exit, WithNoClosesAndSavesNothing)
 {
     const QByteArray before = fileBytes(files.path(u"shop.xml"_s));
     window->session().shop->name = u"Moss"_s;
-    prompts.answerYesNoCancel(boxTitle, question, PromptAnswer::No);
+    prompts.answerYesNoCancel(boxTitle, saveQuestion, PromptAnswer::No);
     EXPECT_TRUE(window->close());
     EXPECT_EQ(fileBytes(files.path(u"shop.xml"_s)), before);
     EXPECT_EQ(window->session().Cart, nullptr);
@@ -42,7 +42,7 @@ TEST_F(Exit, WithNoClosesAndSavesNothing)
 TEST_F(Exit, WithCancelKeepsTheWindowButNotTheCart)
 {
     ASSERT_NE(window->session().Cart, nullptr);
-    prompts.answerYesNoCancel(boxTitle, question, PromptAnswer::Cancel);
+    prompts.answerYesNoCancel(boxTitle, saveQuestion, PromptAnswer::Cancel);
     EXPECT_FALSE(window->close());
     EXPECT_TRUE(window->isVisible());
     EXPECT_EQ(window->session().Cart, nullptr);
@@ -51,7 +51,7 @@ TEST_F(Exit, WithCancelKeepsTheWindowButNotTheCart)
 TEST_F(Exit, AsksAgainRightAfterASave)
 {
     trigger("mnuSaveShop");
-    prompts.answerYesNoCancel(boxTitle, question, PromptAnswer::No);
+    prompts.answerYesNoCancel(boxTitle, saveQuestion, PromptAnswer::No);
     EXPECT_TRUE(window->close());
 }
 

@@ -12,8 +12,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString title = u"Ambrel eCommerce Software"_s;
-const QString question = u"This shop is open in another window. Open it here too?"_s;
+const QString boxTitle = u"Ambrel eCommerce Software"_s;
+const QString takenQuestion = u"This shop is open in another window. Open it here too?"_s;
 
 class ATakenFolder : public testing::Test
 {
@@ -34,11 +34,11 @@ TEST_F(ATakenFolder, AsksForAnotherWindowAndNoIsTheDefault)
 {
     const TakenFolder taken(files.folder());
     const TakenFolder second(files.folder());
-    prompts.answerDefaultNo(title, question, true);
+    prompts.answerDefaultNo(boxTitle, takenQuestion, true);
     EXPECT_TRUE(second.mayOpen(prompts));
     EXPECT_EQ(second.window(), UnsavedShop::Window::Second);
     const TakenFolder third(files.folder());
-    prompts.answerDefaultNo(title, question, false);
+    prompts.answerDefaultNo(boxTitle, takenQuestion, false);
     EXPECT_FALSE(third.mayOpen(prompts));
 }
 
