@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString programTitle = u"Ambrel eCommerce Software"_s;
+const QString heldTitle = u"Ambrel eCommerce Software"_s;
 const QString takenQuestion = u"This shop is open in another window. Open it here too?"_s;
 
 class ATakenFolder : public testing::Test
@@ -34,11 +34,11 @@ TEST_F(ATakenFolder, AsksForAnotherWindowAndNoIsTheDefault)
 {
     const TakenFolder taken(files.folder());
     const TakenFolder second(files.folder());
-    prompts.answerDefaultNo(programTitle, takenQuestion, true);
+    prompts.answerDefaultNo(heldTitle, takenQuestion, true);
     EXPECT_TRUE(second.mayOpen(prompts));
     EXPECT_EQ(second.window(), UnsavedShop::Window::Second);
     const TakenFolder third(files.folder());
-    prompts.answerDefaultNo(programTitle, takenQuestion, false);
+    prompts.answerDefaultNo(heldTitle, takenQuestion, false);
     EXPECT_FALSE(third.mayOpen(prompts));
 }
 
