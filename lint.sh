@@ -51,7 +51,9 @@ echo "shellcheck, desktop-file-validate, appstreamcli: clean"
 # What the build that takes eight sources together compiles in these folders, without what tools have written.
 compiled_in() {
   grep -o '"file": "[^"]*"' build/lint-whole/compile_commands.json | cut -d '"' -f 4 |
-    while read -r file; do echo "${file#"$PWD"/}"; done | grep -E "^(build/lint-whole/)?($1)/" | grep -vE '/(mocs_compilation|qrc_[^/]*)\.cpp$' | sort -u
+    while read -r file; do
+      if [[ ${file#"$PWD"/} =~ ^(build/lint-whole/)?($1)/ ]]; then echo "$file"; fi
+    done | grep -vE '/(mocs_compilation|qrc_[^/]*)\.cpp$' | sort -u
 }
 
 preset=lint
