@@ -4,5 +4,5 @@
 #include <QIcon>
 #include <QStyle>
 
-// One of look/icons. None for a picture that the program draws in no other way than the toolkit.
+// One of look/icons. Null for a picture that is left to the toolkit.
 QIcon standardIconOf(QStyle::StandardPixmap picture);

@@ -67,7 +67,8 @@ public:
     void Clear() { m_lines.Clear(); }
 
     // The prices of all lines, deliberately whatever their quantities, with tax and charge, rounded to two decimals, as
-    // number text. ErrorNumber::TypeMismatch when a price is no number, ErrorNumber::Overflow when the sum is none.
+    // number text. ErrorNumber::TypeMismatch when a price is no number, ErrorNumber::Overflow when the sum is too
+    // large.
     QString TotalCost() const;
 
     auto begin() const { return m_lines.begin(); }
